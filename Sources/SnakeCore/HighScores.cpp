@@ -1,0 +1,95 @@
+#include "SnakeCore/HighScores.hpp"
+
+#include <unicode/uchar.h>
+
+#include <algorithm>
+#include <compare>
+#include <functional>
+#include <utility>
+
+#include "SnakeCore/Graphemes.hpp"
+#include "SnakeCore/TableReader.hpp"
+#include "SnakeCore/TableWriter.hpp"
+#include "SnakeCore/Utf8.hpp"
+
+namespace SnakeCore {
+namespace {
+
+constexpr std::size_t longestName = 24;
+constexpr std::size_t leaderCount = 10;
+
+/// A character is white space when its first scalar is, whatever marks it carries.
+bool isWhiteSpace(std::string_view character) {
+    return u_isUWhiteSpace(static_cast<UChar32>(firstScalar(character))) != 0;
+}
+
+bool ranksBefore(const HighScore& left, const HighScore& right) {
+    if (left.score != right.score) {
+        return left.score > right.score;
+    }
+    // A weak order, unlike that of plain doubles: a date that is not a number cannot upset it.
+    if (const auto dates = std::weak_order(left.date.seconds, right.date.seconds); dates != 0) {
+        return dates < 0;
+    }
+    return left.id < right.id;
+}
+
+}  // namespace
+
+HighScores::HighScores(std::optional<std::string_view> data) {
+    if (data) {
+        entries_ = readTable(*data).value_or(std::vector<HighScore>());
+    }
+}
+
+std::string HighScores::encoded() const {
+    return writeTable(entries_);
+}
+
+std::string HighScores::cleanName(std::string_view name) {
+    const std::string text = repairedUtf8(name);
+    std::string joined;
+    bool atWordStart = false;
+    forEachCharacter(text, [&](std::string_view character) {
+        if (isWhiteSpace(character)) {
+            atWordStart = !joined.empty();
+            return true;
+        }
+        if (std::exchange(atWordStart, false)) {
+            joined += ' ';
+        }
+        joined += character;
+        return true;
+    });
+    // Counted on the joined text: a word that begins with a combining mark makes one character
+    // with the space before it.
+    return std::string(firstCharacters(joined, longestName));
+}
+
+bool HighScores::record(UUID id, std::string_view name, std::int64_t score, std::string_view pace,
+                        Date date) {
+    std::string cleaned = cleanName(name);
+    if (cleaned.empty() || score < 0 ||
+        std::ranges::find(entries_, id, &HighScore::id) != entries_.end()) {
+        return false;
+    }
+    entries_.push_back({id, std::move(cleaned), score, std::string(pace), date});
+    return true;
+}
+
+std::vector<HighScore> HighScores::leaders(std::string_view pace) const {
+    // One pass that keeps the best so far in order: behind its equals, an entry keeps the table's
+    // order.
+    std::vector<std::reference_wrapper<const HighScore>> best;
+    best.reserve(leaderCount + 1);
+    for (const HighScore& entry : entries_) {
+        if (entry.pace == pace &&
+            (best.size() < leaderCount || ranksBefore(entry, best.back().get()))) {
+            best.insert(std::upper_bound(best.begin(), best.end(), entry, ranksBefore), entry);
+            best.resize(std::min(best.size(), leaderCount), entry);
+        }
+    }
+    return {best.begin(), best.end()};
+}
+
+}  // namespace SnakeCore

@@ -1,0 +1,29 @@
+#include "SnakeCore/Occupancy.hpp"
+
+#include <bit>
+
+#include "SnakeCore/Checked.hpp"
+
+namespace SnakeCore {
+
+Occupancy::Occupancy(std::int64_t width, std::int64_t height)
+    : width_(width),
+      free_(checkedProduct(width, height)),
+      words_(static_cast<std::size_t>(free_) / 64 + 1) {}
+
+Cell Occupancy::freeCell(std::int64_t index) const {
+    std::size_t word = 0;
+    int freeHere = std::popcount(~words_[word]);
+    while (index >= freeHere) {
+        index -= freeHere;
+        freeHere = std::popcount(~words_[++word]);
+    }
+    std::uint64_t freeBits = ~words_[word];
+    for (; index > 0; --index) {
+        freeBits &= freeBits - 1;  // drops the lowest
+    }
+    const auto bit = static_cast<std::int64_t>(word) * 64 + std::countr_zero(freeBits);
+    return {bit % width_, bit / width_};
+}
+
+}  // namespace SnakeCore

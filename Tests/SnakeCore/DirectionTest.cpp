@@ -1,0 +1,51 @@
+#include "SnakeCore/Direction.hpp"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <set>
+#include <utility>
+
+namespace SnakeCore {
+namespace {
+
+constexpr std::array allDirections{Direction::up, Direction::down, Direction::left,
+                                   Direction::right};
+
+TEST(Direction, isNumberedInTheOrderUpDownLeftRight) {
+    EXPECT_EQ(static_cast<int>(Direction::up), 0);
+    EXPECT_EQ(static_cast<int>(Direction::down), 1);
+    EXPECT_EQ(static_cast<int>(Direction::left), 2);
+    EXPECT_EQ(static_cast<int>(Direction::right), 3);
+}
+
+TEST(Direction, stepsOneCellWithRowsGrowingDownward) {
+    EXPECT_EQ(stepVector(Direction::up), (Cell{0, -1}));
+    EXPECT_EQ(stepVector(Direction::down), (Cell{0, 1}));
+    EXPECT_EQ(stepVector(Direction::left), (Cell{-1, 0}));
+    EXPECT_EQ(stepVector(Direction::right), (Cell{1, 0}));
+}
+
+TEST(Direction, isOppositeInExactlyFourOfSixteenPairs) {
+    const std::set<std::pair<Direction, Direction>> opposites{
+        {Direction::up, Direction::down},
+        {Direction::down, Direction::up},
+        {Direction::left, Direction::right},
+        {Direction::right, Direction::left},
+    };
+
+    for (const Direction self : allDirections) {
+        for (const Direction other : allDirections) {
+            EXPECT_EQ(opposite(self, other), opposites.contains({self, other}))
+                << static_cast<int>(self) << " and " << static_cast<int>(other);
+        }
+    }
+}
+
+TEST(Direction, oppositesAreKnownAtCompileTime) {
+    static_assert(opposite(Direction::up, Direction::down));
+    static_assert(!opposite(Direction::up, Direction::left));
+}
+
+}  // namespace
+}  // namespace SnakeCore

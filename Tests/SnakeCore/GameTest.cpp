@@ -1,0 +1,310 @@
+#include "SnakeCore/Game.hpp"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <random>
+#include <vector>
+
+namespace SnakeCore {
+namespace {
+
+using Cells = std::vector<Cell>;
+
+Cells cellsOf(const Game& game) {
+    return {game.snake().begin(), game.snake().end()};
+}
+
+void step(Game& game, int count) {
+    for (int i = 0; i < count; ++i) {
+        game.step();
+    }
+}
+
+void step(Game& game, int count, std::mt19937& generator) {
+    for (int i = 0; i < count; ++i) {
+        game.step(generator);
+    }
+}
+
+TEST(Game, startsOnTheSmallestBoardFromWallToWall) {
+    const Game game(6, 4);
+
+    EXPECT_EQ(cellsOf(game), (Cells{{3, 2}, {2, 2}, {1, 2}, {0, 2}}));
+    EXPECT_EQ(game.direction(), Direction::right);
+    EXPECT_EQ(game.food(), (Cell{5, 2}));
+    EXPECT_EQ(game.score(), 0);
+    EXPECT_FALSE(game.ended());
+    EXPECT_FALSE(game.won());
+}
+
+TEST(Game, startsOnAnOddBoardWithTheCentreRoundedDown) {
+    const Game game(7, 5);
+
+    EXPECT_EQ(game.snake().front(), (Cell{3, 2}));
+    EXPECT_EQ(game.food(), (Cell{6, 2}));
+}
+
+TEST(Game, startsOnThePlayersBoardFourCellsFromTheFruit) {
+    const Game game(28, 22);
+
+    EXPECT_EQ(game.width(), 28);
+    EXPECT_EQ(game.height(), 22);
+    EXPECT_EQ(cellsOf(game), (Cells{{14, 11}, {13, 11}, {12, 11}, {11, 11}}));
+    EXPECT_EQ(game.food(), (Cell{18, 11}));
+}
+
+TEST(Game, placesTheFirstFruitAlwaysInTheSamePlace) {
+    EXPECT_EQ(Game(28, 22), Game(28, 22));
+}
+
+TEST(Game, stepsOneCellInItsDirection) {
+    Game game(28, 22);
+
+    game.step();
+
+    EXPECT_EQ(cellsOf(game), (Cells{{15, 11}, {14, 11}, {13, 11}, {12, 11}}));
+}
+
+TEST(Game, dropsAReversal) {
+    Game game(28, 22);
+
+    game.turn(Direction::left);
+    game.step();
+
+    EXPECT_EQ(game.direction(), Direction::right);
+    EXPECT_EQ(game.snake().front(), (Cell{15, 11}));
+}
+
+TEST(Game, keepsTwoQuickTurnsAndMakesOneAStep) {
+    Game game(28, 22);
+
+    game.turn(Direction::up);
+    game.turn(Direction::left);
+
+    EXPECT_EQ(game.direction(), Direction::right);
+    game.step();
+    EXPECT_EQ(game.direction(), Direction::up);
+    EXPECT_EQ(game.snake().front(), (Cell{14, 10}));
+    game.step();
+    EXPECT_EQ(game.direction(), Direction::left);
+    EXPECT_EQ(game.snake().front(), (Cell{13, 10}));
+}
+
+TEST(Game, dropsAThirdTurnWithinOneTickEvenIfItIsLegal) {
+    Game game(28, 22);
+
+    game.turn(Direction::up);
+    game.turn(Direction::left);
+    game.turn(Direction::down);
+    step(game, 3);
+
+    EXPECT_EQ(game.snake().front(), (Cell{12, 10}));
+}
+
+TEST(Game, takesAThirdTurnOnceAStepHasMadeRoom) {
+    Game game(28, 22);
+
+    game.turn(Direction::up);
+    game.turn(Direction::left);
+    game.step();
+    game.turn(Direction::down);
+    step(game, 2);
+
+    EXPECT_EQ(game.direction(), Direction::down);
+}
+
+TEST(Game, dropsATurnInTheDirectionOfTravel) {
+    Game game(28, 22);
+    const Game before = game;
+
+    game.turn(Direction::right);
+
+    EXPECT_EQ(game, before);
+}
+
+TEST(Game, dropsARepeatOfThePendingTurn) {
+    Game once(28, 22);
+    Game twice(28, 22);
+
+    once.turn(Direction::up);
+    twice.turn(Direction::up);
+    twice.turn(Direction::up);
+
+    EXPECT_EQ(once, twice);
+}
+
+TEST(Game, judgesATurnByTheLastPendingOneNotByTheDirectionOfTravel) {
+    Game game(28, 22);
+
+    game.turn(Direction::up);
+    game.turn(Direction::down);
+    game.turn(Direction::right);
+    step(game, 2);
+
+    EXPECT_EQ(game.direction(), Direction::right);
+    EXPECT_EQ(game.snake().front(), (Cell{15, 10}));
+}
+
+TEST(Game, endsAtTheWallWithTheSnakeAsItWas) {
+    Game game(28, 22);
+    game.turn(Direction::up);
+    step(game, 11);
+    ASSERT_FALSE(game.ended());
+    const Cells before = cellsOf(game);
+
+    game.step();
+
+    EXPECT_TRUE(game.ended());
+    EXPECT_FALSE(game.won());
+    EXPECT_EQ(cellsOf(game), before);
+    EXPECT_EQ(game.food(), (Cell{18, 11}));
+    EXPECT_EQ(game.score(), 0);
+}
+
+TEST(Game, endsAtEachOfTheFourWalls) {
+    const auto stepsToTheEnd = [](std::initializer_list<Direction> turns) {
+        Game game(8, 6);
+        std::ranges::for_each(turns, [&](Direction direction) { game.turn(direction); });
+        int steps = 0;
+        for (; !game.ended(); ++steps) {
+            game.step();
+        }
+        return steps;
+    };
+
+    EXPECT_EQ(stepsToTheEnd({Direction::up}), 4);
+    EXPECT_EQ(stepsToTheEnd({Direction::down}), 3);
+    EXPECT_EQ(stepsToTheEnd({}), 4);
+    EXPECT_EQ(stepsToTheEnd({Direction::up, Direction::left}), 6);
+}
+
+TEST(Game, changesNothingOnceItHasEnded) {
+    Game game(6, 4);
+    game.turn(Direction::up);
+    step(game, 3);
+    ASSERT_TRUE(game.ended());
+    const Game before = game;
+
+    step(game, 3);
+
+    EXPECT_EQ(game, before);
+}
+
+TEST(Game, keepsTheDirectionOfTheStepThatEndedIt) {
+    Game game(6, 4);
+    step(game, 2);
+    game.turn(Direction::down);
+    step(game, 1);
+    game.turn(Direction::right);
+
+    game.step();
+
+    EXPECT_TRUE(game.ended());
+    EXPECT_EQ(game.direction(), Direction::right);
+}
+
+TEST(Game, leavesTheQueueAloneOnceItHasEnded) {
+    Game game(6, 4);
+    game.turn(Direction::up);
+    step(game, 3);
+    game.turn(Direction::left);
+    const Game before = game;
+
+    game.step();
+
+    EXPECT_EQ(game, before);
+    EXPECT_EQ(game.direction(), Direction::up);
+}
+
+TEST(Game, letsTheHeadFollowItsOwnTailForEver) {
+    constexpr std::array cycle{Direction::down, Direction::left, Direction::up, Direction::right};
+    Game game(28, 22);
+
+    for (std::size_t i = 0; i < 1000; ++i) {
+        game.turn(cycle[i % cycle.size()]);
+        game.step();
+        ASSERT_FALSE(game.ended()) << "step " << i;
+    }
+
+    EXPECT_EQ(game.snake().size(), 4U);
+}
+
+TEST(Game, endsWhenTheHeadStrikesTheBody) {
+    std::mt19937 generator(1);
+    Game game(28, 22);
+    step(game, 4, generator);
+    ASSERT_EQ(game.snake().size(), 5U);
+    for (const Direction direction : {Direction::down, Direction::left}) {
+        game.turn(direction);
+        game.step(generator);
+    }
+    game.turn(Direction::up);
+    const Cells before = cellsOf(game);
+
+    game.step(generator);
+
+    EXPECT_TRUE(game.ended());
+    EXPECT_FALSE(game.won());
+    EXPECT_EQ(cellsOf(game), before);
+    EXPECT_EQ(game.score(), 10);
+}
+
+TEST(Game, growsByOneAndScoresTenForAFruit) {
+    Game game(28, 22);
+
+    step(game, 4);
+
+    EXPECT_EQ(game.score(), 10);
+    EXPECT_EQ(cellsOf(game), (Cells{{18, 11}, {17, 11}, {16, 11}, {15, 11}, {14, 11}}));
+    EXPECT_EQ(std::ranges::count(game.snake(), game.food()), 0);
+}
+
+TEST(Game, growsANewFruitWithTheSystemsRandomness) {
+    std::vector<Cell> fruits;
+    for (int i = 0; i < 20; ++i) {
+        Game game(1000, 1000);
+        step(game, 4);
+        fruits.push_back(game.food());
+    }
+
+    EXPECT_FALSE(std::ranges::all_of(fruits, [&](Cell fruit) { return fruit == fruits[0]; }));
+}
+
+TEST(Game, isCopiedWhole) {
+    Game game(28, 22);
+    game.turn(Direction::up);
+    const Game copy = game;
+
+    game.step();
+
+    EXPECT_NE(game, copy);
+    EXPECT_EQ(copy.snake().front(), (Cell{14, 11}));
+}
+
+TEST(Game, differsFromOneWithOtherTurnsPending) {
+    Game game(28, 22);
+    const Game before = game;
+
+    game.turn(Direction::up);
+
+    EXPECT_NE(game, before);
+}
+
+TEST(Game, forgetsTheTurnsItHasMade) {
+    Game turned(28, 22);
+    Game straight(28, 22);
+    turned.turn(Direction::up);
+    turned.turn(Direction::right);
+    step(turned, 2);
+    straight.turn(Direction::up);
+    straight.step();
+    straight.turn(Direction::right);
+    straight.step();
+
+    EXPECT_EQ(turned, straight);
+}
+
+}  // namespace
+}  // namespace SnakeCore
