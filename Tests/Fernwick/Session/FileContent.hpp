@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QByteArray>
+#include <QCborArray>
+#include <QCborMap>
+#include <QCborValue>
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <string>
+#include <vector>
+
+inline void writeFile(const std::filesystem::path& path, const QByteArray& content) {
+    std::filesystem::create_directories(path.parent_path());
+    std::ofstream(path, std::ios::binary).write(content.constData(), content.size());
+}
+
+inline QByteArray readFile(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return QByteArray::fromStdString(std::string(std::istreambuf_iterator<char>(file), {}));
+}
+
+/// Keys and values in readable notation, whatever their order and types.
+using Settings = std::map<std::string, std::string>;
+
+inline Settings settingsOf(const QCborMap& map) {
+    Settings settings;
+    for (const auto& [key, value] : map) {
+        settings.emplace(QCborValue(key).toDiagnosticNotation().toStdString(),
+                         QCborValue(value).toDiagnosticNotation().toStdString());
+    }
+    return settings;
+}
+
+/// The settings in a file, read by the library's own reader rather than by the code under test.
+inline Settings settingsIn(const std::filesystem::path& path) {
+    return settingsOf(QCborValue::fromCbor(readFile(path)).toMap());
+}
+
+/// The names in `folder`, sorted; those that begin with `beginning` only.
+inline std::vector<std::string> namesIn(const std::filesystem::path& folder,
+                                        const std::string& beginning = "") {
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+        if (std::string name = entry.path().filename(); name.starts_with(beginning)) {
+            names.push_back(std::move(name));
+        }
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
