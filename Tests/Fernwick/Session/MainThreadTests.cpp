@@ -1,0 +1,15 @@
+#include <gtest/gtest.h>
+
+#include <thread>
+
+#include "Session/MainThread.hpp"
+
+TEST(MainThread, isWhereTheInterfaceMayRun) {
+    assertMainThread();
+}
+
+TEST(MainThreadDeathTest, isTheOnlyPlaceWhereTheInterfaceMayRun) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    EXPECT_DEATH(std::thread([] { assertMainThread(); }).join(),
+                 "Fernwick/FernwickApp:[0-9]+: not on the main thread");
+}

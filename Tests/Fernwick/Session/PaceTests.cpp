@@ -1,0 +1,42 @@
+#include <gtest/gtest.h>
+
+#include "Session/Pace.hpp"
+
+using std::chrono_literals::operator""ms;
+
+TEST(Pace, comesInThreeCasesFromSlowToFast) {
+    const std::array expected{Pace::gentle, Pace::classic, Pace::swift};
+
+    EXPECT_EQ(allPaces, expected);
+}
+
+TEST(Pace, hasItsWordAsRawValue) {
+    EXPECT_EQ(rawValue(Pace::gentle), "Gentle");
+    EXPECT_EQ(rawValue(Pace::classic), "Classic");
+    EXPECT_EQ(rawValue(Pace::swift), "Swift");
+}
+
+TEST(Pace, isFoundByItsExactWordOnly) {
+    EXPECT_EQ(paceFromRawValue("Gentle"), Pace::gentle);
+    EXPECT_EQ(paceFromRawValue("Classic"), Pace::classic);
+    EXPECT_EQ(paceFromRawValue("Swift"), Pace::swift);
+    EXPECT_EQ(paceFromRawValue("classic"), std::nullopt);
+    EXPECT_EQ(paceFromRawValue("Classic "), std::nullopt);
+    EXPECT_EQ(paceFromRawValue(""), std::nullopt);
+}
+
+TEST(Pace, ticksFasterTheSwifterItIs) {
+    EXPECT_EQ(tickInterval(Pace::gentle), 190ms);
+    EXPECT_EQ(tickInterval(Pace::classic), 130ms);
+    EXPECT_EQ(tickInterval(Pace::swift), 85ms);
+}
+
+TEST(Pace, keepsItsBestUnderAKeyOfItsOwn) {
+    EXPECT_EQ(bestKey(Pace::gentle), "best-Gentle");
+    EXPECT_EQ(bestKey(Pace::classic), "best-Classic");
+    EXPECT_EQ(bestKey(Pace::swift), "best-Swift");
+}
+
+TEST(Pace, isShownByItsWord) {
+    EXPECT_EQ(paceNames(), QStringList({"Gentle", "Classic", "Swift"}));
+}

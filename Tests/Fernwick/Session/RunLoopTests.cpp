@@ -1,0 +1,272 @@
+#include <QSignalSpy>
+#include <QTest>
+
+#include "Fernwick/Session/SessionState.hpp"
+#include "Fernwick/Session/SessionTest.hpp"
+
+using std::chrono_literals::operator""ms;
+
+namespace {
+
+class RunLoop : public SessionTest {};
+
+}  // namespace
+
+TEST_F(RunLoop, startsAFreshRunOfTheChosenPace) {
+    const SnakeCore::UUID before = session.runID();
+    session.pace = Pace::gentle;
+
+    session.start();
+
+    EXPECT_EQ(stateOf(session), SessionState::running);
+    EXPECT_EQ(session.game, SnakeCore::Game(28, 22));
+    EXPECT_NE(session.runID(), before);
+    EXPECT_EQ(session.runPace(), Pace::gentle);
+    EXPECT_FALSE(session.savedRun);
+    EXPECT_TRUE(timerRuns());
+}
+
+TEST_F(RunLoop, ticksAtTheIntervalOfThePace) {
+    for (const Pace pace : allPaces) {
+        session.pace = pace;
+        session.start();
+
+        EXPECT_EQ(timer()->intervalAsDuration(), tickInterval(pace));
+        EXPECT_EQ(timer()->timerType(), Qt::PreciseTimer);
+        EXPECT_FALSE(timer()->isSingleShot());
+    }
+}
+
+TEST_F(RunLoop, advancesByItselfInRealTime) {
+    session.pace = Pace::swift;
+    session.start();
+
+    EXPECT_TRUE(QTest::qWaitFor([&] { return session.game->snake()[0].x >= 16; }));
+    EXPECT_EQ(stateOf(session), SessionState::running);
+}
+
+TEST_F(RunLoop, movesTheSnakeOneCellATick) {
+    session.start();
+
+    fireTimer();
+
+    EXPECT_EQ(session.game->snake()[0], (SnakeCore::Cell{15, 11}));
+    EXPECT_EQ(stateOf(session), SessionState::running);
+}
+
+TEST_F(RunLoop, announcesEachTick) {
+    session.start();
+    const QSignalSpy announced(&session, &ObservableObject::objectWillChange);
+
+    fireTimer();
+
+    EXPECT_EQ(announced.count(), 1);
+}
+
+TEST_F(RunLoop, replacesARunningRunWhenStartedAgain) {
+    session.start();
+    fireTimer();
+    const SnakeCore::UUID first = session.runID();
+    const QPointer<QTimer> firstTimer = timer();
+
+    session.start();
+
+    EXPECT_EQ(session.game, SnakeCore::Game(28, 22));
+    EXPECT_NE(session.runID(), first);
+    EXPECT_TRUE(firstTimer.isNull());
+    EXPECT_EQ(session.findChildren<QTimer*>().size(), 1);
+    EXPECT_TRUE(timerRuns());
+}
+
+TEST_F(RunLoop, startsOverFromAPausedRun) {
+    session.start();
+    fireTimer();
+    session.pause();
+
+    session.start();
+
+    EXPECT_EQ(stateOf(session), SessionState::running);
+    EXPECT_EQ(session.game, SnakeCore::Game(28, 22));
+}
+
+TEST_F(RunLoop, startsOverAfterASavedRun) {
+    startAndEndRun();
+    session.playerName = QStringLiteral("Ada");
+    session.saveScore();
+    const SnakeCore::UUID saved = session.runID();
+
+    session.start();
+
+    EXPECT_EQ(stateOf(session), SessionState::running);
+    EXPECT_NE(session.runID(), saved);
+    EXPECT_FALSE(session.savedRun);
+}
+
+TEST_F(RunLoop, startsOverAfterASkippedRun) {
+    startAndEndRun();
+    session.skipSaving();
+
+    session.start();
+
+    EXPECT_EQ(stateOf(session), SessionState::running);
+}
+
+TEST_F(RunLoop, refusesToStartWhileANameIsAwaited) {
+    startAndEndRun();
+    const SnakeCore::UUID ended = session.runID();
+
+    session.start();
+
+    EXPECT_EQ(stateOf(session), SessionState::awaitingName);
+    EXPECT_EQ(session.runID(), ended);
+    EXPECT_TRUE(session.game->ended());
+}
+
+TEST_F(RunLoop, refusesToStartWhileTheSheetIsUp) {
+    session.openScores();
+    const SnakeCore::UUID before = session.runID();
+
+    session.start();
+
+    EXPECT_EQ(stateOf(session), SessionState::fresh);
+    EXPECT_EQ(session.runID(), before);
+    EXPECT_EQ(timer(), nullptr);
+}
+
+TEST_F(RunLoop, pausesAndStopsTheTimer) {
+    session.start();
+
+    session.pause();
+
+    EXPECT_EQ(stateOf(session), SessionState::paused);
+    EXPECT_FALSE(timerRuns());
+}
+
+TEST_F(RunLoop, resumesWithANewTimerOfThePaceOfThatMoment) {
+    session.start();
+    const QPointer<QTimer> firstTimer = timer();
+    session.pause();
+    session.pace = Pace::swift;
+
+    session.pause();
+
+    EXPECT_EQ(stateOf(session), SessionState::running);
+    EXPECT_TRUE(firstTimer.isNull());
+    EXPECT_EQ(timer()->intervalAsDuration(), 85ms);
+}
+
+TEST_F(RunLoop, keepsTheRunningTimersIntervalWhenThePaceChanges) {
+    session.start();
+
+    session.pace = Pace::swift;
+
+    EXPECT_EQ(timer()->intervalAsDuration(), 130ms);
+}
+
+TEST_F(RunLoop, doesNotPauseBeforeTheFirstRun) {
+    session.pause();
+
+    EXPECT_EQ(stateOf(session), SessionState::fresh);
+}
+
+TEST_F(RunLoop, doesNotPauseAnEndedRun) {
+    startAndEndRun();
+    session.pause();
+    EXPECT_EQ(stateOf(session), SessionState::awaitingName);
+
+    session.skipSaving();
+    session.pause();
+    EXPECT_EQ(stateOf(session), SessionState::skipped);
+
+    startAndEndRun();
+    session.playerName = QStringLiteral("Ada");
+    session.saveScore();
+    session.pause();
+    EXPECT_EQ(stateOf(session), SessionState::saved);
+    EXPECT_FALSE(timerRuns());
+}
+
+TEST_F(RunLoop, doesNotResumeWhileTheSheetIsUp) {
+    session.start();
+    session.openScores();
+
+    session.pause();
+
+    EXPECT_EQ(stateOf(session), SessionState::paused);
+    EXPECT_FALSE(timerRuns());
+}
+
+TEST_F(RunLoop, ignoresAFiringAfterAPause) {
+    session.start();
+    session.pause();
+
+    fireTimer();
+
+    EXPECT_EQ(session.game, SnakeCore::Game(28, 22));
+}
+
+TEST_F(RunLoop, ignoresAFiringAfterTheEnd) {
+    startAndEndRun();
+    const SnakeCore::Game ended = session.game;
+    sounds.heard.clear();
+
+    fireTimer();
+
+    EXPECT_EQ(session.game, ended);
+    EXPECT_TRUE(sounds.heard.empty());
+}
+
+TEST_F(RunLoop, endsIntoNameEntry) {
+    startAndEndRun();
+
+    EXPECT_EQ(stateOf(session), SessionState::awaitingName);
+    EXPECT_FALSE(timerRuns());
+}
+
+TEST_F(RunLoop, awaitsANameForAScoreOfZeroToo) {
+    session.start();
+    session.key(KeyCode::upArrow);
+    endRun();
+
+    EXPECT_EQ(session.game->score(), 0);
+    EXPECT_EQ(stateOf(session), SessionState::awaitingName);
+    EXPECT_FALSE(std::filesystem::exists(settingsPath()));
+}
+
+TEST_F(RunLoop, opensTheSheetOnTheChosenPaceFromAnyState) {
+    session.pace = Pace::gentle;
+    session.openScores();
+    EXPECT_TRUE(session.showingScores);
+    EXPECT_EQ(session.scorePace, Pace::gentle);
+    EXPECT_EQ(stateOf(session), SessionState::fresh);
+    session.showingScores = false;
+
+    startAndEndRun();
+    session.pace = Pace::swift;
+    session.openScores();
+    EXPECT_EQ(session.scorePace, Pace::swift);
+    EXPECT_EQ(stateOf(session), SessionState::awaitingName);
+}
+
+TEST_F(RunLoop, pausesARunningRunForTheSheet) {
+    session.start();
+
+    session.openScores();
+
+    EXPECT_EQ(stateOf(session), SessionState::paused);
+    EXPECT_TRUE(session.showingScores);
+    EXPECT_EQ(session.scorePace, session.pace.get());
+    EXPECT_FALSE(timerRuns());
+}
+
+TEST_F(RunLoop, leavesAPausedRunPausedForTheSheetAndAfterIt) {
+    session.start();
+    session.pause();
+
+    session.openScores();
+    session.showingScores = false;
+
+    EXPECT_EQ(stateOf(session), SessionState::paused);
+    session.pause();
+    EXPECT_EQ(stateOf(session), SessionState::running);
+}
