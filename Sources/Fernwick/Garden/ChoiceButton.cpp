@@ -1,0 +1,64 @@
+#include "Garden/ChoiceButton.hpp"
+
+#include <QFontMetricsF>
+#include <QKeyEvent>
+#include <QPainter>
+#include <cmath>
+
+#include "Garden/Fonts.hpp"
+#include "Garden/Palette.hpp"
+#include "Garden/RoundedShape.hpp"
+
+namespace Garden {
+
+namespace {
+
+constexpr double fontSize = 12;
+constexpr QFont::Weight fontWeight = QFont::Medium;
+constexpr int horizontalPadding = 17;
+constexpr int verticalPadding = 9;
+constexpr double currentOpacity = 0.16;
+constexpr double hoverOpacity = 0.05;
+
+}  // namespace
+
+ChoiceButton::ChoiceButton(const QString& text, QWidget* parent) : QuietButton(parent) {
+    setText(text);
+    setFont(sans(fontSize, fontWeight));
+    setCheckable(true);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+QSize ChoiceButton::sizeHint() const {
+    const QFontMetricsF metrics(font());
+    return {static_cast<int>(std::ceil(metrics.horizontalAdvance(text()))) + 2 * horizontalPadding,
+            static_cast<int>(std::ceil(metrics.height())) + 2 * verticalPadding};
+}
+
+void ChoiceButton::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Left || event->key() == Qt::Key_Right) {
+        Q_EMIT steppedOff(event->key() == Qt::Key_Right ? 1 : -1);
+    } else {
+        QuietButton::keyPressEvent(event);
+    }
+}
+
+void ChoiceButton::nextCheckState() {}
+
+void ChoiceButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF shape = rect();
+    if (isChecked()) {
+        painter.fillPath(continuousCapsule(shape), withOpacity(mint, currentOpacity));
+    } else if (hovered()) {
+        painter.fillPath(continuousCapsule(shape), withOpacity(mint, hoverOpacity));
+    }
+    painter.setPen(isChecked() ? mint : muted);
+    painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
+    constexpr double inset = FocusRing::width / 2;
+    focusRing().paint(painter, continuousCapsule(shape.adjusted(inset, inset, -inset, -inset)),
+                      mint);
+}
+
+}  // namespace Garden

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "Garden/Icons.hpp"
+#include "Garden/QuietButton.hpp"
+
+namespace Garden {
+
+/// A symbol to press, in `muted`, 26 × 26 logical pixels. Its help text is its tooltip and its
+/// accessible name.
+class IconButton : public QuietButton {
+    Q_OBJECT
+
+public:
+    IconButton(Icon icon, const QString& helpText, QWidget* parent = nullptr);
+
+    void setIcon(Icon icon);
+
+    [[nodiscard]] QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    Icon icon_;
+};
+
+}  // namespace Garden

@@ -1,0 +1,26 @@
+#include "Garden/IconView.hpp"
+
+#include <QPainter>
+#include <cmath>
+
+namespace Garden {
+
+IconView::IconView(Icon icon, double size, const QColor& colour, QWidget* parent)
+    : QWidget(parent), icon_(icon), size_(size), colour_(colour) {
+    const int side = static_cast<int>(std::ceil(size));
+    setFixedSize(side, side);
+}
+
+void IconView::setIcon(Icon icon) {
+    if (icon != icon_) {
+        icon_ = icon;
+        update();
+    }
+}
+
+void IconView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    paintIcon(painter, icon_, QRectF(0, 0, size_, size_), colour_);
+}
+
+}  // namespace Garden

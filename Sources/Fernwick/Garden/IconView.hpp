@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QColor>
+#include <QWidget>
+
+#include "Garden/Icons.hpp"
+
+namespace Garden {
+
+/// One symbol in one colour, `size` logical pixels square. Decoration: silent to assistive tools.
+class IconView : public QWidget {
+    Q_OBJECT
+
+public:
+    IconView(Icon icon, double size, const QColor& colour, QWidget* parent = nullptr);
+
+    void setIcon(Icon icon);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    Icon icon_;
+    double size_;
+    QColor colour_;
+};
+
+}  // namespace Garden

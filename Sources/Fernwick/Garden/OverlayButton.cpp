@@ -1,0 +1,66 @@
+#include "Garden/OverlayButton.hpp"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <cmath>
+
+#include "Garden/Fonts.hpp"
+#include "Garden/Icons.hpp"
+#include "Garden/Palette.hpp"
+#include "Garden/RoundedShape.hpp"
+
+namespace Garden {
+
+namespace {
+
+constexpr double fontSize = 13;
+constexpr QFont::Weight fontWeight = QFont::DemiBold;
+constexpr int horizontalPadding = 25;
+constexpr int verticalPadding = 15;
+constexpr double cornerRadius = 22;
+constexpr double arrowSpacing = 8;
+constexpr double arrowSize = 14;
+constexpr double ringInset = 3;
+
+}  // namespace
+
+OverlayButton::OverlayButton(const QString& text, QWidget* parent) : QuietButton(parent) {
+    setText(text);
+    setFont(sans(fontSize, fontWeight));
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+double OverlayButton::textWidth() const {
+    return std::ceil(QFontMetricsF(font()).horizontalAdvance(text()));
+}
+
+QSize OverlayButton::sizeHint() const {
+    return {static_cast<int>(textWidth() + arrowSpacing + arrowSize) + 2 * horizontalPadding,
+            static_cast<int>(std::ceil(QFontMetricsF(font()).height())) + 2 * verticalPadding};
+}
+
+void OverlayButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF shape = rect();
+    painter.fillPath(continuousRoundedRect(shape, cornerRadius),
+                     withOpacity(mint, fillOpacity(isEnabled(), isDown())));
+    focusRing().paint(
+        painter,
+        continuousRoundedRect(shape.adjusted(ringInset, ringInset, -ringInset, -ringInset),
+                              cornerRadius - ringInset),
+        ink);
+
+    const double content = textWidth() + arrowSpacing + arrowSize;
+    QRectF line = shape;
+    line.setLeft(std::floor((shape.width() - content) / 2));
+    line.setWidth(content);
+    painter.setPen(ink);
+    painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text());
+    paintIcon(
+        painter, Icon::arrowRight,
+        QRectF(line.right() - arrowSize, (shape.height() - arrowSize) / 2, arrowSize, arrowSize),
+        ink);
+}
+
+}  // namespace Garden

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QColor>
+
+#include "Garden/FocusRing.hpp"
+
+namespace Garden {
+
+/// What every button of the garden shares: reached by Tab and pressed by Return as well, shown
+/// with a focus ring only to those who use the keyboard, a pointing hand while it can be pressed.
+class QuietButton : public QAbstractButton {
+    Q_OBJECT
+
+protected:
+    explicit QuietButton(QWidget* parent);
+
+    [[nodiscard]] bool hovered() const;
+    [[nodiscard]] const FocusRing& focusRing() const { return focusRing_; }
+    /// The colour of quiet text and symbols: `muted`, a little brighter under the pointer, fainter
+    /// while pressed and fainter still while disabled.
+    [[nodiscard]] QColor quietColour() const;
+
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    FocusRing focusRing_;
+};
+
+/// How opaque the mint fill of a primary button is.
+[[nodiscard]] double fillOpacity(bool enabled, bool pressed);
+
+}  // namespace Garden

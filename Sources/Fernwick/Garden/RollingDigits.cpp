@@ -1,0 +1,107 @@
+#include "Garden/RollingDigits.hpp"
+
+#include <QAccessible>
+#include <QFontMetricsF>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+
+#include "Garden/Accessibility.hpp"
+#include "Garden/Fonts.hpp"
+#include "Garden/Motion.hpp"
+#include "Garden/Palette.hpp"
+
+namespace Garden {
+
+namespace {
+
+constexpr double fontSize = 33;
+constexpr QFont::Weight fontWeight = QFont::Light;
+constexpr int fewestDigits = 3;
+
+QString digits(qint64 value) {
+    return QString::asprintf("%0*lld", fewestDigits, value);
+}
+
+QChar digitAt(const QString& text, int fromRight) {
+    const auto index = text.size() - 1 - fromRight;
+    return index >= 0 ? text[index] : QChar(u' ');
+}
+
+}  // namespace
+
+RollingDigits::RollingDigits(Qt::Alignment alignment, QWidget* parent)
+    : QWidget(parent), alignment_(alignment) {
+    installAccessibility();
+    setFont(mono(fontSize, fontWeight));
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    roll_.setStartValue(0.0);
+    roll_.setEndValue(1.0);
+    roll_.setDuration(digitRollDuration);
+    roll_.setEasingCurve(QEasingCurve::OutCubic);
+    connect(&roll_, &QVariantAnimation::valueChanged, this, [this] { update(); });
+}
+
+void RollingDigits::setValue(qint64 value) {
+    const bool first = shown_.isEmpty();
+    if (!first && value == value_) {
+        return;
+    }
+    value_ = value;
+    roll_.stop();
+    previous_ = shown_;
+    shown_ = digits(value);
+    if (previous_.size() != shown_.size()) {
+        updateGeometry();
+    }
+    if (!first && isVisible() && !reducedMotion()) {
+        roll_.start();
+    }
+    update();
+    announce();
+}
+
+void RollingDigits::announce() {
+    QAccessibleEvent name(this, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&name);
+    QAccessibleValueChangeEvent changed(this, QVariant(value_));
+    QAccessible::updateAccessibility(&changed);
+}
+
+QSize RollingDigits::sizeHint() const {
+    const QFontMetricsF metrics(font());
+    const auto count = std::max<qsizetype>(shown_.size(), fewestDigits);
+    return {
+        static_cast<int>(std::ceil(metrics.horizontalAdvance(u'0') * static_cast<double>(count))),
+        static_cast<int>(std::ceil(metrics.height()))};
+}
+
+QRectF RollingDigits::cell(int fromRight) const {
+    const double width = QFontMetricsF(font()).horizontalAdvance(u'0');
+    const double needed = width * static_cast<double>(shown_.size());
+    const double right = (alignment_ & Qt::AlignRight) != 0 ? this->width() : needed;
+    return {right - width * (fromRight + 1), 0, width, static_cast<double>(height())};
+}
+
+void RollingDigits::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const bool rolling = roll_.state() == QAbstractAnimation::Running;
+    const double progress = rolling ? roll_.currentValue().toDouble() : 1;
+    const auto draw = [&](int fromRight, QChar digit, double shift, double opacity) {
+        painter.setPen(withOpacity(mint, opacity));
+        painter.drawText(cell(fromRight).translated(0, shift * height()),
+                         Qt::AlignCenter | Qt::TextDontClip, QString(digit));
+    };
+    for (int fromRight = 0; fromRight < shown_.size(); ++fromRight) {
+        const QChar now = digitAt(shown_, fromRight);
+        const QChar before = digitAt(previous_, fromRight);
+        if (!rolling || now == before) {
+            draw(fromRight, now, 0, 1);
+        } else {
+            draw(fromRight, before, -progress, 1 - progress);
+            draw(fromRight, now, 1 - progress, progress);
+        }
+    }
+}
+
+}  // namespace Garden

@@ -1,0 +1,57 @@
+#include "Garden/TrackedLabel.hpp"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <cmath>
+
+#include "Garden/Accessibility.hpp"
+
+namespace Garden {
+
+TrackedLabel::TrackedLabel(const QString& text, const QFont& font, const QColor& colour,
+                           QWidget* parent)
+    : QWidget(parent), text_(text), colour_(colour) {
+    installAccessibility();
+    setFont(font);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    setAccessibleName(text);
+}
+
+void TrackedLabel::setText(const QString& text) {
+    if (text == text_) {
+        return;
+    }
+    text_ = text;
+    setAccessibleName(text);
+    updateGeometry();
+    update();
+}
+
+void TrackedLabel::setElided(bool elided) {
+    elided_ = elided;
+    updateGeometry();
+}
+
+QSize TrackedLabel::sizeHint() const {
+    const QFontMetricsF metrics(font());
+    const double trailing = text_.isEmpty() ? 0 : font().letterSpacing();
+    return {static_cast<int>(std::ceil(metrics.horizontalAdvance(text_) - trailing)),
+            static_cast<int>(std::ceil(metrics.height()))};
+}
+
+QSize TrackedLabel::minimumSizeHint() const {
+    const QSize whole = sizeHint();
+    return elided_ ? QSize(0, whole.height()) : whole;
+}
+
+void TrackedLabel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setPen(colour_);
+    const QFontMetricsF metrics(font());
+    const bool fits = width() >= sizeHint().width();
+    painter.drawText(rect(),
+                     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip,
+                     fits ? text_ : metrics.elidedText(text_, Qt::ElideRight, width()));
+}
+
+}  // namespace Garden

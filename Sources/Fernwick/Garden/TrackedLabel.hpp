@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QColor>
+#include <QString>
+#include <QWidget>
+
+namespace Garden {
+
+/// One line of text. It is as wide as its letters: Qt's font metrics count the letter spacing after
+/// the last letter too, which would push centred and right-aligned lines off by half or all of it.
+class TrackedLabel : public QWidget {
+    Q_OBJECT
+
+public:
+    TrackedLabel(const QString& text, const QFont& font, const QColor& colour,
+                 QWidget* parent = nullptr);
+
+    [[nodiscard]] QString text() const { return text_; }
+    void setText(const QString& text);
+
+    /// Whether the line may be given less room than it needs, to end in "…". False at first.
+    void setElided(bool elided);
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QString text_;
+    QColor colour_;
+    bool elided_ = false;
+};
+
+}  // namespace Garden
