@@ -63,6 +63,12 @@ public:
         return exit_;
     }
 
+    /// Waits for the next number it reports; `otherwise` when it ends without one.
+    [[nodiscard]] Report nextReport(Report otherwise) const {
+        Report number = 0;
+        return ::read(reports_, &number, sizeof number) == sizeof number ? number : otherwise;
+    }
+
     /// The last number it reported before its end, or `otherwise`.
     [[nodiscard]] Report lastReport(Report otherwise) const {
         Report last = otherwise;

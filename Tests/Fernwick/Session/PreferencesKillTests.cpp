@@ -33,10 +33,11 @@ QByteArray tableOf(std::int64_t count) {
 TEST_F(PreferencesKill, everySaveThatHadReturnedIsThereAndTheFileIsWhole) {
     constexpr int rounds = 300;
     std::mt19937 random(std::random_device{}());
-    std::uniform_int_distribution<int> lifetime(0, 6000);
+    std::uniform_int_distribution<int> lifetime(0, 4000);
     std::int64_t saved = 0;
     for (int round = 0; round < rounds; ++round) {
         ForkedProcess game([&](const auto& report) {
+            report(saved);
             PreferencesFile preferences(path());
             for (std::int64_t count = saved + 1;; ++count) {
                 if (preferences.store(u"table"_s, tableOf(count)) &&
@@ -45,9 +46,12 @@ TEST_F(PreferencesKill, everySaveThatHadReturnedIsThereAndTheFileIsWhole) {
                 }
             }
         });
+        // Half of the programs die anywhere, half after a save however slow the machine is.
+        const std::int64_t begun = game.nextReport(saved);
+        const std::int64_t first = round % 2 == 0 ? begun : game.nextReport(begun);
         std::this_thread::sleep_for(std::chrono::microseconds(lifetime(random)));
         game.kill();
-        const std::int64_t returned = game.lastReport(saved);
+        const std::int64_t returned = game.lastReport(first);
 
         const PreferencesFile preferences(path());
 
@@ -60,7 +64,7 @@ TEST_F(PreferencesKill, everySaveThatHadReturnedIsThereAndTheFileIsWhole) {
             << "in round " << round;
         saved = count;
     }
-    EXPECT_GT(saved, rounds / 10);
+    EXPECT_GE(saved, rounds / 2);
     EXPECT_EQ(namesIn(folder()),
               (std::vector<std::string>{"preferences.cbor", "preferences.cbor.lock"}));
 }

@@ -6,6 +6,7 @@
 #include <chrono>
 #include <cmath>
 #include <cstdlib>
+#include <ctime>
 #include <numbers>
 #include <span>
 
@@ -47,6 +48,13 @@ double strongestFrequency(const Wave& wave) {
         }
     }
     return strongest;
+}
+
+/// Of this thread alone, so that other programs do not count.
+std::chrono::nanoseconds processorTime() {
+    timespec time{};
+    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
 }
 
 double seconds(const Wave& wave) {
@@ -106,13 +114,16 @@ TEST_P(SoundWaveOf, fadesFromItsFirstTenthOn) {
     }
 }
 
-TEST_P(SoundWaveOf, isTheSameEveryTimeAndDrawnUpWithinAFrame) {
-    const Wave first = soundWave(GetParam());
-    const auto before = std::chrono::steady_clock::now();
+TEST_P(SoundWaveOf, isTheSameEveryTime) {
+    EXPECT_EQ(soundWave(GetParam()), soundWave(GetParam()));
+}
 
-    EXPECT_EQ(soundWave(GetParam()), first);
+TEST_P(SoundWaveOf, takesLessThanAFrameToDrawUp) {
+    const auto before = processorTime();
 
-    EXPECT_LT(std::chrono::steady_clock::now() - before, std::chrono::milliseconds(16));
+    EXPECT_FALSE(soundWave(GetParam()).empty());
+
+    EXPECT_LT(processorTime() - before, std::chrono::milliseconds(16));
 }
 
 INSTANTIATE_TEST_SUITE_P(SoundWave, SoundWaveOf,
