@@ -13,7 +13,7 @@ namespace Garden {
 namespace {
 
 constexpr int groupPadding = 4;
-constexpr double groupRadius = 14;
+constexpr double groupRadius = 15;
 constexpr double groupOpacity = 0.035;
 
 }  // namespace

@@ -19,7 +19,8 @@ constexpr int horizontalPadding = 25;
 constexpr int verticalPadding = 15;
 constexpr double cornerRadius = 22;
 constexpr double arrowSpacing = 8;
-constexpr double arrowSize = 14;
+// Odd in an even height: the shaft then lies on one row of pixels, at the middle of the letters.
+constexpr double arrowSize = 13;
 constexpr double ringInset = 3;
 
 }  // namespace

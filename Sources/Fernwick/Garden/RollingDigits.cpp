@@ -18,6 +18,10 @@ namespace {
 constexpr double fontSize = 33;
 constexpr QFont::Weight fontWeight = QFont::Light;
 constexpr int fewestDigits = 3;
+// Digits have no descenders; the font's own line would stand too far off the label above.
+constexpr int lineHeight = 40;
+// How far digits roll, of the line's height. They fade as they go.
+constexpr double rollDistance = 0.75;
 
 QString digits(qint64 value) {
     return QString::asprintf("%0*lld", fewestDigits, value);
@@ -76,30 +80,32 @@ QSize RollingDigits::sizeHint() const {
         static_cast<int>(std::ceil(metrics.height()))};
 }
 
-QRectF RollingDigits::cell(int fromRight) const {
-    const double width = QFontMetricsF(font()).horizontalAdvance(u'0');
-    const double needed = width * static_cast<double>(shown_.size());
-    const double right = (alignment_ & Qt::AlignRight) != 0 ? this->width() : needed;
-    return {right - width * (fromRight + 1), 0, width, static_cast<double>(height())};
+double RollingDigits::left(int fromRight) const {
+    const double cell = QFontMetricsF(font()).horizontalAdvance(u'0');
+    const double needed = cell * static_cast<double>(shown_.size());
+    const double right = alignment_.testFlag(Qt::AlignRight) ? width() : needed;
+    return right - cell * (fromRight + 1);
 }
 
 void RollingDigits::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const bool rolling = roll_.state() == QAbstractAnimation::Running;
-    const double progress = rolling ? roll_.currentValue().toDouble() : 1;
+    const double baseline = (height() + QFontMetricsF(font()).capHeight()) / 2;
     const auto draw = [&](int fromRight, QChar digit, double shift, double opacity) {
         painter.setPen(withOpacity(mint, opacity));
-        painter.drawText(cell(fromRight).translated(0, shift * height()),
-                         Qt::AlignCenter | Qt::TextDontClip, QString(digit));
+        painter.drawText(QPointF(left(fromRight), baseline + shift * rollDistance * lineHeight),
+                         QString(digit));
     };
+    const bool rolling = roll_.state() == QAbstractAnimation::Running;
+    const double progress = roll_.currentValue().toDouble();
     for (int fromRight = 0; fromRight < shown_.size(); ++fromRight) {
         const QChar now = digitAt(shown_, fromRight);
         const QChar before = digitAt(previous_, fromRight);
-        if (!rolling || now == before) {
-            draw(fromRight, now, 0, 1);
-        } else {
-            draw(fromRight, before, -progress, 1 - progress);
+        if (rolling && now != before) {
+            // The old digit goes faster than the new one comes, so that the two never smear.
+            draw(fromRight, before, -progress, (1 - progress) * (1 - progress));
             draw(fromRight, now, 1 - progress, progress);
+        } else {
+            draw(fromRight, now, 0, 1);
         }
     }
 }

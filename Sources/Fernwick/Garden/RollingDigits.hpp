@@ -26,7 +26,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    [[nodiscard]] QRectF cell(int fromRight) const;
+    /// Left edge of the cell of a digit, counted from the right.
+    [[nodiscard]] double left(int fromRight) const;
     void announce();
 
     Qt::Alignment alignment_;
