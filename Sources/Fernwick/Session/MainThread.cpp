@@ -5,11 +5,11 @@
 #include <cstdio>
 #include <cstdlib>
 
-void assertMainThread(const std::source_location& where) {
+void assertMainThread(int line) {
     const QCoreApplication* application = QCoreApplication::instance();
     if (application == nullptr || QThread::currentThread() == application->thread()) {
         return;
     }
-    std::fprintf(stderr, "Fernwick/FernwickApp:%u: not on the main thread\n", where.line());
+    std::fprintf(stderr, "Fernwick/FernwickApp:%d: not on the main thread\n", line);
     std::abort();
 }
