@@ -22,6 +22,10 @@ bool isLate(PulsePlayer::Clock::time_point since) {
     return PulsePlayer::Clock::now() - since > patience;
 }
 
+std::size_t sizeOf(const std::vector<std::int16_t>& wave) {
+    return wave.size() * sizeof wave.front();
+}
+
 /// Under which the server keeps the effect.
 const char* nameOf(SoundEffect effect) {
     return effect == SoundEffect::pop ? "fernwick-pop" : "fernwick-tink";
@@ -121,14 +125,14 @@ void PulsePlayer::uploadMissing() {
 void PulsePlayer::upload(Sample& sample) {
     constexpr pa_sample_spec format{
         .format = PA_SAMPLE_S16NE, .rate = soundWaveRate, .channels = 1};
-    const std::size_t size = soundWave(sample.effect).size() * sizeof(std::int16_t);
+    sample.wave = soundWave(sample.effect);
     sample.upload = pa_stream_new_with_proplist(context_, nameOf(sample.effect), &format, nullptr,
                                                 sampleProperties(sample.effect).get());
     if (sample.upload == nullptr) {
         return;
     }
     pa_stream_set_state_callback(sample.upload, uploadChanged, &sample);
-    if (pa_stream_connect_upload(sample.upload, size) < 0) {
+    if (pa_stream_connect_upload(sample.upload, sizeOf(sample.wave)) < 0) {
         releaseUpload(sample);
     }
 }
@@ -137,11 +141,9 @@ void PulsePlayer::uploadChanged(pa_stream* stream, void* data) {
     auto& sample = *static_cast<Sample*>(data);
     const pa_stream_state_t state = pa_stream_get_state(stream);
     if (state == PA_STREAM_READY) {
-        const auto wave = soundWave(sample.effect);
-        const bool handedOver =
-            pa_stream_write(stream, wave.data(), wave.size() * sizeof(std::int16_t), nullptr, 0,
-                            PA_SEEK_RELATIVE) >= 0 &&
-            pa_stream_finish_upload(stream) >= 0;
+        const bool handedOver = pa_stream_write(stream, sample.wave.data(), sizeOf(sample.wave),
+                                                nullptr, 0, PA_SEEK_RELATIVE) >= 0 &&
+                                pa_stream_finish_upload(stream) >= 0;
         if (!handedOver) {
             sample.player->releaseUpload(sample);
         }
@@ -153,6 +155,7 @@ void PulsePlayer::uploadChanged(pa_stream* stream, void* data) {
 }
 
 void PulsePlayer::releaseUpload(Sample& sample) {
+    sample.wave = {};
     if (pa_stream* stream = std::exchange(sample.upload, nullptr)) {
         pa_stream_set_state_callback(stream, nullptr, nullptr);
         pa_stream_unref(stream);

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <chrono>
+#include <cstdint>
 #include <vector>
 
 #include "Session/SoundEffects.hpp"
@@ -35,6 +36,7 @@ private:
     struct Sample {
         PulsePlayer* player;
         SoundEffect effect;
+        std::vector<std::int16_t> wave = {};  ///< only while it is handed over
         pa_stream* upload = nullptr;
         bool ready = false;
     };

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <complex>
 #include <limits>
 #include <numbers>
 #include <span>
@@ -48,20 +49,25 @@ constexpr Recipe tink{
 
 constexpr float secondsPerSample = 1.0F / static_cast<float>(soundWaveRate);
 
-/// Adds one partial; its phase starts at zero, so that it begins in silence by itself.
+/// Adds one partial: a number that each sample turns and shrinks a little, far cheaper than a sine
+/// a sample. It starts without an imaginary part, so the tone begins in silence by itself.
 void add(const Partial& partial, std::span<float> wave) {
     constexpr float turn = 2 * std::numbers::pi_v<float>;
+    constexpr std::size_t steadySamples = 16;  // no ear hears the pitch sink in steps this small
     const float decayPerSample = std::exp(-secondsPerSample / partial.decay);
-    const float sinkPerSample = std::exp(-secondsPerSample / partial.sink);
-    float level = partial.level;
+    const float sinkPerStep =
+        std::exp(-secondsPerSample * static_cast<float>(steadySamples) / partial.sink);
+    std::complex<float> tone(partial.level);
+    std::complex<float> step;
     float rise = partial.rise;
-    float phase = 0;
-    for (float& sample : wave) {
-        sample += level * std::sin(phase);
-        level *= decayPerSample;
-        rise *= sinkPerSample;
-        phase += turn * partial.frequency * (1 + rise) * secondsPerSample;
-        phase -= phase > turn ? turn : 0;
+    for (std::size_t i = 0; i < wave.size(); ++i) {
+        if (i % steadySamples == 0) {
+            const float angle = turn * partial.frequency * (1 + rise) * secondsPerSample;
+            step = std::polar(decayPerSample, angle);
+            rise *= sinkPerStep;
+        }
+        wave[i] += tone.imag();
+        tone *= step;
     }
 }
 
