@@ -1,0 +1,54 @@
+#include "MainWindow/ContentView.hpp"
+
+#include <QPaintEvent>
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include "MainWindow/BoardArea.hpp"
+#include "MainWindow/ControlRow.hpp"
+#include "MainWindow/HeaderRow.hpp"
+#include "MainWindow/HintRow.hpp"
+#include "MainWindow/MenuBand.hpp"
+#include "MainWindow/SheetLayer.hpp"
+
+namespace {
+
+constexpr int rowSpacing = 23;
+constexpr int sidePadding = 38;
+constexpr int topPadding = MenuBand::height;
+constexpr int bottomPadding = 26;
+
+}  // namespace
+
+ContentView::ContentView(Session& session, QWidget* parent)
+    : QWidget(parent), boardArea_(new BoardArea(session, backdrop_)) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    // In the order of sight, which is the order of Tab too.
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(sidePadding, topPadding, sidePadding, bottomPadding);
+    column->setSpacing(rowSpacing);
+    column->addWidget(new HeaderRow(session));
+    column->addWidget(new ControlRow(session));
+    column->addWidget(boardArea_, 1);
+    column->addWidget(new HintRow(session));
+    sheetLayer_ = new SheetLayer(session, this);
+}
+
+void ContentView::paintEvent(QPaintEvent* event) {
+    const QRectF frame = boardArea_->frame().translated(boardArea_->pos());
+    const QImage& garden = backdrop_.image(size(), devicePixelRatioF(), frame);
+    QPainter painter(this);
+    const qreal scale = garden.devicePixelRatio();
+    for (const QRect& part : event->region()) {
+        painter.drawImage(QRectF(part), garden,
+                          QRectF(QPointF(part.topLeft()) * scale, QSizeF(part.size()) * scale));
+    }
+    if (!hasAppeared_) {
+        hasAppeared_ = true;
+        Q_EMIT appeared();
+    }
+}
+
+void ContentView::resizeEvent(QResizeEvent*) {
+    sheetLayer_->setGeometry(rect());
+}

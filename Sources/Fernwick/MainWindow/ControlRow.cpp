@@ -1,0 +1,60 @@
+#include "MainWindow/ControlRow.hpp"
+
+#include <QHBoxLayout>
+
+#include "Garden/ChoiceGroup.hpp"
+#include "Garden/Fonts.hpp"
+#include "Garden/Palette.hpp"
+#include "Garden/TrackedLabel.hpp"
+#include "MainWindow/StatusDot.hpp"
+#include "Session/Session.hpp"
+
+namespace {
+
+constexpr double statusSize = 9;
+constexpr double statusTracking = 2;
+constexpr int statusSpacing = 8;
+
+}  // namespace
+
+ControlRow::ControlRow(Session& session, QWidget* parent)
+    : QWidget(parent),
+      session_(session),
+      speeds_(new Garden::ChoiceGroup(paceNames(), tr("Speed"))),
+      dot_(new StatusDot),
+      status_(new Garden::TrackedLabel({}, Garden::sans(statusSize, QFont::Medium, statusTracking),
+                                       Garden::muted)),
+      observer_(session, [this] { refresh(); }) {
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(statusSpacing);
+    row->addWidget(speeds_);
+    row->addStretch();
+    row->addWidget(dot_);
+    row->addWidget(status_);
+    connect(speeds_, &Garden::ChoiceGroup::chosen, this, &ControlRow::choose);
+    refresh();
+}
+
+void ControlRow::choose(int index) {
+    session_.pace = allPaces.at(static_cast<std::size_t>(index));
+    session_.loadBest();
+}
+
+QString ControlRow::statusWord() const {
+    if (session_.running) {
+        return tr("IN THE FLOW");
+    }
+    if (session_.game->ended()) {
+        return tr("ANOTHER CHANCE TO GROW");
+    }
+    return session_.started ? tr("TAKE A BREATH") : tr("THE CLASSIC, REPLANTED");
+}
+
+void ControlRow::refresh() {
+    const bool inRun = session_.started && !session_.game->ended();
+    speeds_->setCurrent(static_cast<int>(session_.pace.get()));
+    speeds_->setChoicesEnabled(!inRun && !session_.awaitingName);
+    dot_->setColor(session_.running ? Garden::mint : Garden::muted);
+    status_->setText(statusWord());
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QWidget>
+
+#include "Session/ChangeObserver.hpp"
+
+class Session;
+class StatusDot;
+
+namespace Garden {
+class ChoiceGroup;
+class TrackedLabel;
+}  // namespace Garden
+
+/// The row under the header: the speed selector at the left, the status at the right.
+class ControlRow : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit ControlRow(Session& session, QWidget* parent = nullptr);
+
+private:
+    void choose(int index);
+    void refresh();
+    [[nodiscard]] QString statusWord() const;
+
+    Session& session_;
+    Garden::ChoiceGroup* speeds_;
+    StatusDot* dot_;
+    Garden::TrackedLabel* status_;
+    ChangeObserver observer_;
+};

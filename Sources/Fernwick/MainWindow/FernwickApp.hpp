@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QObject>
+
+#include "MainWindow/GameWindow.hpp"
+#include "Session/Session.hpp"
+
+class Preferences;
+class SoundEffects;
+
+/// The application around its one session and its one window, from launch to exit.
+class FernwickApp : public QObject {
+    Q_OBJECT
+
+public:
+    FernwickApp(Preferences& preferences, SoundEffects& soundEffects);
+
+    /// Shows the window, starts to watch the keys and brings the game to the front.
+    void show();
+
+    [[nodiscard]] Session& session() { return session_; }
+    [[nodiscard]] GameWindow& window() { return window_; }
+
+private:
+    void applicationStateChanged(Qt::ApplicationState state);
+
+    Session session_;
+    GameWindow window_;
+};

@@ -1,0 +1,53 @@
+#include "MainWindow/GameWindow.hpp"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QResizeEvent>
+
+#include "Garden/Icons.hpp"
+#include "MainWindow/ContentView.hpp"
+#include "MainWindow/LaunchView.hpp"
+#include "MainWindow/MenuBand.hpp"
+#include "MainWindow/MenuCommands.hpp"
+#include "MainWindow/WindowChrome.hpp"
+
+namespace {
+
+constexpr QSize defaultSize(940, 860);
+constexpr QSize smallestSize(820, 760);
+
+}  // namespace
+
+GameWindow::GameWindow(Session& session)
+    : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint),
+      band_(new MenuBand(this)),
+      content_(new ContentView(session, this)) {
+    setObjectName(QStringLiteral("main"));
+    setWindowTitle(tr("Fernwick"));
+    setWindowIcon(Garden::applicationIcon());
+    setMinimumSize(smallestSize);
+    resize(defaultSize);
+    // The content paints every pixel.
+    setAttribute(Qt::WA_OpaquePaintEvent);
+
+    band_->raise();
+    // Until a player asks for one with Tab, no control holds the keyboard.
+    setFocus();
+
+    new LaunchView(this);
+    new MenuCommands(session, band_->menuBar(), *this);
+    create();
+    new WindowChrome(*this, MenuBand::height);
+    band_->watchWindow();
+    connect(content_, &ContentView::appeared, this, &GameWindow::appeared, Qt::QueuedConnection);
+}
+
+void GameWindow::resizeEvent(QResizeEvent* event) {
+    content_->setGeometry(rect());
+    band_->setGeometry(0, 0, event->size().width(), MenuBand::height);
+}
+
+void GameWindow::closeEvent(QCloseEvent* event) {
+    event->accept();
+    QCoreApplication::quit();
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QWidget>
+
+class ContentView;
+class MenuBand;
+class Session;
+
+/// The one window: no title bar, the main screen as its content, the menu band above it.
+class GameWindow : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit GameWindow(Session& session);
+
+Q_SIGNALS:
+    /// The first frame is on its way to the screen; what it did not need can be done now.
+    void appeared();
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    MenuBand* band_;
+    ContentView* content_;
+};

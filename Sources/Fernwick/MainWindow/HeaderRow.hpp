@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QWidget>
+
+#include "Session/ChangeObserver.hpp"
+
+class QBoxLayout;
+class Session;
+
+namespace Garden {
+class RollingDigits;
+}
+
+/// The top of the main screen: the title block at the left, the two score tiles at the right.
+class HeaderRow : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit HeaderRow(Session& session, QWidget* parent = nullptr);
+
+private:
+    QBoxLayout* titleBlock();
+    /// A tile: a small label above a value that rolls. Its accessible name is the label.
+    QBoxLayout* metric(const QString& label, Garden::RollingDigits* value, Qt::Alignment alignment);
+    void refresh();
+
+    Session& session_;
+    Garden::RollingDigits* score_;
+    Garden::RollingDigits* best_;
+    ChangeObserver observer_;
+};

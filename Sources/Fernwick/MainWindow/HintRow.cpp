@@ -1,0 +1,60 @@
+#include "MainWindow/HintRow.hpp"
+
+#include <QHBoxLayout>
+
+#include "Garden/Fonts.hpp"
+#include "Garden/IconButton.hpp"
+#include "Garden/Palette.hpp"
+#include "Garden/TrackedLabel.hpp"
+#include "Session/Session.hpp"
+
+namespace {
+
+constexpr double hintOpacity = 0.8;
+constexpr double arrowsSize = 13;
+constexpr double hintSize = 11;
+// As wide as the three spaces around the dots.
+constexpr int hintSpacing = 20;
+constexpr int buttonSpacing = 8;
+
+Garden::TrackedLabel* hint(const QString& text, double size) {
+    return new Garden::TrackedLabel(text, Garden::mono(size, QFont::Normal),
+                                    Garden::withOpacity(Garden::mint, hintOpacity));
+}
+
+}  // namespace
+
+HintRow::HintRow(Session& session, QWidget* parent)
+    : QWidget(parent),
+      session_(session),
+      scores_(new Garden::IconButton(Garden::Icon::trophy, tr("High scores"))),
+      sound_(new Garden::IconButton(Garden::Icon::speakerWaves, tr("Toggle sound effects"))),
+      pause_(new Garden::IconButton(Garden::Icon::play, tr("Pause or resume"))),
+      observer_(session, [this] { refresh(); }) {
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(hintSpacing);
+    row->addWidget(hint(QStringLiteral("↑ ↓ ← →"), arrowsSize));
+    row->addWidget(hint(tr("or WASD to move"), hintSize));
+    row->addWidget(hint(tr("·   SPACE to pause   ·   R to restart"), hintSize));
+    row->addStretch();
+
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(buttonSpacing);
+    buttons->addWidget(scores_);
+    buttons->addWidget(sound_);
+    buttons->addWidget(pause_);
+    row->addLayout(buttons);
+
+    connect(scores_, &QAbstractButton::clicked, &session_, &Session::openScores);
+    connect(sound_, &QAbstractButton::clicked, &session_,
+            [this] { session_.switchSound(!session_.sound); });
+    connect(pause_, &QAbstractButton::clicked, &session_, &Session::pause);
+    refresh();
+}
+
+void HintRow::refresh() {
+    sound_->setIcon(session_.sound ? Garden::Icon::speakerWaves : Garden::Icon::speakerSlash);
+    pause_->setIcon(session_.running ? Garden::Icon::pause : Garden::Icon::play);
+    pause_->setEnabled(session_.started && !session_.game->ended());
+}

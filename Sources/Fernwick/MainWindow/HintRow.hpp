@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QWidget>
+
+#include "Session/ChangeObserver.hpp"
+
+class Session;
+
+namespace Garden {
+class IconButton;
+}
+
+/// The bottom of the main screen: the key hints at the left, three icon buttons at the right.
+class HintRow : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit HintRow(Session& session, QWidget* parent = nullptr);
+
+private:
+    void refresh();
+
+    Session& session_;
+    Garden::IconButton* scores_;
+    Garden::IconButton* sound_;
+    Garden::IconButton* pause_;
+    ChangeObserver observer_;
+};

@@ -1,0 +1,140 @@
+#include "MainWindow/MenuBand.hpp"
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QWindow>
+
+#include "Garden/IconButton.hpp"
+#include "MainWindow/MenuStyle.hpp"
+
+namespace {
+
+constexpr int leftMargin = 38;
+constexpr int rightMargin = 38;
+constexpr int markSpacing = 8;
+
+}  // namespace
+
+MenuBand::MenuBand(QWidget* window) : QWidget(window), menuBar_(new QMenuBar(this)) {
+    styleMenuBar(*menuBar_);
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(leftMargin - menuItemPadding, 0, rightMargin, 0);
+    row->setSpacing(markSpacing);
+    row->addWidget(menuBar_, 0, Qt::AlignVCenter);
+    row->addStretch();
+    maximize_ = new Garden::IconButton(Garden::Icon::windowMaximize, tr("Maximise"));
+    addMark(*row, new Garden::IconButton(Garden::Icon::windowMinimize, tr("Minimise")),
+            &MenuBand::minimize);
+    addMark(*row, maximize_, &MenuBand::toggleMaximized);
+    addMark(*row, new Garden::IconButton(Garden::Icon::windowClose, tr("Close")), &MenuBand::close);
+}
+
+void MenuBand::addMark(QHBoxLayout& row, Garden::IconButton* mark, void (MenuBand::*action)()) {
+    row.addWidget(mark, 0, Qt::AlignVCenter);
+    marks_.append(mark);
+    connect(mark, &QAbstractButton::clicked, this, action);
+}
+
+void MenuBand::minimize() {
+    window()->showMinimized();
+}
+
+void MenuBand::toggleMaximized() {
+    window()->setWindowState(window()->windowState() ^ Qt::WindowMaximized);
+}
+
+void MenuBand::close() {
+    window()->close();
+}
+
+void MenuBand::watchWindow() {
+    window()->installEventFilter(this);
+    window()->windowHandle()->installEventFilter(this);
+    for (const QAction* menu : menuBar_->actions()) {
+        connect(menu->menu(), &QMenu::aboutToHide, this, &MenuBand::concealUnlessUsed,
+                Qt::QueuedConnection);
+    }
+    followWindowState();
+}
+
+bool MenuBand::eventFilter(QObject* watched, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::WindowStateChange:
+            followWindowState();
+            break;
+        case QEvent::MouseMove:
+            if (watched->isWindowType()) {
+                followPointer(static_cast<QMouseEvent*>(event)->position().toPoint().y());
+            }
+            break;
+        case QEvent::MouseButtonPress:
+            altAlone_ = false;
+            break;
+        case QEvent::KeyPress:
+        case QEvent::KeyRelease:
+            if (watched->isWindowType() && followKeys(static_cast<QKeyEvent&>(*event))) {
+                return true;
+            }
+            break;
+        default:
+            break;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void MenuBand::followWindowState() {
+    const bool fullScreen = window()->isFullScreen();
+    for (Garden::IconButton* mark : marks_) {
+        mark->setVisible(!fullScreen);
+    }
+    maximize_->setIcon(window()->isMaximized() ? Garden::Icon::windowRestore
+                                               : Garden::Icon::windowMaximize);
+    menuBar_->setVisible(!fullScreen);
+}
+
+void MenuBand::followPointer(int y) {
+    pointerInBand_ = y < height;
+    if (y <= 0) {
+        reveal();
+    } else {
+        concealUnlessUsed();
+    }
+}
+
+bool MenuBand::followKeys(const QKeyEvent& event) {
+    const bool isAlt = event.key() == Qt::Key_Alt;
+    if (event.type() == QEvent::KeyPress) {
+        altAlone_ = isAlt;
+        if (event.key() == Qt::Key_F10 && event.modifiers() == Qt::NoModifier) {
+            openFirstMenu();
+            return true;
+        }
+        return false;
+    }
+    // While it is to be seen, the menu bar answers Alt by itself.
+    if (isAlt && altAlone_ && menuBar_->isHidden()) {
+        openFirstMenu();
+        return true;
+    }
+    return false;
+}
+
+void MenuBand::reveal() {
+    menuBar_->show();
+}
+
+void MenuBand::concealUnlessUsed() {
+    if (window()->isFullScreen() && !pointerInBand_ &&
+        QApplication::activePopupWidget() == nullptr) {
+        menuBar_->hide();
+    }
+}
+
+void MenuBand::openFirstMenu() {
+    reveal();
+    menuBar_->setActiveAction(menuBar_->actions().constFirst());
+}

@@ -1,0 +1,43 @@
+#include "MainWindow/MenuStyle.hpp"
+
+#include <QMenuBar>
+
+#include "Garden/Fonts.hpp"
+#include "Garden/Palette.hpp"
+
+namespace {
+
+constexpr double fontSize = 12;
+constexpr double hoverOpacity = 0.16;
+constexpr double edgeOpacity = 0.16;
+constexpr double disabledOpacity = 0.45;
+
+QString css(const QColor& colour) {
+    return QStringLiteral("rgba(%1,%2,%3,%4)")
+        .arg(colour.red())
+        .arg(colour.green())
+        .arg(colour.blue())
+        .arg(colour.alphaF());
+}
+
+}  // namespace
+
+void styleMenuBar(QMenuBar& bar) {
+    bar.setFont(Garden::sans(fontSize, QFont::Normal));
+    bar.setStyleSheet(
+        QStringLiteral(
+            "QMenuBar { background: transparent; color: %1; }"
+            "QMenuBar::item { background: transparent; padding: 5px %2px; border-radius: 6px; }"
+            "QMenuBar::item:selected { background: %3; color: %4; }"
+            "QMenu { background: %5; color: %6; border: 1px solid %7; padding: 6px; }"
+            "QMenu::item { padding: 6px 28px 6px 28px; border-radius: 5px; }"
+            "QMenu::item:selected { background: %3; color: %4; }"
+            "QMenu::item:disabled { color: %8; }"
+            "QMenu::separator { height: 1px; background: %7; margin: 6px 10px; }")
+            .arg(css(Garden::muted))
+            .arg(menuItemPadding)
+            .arg(css(Garden::withOpacity(Garden::mint, hoverOpacity)), css(Garden::mint),
+                 css(Garden::soil), css(Garden::primaryText),
+                 css(Garden::withOpacity(Garden::mint, edgeOpacity)),
+                 css(Garden::withOpacity(Garden::muted, disabledOpacity))));
+}

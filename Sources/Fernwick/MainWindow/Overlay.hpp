@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QWidget>
+
+#include "Session/ChangeObserver.hpp"
+
+class Session;
+
+namespace Garden {
+class IconView;
+class OverlayButton;
+class TrackedLabel;
+}  // namespace Garden
+
+/// The start and pause card over the board: a symbol, a title, a line and one button. It has no
+/// background; whoever shows it dims the board.
+class Overlay : public QWidget {
+    Q_OBJECT
+
+public:
+    /// How dark the black over the board is.
+    static constexpr double scrimOpacity = 0.48;
+
+    explicit Overlay(Session& session, QWidget* parent = nullptr);
+
+private:
+    void refresh();
+    void press();
+
+    Session& session_;
+    Garden::IconView* symbol_;
+    Garden::TrackedLabel* title_;
+    Garden::TrackedLabel* line_;
+    Garden::OverlayButton* button_;
+    ChangeObserver observer_;
+};

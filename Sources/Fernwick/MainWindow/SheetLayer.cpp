@@ -1,0 +1,92 @@
+#include "MainWindow/SheetLayer.hpp"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "Garden/Focus.hpp"
+#include "ScoreScreens/HighScoresView.hpp"
+#include "Session/Session.hpp"
+
+namespace {
+
+constexpr double scrimOpacity = 0.48;
+
+}  // namespace
+
+SheetLayer::SheetLayer(Session& session, QWidget* parent)
+    : QWidget(parent), session_(session), observer_(session, [this] { refresh(); }) {
+    hide();
+}
+
+void SheetLayer::refresh() {
+    if (session_.showingScores == isVisibleTo(parentWidget())) {
+        return;
+    }
+    if (session_.showingScores) {
+        present();
+    } else {
+        dismiss();
+    }
+}
+
+void SheetLayer::present() {
+    // Made on first use: nothing of it is needed for the first frame.
+    if (sheet_ == nullptr) {
+        sheet_ = new HighScoresView(session_, this);
+        sheet_->setFocusPolicy(Qt::StrongFocus);
+    }
+    focusBefore_ = QApplication::focusWidget();
+    placeSheet();
+    show();
+    raise();
+    sheet_->setFocus(Qt::PopupFocusReason);
+}
+
+void SheetLayer::dismiss() {
+    const bool hadFocus = isAncestorOf(QApplication::focusWidget());
+    Garden::releaseFocus(*this);
+    hide();
+    if (hadFocus && !focusBefore_.isNull() && focusBefore_->isVisible()) {
+        focusBefore_->setFocus(Qt::PopupFocusReason);
+    }
+}
+
+void SheetLayer::placeSheet() {
+    if (sheet_ == nullptr) {
+        return;
+    }
+    sheet_->adjustSize();
+    QRect place(QPoint(), sheet_->size());
+    place.moveCenter(rect().center());
+    sheet_->setGeometry(place);
+}
+
+bool SheetLayer::focusNextPrevChild(bool next) {
+    // Walks the chain until it meets a control of the sheet again.
+    QWidget* const start = QApplication::focusWidget();
+    QWidget* candidate = start;
+    do {
+        candidate = next ? candidate->nextInFocusChain() : candidate->previousInFocusChain();
+        if (sheet_->isAncestorOf(candidate) && candidate->isVisible() && candidate->isEnabled() &&
+            (candidate->focusPolicy() & Qt::TabFocus) == Qt::TabFocus) {
+            candidate->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+            return true;
+        }
+    } while (candidate != start);
+    return false;
+}
+
+void SheetLayer::mousePressEvent(QMouseEvent* event) {
+    event->accept();
+}
+
+void SheetLayer::paintEvent(QPaintEvent*) {
+    QColor scrim = Qt::black;
+    scrim.setAlphaF(static_cast<float>(scrimOpacity));
+    QPainter(this).fillRect(rect(), scrim);
+}
+
+void SheetLayer::resizeEvent(QResizeEvent*) {
+    placeSheet();
+}

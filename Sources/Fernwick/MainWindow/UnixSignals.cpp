@@ -1,0 +1,53 @@
+#include "MainWindow/UnixSignals.hpp"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <QCoreApplication>
+#include <QSocketNotifier>
+#include <array>
+#include <csignal>
+
+namespace {
+
+constexpr std::array endingSignals{SIGTERM, SIGINT, SIGHUP};
+
+// A signal handler may do next to nothing: it leaves a byte that wakes the event loop.
+volatile std::sig_atomic_t writeEnd = -1;
+
+void leaveByte(int) {
+    const char byte = 0;
+    [[maybe_unused]] const auto written = ::write(writeEnd, &byte, sizeof byte);
+}
+
+}  // namespace
+
+UnixSignals::UnixSignals() {
+    std::array<int, 2> ends{};
+    if (::pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK) != 0) {
+        return;
+    }
+    readEnd_ = ends[0];
+    writeEnd = ends[1];
+    notifier_ = new QSocketNotifier(readEnd_, QSocketNotifier::Read, this);
+    connect(notifier_, &QSocketNotifier::activated, QCoreApplication::instance(),
+            &QCoreApplication::quit);
+    struct sigaction action {};
+    action.sa_handler = leaveByte;
+    action.sa_flags = SA_RESTART;
+    for (const int number : endingSignals) {
+        ::sigaction(number, &action, nullptr);
+    }
+}
+
+UnixSignals::~UnixSignals() {
+    for (const int number : endingSignals) {
+        std::signal(number, SIG_DFL);
+    }
+    if (readEnd_ >= 0) {
+        delete notifier_;
+        ::close(readEnd_);
+        ::close(writeEnd);
+        writeEnd = -1;
+    }
+}

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QObject>
+
+class QSocketNotifier;
+
+/// Turns the signals that ask a program to end (SIGTERM, SIGINT, SIGHUP) into an orderly quit of
+/// the event loop, with status 0. One per process.
+class UnixSignals : public QObject {
+    Q_OBJECT
+
+public:
+    UnixSignals();
+    ~UnixSignals() override;
+
+private:
+    int readEnd_ = -1;
+    QSocketNotifier* notifier_ = nullptr;
+};

@@ -1,0 +1,97 @@
+#include "MainWindow/WindowChrome.hpp"
+
+#include <QAbstractButton>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QWidget>
+#include <QWindow>
+
+namespace {
+
+// Wide enough to hit, narrow enough to stay inside the window's empty margins.
+constexpr int gripWidth = 6;
+
+Qt::CursorShape cursorFor(Qt::Edges edges) {
+    if (edges == (Qt::LeftEdge | Qt::TopEdge) || edges == (Qt::RightEdge | Qt::BottomEdge)) {
+        return Qt::SizeFDiagCursor;
+    }
+    if (edges == (Qt::RightEdge | Qt::TopEdge) || edges == (Qt::LeftEdge | Qt::BottomEdge)) {
+        return Qt::SizeBDiagCursor;
+    }
+    return (edges & (Qt::LeftEdge | Qt::RightEdge)) != 0 ? Qt::SizeHorCursor : Qt::SizeVerCursor;
+}
+
+}  // namespace
+
+WindowChrome::WindowChrome(QWidget& window, int bandHeight)
+    : QObject(&window), window_(window), handle_(window.windowHandle()), bandHeight_(bandHeight) {
+    // Watched at the window's handle: it sees the pointer before any child takes the event.
+    handle_->installEventFilter(this);
+}
+
+Qt::Edges WindowChrome::edgesAt(const QPoint& position) const {
+    if (window_.isFullScreen() || window_.isMaximized()) {
+        return {};
+    }
+    Qt::Edges edges;
+    edges.setFlag(Qt::LeftEdge, position.x() < gripWidth);
+    edges.setFlag(Qt::RightEdge, position.x() >= window_.width() - gripWidth);
+    edges.setFlag(Qt::TopEdge, position.y() < gripWidth);
+    edges.setFlag(Qt::BottomEdge, position.y() >= window_.height() - gripWidth);
+    return edges;
+}
+
+bool WindowChrome::isBand(const QPoint& position) const {
+    if (window_.isFullScreen() || position.y() >= bandHeight_) {
+        return false;
+    }
+    const QWidget* child = window_.childAt(position);
+    return qobject_cast<const QAbstractButton*>(child) == nullptr &&
+           qobject_cast<const QMenuBar*>(child) == nullptr;
+}
+
+void WindowChrome::showCursorFor(const QPoint& position) {
+    const Qt::Edges edges = edgesAt(position);
+    if (edges == hovered_) {
+        return;
+    }
+    hovered_ = edges;
+    if (edges == Qt::Edges()) {
+        window_.unsetCursor();
+    } else {
+        window_.setCursor(cursorFor(edges));
+    }
+}
+
+bool WindowChrome::press(const QMouseEvent& event) {
+    if (event.button() != Qt::LeftButton) {
+        return false;
+    }
+    const QPoint position = event.position().toPoint();
+    if (const Qt::Edges edges = edgesAt(position); edges != Qt::Edges()) {
+        return handle_->startSystemResize(edges);
+    }
+    return isBand(position) && handle_->startSystemMove();
+}
+
+bool WindowChrome::eventFilter(QObject* watched, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::MouseMove:
+            showCursorFor(static_cast<QMouseEvent*>(event)->position().toPoint());
+            break;
+        case QEvent::MouseButtonPress:
+            if (press(static_cast<QMouseEvent&>(*event))) {
+                return true;
+            }
+            break;
+        case QEvent::MouseButtonDblClick:
+            if (isBand(static_cast<QMouseEvent*>(event)->position().toPoint())) {
+                window_.setWindowState(window_.windowState() ^ Qt::WindowMaximized);
+                return true;
+            }
+            break;
+        default:
+            break;
+    }
+    return QObject::eventFilter(watched, event);
+}

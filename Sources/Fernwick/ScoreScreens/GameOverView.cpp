@@ -1,0 +1,64 @@
+#include "ScoreScreens/GameOverView.hpp"
+
+#include "Garden/Focus.hpp"
+#include "Garden/Fonts.hpp"
+#include "Garden/NumberText.hpp"
+#include "Garden/Palette.hpp"
+#include "Garden/TrackedLabel.hpp"
+#include "ScoreScreens/CardLayout.hpp"
+#include "ScoreScreens/NameEntry.hpp"
+#include "ScoreScreens/SavedBoard.hpp"
+#include "Session/Session.hpp"
+
+namespace {
+
+constexpr double headlineSize = 34;
+constexpr double resultSize = 11;
+constexpr double resultTracking = 2;
+constexpr int widestCard = 400;
+constexpr int cardPadding = 24;
+
+}  // namespace
+
+GameOverView::GameOverView(Session& session, QWidget* parent)
+    : QWidget(parent),
+      session_(session),
+      headline_(new Garden::TrackedLabel({}, Garden::serif(headlineSize, QFont::Normal),
+                                         Garden::primaryText)),
+      result_(new Garden::TrackedLabel({}, Garden::sans(resultSize, QFont::Medium, resultTracking),
+                                       Garden::mint)),
+      nameEntry_(new NameEntry(session)),
+      savedBoard_(new SavedBoard(session)),
+      observer_(session, [this] { refresh(); }) {
+    auto* card = new QWidget(this);
+    card->setMaximumWidth(widestCard);
+    QVBoxLayout* column = cardColumn(*card);
+    column->addWidget(headline_, 0, Qt::AlignHCenter);
+    column->addWidget(result_, 0, Qt::AlignHCenter);
+    column->addWidget(nameEntry_);
+    column->addWidget(savedBoard_);
+
+    auto* area = new QHBoxLayout(this);
+    area->setContentsMargins(cardPadding, cardPadding, cardPadding, cardPadding);
+    area->addStretch();
+    area->addWidget(card, widestCard, Qt::AlignVCenter);
+    area->addStretch();
+    refresh();
+}
+
+void GameOverView::refresh() {
+    headline_->setText(session_.game->won() ? tr("Fully grown.") : tr("Game over."));
+    result_->setText(Garden::withNumber(tr("%lld POINTS  ·  %@"), session_.game->score())
+                         .replace(QStringLiteral("%@"), displayName(session_.runPace())));
+    if (session_.awaitingName) {
+        savedBoard_->hide();
+        nameEntry_->refresh();
+        nameEntry_->show();
+    } else {
+        // The keys are the game's again: no button may hold the Space that starts the next run.
+        Garden::releaseFocus(*nameEntry_);
+        nameEntry_->hide();
+        savedBoard_->refresh();
+        savedBoard_->show();
+    }
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QWidget>
+
+class NameField;
+class Session;
+
+namespace Garden {
+class GardenButton;
+}
+
+/// The form of the game-over card while a name is awaited: the name field, "Save score" and
+/// "Skip saving". The field takes the keyboard focus whenever the form appears.
+class NameEntry : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit NameEntry(Session& session, QWidget* parent = nullptr);
+
+    /// Shows the session's name and whether it can be saved.
+    void refresh();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void nameEdited(const QString& text);
+
+    Session& session_;
+    NameField* field_;
+    Garden::GardenButton* save_;
+};

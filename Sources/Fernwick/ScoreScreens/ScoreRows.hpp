@@ -1,0 +1,37 @@
+#pragma once
+
+#include <SnakeCore/HighScore.hpp>
+
+#include <QList>
+#include <QScrollArea>
+#include <optional>
+#include <vector>
+
+class QVBoxLayout;
+class ScoreRow;
+
+namespace Garden {
+class TrackedLabel;
+}
+
+/// A ranked list of saved scores that scrolls, or one inviting line when there are none. Its
+/// height is its container's to set.
+class ScoreRows : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit ScoreRows(QWidget* parent = nullptr);
+
+    /// Shows `entries` in their order, the first as rank 1, and picks out the one whose id is
+    /// `highlighted`, scrolling to it.
+    void setEntries(const std::vector<SnakeCore::HighScore>& entries,
+                    const std::optional<SnakeCore::UUID>& highlighted = std::nullopt);
+
+private:
+    void setRowCount(std::size_t count);
+
+    Garden::TrackedLabel* empty_;
+    QScrollArea* scrollArea_;
+    QVBoxLayout* column_;
+    QList<ScoreRow*> rows_;
+};
