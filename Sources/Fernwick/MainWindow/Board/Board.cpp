@@ -1,25 +1,30 @@
 #include "MainWindow/Board/Board.hpp"
 
-#include <QAccessible>
+#include <QPaintEvent>
 #include <QPainter>
-#include <QPainterPath>
+#include <cmath>
 
+#include "Garden/NumberText.hpp"
+#include "Garden/Palette.hpp"
 #include "MainWindow/Board/Backdrop.hpp"
-#include "MainWindow/Board/PlainPainter.hpp"
+#include "MainWindow/Board/BoardAccessible.hpp"
+#include "MainWindow/Board/IdlePicture.hpp"
 
 namespace {
 
-constexpr double cornerRadius = 22;
-constexpr float strokeOpacity = 0.16F;
-constexpr double strokeWidth = 1;
-constexpr double idleOpacity = 0.4;
-constexpr double idleBlur = 5;
+/// Of the blur while no run is moving, in points.
+constexpr double idleSigma = 5;
 
 }  // namespace
 
-Board::Board(Backdrop& backdrop, QWidget* parent) : QWidget(parent), backdrop_(backdrop) {
+Board::Board(Backdrop& backdrop, QWidget* parent)
+    : QWidget(parent), backdrop_(backdrop), game_(BoardGeometry::columns, BoardGeometry::rows) {
     setAttribute(Qt::WA_OpaquePaintEvent);
+    BoardAccessible::install();
+    announceScore();
 }
+
+Board::~Board() = default;
 
 BoardGeometry Board::fit(const QRectF& space) {
     return fitBoard(space);
@@ -29,17 +34,24 @@ void Board::setGame(const SnakeCore::Game& game) {
     if (game_ == game) {
         return;
     }
-    const bool scored = !game_ || game_->score() != game.score();
+    const bool scored = game_.score() != game.score();
     game_ = game;
     if (scored) {
         announceScore();
     }
-    update();
+    idlePicture_ = {};
+    if (picture_ && picture_->grid() == grid()) {
+        const QRegion changed = toPoints(picture_->show(game));
+        idle_ ? update() : update(changed);
+    } else {
+        update();
+    }
 }
 
 void Board::setIdle(bool idle) {
     if (idle != idle_) {
         idle_ = idle;
+        idlePicture_ = {};
         update();
     }
 }
@@ -51,39 +63,96 @@ void Board::setScrim(double opacity) {
     }
 }
 
-void Board::paintEvent(QPaintEvent*) {
-    const QRectF frame = frameHere();
-    const QPoint place = mapTo(window(), QPoint());
+void Board::paintEvent(QPaintEvent* event) {
+    prepareEdge();
+    preparePicture();
     QPainter painter(this);
-    painter.drawImage(
-        -place, backdrop_.image(window()->size(), devicePixelRatioF(), frame.translated(place)));
-    QPainterPath shape;
-    shape.addRoundedRect(frame, cornerRadius, cornerRadius);
-    painter.setRenderHint(QPainter::Antialiasing);
-    if (game_) {
-        const QSize pixels = (QSizeF(size()) * devicePixelRatioF()).toSize();
-        QImage picture = paintPlainly(*game_, pixels, fit(parentWidget()->rect()).cell,
-                                      frame.topLeft(), devicePixelRatioF());
-        if (idle_) {
-            blurPlainly(picture, idleBlur * devicePixelRatioF());
-            painter.setOpacity(idleOpacity);
+    // From here on in whole pixels of the window, whatever its scale.
+    const QTransform toDevice = painter.deviceTransform();
+    const double scale = devicePixelRatioF();
+    const QPointF corner = QPointF(mapTo(window(), QPoint())) * scale;
+    const QPointF begin = toDevice.map(QPointF()) - corner + pixelsInWindow().topLeft();
+    painter.setTransform(QTransform::fromTranslate(std::round(begin.x()), std::round(begin.y())) *
+                         toDevice.inverted());
+    const QImage& picture = idle_ ? idlePicture_ : picture_->image();
+    const QColor scrim = Garden::withOpacity(Qt::black, scrim_);
+    const QTransform toPicture = toDevice * QTransform::fromTranslate(-begin.x(), -begin.y());
+    for (const QRect& part : event->region()) {
+        const QRect area = toPicture.mapRect(QRectF(part)).toAlignedRect() & picture.rect();
+        // The painter's clip is the whole region; copying is fastest within a clip of one
+        // rectangle.
+        painter.setClipRect(area);
+        painter.drawImage(area.topLeft(), picture, area);
+        if (scrim_ > 0) {
+            painter.fillRect(area, scrim);
         }
-        painter.setClipPath(shape);
-        painter.drawImage(QPointF(), picture);
-        painter.setClipping(false);
-        painter.setOpacity(1);
+        edge_.paint(painter, area);
     }
-    painter.fillPath(shape, QColor::fromRgbF(0, 0, 0, static_cast<float>(scrim_)));
-    painter.setPen(QPen(QColor::fromRgbF(0.65F, 0.94F, 0.64F, strokeOpacity), strokeWidth));
-    painter.drawPath(shape);
 }
 
-QRectF Board::frameHere() const {
-    return fit(parentWidget()->rect()).frame.translated(-pos());
+BoardGeometry Board::geometryInWindow() const {
+    BoardGeometry geometry = fit(parentWidget()->rect());
+    geometry.frame.translate(parentWidget()->mapTo(window(), QPoint()));
+    return geometry;
+}
+
+QRect Board::pixelsInWindow() const {
+    const double scale = devicePixelRatioF();
+    const QPointF corner = QPointF(mapTo(window(), QPoint())) * scale;
+    return QRectF(corner, QSizeF(size()) * scale).toAlignedRect();
+}
+
+PixelGrid Board::grid() const {
+    const BoardGeometry geometry = geometryInWindow();
+    const double scale = devicePixelRatioF();
+    const QRect pixels = pixelsInWindow();
+    return {pixels.size(),
+            geometry.frame.topLeft() * scale - pixels.topLeft(),
+            geometry.cell * scale,
+            scale,
+            static_cast<int>(game_.width()),
+            static_cast<int>(game_.height())};
+}
+
+QRegion Board::toPoints(const QRegion& pixels) const {
+    const double scale = devicePixelRatioF();
+    const QPoint first = pixelsInWindow().topLeft();
+    const QPoint here = mapTo(window(), QPoint());
+    QRegion points;
+    for (const QRect& part : pixels) {
+        const QRectF inWindow = part.translated(first);
+        points += QRectF(inWindow.topLeft() / scale, inWindow.size() / scale)
+                      .toAlignedRect()
+                      .translated(-here);
+    }
+    return points;
+}
+
+void Board::prepareEdge() {
+    const double scale = devicePixelRatioF();
+    const QRectF frame = geometryInWindow().frame;
+    const QImage& ground = backdrop_.image(window()->size(), scale, frame);
+    const QRect place = pixelsInWindow();
+    if (ground.cacheKey() != edgeGround_ || place != edgePlace_) {
+        const QRectF here(frame.topLeft() * scale - place.topLeft(), frame.size() * scale);
+        edge_ = FrameEdge(ground, place, FrameShape(here, scale));
+        edgeGround_ = ground.cacheKey();
+        edgePlace_ = place;
+    }
+}
+
+void Board::preparePicture() {
+    if (!picture_ || picture_->grid() != grid()) {
+        picture_ = std::make_unique<BoardPicture>(grid());
+        picture_->show(game_);
+        idlePicture_ = {};
+    }
+    if (idle_ && idlePicture_.isNull()) {
+        idlePicture_ = idlePicture(picture_->image(), idleSigma * devicePixelRatioF());
+    }
 }
 
 void Board::announceScore() {
-    QString label = tr("Snake board. Score %lld. Use arrow keys or W A S D to move.");
-    label.replace(QStringLiteral("%lld"), QString::number(game_->score()));
-    setAccessibleName(label);
+    const QString label = tr("Snake board. Score %lld. Use arrow keys or W A S D to move.");
+    setAccessibleName(Garden::withNumber(label, game_.score()));
 }

@@ -1,4 +1,4 @@
-#include "MainWindow/Board/PlainPainter.hpp"
+#include "Fernwick/MainWindow/Board/ReferencePainter.hpp"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -13,6 +13,7 @@ using SnakeCore::Cell;
 using SnakeCore::Direction;
 
 const QColor mint = QColor::fromRgbF(0.65F, 0.94F, 0.64F);
+const QColor soil = QColor::fromRgbF(0.055F, 0.095F, 0.076F);
 const QColor fruitColour = QColor::fromRgbF(1.0F, 0.52F, 0.39F);
 const QColor orange = QColor::fromRgbF(1.0F, 0.62F, 0.04F);
 const QColor tailColour = QColor::fromRgbF(0.23F, 0.58F, 0.40F);
@@ -62,13 +63,29 @@ void boxLine(quint32* line, qsizetype stride, int count, int radius, std::vector
     }
 }
 
+// Three running means in each direction come near enough to a Gaussian.
+void blurThrice(QImage& image, double sigma) {
+    const int radius = static_cast<int>(std::lround((std::sqrt(4 * sigma * sigma + 1) - 1) / 2));
+    std::vector<quint32> copy;
+    auto* const pixels = reinterpret_cast<quint32*>(image.bits());
+    const qsizetype stride = image.bytesPerLine() / 4;
+    for (int pass = 0; pass < 3; ++pass) {
+        for (int y = 0; y < image.height(); ++y) {
+            boxLine(pixels + y * stride, 1, image.width(), radius, copy);
+        }
+        for (int x = 0; x < image.width(); ++x) {
+            boxLine(pixels + x, stride, image.height(), radius, copy);
+        }
+    }
+}
+
 void paintShadow(QPainter& painter, const QImage& layer, const QColor& colour, double sigma) {
     QImage shadow = layer;
     QPainter tint(&shadow);
     tint.setCompositionMode(QPainter::CompositionMode_SourceIn);
     tint.fillRect(QRectF(QPointF(), shadow.deviceIndependentSize()), colour);
     tint.end();
-    blurPlainly(shadow, sigma);
+    blurThrice(shadow, sigma);
     painter.drawImage(QPointF(), shadow);
     painter.drawImage(QPointF(), layer);
 }
@@ -130,49 +147,61 @@ void paintEyes(QPainter& painter, const SnakeCore::Game& game, double cell) {
     }
 }
 
-}  // namespace
-
-void blurPlainly(QImage& image, double sigma) {
-    const int radius = static_cast<int>(std::lround((std::sqrt(4 * sigma * sigma + 1) - 1) / 2));
-    std::vector<quint32> copy;
-    auto* const pixels = reinterpret_cast<quint32*>(image.bits());
-    const qsizetype stride = image.bytesPerLine() / 4;
-    for (int pass = 0; pass < 3; ++pass) {
-        for (int y = 0; y < image.height(); ++y) {
-            boxLine(pixels + y * stride, 1, image.width(), radius, copy);
-        }
-        for (int x = 0; x < image.width(); ++x) {
-            boxLine(pixels + x, stride, image.height(), radius, copy);
-        }
-    }
+QPainter& prepared(QPainter& painter, const PixelGrid& grid) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.translate(grid.origin / grid.scale);
+    return painter;
 }
 
-QImage paintPlainly(const SnakeCore::Game& game, const QSize& size, double cell,
-                    const QPointF& origin, double devicePixelRatio) {
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    image.setDevicePixelRatio(devicePixelRatio);
-    image.fill(Qt::transparent);
-    QImage layer = image;
-    const auto open = [&](QImage& target) {
-        auto painter = std::make_unique<QPainter>(&target);
-        painter->setRenderHint(QPainter::Antialiasing);
-        painter->setPen(Qt::NoPen);
-        painter->translate(origin);
-        return painter;
-    };
+// The picture on a transparent ground.
+QImage paintClear(const SnakeCore::Game& game, const PixelGrid& grid) {
+    const double cell = grid.cell / grid.scale;
     const QPointF fruit = centre(game.food(), cell);
-    paintDots(*open(image), game, cell);
-    paintFruit(*open(layer), fruit, cell);
+    QImage image(grid.size, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(grid.scale);
+    image.fill(Qt::transparent);
+    QImage fruitLayer = image;
+    QImage bodyLayer = image;
+    {
+        QPainter painter(&fruitLayer);
+        paintFruit(prepared(painter, grid), fruit, cell);
+    }
+    {
+        QPainter painter(&bodyLayer);
+        paintBody(prepared(painter, grid), game, cell);
+    }
     QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    paintShadow(painter, layer, withOpacity(orange, 0.55), 0.5 * cell * devicePixelRatio);
-    painter.translate(origin);
-    paintStem(painter, fruit, cell);
+    paintDots(prepared(painter, grid), game, cell);
     painter.resetTransform();
-    layer.fill(Qt::transparent);
-    paintBody(*open(layer), game, cell);
-    paintShadow(painter, layer, withOpacity(mint, 0.35), 0.45 * cell * devicePixelRatio);
-    painter.end();
-    paintEyes(*open(image), game, cell);
+    paintShadow(painter, fruitLayer, withOpacity(orange, 0.55), 0.5 * grid.cell);
+    paintStem(prepared(painter, grid), fruit, cell);
+    painter.resetTransform();
+    paintShadow(painter, bodyLayer, withOpacity(mint, 0.35), 0.45 * grid.cell);
+    paintEyes(prepared(painter, grid), game, cell);
     return image;
+}
+
+QImage overSoil(const QImage& layer, double opacity) {
+    QImage image(layer.size(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(layer.devicePixelRatio());
+    image.fill(soil);
+    QPainter painter(&image);
+    painter.setOpacity(opacity);
+    painter.drawImage(QPointF(), layer);
+    painter.end();
+    image.setDevicePixelRatio(1);
+    return image;
+}
+
+}  // namespace
+
+QImage ReferencePainter::paint(const SnakeCore::Game& game, const PixelGrid& grid) {
+    return overSoil(paintClear(game, grid), 1);
+}
+
+QImage ReferencePainter::paintIdle(const SnakeCore::Game& game, const PixelGrid& grid) {
+    QImage layer = paintClear(game, grid);
+    blurThrice(layer, 5 * grid.scale);
+    return overSoil(layer, 0.4);
 }

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QImage>
+#include <vector>
+
+#include "MainWindow/Board/CoverageLayer.hpp"
+#include "MainWindow/Board/PixelGrid.hpp"
+
+/// The faint dot in the middle of every cell: 1.6 points wide at any size of the board.
+class Dots {
+public:
+    explicit Dots(const PixelGrid& grid);
+
+    /// Paints the dots of a rectangle of cells, where they lie inside `area`.
+    void paint(QImage& picture, const QRect& cells, const QRect& area) const;
+
+private:
+    int columns_;
+    // Every dot falls differently on the pixels.
+    std::vector<CoverageLayer> dots_;
+};

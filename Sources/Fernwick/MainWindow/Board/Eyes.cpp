@@ -1,0 +1,31 @@
+#include "MainWindow/Board/Eyes.hpp"
+
+#include "MainWindow/Board/Coverage.hpp"
+#include "MainWindow/Board/CoverageLayer.hpp"
+
+namespace {
+
+// In cells.
+constexpr double diameter = 0.11;
+constexpr double ahead = 0.15;
+constexpr double aside = 0.16;
+
+constexpr double opacity = 0.75;
+constexpr Rgb black{};
+
+}  // namespace
+
+void paintEyes(QImage& picture, const PixelGrid& grid, const SnakeCore::Game& game) {
+    const SnakeCore::Cell step = stepVector(game.direction());
+    const QPointF forward(static_cast<double>(step.x), static_cast<double>(step.y));
+    const QPointF across(forward.y(), forward.x());
+    const QPointF head = grid.centre(game.snake().front());
+    const double radius = diameter / 2 * grid.cell;
+    for (const double side : {-aside, aside}) {
+        const QPointF eye = head + (ahead * forward + side * across) * grid.cell;
+        const CoverageLayer layer(Coverage::discBounds(eye, radius), [&](int x, int y) {
+            return Coverage::ofDisc(eye, radius, x, y) * opacity;
+        });
+        layer.paint(picture, picture.rect(), black);
+    }
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QImage>
+#include <QPainter>
+#include <vector>
+
+#include "MainWindow/Board/FrameShape.hpp"
+
+/// What lies over the board's picture along its edge: the ground outside the rounded corners and
+/// the frame's stroke. Laid over whatever the picture shows, it leaves the same pixels as a clip to
+/// the rounded shape would, at the cost of a few thin strips.
+class FrameEdge {
+public:
+    FrameEdge() = default;
+
+    /// `ground` is the window's still ground, with the frame's fill and stroke in it; `place` is
+    /// the part of it behind the board, and `shape` the frame counted from the corner of `place`.
+    FrameEdge(const QImage& ground, const QRect& place, const FrameShape& shape);
+
+    /// Lays what lies inside `area` over the picture that `painter` has painted, in its pixels.
+    void paint(QPainter& painter, const QRect& area) const;
+
+private:
+    struct Strip {
+        QPoint corner;
+        QImage image;
+    };
+
+    std::vector<Strip> strips_;
+};

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QImage>
+#include <cstdint>
+#include <vector>
+
+#include "MainWindow/Board/PixelGrid.hpp"
+#include "MainWindow/Board/SnakeLinks.hpp"
+#include "MainWindow/Board/Upsampling.hpp"
+
+/// The glow around the snake. A blur of a sum is the sum of the blurs, and what the band looks like
+/// in one cell depends on that cell's links alone. So the field is a coarse grid of samples, eight
+/// to a cell at any size of the board, into which one blurred piece is added for each cell: a step
+/// of the snake adds and takes away a handful of pieces, in integers, so that nothing drifts.
+class GlowField {
+public:
+    explicit GlowField(const PixelGrid& grid);
+
+    /// How far the glow reaches over the cells around one.
+    static constexpr int reach = 2;
+
+    /// Replaces the piece of one cell.
+    void change(int column, int row, Links before, Links after);
+
+    /// Lays the glow over the pixels of `area`.
+    void paint(QImage& picture, const QRect& area) const;
+
+private:
+    void add(int column, int row, Links links, int sign);
+
+    PixelGrid grid_;
+    int stride_;
+    std::vector<std::uint16_t> samples_;
+    SampleAxis columns_;
+    SampleAxis rows_;
+};
