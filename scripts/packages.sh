@@ -1,0 +1,105 @@
+# The Debian packages the project stands on, each with what it is for, and how the missing ones are
+# installed. Sourced by play and check.
+
+build_packages() {
+    cat <<'LIST'
+g++                  compiles the program
+cmake                describes the build
+ninja-build          runs the build
+pkg-config           finds libraries for the build
+qt6-base-dev         windows, events and drawing
+qt6-svg-dev          draws the icons
+qt6-wayland          lets the game run on Wayland desktops
+nlohmann-json3-dev   reads the table of high scores
+libicu-dev           counts the characters of a name as people see them
+uuid-dev             gives every run its identity
+libpulse-dev         plays the two sounds through the desktop's sound server
+fonts-inter          the typeface of the texts
+fonts-elstob         the typeface of the headlines
+fonts-jetbrains-mono the typeface of the numbers and keys
+LIST
+}
+
+private_display_packages() {
+    cat <<'LIST'
+xvfb                 a display of its own for a machine without one
+openbox              the window manager on that display
+x11vnc               lets you look at that display
+LIST
+}
+
+check_packages() {
+    build_packages
+    cat <<'LIST'
+clang-14             the second compiler, with the sanitizers
+libclang-rt-14-dev   the sanitizers' run-time library
+llvm-14              names the lines in the sanitizers' reports
+clang-format         checks the layout of the code
+clang-tidy           checks the code for likely mistakes
+libgtest-dev         runs the unit tests
+librapidcheck-dev    tries properties on random values
+strace               makes system calls fail under test
+xvfb                 a display of its own for the desktop tests
+openbox              the window manager on that display
+xdotool              presses real keys and moves the pointer
+x11-utils            reads the state of windows
+x11-xkb-utils        switches keyboard layouts
+imagemagick          takes screenshots
+dbus                 the message bus for accessibility
+at-spi2-core         the accessibility bus
+python3-pyatspi      reads the screen as assistive programs do
+python3-cbor2        reads the settings file
+python3-pytest       runs the desktop tests
+pulseaudio           a real sound server for the sound tests
+pulseaudio-utils     records what that server plays
+LIST
+}
+
+is_installed() {
+    [ "$(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
+}
+
+# Reads "name purpose" lines and prints those of packages that are not there.
+missing_packages() {
+    while read -r name purpose; do
+        is_installed "$name" || printf '%-20s %s\n' "$name" "$purpose"
+    done
+}
+
+is_debian() {
+    [ -r /etc/os-release ] || return 1
+    (
+        . /etc/os-release
+        case " ${ID:-} ${ID_LIKE:-} " in *" debian "*) exit 0 ;; *) exit 1 ;; esac
+    )
+}
+
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then
+        "$@"
+    elif command -v sudo >/dev/null; then
+        sudo "$@"
+    else
+        echo "Installing needs root: run this as root, or install sudo." >&2
+        return 1
+    fi
+}
+
+# install_missing LIST: installs what is missing of the packages that the function LIST names.
+install_missing() {
+    if ! is_debian; then
+        echo "This is not Debian or one of its children. Please install what serves as:" >&2
+        "$1" >&2
+        return 1
+    fi
+    local missing names
+    missing=$("$1" | missing_packages)
+    [ -n "$missing" ] || return 0
+    echo "Installing Debian packages that are missing:"
+    echo "$missing" | sed 's/^/  /'
+    names=$(echo "$missing" | cut -d ' ' -f 1)
+    as_root apt-get update -qq &&
+        # shellcheck disable=SC2086 # one word a package
+        as_root env DEBIAN_FRONTEND=noninteractive apt-get install -qq -y \
+            --no-install-recommends $names >/dev/null
+}
