@@ -3,10 +3,13 @@
 #include <QPainter>
 #include <cmath>
 
+#include "Garden/Accessibility.hpp"
+
 namespace Garden {
 
 IconView::IconView(Icon icon, double size, const QColor& colour, QWidget* parent)
     : QWidget(parent), icon_(icon), size_(size), colour_(colour) {
+    installAccessibility();
     const int side = static_cast<int>(std::ceil(size));
     setFixedSize(side, side);
 }

@@ -2,10 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <QFontDatabase>
-#include <QFontInfo>
 #include <QFontMetricsF>
 #include <QRawFont>
+#include <QResource>
 
 namespace {
 
@@ -13,6 +12,17 @@ std::string cutOf(const QFont& font) {
     const QRawFont raw = QRawFont::fromFont(font);
     return (raw.familyName() + u'/' + raw.styleName() + u'/' + QString::number(raw.weight()))
         .toStdString();
+}
+
+// The drawn font's own tables are those of the carried file, not of a namesake on this desktop.
+void expectDrawnFrom(const char* file, const QFont& font) {
+    const QByteArray data =
+        QResource(QStringLiteral(":/fonts/") + QLatin1String(file)).uncompressedData();
+    ASSERT_FALSE(data.isEmpty()) << file;
+    const QRawFont carried(data, font.pixelSize());
+    const QRawFont drawn = QRawFont::fromFont(font);
+    EXPECT_EQ(carried.fontTable("name"), drawn.fontTable("name")) << file;
+    EXPECT_EQ(carried.fontTable("head"), drawn.fontTable("head")) << file;
 }
 
 }  // namespace
@@ -25,4 +35,30 @@ TEST(Fonts, drawTheCutThatIsAskedFor) {
     EXPECT_EQ(cutOf(Garden::serif(35, QFont::Normal)), "ElstobD/Regular/400");
     EXPECT_EQ(cutOf(Garden::mono(33, QFont::Light)), "JetBrains Mono/Light/300");
     EXPECT_EQ(cutOf(Garden::mono(11, QFont::Normal)), "JetBrains Mono/Regular/400");
+}
+
+TEST(Fonts, areCarriedInsideTheProgram) {
+    expectDrawnFrom("Inter-Regular.otf", Garden::sans(12, QFont::Normal));
+    expectDrawnFrom("Inter-Medium.otf", Garden::sans(12, QFont::Medium));
+    expectDrawnFrom("Inter-SemiBold.otf", Garden::sans(12, QFont::DemiBold));
+    expectDrawnFrom("ElstobD-Light.otf", Garden::serif(27, QFont::Light));
+    expectDrawnFrom("ElstobD-Regular.otf", Garden::serif(27, QFont::Normal));
+    expectDrawnFrom("JetBrainsMono-Light.ttf", Garden::mono(33, QFont::Light));
+    expectDrawnFrom("JetBrainsMono-Regular.ttf", Garden::mono(33, QFont::Normal));
+}
+
+TEST(Fonts, haveTheSizeInPixelsAndNoHinting) {
+    for (const QFont& font : {Garden::sans(9, QFont::Medium), Garden::serif(9, QFont::Light),
+                              Garden::mono(9, QFont::Normal)}) {
+        EXPECT_EQ(font.pixelSize(), 9);
+        EXPECT_EQ(font.hintingPreference(), QFont::PreferNoHinting);
+    }
+}
+
+TEST(Fonts, trackTheSansByLogicalPixels) {
+    const QString word = QStringLiteral("GROW");
+    const double plain = QFontMetricsF(Garden::sans(9, QFont::Medium)).horizontalAdvance(word);
+    const double tracked = QFontMetricsF(Garden::sans(9, QFont::Medium, 2)).horizontalAdvance(word);
+
+    EXPECT_NEAR(tracked - plain, 2.0 * static_cast<double>(word.size()), 0.5);
 }

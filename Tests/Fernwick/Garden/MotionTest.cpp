@@ -1,0 +1,19 @@
+#include "Garden/Motion.hpp"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+
+#include "Fernwick/Garden/StillStyle.hpp"
+
+TEST(Motion, isFreeOnAnOrdinaryDesktop) {
+    EXPECT_FALSE(Garden::reducedMotion());
+}
+
+TEST(Motion, isReducedWhereTheStyleAnimatesNothing) {
+    {
+        const StillStyle still;
+        EXPECT_TRUE(Garden::reducedMotion());
+    }
+    EXPECT_FALSE(Garden::reducedMotion());
+}

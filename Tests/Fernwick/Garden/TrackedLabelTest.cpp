@@ -1,0 +1,84 @@
+#include "Garden/TrackedLabel.hpp"
+
+#include <gtest/gtest.h>
+
+#include <QFontMetricsF>
+
+#include "Fernwick/Garden/Picture.hpp"
+#include "Garden/Fonts.hpp"
+#include "Garden/Palette.hpp"
+
+namespace {
+
+const QString word = QStringLiteral("FERNWICK");
+constexpr double tracking = 6;
+
+QFont trackedFont() {
+    return Garden::sans(14, QFont::DemiBold, tracking);
+}
+
+}  // namespace
+
+TEST(TrackedLabel, isAsWideAsItsLettersWithoutTheLastSpacing) {
+    const Garden::TrackedLabel label(word, trackedFont(), Garden::mint);
+
+    const double withTrailing = QFontMetricsF(trackedFont()).horizontalAdvance(word);
+    EXPECT_EQ(label.sizeHint().width(), qCeil(withTrailing - tracking));
+}
+
+TEST(TrackedLabel, paintsItsLettersUpToBothEdges) {
+    Garden::TrackedLabel label(word, trackedFont(), Garden::mint);
+
+    const QRect ink = inkOf(picture(label));
+    constexpr int bearing = 2;
+    EXPECT_LE(ink.left(), bearing);
+    EXPECT_GE(ink.right(), label.width() - 1 - bearing);
+    EXPECT_GT(ink.top(), 0);
+    EXPECT_LT(ink.bottom(), label.height() - 1);
+}
+
+TEST(TrackedLabel, paintsInItsColour) {
+    Garden::TrackedLabel label(QStringLiteral("Find your flow."), Garden::serif(35, QFont::Normal),
+                               Garden::withOpacity(Qt::white, 0.55));
+
+    EXPECT_GT(countOf(picture(label, 2), Garden::withOpacity(Qt::white, 0.55)), 100);
+}
+
+TEST(TrackedLabel, tellsItsTextAsItsAccessibleName) {
+    Garden::TrackedLabel label(word, trackedFont(), Garden::mint);
+    EXPECT_EQ(label.accessibleName(), word);
+
+    label.setText(QStringLiteral("GROW"));
+
+    EXPECT_EQ(label.text(), QStringLiteral("GROW"));
+    EXPECT_EQ(label.accessibleName(), QStringLiteral("GROW"));
+}
+
+TEST(TrackedLabel, shrinksWithAShorterText) {
+    Garden::TrackedLabel label(word, trackedFont(), Garden::mint);
+    const int before = label.sizeHint().width();
+
+    label.setText(QStringLiteral("FERN"));
+
+    EXPECT_LT(label.sizeHint().width(), before);
+}
+
+TEST(TrackedLabel, hasNoWidthWithoutText) {
+    const Garden::TrackedLabel label({}, trackedFont(), Garden::mint);
+
+    EXPECT_EQ(label.sizeHint().width(), 0);
+    EXPECT_GT(label.sizeHint().height(), 0);
+}
+
+TEST(TrackedLabel, givesWayOnlyWhenItMayElide) {
+    Garden::TrackedLabel label(word, trackedFont(), Garden::mint);
+    EXPECT_EQ(label.minimumSizeHint(), label.sizeHint());
+
+    label.setElided(true);
+
+    EXPECT_EQ(label.minimumSizeHint().width(), 0);
+    label.resize(label.sizeHint().width() / 2, label.sizeHint().height());
+    const QRect ink = inkOf(picture(label));
+    EXPECT_GT(ink.width(), label.width() / 2);
+    EXPECT_LT(ink.right(), label.width());
+}
