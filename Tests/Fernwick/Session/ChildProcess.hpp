@@ -77,14 +77,6 @@ public:
         return text;
     }
 
-    /// Waits until it has written something and takes up to `size` bytes of that.
-    [[nodiscard]] std::string someOutput(std::size_t size) const {
-        std::string text(size, '\0');
-        const ssize_t count = ::read(output_, text.data(), text.size());
-        text.resize(count > 0 ? static_cast<std::size_t>(count) : 0);
-        return text;
-    }
-
 private:
     [[noreturn]] static void become(const std::vector<char*>& arguments, int output, pid_t parent) {
         ::prctl(PR_SET_PDEATHSIG, SIGKILL);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <pulse/error.h>
 #include <pulse/simple.h>
 
 #include <algorithm>

@@ -1,15 +1,10 @@
-#include <fcntl.h>
 #include <gtest/gtest.h>
-#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
-
-#include <chrono>
 
 #include "Fernwick/Session/AsOrdinaryUser.hpp"
 #include "Fernwick/Session/FileContent.hpp"
 #include "Fernwick/Session/TemporaryFolder.hpp"
-#include "Session/FileDescriptor.hpp"
 #include "Session/PreferencesFile.hpp"
 
 namespace fs = std::filesystem;
