@@ -1,35 +1,125 @@
 #include "MainWindow/Board/BandGradient.hpp"
 
 #include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <limits>
 
 #include "Garden/Palette.hpp"
-#include "MainWindow/Board/Pixels.hpp"
 
 namespace {
 
 constexpr QColor tailColour = Garden::srgb(0.23, 0.58, 0.40);
+constexpr int fractionBits = 16;
+constexpr double one = 1 << fractionBits;
+
+std::array<int, 3> channels(const QColor& colour) {
+    return {colour.red(), colour.green(), colour.blue()};
+}
+
+quint32 solid(const std::array<int, 3>& colour) {
+    return qRgb(colour[0], colour[1], colour[2]);
+}
+
+// Where the run of bytes equal to `value` that begins at `begin` ends.
+int runEnd(const std::uint8_t* bytes, std::uint8_t value, int begin, int end) {
+    constexpr int step = 8;
+    const std::uint64_t pattern = value * 0x0101010101010101U;
+    std::uint64_t word = 0;
+    while (begin + step <= end) {
+        std::memcpy(&word, bytes + begin, step);
+        if (word != pattern) {
+            break;
+        }
+        begin += step;
+    }
+    while (begin < end && bytes[begin] == value) {
+        ++begin;
+    }
+    return begin;
+}
 
 }  // namespace
 
 BandGradient::BandGradient(const QPointF& tail, const QPointF& head) : tail_(tail) {
     const QPointF way = head - tail;
     slope_ = way / QPointF::dotProduct(way, way);
+    const std::array<int, 3> from = channels(tailColour);
+    const std::array<int, 3> to = channels(Garden::mint);
+    const double first = QPointF::dotProduct(QPointF(0.5, 0.5) - tail, slope_);
+    for (std::size_t i = 0; i < from.size(); ++i) {
+        const double growth = (to[i] - from[i]) * one;
+        origin_[i] = static_cast<std::int32_t>(std::lround(from[i] * one + growth * first));
+        right_[i] = static_cast<std::int32_t>(std::lround(growth * slope_.x()));
+        down_[i] = static_cast<std::int32_t>(std::lround(growth * slope_.y()));
+    }
 }
 
 void BandGradient::paintRow(quint32* row, const quint32* ground, const std::uint8_t* mask,
                             int count, int x, int y) const {
-    const Rgb tail = Rgb::of(tailColour);
-    const Rgb head = Rgb::of(Garden::mint);
-    const QPointF first = QPointF(x + 0.5, y + 0.5) - tail_;
-    const auto start = static_cast<float>(QPointF::dotProduct(first, slope_));
-    const auto step = static_cast<float>(slope_.x());
-    const auto colour = [=](int i) {
-        const float t = std::clamp(start + step * static_cast<float>(i), 0.0F, 1.0F);
-        return Rgb{tail.red + (head.red - tail.red) * t, tail.green + (head.green - tail.green) * t,
-                   tail.blue + (head.blue - tail.blue) * t};
+    constexpr std::uint8_t none = 0;
+    constexpr std::uint8_t whole = 255;
+    const Row gradient = across(y);
+    for (int begin = 0, end = 0; begin < count; begin = end) {
+        const std::uint8_t covered = mask[begin];
+        end = runEnd(mask, covered, begin, count);
+        if (covered == none) {
+            std::copy(ground + begin, ground + end, row + begin);
+            continue;
+        }
+        fill(row + begin, end - begin, x + begin, y, gradient);
+        if (covered != whole) {
+            Pixels::blendRow(row + begin, ground + begin, end - begin, Pixels::phase(x + begin, y),
+                             static_cast<float>(covered) / whole);
+        }
+    }
+}
+
+BandGradient::Row BandGradient::across(int y) const {
+    constexpr int far = std::numeric_limits<int>::max() / 2;
+    const quint32 tail = solid(channels(tailColour));
+    const quint32 head = solid(channels(Garden::mint));
+    // How far the row's left end is on the way from tail to head.
+    const double start = QPointF::dotProduct(QPointF(0.5, y + 0.5) - tail_, slope_);
+    if (slope_.x() == 0) {
+        const bool between = start >= 0 && start <= 1;
+        return {between ? -far : far, far, start < 0 ? tail : head, head};
+    }
+    const auto pixelWhere = [&](double part) {
+        return static_cast<int>(
+            std::ceil(std::clamp((part - start) / slope_.x(), -double{far}, double{far})));
     };
-    const auto coverage = [=](int i) {
-        return static_cast<float>(static_cast<int>(mask[i])) * (1.0F / 255);
+    return slope_.x() > 0 ? Row{pixelWhere(0), pixelWhere(1), tail, head}
+                          : Row{pixelWhere(1), pixelWhere(0), head, tail};
+}
+
+void BandGradient::fill(quint32* pixels, int count, int x, int y, const Row& row) const {
+    const int begin = std::clamp(row.begin - x, 0, count);
+    const int end = std::clamp(row.end - x, begin, count);
+    std::fill_n(pixels, begin, row.before);
+    fillSlope(pixels + begin, end - begin, x + begin, y);
+    std::fill_n(pixels + end, count - end, row.after);
+}
+
+void BandGradient::fillSlope(quint32* pixels, int count, int x, int y) const {
+    const auto first = [&](std::size_t i) {
+        return static_cast<quint32>(origin_[i] + x * right_[i] + y * down_[i]);
     };
-    Pixels::mixRowOver(row, ground, count, Pixels::phase(x, y), colour, coverage);
+    const auto step = [&](std::size_t i) { return static_cast<quint32>(right_[i]); };
+    const quint32 red = first(0);
+    const quint32 green = first(1);
+    const quint32 blue = first(2);
+    const quint32 redStep = step(0);
+    const quint32 greenStep = step(1);
+    const quint32 blueStep = step(2);
+    const quint32 start = Pixels::phase(x, y);
+    for (int i = 0; i < count; ++i) {
+        const auto at = static_cast<quint32>(i);
+        const quint32 rounding = (start + at * Pixels::patternStepX) >> fractionBits;
+        const auto channel = [&](quint32 from, quint32 growth) {
+            return (from + at * growth + rounding) >> fractionBits;
+        };
+        pixels[i] = 0xFF000000U | channel(red, redStep) << 16U | channel(green, greenStep) << 8U |
+                    channel(blue, blueStep);
+    }
 }

@@ -19,9 +19,9 @@ void BandMask::setTile(int column, int row, Links links) {
         }
         for (int x = 0; x < tile.width(); ++x) {
             const QPointF point(tile.left() + x + 0.5 - centre.x(), y + 0.5 - centre.y());
-            const double distance = BandShape::distance(links, point, grid_.cell);
-            bytes[x] =
-                static_cast<std::uint8_t>(Coverage::ofEdge(distance - halfWidth) * 255 + 0.5);
+            const double part =
+                Coverage::ofSquared(BandShape::squaredDistance(links, point), halfWidth);
+            bytes[x] = static_cast<std::uint8_t>(part * 255 + 0.5);
         }
     }
 }

@@ -1,19 +1,18 @@
 #include "MainWindow/Board/BandShape.hpp"
 
 #include <algorithm>
-#include <cmath>
 
-double BandShape::distance(Links links, const QPointF& point, double armLength) {
-    double nearest = std::hypot(point.x(), point.y());
-    const auto arm = [&](Links way, double along, double across) {
-        if ((links & way) != 0 && along > 0) {
-            const double beyond = std::max(along - armLength, 0.0);
-            nearest = std::min(nearest, std::hypot(beyond, across));
-        }
-    };
-    arm(Link::up, -point.y(), point.x());
-    arm(Link::down, point.y(), point.x());
-    arm(Link::left, -point.x(), point.y());
-    arm(Link::right, point.x(), point.y());
+double BandShape::squaredDistance(Links links, const QPointF& point) {
+    const double x = point.x();
+    const double y = point.y();
+    const auto has = [&](Links way) { return (links & way) != 0; };
+    // The arms reach the cell's edge, so that beside one only the distance across it counts.
+    double nearest = x * x + y * y;
+    if ((y < 0 && has(Link::up)) || (y > 0 && has(Link::down))) {
+        nearest = x * x;
+    }
+    if ((x < 0 && has(Link::left)) || (x > 0 && has(Link::right))) {
+        nearest = std::min(nearest, y * y);
+    }
     return nearest;
 }

@@ -10,8 +10,8 @@ namespace BandShape {
 /// Half the band's width, in cells: parallel runs keep a gap of 0.26 cells.
 inline constexpr double halfWidth = 0.37;
 
-/// How far `point` lies from the middle line of the band. `point` is counted from the cell's centre
-/// and `armLength` is the length of an arm, both in any one unit; `links` is not none.
-[[nodiscard]] double distance(Links links, const QPointF& point, double armLength);
+/// How far `point` lies from the middle line of the band, squared. `point` is counted from the
+/// cell's centre, inside the cell; `links` is not none.
+[[nodiscard]] double squaredDistance(Links links, const QPointF& point);
 
 }  // namespace BandShape

@@ -2,6 +2,8 @@
 
 #include <QPointF>
 #include <QRect>
+#include <algorithm>
+#include <cmath>
 
 /// How much of a pixel a small shape covers, from 0 to 1.
 namespace Coverage {
@@ -12,11 +14,16 @@ namespace Coverage {
 /// Of the pixel whose top left corner is (x, y), by a disc; exact to about a thousandth.
 [[nodiscard]] double ofDisc(const QPointF& centre, double radius, int x, int y);
 
-/// Of a pixel whose centre lies `distance` outside (below zero: inside) of an edge that is straight
-/// or nearly so.
-[[nodiscard]] constexpr double ofEdge(double distance) {
-    const double inside = 0.5 - distance;
-    return inside <= 0 ? 0 : inside >= 1 ? 1 : inside;
+/// Of a pixel by all that lies within `halfWidth` of a line or point; `squared` is the squared
+/// distance of the pixel's centre from it. Exact for a straight line along the pixels.
+[[nodiscard]] inline double ofSquared(double squared, double halfWidth) {
+    const double inner = halfWidth - 0.5;
+    const double outer = halfWidth + 0.5;
+    // Few pixels lie on an edge, and only they need the root.
+    if (squared >= outer * outer) {
+        return 0;
+    }
+    return inner > 0 && squared <= inner * inner ? 1 : std::min(outer - std::sqrt(squared), 1.0);
 }
 
 }  // namespace Coverage

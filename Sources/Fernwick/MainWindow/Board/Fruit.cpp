@@ -28,14 +28,14 @@ constexpr QPointF pixelCentre(int x, int y) {
     return {x + 0.5, y + 0.5};
 }
 
-double length(const QPointF& vector) {
-    return std::hypot(vector.x(), vector.y());
+double squaredLength(const QPointF& vector) {
+    return QPointF::dotProduct(vector, vector);
 }
 
-double distanceToSegment(const QPointF& point, const QPointF& begin, const QPointF& end) {
+double squaredDistance(const QPointF& point, const QPointF& begin, const QPointF& end) {
     const QPointF way = end - begin;
-    const double along = QPointF::dotProduct(point - begin, way) / QPointF::dotProduct(way, way);
-    return length(point - begin - std::clamp(along, 0.0, 1.0) * way);
+    const double along = QPointF::dotProduct(point - begin, way) / squaredLength(way);
+    return squaredLength(point - begin - std::clamp(along, 0.0, 1.0) * way);
 }
 
 StemLine stemLine(const QPointF& centre, double cell) {
@@ -49,17 +49,18 @@ StemLine stemLine(const QPointF& centre, double cell) {
     return line;
 }
 
-double distanceToLine(const QPointF& point, const StemLine& line) {
+double squaredDistance(const QPointF& point, const StemLine& line) {
     double nearest = std::numeric_limits<double>::max();
     for (std::size_t i = 1; i < line.size(); ++i) {
-        nearest = std::min(nearest, distanceToSegment(point, line[i - 1], line[i]));
+        nearest = std::min(nearest, squaredDistance(point, line[i - 1], line[i]));
     }
     return nearest;
 }
 
 CoverageLayer makeGlow(const PixelGrid& grid, const QPointF& centre) {
     return {Coverage::discBounds(centre, FruitGlow::radius * grid.cell), [&](int x, int y) {
-                return FruitGlow::strength(length(pixelCentre(x, y) - centre) / grid.cell) *
+                return FruitGlow::strength(std::sqrt(squaredLength(pixelCentre(x, y) - centre)) /
+                                           grid.cell) *
                        glowOpacity;
             }};
 }
@@ -67,7 +68,7 @@ CoverageLayer makeGlow(const PixelGrid& grid, const QPointF& centre) {
 CoverageLayer makeBall(const PixelGrid& grid, const QPointF& centre) {
     const double radius = FruitGlow::ballRadius * grid.cell;
     return {Coverage::discBounds(centre, radius), [&](int x, int y) {
-                return Coverage::ofEdge(length(pixelCentre(x, y) - centre) - radius);
+                return Coverage::ofSquared(squaredLength(pixelCentre(x, y) - centre), radius);
             }};
 }
 
@@ -79,7 +80,7 @@ CoverageLayer makeStem(const PixelGrid& grid, const QPointF& centre) {
     const QRectF hull(centre + QPointF(stemFoot.x(), stemBend.y()) * grid.cell - around,
                       centre + QPointF(stemTip.x(), stemFoot.y()) * grid.cell + around);
     return {hull.toAlignedRect(), [&](int x, int y) {
-                return Coverage::ofEdge(distanceToLine(pixelCentre(x, y), line) - halfWidth);
+                return Coverage::ofSquared(squaredDistance(pixelCentre(x, y), line), halfWidth);
             }};
 }
 

@@ -33,12 +33,13 @@ Kernel gaussian() {
 // The share of one sample's square that the band covers.
 double covered(Links links, int column, int row) {
     constexpr int fine = 8;
+    constexpr double edge = BandShape::halfWidth * BandShape::halfWidth;
     int inside = 0;
     for (int y = 0; y < fine; ++y) {
         for (int x = 0; x < fine; ++x) {
             const QPointF point(column + (x + 0.5) / fine, row + (y + 0.5) / fine);
             const QPointF fromCentre = point / samplesPerCell - QPointF(0.5, 0.5);
-            inside += BandShape::distance(links, fromCentre, 1) <= BandShape::halfWidth ? 1 : 0;
+            inside += BandShape::squaredDistance(links, fromCentre) <= edge ? 1 : 0;
         }
     }
     return static_cast<double>(inside) / (fine * fine);

@@ -84,9 +84,9 @@ QImage enlarge(const Planes& planes, const QSize& size, int step) {
 }  // namespace
 
 QImage idlePicture(const QImage& picture, double sigma) {
-    // Half a sigma a sample is fine enough. Shrinking by means and enlarging by straight lines blur
-    // a little themselves: by a twelfth and by a sixth of a sample, as variances.
-    const int step = std::max(static_cast<int>(sigma / 2), 1);
+    // Three samples to two sigmas are fine enough. Shrinking by means and enlarging by straight
+    // lines blur a little themselves: by a twelfth and by a sixth of a sample, as variances.
+    const int step = std::max(static_cast<int>(sigma / 1.5), 1);
     const double samples = sigma / step;
     Planes planes = shrink(picture, step);
     for (FloatPlane& plane : planes) {
