@@ -1,0 +1,101 @@
+#include <benchmark/benchmark.h>
+
+#include <QPainter>
+#include <algorithm>
+
+#include "Board/Screens.hpp"
+#include "Fernwick/MainWindow/Board/Games.hpp"
+#include "Fernwick/MainWindow/Board/ReferencePainter.hpp"
+#include "MainWindow/Board/BoardPicture.hpp"
+#include "MainWindow/Board/IdlePicture.hpp"
+
+namespace {
+
+using SnakeCore::Game;
+
+double scaleOf(const benchmark::State& state) {
+    return static_cast<double>(state.range(0));
+}
+
+// A run and the same one step later.
+std::pair<Game, Game> neighbours(std::size_t length) {
+    Game game = length > 4 ? Games::ofLength(length) : Game(28, 22);
+    Game next = game;
+    do {
+        game = next;
+        next.turn(Games::onTour(next));
+        next.step();
+    } while (next.score() != game.score());
+    return {game, next};
+}
+
+void present(QImage& screen, const BoardPicture& picture, const QRegion& region) {
+    QPainter painter(&screen);
+    for (const QRect& part : region) {
+        painter.drawImage(part.topLeft(), picture.image(), part);
+    }
+}
+
+// A tick: the picture brought up to date and what changed of it put on the screen.
+void frame(benchmark::State& state) {
+    const auto [before, after] = neighbours(static_cast<std::size_t>(state.range(1)));
+    BoardPicture picture(Screens::grid(scaleOf(state)));
+    picture.show(before);
+    QImage screen = picture.image().copy();
+    bool forward = false;
+    for (auto _ : state) {
+        forward = !forward;
+        present(screen, picture, picture.show(forward ? after : before));
+    }
+}
+
+void copyingTheFrame(benchmark::State& state) {
+    BoardPicture picture(Screens::grid(scaleOf(state)));
+    picture.show(Game(28, 22));
+    QImage screen = picture.image().copy();
+    for (auto _ : state) {
+        present(screen, picture, picture.image().rect());
+    }
+}
+
+void straightforwardFrame(benchmark::State& state) {
+    const auto [before, after] = neighbours(static_cast<std::size_t>(state.range(1)));
+    const PixelGrid grid = Screens::grid(scaleOf(state));
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(ReferencePainter::paint(after, grid));
+    }
+}
+
+void pauseBlur(benchmark::State& state) {
+    const double scale = scaleOf(state);
+    BoardPicture picture(Screens::grid(scale));
+    picture.show(Games::ofLength(60));
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(idlePicture(picture.image(), 5 * scale));
+    }
+}
+
+// What the first paint after a change of the window's size costs.
+void firstFrame(benchmark::State& state) {
+    const Game game = Games::ofLength(static_cast<std::size_t>(state.range(1)));
+    for (auto _ : state) {
+        BoardPicture picture(Screens::grid(scaleOf(state)));
+        benchmark::DoNotOptimize(picture.show(game));
+    }
+}
+
+void screensAndLengths(benchmark::internal::Benchmark* one) {
+    one->ArgNames({"scale", "cells"})->ArgsProduct({{1, 2}, {4, 60, 400, 616}});
+}
+
+void screens(benchmark::internal::Benchmark* one) {
+    one->ArgName("scale")->Arg(1)->Arg(2);
+}
+
+BENCHMARK(copyingTheFrame)->Apply(screens)->Unit(benchmark::kMicrosecond);
+BENCHMARK(frame)->Apply(screensAndLengths)->Unit(benchmark::kMicrosecond);
+BENCHMARK(straightforwardFrame)->Apply(screensAndLengths)->Unit(benchmark::kMicrosecond);
+BENCHMARK(pauseBlur)->Apply(screens)->Unit(benchmark::kMicrosecond);
+BENCHMARK(firstFrame)->Apply(screensAndLengths)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
