@@ -1,0 +1,106 @@
+"""The screen as assistive programs read it, from the accessibility bus."""
+
+from gi.repository import Gio, GLib
+
+ACCESSIBLE = "org.a11y.atspi.Accessible"
+COMPONENT = "org.a11y.atspi.Component"
+TEXT = "org.a11y.atspi.Text"
+PROPERTIES = "org.freedesktop.DBus.Properties"
+REGISTRY = "org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root"
+ON_SCREEN = 0
+ANSWER_WITHIN_MS = 10_000
+
+# Numbers of states, as the bus counts them.
+CHECKED = 4
+FOCUSED = 12
+SENSITIVE = 24
+SHOWING = 25
+
+
+def connect(address):
+    """A connection to the message bus at an address."""
+    flags = (Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT
+             | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION)
+    return Gio.DBusConnection.new_for_address_sync(address, flags, None, None)
+
+
+def call(bus, place, interface, method, signature="()", *arguments):
+    """The answer of an object on the bus, as a list of plain values."""
+    owner, path = place
+    answer = bus.call_sync(owner, path, interface, method, GLib.Variant(signature, arguments),
+                           None, Gio.DBusCallFlags.NONE, ANSWER_WITHIN_MS, None)
+    return answer.unpack()
+
+
+def accessibility_bus(session_bus_address):
+    """A connection to the accessibility bus, which a session bus knows; it starts if need be."""
+    session = connect(session_bus_address)
+    address, = call(session, ("org.a11y.Bus", "/org/a11y/bus"), "org.a11y.Bus", "GetAddress")
+    return connect(address)
+
+
+def application(bus, process):
+    """The top of a process's tree, or None while the bus does not know it."""
+    for child in Element(bus, REGISTRY).children():
+        owner, = call(bus, ("org.freedesktop.DBus", "/"), "org.freedesktop.DBus",
+                      "GetConnectionUnixProcessID", "(s)", child.place[0])
+        if owner == process:
+            return child
+    return None
+
+
+class Element:
+    """One control, text or picture of a program; asks the program each time."""
+
+    def __init__(self, bus, place):
+        self._bus = bus
+        self.place = place
+
+    def children(self):
+        return [Element(self._bus, place) for place in self._ask(ACCESSIBLE, "GetChildren")[0]]
+
+    def everything(self):
+        """This element and all below it, from front to end."""
+        yield self
+        for child in self.children():
+            yield from child.everything()
+
+    def everything_showing(self):
+        """The same without what is hidden."""
+        if self.is_showing():
+            yield self
+            for child in self.children():
+                yield from child.everything_showing()
+
+    @property
+    def name(self):
+        return self._ask(PROPERTIES, "Get", "(ss)", ACCESSIBLE, "Name")[0]
+
+    @property
+    def text(self):
+        """What is written in a field."""
+        return self._ask(TEXT, "GetText", "(ii)", 0, -1)[0]
+
+    def can_be_used(self):
+        """Whether it is not greyed."""
+        return self._has(SENSITIVE)
+
+    def is_checked(self):
+        return self._has(CHECKED)
+
+    def is_focused(self):
+        return self._has(FOCUSED)
+
+    def is_showing(self):
+        return self._has(SHOWING)
+
+    def place_on_screen(self):
+        """Left, top, width and height in pixels."""
+        return self._ask(COMPONENT, "GetExtents", "(u)", ON_SCREEN)[0]
+
+    def _has(self, state):
+        words = self._ask(ACCESSIBLE, "GetState")[0]
+        return bool(words[state // 32] >> state % 32 & 1)
+
+    def _ask(self, interface, method, signature="()", *arguments):
+        return call(self._bus, self.place, interface, method, signature, *arguments)

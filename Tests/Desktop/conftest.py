@@ -1,0 +1,54 @@
+import pathlib
+import tempfile
+
+import pytest
+from accessibility import accessibility_bus
+from desktop import Desktop
+from game import Game
+from home import Home
+from screen import Screen
+
+# Below everything that answers to the pointer.
+POINTER_AT_REST = str(Screen.WIDTH // 2), str(Screen.HEIGHT - 2)
+
+
+@pytest.fixture(scope="session")
+def desktop():
+    # A short path: sockets live in it.
+    desktop = Desktop(pathlib.Path(tempfile.mkdtemp(prefix="fernwick-")))
+    try:
+        desktop.start()
+        desktop.accessibility = accessibility_bus(
+            desktop.environment["DBUS_SESSION_BUS_ADDRESS"])
+        yield desktop
+    finally:
+        desktop.stop()
+
+
+@pytest.fixture
+def home(tmp_path):
+    return Home(tmp_path)
+
+
+@pytest.fixture
+def launch(desktop, home, tmp_path):
+    """Starts the program and waits until it can be played; it may never print anything."""
+    games = []
+
+    def launch(**environment):
+        desktop.run("xdotool", "mousemove", *POINTER_AT_REST)
+        game = Game(desktop, tmp_path, desktop.environment | home.environment
+                    | {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"} | environment)
+        games.append(game)
+        game.wait_until_shown()
+        return game
+
+    yield launch
+    for game in games:
+        game.kill()
+        assert game.printed() == ""
+
+
+@pytest.fixture
+def game(launch):
+    return launch()

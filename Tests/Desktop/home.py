@@ -1,0 +1,27 @@
+"""A player's home folder, with the settings that the game keeps in it."""
+
+import json
+
+import cbor2
+
+
+class Home:
+    def __init__(self, folder):
+        self._settings = folder / ".config"
+        self.environment = {
+            "HOME": str(folder),
+            "XDG_CONFIG_HOME": str(self._settings),
+            "XDG_CACHE_HOME": str(folder / ".cache"),
+            "XDG_DATA_HOME": str(folder / ".local/share"),
+        }
+
+    def preferences(self):
+        """All stored settings by their keys; none when there is no file."""
+        try:
+            return cbor2.loads((self._settings / "fernwick/preferences.cbor").read_bytes())
+        except FileNotFoundError:
+            return {}
+
+    def high_scores(self):
+        """The stored table, oldest entry first."""
+        return json.loads(self.preferences().get("high-scores-v1", b"[]"))

@@ -1,0 +1,111 @@
+"""A finished run is kept under a name and found again."""
+
+from game import FRESH, MOVING, OVER, PAUSED
+from waiting import eventually
+
+
+def end_run(game):
+    """Plays straight over the first fruit into the wall."""
+    game.start_run()
+    game.wait_for("Game over.", "10 POINTS  ·  Classic")
+
+
+def end_run_and_save(game, name):
+    end_run(game)
+    game.type(name)
+    game.press("Return")
+    game.wait_for("Score saved · Top 10")
+
+
+def test_a_name_and_return_store_the_table_the_name_and_the_best(game, home):
+    end_run_and_save(game, "  Pip   of the Garden ")
+    preferences = home.preferences()
+    assert preferences["player-name"] == "Pip of the Garden"
+    assert preferences["best-Classic"] == 10
+    assert isinstance(preferences["high-scores-v1"], bytes)
+    entry, = home.high_scores()
+    assert list(entry) == ["id", "name", "score", "pace", "date"]
+    assert (entry["name"], entry["score"], entry["pace"]) == ("Pip of the Garden", 10, "Classic")
+
+
+def test_the_saved_row_is_shown_at_once(game):
+    end_run_and_save(game, "Pip")
+    game.wait_for("01 Pip 10", "Play again", "SPACE TO PLAY AGAIN")
+
+
+def test_the_program_started_again_knows_best_name_and_row(launch):
+    first = launch()
+    end_run_and_save(first, "Pip")
+    first.quit()
+
+    second = launch()
+    second.wait_for(FRESH, "PERSONAL BEST: 10")
+    second.press("ctrl+l")
+    second.wait_for("The high scores.", "01 Pip 10")
+    second.press("Escape")
+    end_run(second)
+    assert second.find("Player name").text == "Pip"
+
+
+def test_the_best_is_stored_while_the_run_goes_on(game, home):
+    game.start_run()
+    eventually(lambda: home.preferences().get("best-Classic") == 10, "the best is on disk")
+    assert not game.shows("Game over.")
+
+
+def test_space_and_letters_go_into_the_name(game):
+    end_run(game)
+    game.type("w a s d r")
+    eventually(lambda: game.find("Player name").text == "w a s d r", "the name is typed")
+    assert game.shows("Game over.", "Leave your name in the garden.")
+
+
+def test_a_name_of_blanks_is_not_saved(game, home):
+    end_run(game)
+    game.type("   ")
+    game.press("Return")
+    game.type("x")
+    eventually(lambda: game.find("Player name").text == "   x", "the name is typed")
+    assert game.shows("Leave your name in the garden.")
+    assert home.high_scores() == []
+
+
+def test_a_name_ends_at_24_characters(game):
+    end_run(game)
+    game.type("abcdefghijklmnopqrstuvwxyz")
+    game.press("Return")
+    game.wait_for("01 abcdefghijklmnopqrstuvwx 10")
+
+
+def test_skipping_keeps_nothing_and_space_plays_again(game, home):
+    end_run(game)
+    game.click(game.find("Skip saving"))
+    game.wait_for("Top 10", "A fresh start. Be the first on the board.")
+    assert home.high_scores() == []
+    game.press("space")
+    game.wait_for(MOVING)
+
+
+def test_new_game_is_greyed_and_without_effect_while_a_name_is_awaited(game):
+    new_game = game.find("New Game")
+    assert new_game.can_be_used()
+    end_run(game)
+    eventually(lambda: not new_game.can_be_used(), "New Game is greyed")
+    game.press("ctrl+n")
+    # Keys are taken in order: once this one is seen, the one before has had its say.
+    game.type("x")
+    eventually(lambda: game.find("Player name").text == "x", "the name is typed")
+    assert game.shows(OVER, "Leave your name in the garden.")
+    game.press("Return")
+    eventually(new_game.can_be_used, "New Game is back")
+    game.press("ctrl+n")
+    game.wait_for(MOVING)
+
+
+def test_new_game_starts_a_run_and_pause_stops_it(game):
+    game.press("ctrl+n")
+    game.wait_for(MOVING)
+    game.press("ctrl+p")
+    game.wait_for(PAUSED)
+    game.press("ctrl+p")
+    game.wait_for(MOVING)
