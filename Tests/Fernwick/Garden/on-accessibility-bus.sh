@@ -5,9 +5,13 @@ set -eu
 
 if [ -z "${ON_ACCESSIBILITY_BUS:-}" ]; then
     XDG_RUNTIME_DIR=$(mktemp -d)
-    trap 'rm -rf "$XDG_RUNTIME_DIR"' EXIT
-    export XDG_RUNTIME_DIR ON_ACCESSIBILITY_BUS=1
-    xvfb-run -a dbus-run-session -- "$0" "$@"
+    mkfifo "$XDG_RUNTIME_DIR/display"
+    Xvfb -displayfd 3 -nolisten tcp 3<>"$XDG_RUNTIME_DIR/display" 2>/dev/null &
+    screen=$!
+    trap 'kill "$screen"; rm -rf "$XDG_RUNTIME_DIR"' EXIT
+    read -r number <"$XDG_RUNTIME_DIR/display"
+    export XDG_RUNTIME_DIR ON_ACCESSIBILITY_BUS=1 DISPLAY=":$number"
+    dbus-run-session -- "$0" "$@"
     exit
 fi
 
