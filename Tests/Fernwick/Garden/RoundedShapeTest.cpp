@@ -73,7 +73,16 @@ TEST(RoundedShape, endsACapsuleRoundly) {
     const double circle = plate.height() / 2 * (1 - std::sqrt(0.5));
 
     EXPECT_NEAR(diagonalGap(Garden::continuousCapsule(plate)), circle, 0.05);
-    EXPECT_NEAR(diagonalGap(Garden::continuousCapsule(QRectF(0, 0, 100, 100))), circle, 0.05);
+}
+
+TEST(RoundedShape, makesACircleOfASquare) {
+    const QPainterPath shape = Garden::continuousCapsule(QRectF(-50, -50, 100, 100));
+
+    for (double angle = 0; angle < 6.28; angle += 0.1) {
+        const QPointF outwards(std::cos(angle), std::sin(angle));
+        EXPECT_TRUE(shape.contains(49.9 * outwards)) << angle;
+        EXPECT_FALSE(shape.contains(50.1 * outwards)) << angle;
+    }
 }
 
 TEST(RoundedShape, standsUprightAsItLies) {
