@@ -17,10 +17,8 @@ public:
 
     [[nodiscard]] bool asksForStillness() const { return still_.any(); }
 
-private Q_SLOTS:
-    void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
-
 private:
+    Q_SLOT void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
     void ask(std::size_t setting);
 
     static constexpr std::size_t settingCount = 3;

@@ -9,7 +9,8 @@ namespace Garden {
 [[nodiscard]] constexpr QColor srgb(double red, double green, double blue, double opacity = 1) {
     constexpr auto component = [](double fraction) {
         constexpr double full = 0xffff;
-        return static_cast<ushort>(fraction * full + 0.5);
+        constexpr double half = 0.5;
+        return static_cast<ushort>(fraction * full + half);
     };
     return QColor(QColor::Rgb, component(opacity), component(red), component(green),
                   component(blue));
