@@ -4,6 +4,7 @@
 
 #include "Garden/Fonts.hpp"
 #include "Garden/Palette.hpp"
+#include "Garden/StyleSheet.hpp"
 
 namespace {
 
@@ -12,17 +13,10 @@ constexpr double hoverOpacity = 0.16;
 constexpr double edgeOpacity = 0.16;
 constexpr double disabledOpacity = 0.45;
 
-QString css(const QColor& colour) {
-    return QStringLiteral("rgba(%1,%2,%3,%4)")
-        .arg(colour.red())
-        .arg(colour.green())
-        .arg(colour.blue())
-        .arg(colour.alphaF());
-}
-
 }  // namespace
 
 void styleMenuBar(QMenuBar& bar) {
+    using Garden::css;
     bar.setFont(Garden::sans(fontSize, QFont::Normal));
     bar.setStyleSheet(
         QStringLiteral(

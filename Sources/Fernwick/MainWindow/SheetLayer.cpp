@@ -17,6 +17,7 @@ constexpr double scrimOpacity = 0.48;
 SheetLayer::SheetLayer(Session& session, QWidget* parent)
     : QWidget(parent), session_(session), observer_(session, [this] { refresh(); }) {
     hide();
+    refresh();
 }
 
 void SheetLayer::refresh() {

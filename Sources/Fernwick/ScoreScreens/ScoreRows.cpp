@@ -5,6 +5,7 @@
 
 #include "Garden/Fonts.hpp"
 #include "Garden/Palette.hpp"
+#include "Garden/StyleSheet.hpp"
 #include "Garden/TrackedLabel.hpp"
 #include "ScoreScreens/ScoreRow.hpp"
 
@@ -13,6 +14,24 @@ namespace {
 constexpr double emptyTextSize = 13;
 constexpr int emptyTextPadding = 28;
 constexpr int rowSpacing = 4;
+constexpr int scrollBarWidth = 10;
+constexpr int scrollHandleWidth = 4;
+constexpr int shortestScrollHandle = 24;
+constexpr double scrollHandleOpacity = 0.4;
+
+QString scrollBarStyle() {
+    return QStringLiteral(
+               "QScrollBar:vertical { background: transparent; width: %1px; border: none; }"
+               "QScrollBar::handle:vertical { background: %2; border-radius: %3px;"
+               " margin-left: %4px; min-height: %5px; }"
+               "QScrollBar::add-line, QScrollBar::sub-line { height: 0; }"
+               "QScrollBar::add-page, QScrollBar::sub-page { background: none; }")
+        .arg(scrollBarWidth)
+        .arg(Garden::css(Garden::withOpacity(Garden::muted, scrollHandleOpacity)))
+        .arg(scrollHandleWidth / 2)
+        .arg(scrollBarWidth - scrollHandleWidth)
+        .arg(shortestScrollHandle);
+}
 
 }  // namespace
 
@@ -31,6 +50,7 @@ ScoreRows::ScoreRows(QWidget* parent)
     scrollArea_->setWidgetResizable(true);
     scrollArea_->setFrameShape(QFrame::NoFrame);
     scrollArea_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scrollArea_->verticalScrollBar()->setStyleSheet(scrollBarStyle());
     scrollArea_->setFocusPolicy(Qt::TabFocus);
     scrollArea_->viewport()->setAutoFillBackground(false);
     list->setAutoFillBackground(false);

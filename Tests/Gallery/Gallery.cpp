@@ -1,0 +1,85 @@
+#include <QApplication>
+#include <QDir>
+#include <QPainter>
+#include <QScreen>
+#include <cmath>
+#include <cstdio>
+
+#include "Gallery/Scenes.hpp"
+#include "MainWindow/ApplicationStyle.hpp"
+#include "MainWindow/GameWindow.hpp"
+#include "Session/PreferencesFile.hpp"
+#include "Session/Session.hpp"
+#include "Session/SoundEffects.hpp"
+
+// Renders every scene at one size into a folder, with a contact sheet of all of them.
+
+namespace {
+
+constexpr int thumbnailWidth = 640;
+constexpr int sheetColumns = 3;
+
+class Silence : public SoundEffects {
+public:
+    void play(SoundEffect) override {}
+};
+
+QImage render(const Scene& scene, const QSize& size, bool fullScreen) {
+    PreferencesFile inMemory{std::filesystem::path()};
+    Silence silence;
+    Session session(inMemory, silence);
+    scene.arrange(session);
+    GameWindow window(session);
+    window.show();
+    QCoreApplication::processEvents();
+    if (!fullScreen) {
+        window.showNormal();
+    }
+    window.resize(size);
+    QCoreApplication::processEvents();
+    return window.grab().toImage();
+}
+
+void addToSheet(QPainter& sheet, const QImage& picture, int index, const QSize& thumbnail) {
+    const QPoint place(index % sheetColumns * thumbnail.width(),
+                       index / sheetColumns * thumbnail.height());
+    sheet.drawImage(QRect(place, thumbnail),
+                    picture.scaled(thumbnail, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+    if (argc != 5) {
+        std::fputs("usage: fernwick-gallery FOLDER WIDTH HEIGHT window|full-screen\n", stderr);
+        return 2;
+    }
+    const QDir folder(QString::fromLocal8Bit(argv[1]));
+    const QSize size(QByteArray(argv[2]).toInt(), QByteArray(argv[3]).toInt());
+    const bool fullScreen = QByteArray(argv[4]) == "full-screen";
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    applyGardenStyle();
+    if (!QDir().mkpath(folder.path())) {
+        std::fputs("the folder cannot be made\n", stderr);
+        return 1;
+    }
+
+    const std::vector<Scene> scenes = galleryScenes();
+    const int rows = (static_cast<int>(scenes.size()) + sheetColumns - 1) / sheetColumns;
+    const QSize thumbnail(thumbnailWidth, thumbnailWidth * size.height() / size.width());
+    QImage sheet(sheetColumns * thumbnail.width(), rows * thumbnail.height(), QImage::Format_RGB32);
+    sheet.fill(Qt::black);
+    QPainter painter(&sheet);
+    for (int index = 0; index < static_cast<int>(scenes.size()); ++index) {
+        const Scene& scene = scenes[static_cast<std::size_t>(index)];
+        const QImage picture = render(scene, size, fullScreen);
+        if (!picture.save(folder.filePath(scene.name + QStringLiteral(".png")))) {
+            std::fputs("a picture cannot be saved\n", stderr);
+            return 1;
+        }
+        addToSheet(painter, picture, index, thumbnail);
+    }
+    painter.end();
+    return sheet.save(folder.filePath(QStringLiteral("contact-sheet.png"))) ? 0 : 1;
+}
