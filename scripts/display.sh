@@ -1,41 +1,65 @@
-# A private X display with a window manager. Sourced by play.
+# The display the game plays on: the machine's own where there is one, else a private one with a
+# window manager. Sourced by play.
 
-# Whether the display that the environment names answers.
-has_display() {
-    if [ -n "${WAYLAND_DISPLAY:-}" ]; then
-        case $WAYLAND_DISPLAY in
-            /*) [ -S "$WAYLAND_DISPLAY" ] && return 0 ;;
-            *) [ -S "${XDG_RUNTIME_DIR:-/nonexistent}/$WAYLAND_DISPLAY" ] && return 0 ;;
-        esac
-    fi
-    [ -n "${DISPLAY:-}" ] || return 1
-    case $DISPLAY in
-        :*) local number=${DISPLAY#:} && [ -S "/tmp/.X11-unix/X${number%%.*}" ] ;;
-        *) return 0 ;;
+# Whether something listens at the Unix socket $1; a socket file outlives a server that was killed.
+socket_answers() {
+    perl -MSocket -e 'socket(my $s, AF_UNIX, SOCK_STREAM, 0)
+        and connect($s, sockaddr_un($ARGV[0])) or exit 1' "$1" 2>/dev/null
+}
+
+wayland_answers() {
+    case ${WAYLAND_DISPLAY:-} in
+        "") return 1 ;;
+        /*) socket_answers "$WAYLAND_DISPLAY" ;;
+        *) socket_answers "${XDG_RUNTIME_DIR:-/nonexistent}/$WAYLAND_DISPLAY" ;;
     esac
 }
 
-# Starts the display and exports DISPLAY. Its processes are in display_processes.
-start_private_display() {
-    local number_file
-    number_file=$(mktemp)
-    Xvfb -displayfd 3 -screen 0 1920x1080x24 -nolisten tcp 3>"$number_file" 2>/dev/null &
-    display_processes=$!
-    for _ in $(seq 100); do
-        [ -s "$number_file" ] && break
-        sleep 0.1
-    done
-    DISPLAY=:$(cat "$number_file")
-    rm -f "$number_file"
-    [ "$DISPLAY" != : ] || return 1
-    export DISPLAY
-    unset WAYLAND_DISPLAY
-    openbox >/dev/null 2>&1 &
-    display_processes="$display_processes $!"
+x_answers() {
+    local host number
+    [ -n "${DISPLAY:-}" ] || return 1
+    host=${DISPLAY%:*}
+    number=${DISPLAY##*:}
+    number=${number%%.*}
+    case $host in
+        "" | unix | /*) socket_answers "/tmp/.X11-unix/X$number" ;;
+        *) timeout 3 bash -c ": >/dev/tcp/$host/$((6000 + number))" 2>/dev/null ;;
+    esac
 }
 
-stop_private_display() {
-    # shellcheck disable=SC2086 # one word a process
-    [ -z "${display_processes:-}" ] || kill $display_processes 2>/dev/null
-    wait
+# Whether the display that the environment names answers.
+has_display() {
+    wayland_answers || x_answers
+}
+
+# wait_for FILE: until FILE has content, for ten seconds at most.
+wait_for() {
+    for _ in $(seq 100); do
+        [ ! -s "$1" ] || return 0
+        sleep 0.1
+    done
+    return 1
+}
+
+# Starts the display and exports DISPLAY. Its processes are in display_processes, what they say in
+# the folder $1.
+start_private_display() {
+    local folder=$1
+    start Xvfb -displayfd 3 -screen 0 1920x1080x24 -nolisten tcp \
+        3>"$folder/number" >"$folder/display.log" 2>&1
+    display_processes=$!
+    wait_for "$folder/number" || return 1
+    DISPLAY=:$(cat "$folder/number")
+    export DISPLAY
+    unset WAYLAND_DISPLAY XAUTHORITY
+    # Without a bus of the user's own, one would be launched on the side and outlive the game.
+    export DBUS_SESSION_BUS_ADDRESS=${DBUS_SESSION_BUS_ADDRESS:-disabled:}
+    if [ -z "${XDG_RUNTIME_DIR:-}" ]; then
+        mkdir -m 700 "$folder/run"
+        export XDG_RUNTIME_DIR=$folder/run
+    fi
+    # A window that asks for full screen before the manager is up would not get it.
+    start openbox --startup "sh -c 'echo yes >$folder/managed'" >"$folder/manager.log" 2>&1
+    display_processes="$! $display_processes"
+    wait_for "$folder/managed"
 }
