@@ -3,8 +3,8 @@
 
 # Whether something listens at the Unix socket $1; a socket file outlives a server that was killed.
 socket_answers() {
-    perl -MSocket -e 'socket(my $s, AF_UNIX, SOCK_STREAM, 0)
-        and connect($s, sockaddr_un($ARGV[0])) or exit 1' "$1" 2>/dev/null
+    perl -MSocket -e 'socket(my $s, AF_UNIX, SOCK_STREAM, 0) or exit 1;
+        connect($s, sockaddr_un($ARGV[0])) or exit 1' "$1" 2>/dev/null
 }
 
 wayland_answers() {

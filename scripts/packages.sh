@@ -98,8 +98,8 @@ install_missing() {
     echo "Installing Debian packages that are missing:"
     echo "$missing" | sed 's/^/  /'
     names=$(echo "$missing" | cut -d ' ' -f 1)
+    # shellcheck disable=SC2086 # one word a package
     as_root apt-get update -qq &&
-        # shellcheck disable=SC2086 # one word a package
         as_root env DEBIAN_FRONTEND=noninteractive apt-get install -qq -y \
             --no-install-recommends $names >/dev/null
 }
