@@ -1,9 +1,11 @@
 #include "MainWindow/Board/BoardPicture.hpp"
 
 #include <algorithm>
+#include <cmath>
 
 #include "Garden/Palette.hpp"
 #include "MainWindow/Board/BandGradient.hpp"
+#include "MainWindow/Board/BandShape.hpp"
 #include "MainWindow/Board/Eyes.hpp"
 
 /// The tiles to paint anew: `band` where only the colours of the band move on, `ground` where also
@@ -27,21 +29,23 @@ QRegion BoardPicture::show(const SnakeCore::Game& game) {
     for (const QRect& cells : changes.ground.runs()) {
         paintGround(cells);
     }
-    const auto bandBegins = [&](int column, int row) {
-        return hasBand(column, row) != hasBand(column + 1, row);
+    const auto differ = [&](int column, int row) {
+        return hasBand(column, row) != hasBand(column + 1, row) ||
+               changes.ground.contains(column, row) != changes.ground.contains(column + 1, row);
     };
-    for (const QRect& cells : changes.band.runs(bandBegins)) {
-        paintBand(cells, game);
+    QRegion region;
+    for (const QRect& cells : changes.band.runs(differ)) {
+        // Beside a band that only changes its colours nothing is new.
+        const bool ground = changes.ground.contains(cells.left(), cells.top());
+        const QRect area = ground ? grid_.tiles(cells) : bandArea(cells);
+        paintBand(area, hasBand(cells.left(), cells.top()), game);
+        region += area;
     }
     const SnakeCore::Cell head = game.snake().front();
     if (changes.band.contains(static_cast<int>(head.x), static_cast<int>(head.y))) {
         paintEyes(image_, grid_, game);
     }
     shown_ = game;
-    QRegion region;
-    for (const QRect& cells : changes.band.runs()) {
-        region += grid_.tiles(cells);
-    }
     return region;
 }
 
@@ -94,9 +98,7 @@ void BoardPicture::paintGround(const QRect& cells) {
     glow_.paint(ground_, area);
 }
 
-void BoardPicture::paintBand(const QRect& cells, const SnakeCore::Game& game) {
-    const QRect area = grid_.tiles(cells);
-    const bool band = hasBand(cells.left(), cells.top());
+void BoardPicture::paintBand(const QRect& area, bool band, const SnakeCore::Game& game) {
     const BandGradient gradient(grid_.centre(game.snake().back()),
                                 grid_.centre(game.snake().front()));
     for (int y = area.top(); y <= area.bottom(); ++y) {
@@ -112,6 +114,29 @@ void BoardPicture::paintBand(const QRect& cells, const SnakeCore::Game& game) {
     }
 }
 
+QRect BoardPicture::bandArea(const QRect& cells) const {
+    Links links = Link::none;
+    for (int column = cells.left(); column <= cells.right(); ++column) {
+        links = static_cast<Links>(links | linksOf(column, cells.top()));
+    }
+    QRect area = grid_.tiles(cells);
+    const QPointF centre = grid_.centre({cells.left(), cells.top()});
+    const double halfWidth = BandShape::halfWidth * grid_.cell + 0.5;
+    if ((links & (Link::up | Link::down)) == Link::none) {
+        area.setTop(std::max(area.top(), static_cast<int>(std::floor(centre.y() - halfWidth))));
+        area.setBottom(
+            std::min(area.bottom(), static_cast<int>(std::ceil(centre.y() + halfWidth))));
+    } else if ((links & (Link::left | Link::right)) == Link::none && cells.width() == 1) {
+        area.setLeft(std::max(area.left(), static_cast<int>(std::floor(centre.x() - halfWidth))));
+        area.setRight(std::min(area.right(), static_cast<int>(std::ceil(centre.x() + halfWidth))));
+    }
+    return area;
+}
+
+Links BoardPicture::linksOf(int column, int row) const {
+    return links_[static_cast<std::size_t>(row * grid_.columns + column)];
+}
+
 bool BoardPicture::hasBand(int column, int row) const {
-    return links_[static_cast<std::size_t>(row * grid_.columns + column)] != Link::none;
+    return linksOf(column, row) != Link::none;
 }

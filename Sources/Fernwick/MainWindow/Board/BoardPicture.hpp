@@ -20,8 +20,8 @@ class BoardPicture {
 public:
     explicit BoardPicture(const PixelGrid& grid);
 
-    /// Shows `game`, whose board is the grid, and returns the pixels that changed; they are a
-    /// superset made of whole tiles.
+    /// Shows `game`, whose board is the grid, and returns the pixels that changed; they may
+    /// hold a few that did not.
     QRegion show(const SnakeCore::Game& game);
 
     [[nodiscard]] const QImage& image() const { return image_; }
@@ -32,7 +32,9 @@ private:
 
     [[nodiscard]] Changes update(const SnakeCore::Game& game);
     void paintGround(const QRect& cells);
-    void paintBand(const QRect& cells, const SnakeCore::Game& game);
+    void paintBand(const QRect& area, bool band, const SnakeCore::Game& game);
+    [[nodiscard]] QRect bandArea(const QRect& cells) const;
+    [[nodiscard]] Links linksOf(int column, int row) const;
     [[nodiscard]] bool hasBand(int column, int row) const;
 
     PixelGrid grid_;

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QScreen>
 #include <QWidget>
 
 #include "MainWindow/Board/Backdrop.hpp"
@@ -49,6 +50,11 @@ public:
     [[nodiscard]] QImage picture() {
         settle();
         return grab().toImage().convertToFormat(QImage::Format_RGB32);
+    }
+
+    /// What has reached the screen so far.
+    [[nodiscard]] QImage onScreen() {
+        return screen()->grabWindow(winId()).toImage().convertToFormat(QImage::Format_RGB32);
     }
 
     [[nodiscard]] QImage ground() { return backdrop_.image(size(), devicePixelRatioF(), frame()); }
