@@ -33,12 +33,13 @@ public:
                                          : passOver();
     }
 
-    bool number_float(number_float_t value, const string_t&) override {
-        // 120.0 and 1.2e2 are integers too.
+    bool number_float(number_float_t value, const string_t& digits) override {
+        // 120.0 and 1.2e2 are integers too; plain digits come here when they fit no integer.
         constexpr double limit = 0x1p63;
-        return member_ == Member::score
-                   ? value >= -limit && value < limit && std::trunc(value) == value &&
-                         store(score_, static_cast<std::int64_t>(value))
+        const bool plainDigits = digits.find_first_of(".eE") == string_t::npos;
+        return member_ == Member::score ? !plainDigits && value >= -limit && value < limit &&
+                                              std::trunc(value) == value &&
+                                              store(score_, static_cast<std::int64_t>(value))
                : member_ == Member::date ? store(date_, value)
                                          : passOver();
     }

@@ -23,6 +23,11 @@ void appendNumber(std::string& json, double number) {
     if (!std::isfinite(number)) {
         throw std::invalid_argument("a date that is not finite has no stored form");
     }
+    if (number == 0 && std::signbit(number)) {
+        // Without the fraction it would be read as an integer, and those have no negative zero.
+        json += "-0.0";
+        return;
+    }
     // Between these, dates are written as people write them; the shortest form alone would make
     // 7.84e+08 of 784000000.
     constexpr double smallestPlain = 1e-4;

@@ -7,26 +7,10 @@
 #include <random>
 #include <vector>
 
+#include "SnakeCore/Playing.hpp"
+
 namespace SnakeCore {
 namespace {
-
-using Cells = std::vector<Cell>;
-
-Cells cellsOf(const Game& game) {
-    return {game.snake().begin(), game.snake().end()};
-}
-
-void step(Game& game, int count) {
-    for (int i = 0; i < count; ++i) {
-        game.step();
-    }
-}
-
-void step(Game& game, int count, std::mt19937& generator) {
-    for (int i = 0; i < count; ++i) {
-        game.step(generator);
-    }
-}
 
 TEST(Game, startsOnTheSmallestBoardFromWallToWall) {
     const Game game(6, 4);
@@ -65,86 +49,6 @@ TEST(Game, stepsOneCellInItsDirection) {
     game.step();
 
     EXPECT_EQ(cellsOf(game), (Cells{{15, 11}, {14, 11}, {13, 11}, {12, 11}}));
-}
-
-TEST(Game, dropsAReversal) {
-    Game game(28, 22);
-
-    game.turn(Direction::left);
-    game.step();
-
-    EXPECT_EQ(game.direction(), Direction::right);
-    EXPECT_EQ(game.snake().front(), (Cell{15, 11}));
-}
-
-TEST(Game, keepsTwoQuickTurnsAndMakesOneAStep) {
-    Game game(28, 22);
-
-    game.turn(Direction::up);
-    game.turn(Direction::left);
-
-    EXPECT_EQ(game.direction(), Direction::right);
-    game.step();
-    EXPECT_EQ(game.direction(), Direction::up);
-    EXPECT_EQ(game.snake().front(), (Cell{14, 10}));
-    game.step();
-    EXPECT_EQ(game.direction(), Direction::left);
-    EXPECT_EQ(game.snake().front(), (Cell{13, 10}));
-}
-
-TEST(Game, dropsAThirdTurnWithinOneTickEvenIfItIsLegal) {
-    Game game(28, 22);
-
-    game.turn(Direction::up);
-    game.turn(Direction::left);
-    game.turn(Direction::down);
-    step(game, 3);
-
-    EXPECT_EQ(game.snake().front(), (Cell{12, 10}));
-}
-
-TEST(Game, takesAThirdTurnOnceAStepHasMadeRoom) {
-    Game game(28, 22);
-
-    game.turn(Direction::up);
-    game.turn(Direction::left);
-    game.step();
-    game.turn(Direction::down);
-    step(game, 2);
-
-    EXPECT_EQ(game.direction(), Direction::down);
-}
-
-TEST(Game, dropsATurnInTheDirectionOfTravel) {
-    Game game(28, 22);
-    const Game before = game;
-
-    game.turn(Direction::right);
-
-    EXPECT_EQ(game, before);
-}
-
-TEST(Game, dropsARepeatOfThePendingTurn) {
-    Game once(28, 22);
-    Game twice(28, 22);
-
-    once.turn(Direction::up);
-    twice.turn(Direction::up);
-    twice.turn(Direction::up);
-
-    EXPECT_EQ(once, twice);
-}
-
-TEST(Game, judgesATurnByTheLastPendingOneNotByTheDirectionOfTravel) {
-    Game game(28, 22);
-
-    game.turn(Direction::up);
-    game.turn(Direction::down);
-    game.turn(Direction::right);
-    step(game, 2);
-
-    EXPECT_EQ(game.direction(), Direction::right);
-    EXPECT_EQ(game.snake().front(), (Cell{15, 10}));
 }
 
 TEST(Game, endsAtTheWallWithTheSnakeAsItWas) {
@@ -203,19 +107,6 @@ TEST(Game, keepsTheDirectionOfTheStepThatEndedIt) {
 
     EXPECT_TRUE(game.ended());
     EXPECT_EQ(game.direction(), Direction::right);
-}
-
-TEST(Game, leavesTheQueueAloneOnceItHasEnded) {
-    Game game(6, 4);
-    game.turn(Direction::up);
-    step(game, 3);
-    game.turn(Direction::left);
-    const Game before = game;
-
-    game.step();
-
-    EXPECT_EQ(game, before);
-    EXPECT_EQ(game.direction(), Direction::up);
 }
 
 TEST(Game, letsTheHeadFollowItsOwnTailForEver) {
@@ -281,29 +172,6 @@ TEST(Game, isCopiedWhole) {
 
     EXPECT_NE(game, copy);
     EXPECT_EQ(copy.snake().front(), (Cell{14, 11}));
-}
-
-TEST(Game, differsFromOneWithOtherTurnsPending) {
-    Game game(28, 22);
-    const Game before = game;
-
-    game.turn(Direction::up);
-
-    EXPECT_NE(game, before);
-}
-
-TEST(Game, forgetsTheTurnsItHasMade) {
-    Game turned(28, 22);
-    Game straight(28, 22);
-    turned.turn(Direction::up);
-    turned.turn(Direction::right);
-    step(turned, 2);
-    straight.turn(Direction::up);
-    straight.step();
-    straight.turn(Direction::right);
-    straight.step();
-
-    EXPECT_EQ(turned, straight);
 }
 
 }  // namespace

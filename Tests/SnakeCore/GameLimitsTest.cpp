@@ -1,0 +1,69 @@
+#include <gtest/gtest.h>
+#include <SnakeCore/Checked.hpp>
+#include <SnakeCore/Game.hpp>
+
+#include <limits>
+
+namespace SnakeCore {
+namespace {
+
+constexpr std::int64_t largest = std::numeric_limits<std::int64_t>::max();
+constexpr std::int64_t smallest = std::numeric_limits<std::int64_t>::min();
+
+TEST(GameLimitsDeathTest, aBoardNarrowerThanSixColumnsStopsTheProgram) {
+    EXPECT_DEATH(Game(5, 4), "");
+    EXPECT_DEATH(Game(5, 22), "");
+    EXPECT_DEATH(Game(0, 22), "");
+    EXPECT_DEATH(Game(-28, 22), "");
+    EXPECT_DEATH(Game(smallest, 22), "");
+}
+
+TEST(GameLimitsDeathTest, aBoardLowerThanFourRowsStopsTheProgram) {
+    EXPECT_DEATH(Game(6, 3), "");
+    EXPECT_DEATH(Game(28, 3), "");
+    EXPECT_DEATH(Game(28, 0), "");
+    EXPECT_DEATH(Game(28, -22), "");
+    EXPECT_DEATH(Game(28, smallest), "");
+}
+
+TEST(GameLimitsDeathTest, aBoardWithMoreCellsThanANumberHoldsStopsTheProgram) {
+    EXPECT_DEATH(Game(largest, 4), "");
+    EXPECT_DEATH(Game(std::int64_t{1} << 32, std::int64_t{1} << 32), "");
+}
+
+TEST(GameLimitsDeathTest, anOverflowStopsTheProgram) {
+    EXPECT_DEATH(static_cast<void>(checkedSum(largest, 1)), "");
+    EXPECT_DEATH(static_cast<void>(checkedSum(smallest, -1)), "");
+    EXPECT_DEATH(static_cast<void>(checkedProduct(largest, 2)), "");
+    EXPECT_DEATH(static_cast<void>(checkedProduct(smallest, -1)), "");
+}
+
+TEST(GameLimits, theSmallestBoardIsPlayable) {
+    Game game(6, 4);
+
+    game.step();
+
+    EXPECT_FALSE(game.ended());
+}
+
+TEST(GameLimits, sumsAndProductsUpToTheLimitsAreExact) {
+    EXPECT_EQ(checkedSum(largest - 1, 1), largest);
+    EXPECT_EQ(checkedSum(smallest + 1, -1), smallest);
+    EXPECT_EQ(checkedProduct(largest, -1), -largest);
+    EXPECT_EQ(checkedProduct(28, 22), 616);
+}
+
+TEST(GameLimits, aLongNarrowBoardKeepsItsCornersApart) {
+    Game game(10'000, 4);
+    game.turn(Direction::up);
+    for (int i = 0; i < 2; ++i) {
+        game.step();
+    }
+
+    EXPECT_EQ(game.snake().front(), (Cell{5000, 0}));
+    game.step();
+    EXPECT_TRUE(game.ended());
+}
+
+}  // namespace
+}  // namespace SnakeCore

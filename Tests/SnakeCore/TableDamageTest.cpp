@@ -1,0 +1,188 @@
+#include <gtest/gtest.h>
+#include <SnakeCore/HighScores.hpp>
+
+#include <array>
+#include <string>
+#include <string_view>
+
+#include "SnakeCore/Tables.hpp"
+
+namespace SnakeCore {
+namespace {
+
+/// Three entries of which the one in the middle is `entry`.
+std::string amongOthers(const EntryText& entry) {
+    return "[" + EntryText().text() + "," + entry.text() + "," + EntryText().text() + "]";
+}
+
+std::string repeated(std::string_view piece, int count) {
+    std::string text;
+    for (int i = 0; i < count; ++i) {
+        text += piece;
+    }
+    return text;
+}
+
+using Member = std::string EntryText::*;
+
+/// Writes one member of an entry among good ones in ways it may not be written.
+void expectRefused(Member member, std::initializer_list<std::string_view> values) {
+    for (const std::string_view value : values) {
+        EntryText entry;
+        entry.*member = value;
+        EXPECT_EQ(entriesIn(amongOthers(entry)), 0U) << value;
+    }
+}
+
+TEST(TableDamage, leavesNothingOfWhatIsNoTable) {
+    for (const std::string_view data : {"",
+                                        " ",
+                                        "{}",
+                                        "null",
+                                        "true",
+                                        "1",
+                                        "\"\"",
+                                        "not JSON",
+                                        "[",
+                                        "]",
+                                        "[}",
+                                        "[,]",
+                                        "[[]]",
+                                        "[null]",
+                                        "[1]",
+                                        "[\"x\"]",
+                                        "[{}]",
+                                        "[[[]]]",
+                                        "{\"entries\":[]}",
+                                        "[]]",
+                                        "[][]",
+                                        "[],",
+                                        "\xff",
+                                        "\xef\xbb",
+                                        "\xef\xbb\xbf"}) {
+        EXPECT_EQ(entriesIn(data), 0U) << data;
+    }
+}
+
+TEST(TableDamage, leavesNothingOfATableCutOffAtAnyByte) {
+    EntryText last;
+    last.name = "\"é😀\\u00e9\"";
+    const std::string whole = "[" + EntryText().text() + "," + last.text() + "]";
+    ASSERT_EQ(entriesIn(whole), 2U);
+
+    for (std::size_t length = 0; length < whole.size(); ++length) {
+        // A copy of its own, so that reading behind the end is found.
+        const std::string cut(whole, 0, length);
+        EXPECT_EQ(entriesIn(cut), 0U) << cut;
+    }
+}
+
+TEST(TableDamage, leavesNothingWhenOneEntryHasAWrongType) {
+    expectRefused(&EntryText::id, {"null", "7", "true", "[]", "{}", "\"\"", "\"x\"",
+                                   "\"0E9A3D526C1B4E8F9A572F4D1B6C8E30\"",
+                                   "\"0E9A3D52-6C1B-4E8F-9A57-2F4D1B6C8E30\\u0000\""});
+    expectRefused(&EntryText::name, {"null", "7", "7.5", "false", "[]", "{}", "[\"Pip\"]"});
+    expectRefused(&EntryText::score, {"null", "\"120\"", "true", "[]", "{}", "[120]"});
+    expectRefused(&EntryText::pace, {"null", "7", "-7", "false", "[]", "{}"});
+    expectRefused(&EntryText::date, {"null", "\"784598400.5\"", "\"2025-11-11\"", "true", "[]",
+                                     "{}", "{\"seconds\":1}"});
+}
+
+TEST(TableDamage, leavesNothingWhenAScoreIsNoIntegerOf64Bits) {
+    expectRefused(&EntryText::score,
+                  {"120.5", "1e-1", "9223372036854775808", "-9223372036854775809",
+                   "18446744073709551616", "1e19", "9.3e18", "-9.3e18", "1e400", "-1e400"});
+}
+
+TEST(TableDamage, leavesNothingWhenADateIsBeyondADouble) {
+    expectRefused(&EntryText::date, {"1e400", "-1e400", "1e99999999999", "Infinity", "NaN"});
+}
+
+TEST(TableDamage, leavesNothingWhenANumberIsMiswritten) {
+    for (const std::string_view number :
+         {"", "01", "+1", "1.", ".5", "1e", "1e+", "0x10", "1_000", "--1", "-", "1,5", "1 2"}) {
+        expectRefused(&EntryText::score, {number});
+        expectRefused(&EntryText::date, {number});
+    }
+}
+
+TEST(TableDamage, leavesNothingWhenAMemberIsMissing) {
+    for (const std::string_view member :
+         {"\"id\"", "\"name\"", "\"score\"", "\"pace\"", "\"date\""}) {
+        std::string entry = EntryText().text();
+        entry.replace(entry.find(member), member.size(), "\"other\"");
+
+        EXPECT_EQ(entriesIn("[" + EntryText().text() + "," + entry + "]"), 0U) << member;
+    }
+    EXPECT_EQ(entriesIn("[" + EntryText().text() + ",{}]"), 0U);
+}
+
+TEST(TableDamage, isNotMendedByAnEarlierEntrysMembers) {
+    EXPECT_EQ(entriesIn("[" + EntryText().text() + R"(,{"name":"Pip"}])"), 0U);
+}
+
+TEST(TableDamage, leavesNothingWhenALaterDuplicateWouldHaveBeenRight) {
+    EntryText entry;
+    entry.score = "\"120\"";
+    entry.more = ",\"score\":120";
+
+    EXPECT_EQ(entriesIn(tableOf(entry)), 0U);
+}
+
+TEST(TableDamage, leavesNothingWhenATextIsBroken) {
+    expectRefused(
+        &EntryText::name,
+        {R"("\ud83d")", R"("\ude00")", R"("\ud83dx")", R"("\ud83d\u0041")", R"("\ude00\ud83d")",
+         R"("\u12")", R"("\x41")", "\"\n\"", "\"\x01\"", "\"\xff\"", "\"\xc3\"", "\"\xe2\x82\"",
+         "\"\xed\xa0\x80\"", "\"\xc0\xaf\"", "\"\xf4\x90\x80\x80\"", "'Pip'", "\"Pip"});
+    EntryText entry;
+    entry.more = ",\"other\":\"\xff\"";
+    EXPECT_EQ(entriesIn(tableOf(entry)), 0U);
+}
+
+TEST(TableDamage, leavesNothingWhenAnythingFollowsTheTable) {
+    for (const std::string_view garbage : {"x", "]", "[]", ",", "null", "\xff", "//", "\ufeff"}) {
+        EXPECT_EQ(entriesIn(tableOf({}) + std::string(garbage)), 0U) << garbage;
+    }
+    EXPECT_EQ(entriesIn(tableOf({}) + '\0'), 0U);
+    EXPECT_EQ(entriesIn(tableOf({}) + '\0' + "x"), 0U);
+}
+
+TEST(TableDamage, leavesNothingWhenANulStandsAnywhere) {
+    const std::string whole = tableOf({});
+    for (std::size_t i = 0; i <= whole.size(); ++i) {
+        std::string data = whole;
+        data.insert(i, 1, '\0');
+        EXPECT_EQ(entriesIn(data), 0U) << "at " << i;
+    }
+}
+
+TEST(TableDamage, leavesNothingOfCommentsAndTrailingCommas) {
+    EXPECT_EQ(entriesIn("[" + EntryText().text() + ",]"), 0U);
+    EXPECT_EQ(entriesIn("/* */" + tableOf({})), 0U);
+    EntryText entry;
+    entry.more = ",";
+    EXPECT_EQ(entriesIn(tableOf(entry)), 0U);
+}
+
+TEST(TableDamage, ofAHundredThousandBracketsNeitherCrashesNorHangs) {
+    for (const std::string_view bracket : {"[", "{", "[{", "{\"a\":", "[{\"a\":"}) {
+        EXPECT_EQ(entriesIn(repeated(bracket, 100'000)), 0U) << bracket;
+    }
+    EntryText entry;
+    entry.more = ",\"deep\":" + repeated("[", 100'000) + repeated("]", 100'000);
+    EXPECT_EQ(entriesIn(tableOf(entry)), 0U);
+}
+
+TEST(TableDamage, beginsAtADepthOf513) {
+    // The table and the entry are two levels themselves.
+    EntryText entry;
+    entry.more = ",\"deep\":" + repeated("[", 510) + repeated("]", 510);
+    EXPECT_EQ(entriesIn(tableOf(entry)), 1U);
+
+    entry.more = ",\"deep\":" + repeated("[", 511) + repeated("]", 511);
+    EXPECT_EQ(entriesIn(tableOf(entry)), 0U);
+}
+
+}  // namespace
+}  // namespace SnakeCore
