@@ -99,8 +99,15 @@ class Game:
         eventually(self.is_full_screen, "full screen is reached")
         eventually(self.is_active, "the window is in front")
 
+    def state(self):
+        """What the window manager says of the window, such as that it is minimised."""
+        return self.desktop.property(self.window, "_NET_WM_STATE")
+
     def is_full_screen(self):
-        return "_NET_WM_STATE_FULLSCREEN" in self.desktop.property(self.window, "_NET_WM_STATE")
+        return "_NET_WM_STATE_FULLSCREEN" in self.state()
+
+    def is_maximised(self):
+        return "_NET_WM_STATE_MAXIMIZED_VERT" in self.state()
 
     def is_active(self):
         return self.desktop.active_window() == self.window
