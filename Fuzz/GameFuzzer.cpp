@@ -1,0 +1,88 @@
+#include <SnakeCore/Game.hpp>
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <random>
+#include <span>
+#include <unordered_set>
+
+#include "Require.hpp"
+#include "SnakeCore/Playing.hpp"
+
+namespace {
+
+using namespace SnakeCore;
+
+bool onBoard(const Game& game, Cell cell) {
+    return cell.x >= 0 && cell.x < game.width() && cell.y >= 0 && cell.y < game.height();
+}
+
+void checkState(const Game& game) {
+    const Snake& snake = game.snake();
+    std::unordered_set<Cell> cells;
+    for (const Cell& cell : snake) {
+        require(onBoard(game, cell), "the snake lies on the board");
+        require(cells.insert(cell).second, "no two cells of the snake are equal");
+    }
+    for (std::size_t i = 1; i < snake.size(); ++i) {
+        const std::int64_t distance =
+            std::abs(snake[i].x - snake[i - 1].x) + std::abs(snake[i].y - snake[i - 1].y);
+        require(distance == 1, "the snake is in one piece");
+    }
+    const auto length = static_cast<std::int64_t>(snake.size());
+    require(game.score() == 10 * (length - 4), "each fruit is worth ten points and one cell");
+    require(onBoard(game, game.food()), "the fruit lies on the board");
+    require(cells.contains(game.food()) == game.won(), "the fruit lies off the snake");
+    require(game.won() == (length == game.width() * game.height()), "only a full board is won");
+    require(!game.won() || game.ended(), "a won run has ended");
+}
+
+void checkStep(const Game& before, const Game& after) {
+    if (before.ended()) {
+        require(after == before, "nothing changes after the end");
+        return;
+    }
+    require(!opposite(before.direction(), after.direction()), "the snake never reverses");
+    const Cell offset = stepVector(after.direction());
+    const Cell head{before.snake().front().x + offset.x, before.snake().front().y + offset.y};
+    if (after.ended() && !after.won()) {
+        require(after.snake() == before.snake(), "a strike leaves the snake");
+        require(after.food() == before.food(), "a strike leaves the fruit");
+        return;
+    }
+    const bool ate = head == before.food();
+    require(after.snake().front() == head, "the head moves one cell");
+    require(after.snake().size() == before.snake().size() + (ate ? 1 : 0), "fruit makes it grow");
+    require(ate || after.food() == before.food(), "the fruit stays until it is eaten");
+}
+
+}  // namespace
+
+/// The first three bytes choose board and chance; each byte after them is one step: up to two
+/// turns, or, from 0xF0, a stretch along the way through all cells.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    constexpr std::size_t header = 3;
+    constexpr std::uint8_t tour = 0xF0;
+    if (size < header) {
+        return 0;
+    }
+    Game game(6 + data[0] % 35, 4 + data[1] % 27);
+    std::mt19937_64 generator(data[2]);
+    for (const std::uint8_t byte : std::span(data, size).subspan(header)) {
+        const bool onTour = byte >= tour && game.height() % 2 == 0;
+        const int steps = onTour ? 8 * (byte - tour + 1) : 1;
+        for (int i = 0; i < steps; ++i) {
+            if (onTour) {
+                game.turn(alongTheTour(game));
+            } else if ((byte & 0x10U) != 0) {
+                game.turn(static_cast<Direction>(byte & 3U));
+                game.turn(static_cast<Direction>(byte >> 2U & 3U));
+            }
+            const Game before = game;
+            game.step(generator);
+            checkStep(before, game);
+            checkState(game);
+        }
+    }
+    return 0;
+}
