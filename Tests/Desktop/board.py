@@ -6,6 +6,7 @@ COLUMNS = 28
 ROWS = 22
 
 FRUIT = (255, 133, 99)
+TAIL = (59, 148, 102)
 # Every colour of the band lies above this, everything else on the board below it.
 BAND_GREEN_FROM = 140
 BAND_RED_UP_TO = 200
@@ -47,8 +48,9 @@ class Board:
 
     @staticmethod
     def is_moving(picture):
-        """Whether a run is moving: at rest the board is blurred and the fruit's colour is gone."""
-        return picture.shows(FRUIT)
+        """Whether a run is moving: at rest the board is blurred and dimmed, its colours gone."""
+        # Either is enough: the snake's glow may tint the fruit.
+        return picture.shows(TAIL) or picture.shows(FRUIT)
 
     def _looks(self, picture, cell, direction):
         return all(self._colour(picture, *cell, *eye)[1] <= EYE_GREEN_UP_TO

@@ -1,0 +1,63 @@
+"""The program prints nothing and needs nothing of a desktop but a display."""
+
+import pytest
+from board import Board
+from screen import Screen
+from waiting import eventually
+
+MINT = (166, 240, 163)
+INSIDE_THE_BUTTON = Screen.WIDTH // 2 - 60, 650
+
+
+def nowhere(home):
+    """Addresses at which nobody answers."""
+    place = f"unix:path={home.environment['HOME']}/nobody"
+    return {
+        "no session bus": {"DBUS_SESSION_BUS_ADDRESS": place},
+        "no accessibility": {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "0",
+                             "AT_SPI_BUS_ADDRESS": place},
+        "no sound server": {"PULSE_SERVER": place},
+    }
+
+
+def shows_card(game):
+    """Whether the start card's button is to be seen in full screen."""
+    return game.desktop.screen.picture().colour(*INSIDE_THE_BUTTON) == MINT
+
+
+def moves(game):
+    return Board.is_moving(game.desktop.screen.picture())
+
+
+@pytest.mark.parametrize("missing", [
+    ["no sound server"],
+    ["no session bus"],
+    ["no accessibility"],
+    ["no sound server", "no session bus", "no accessibility"],
+], ids=", ".join)
+def test_a_whole_session_prints_nothing_and_is_kept(launch, home, missing):
+    environment = {}
+    for thing in missing:
+        environment |= nowhere(home)[thing]
+    game = launch(**environment)
+    eventually(lambda: shows_card(game), "the start card is there")
+    game.press("ctrl+l")
+    eventually(lambda: not shows_card(game), "the sheet covers the card")
+    game.press("Escape")
+    eventually(lambda: shows_card(game), "the sheet is gone")
+    game.press("F11", "F11", "space")
+    eventually(lambda: moves(game), "the run moves")
+    game.press("space")
+    eventually(lambda: not moves(game), "the run rests")
+    game.press("space")
+    eventually(lambda: home.preferences().get("best-Classic") == 10, "the first fruit counts")
+    eventually(lambda: not moves(game), "the run has ended")
+    game.type("Pip")
+    game.press("Return")
+    eventually(lambda: [entry["name"] for entry in home.high_scores()] == ["Pip"],
+               "the run is saved")
+    game.press("space")
+    eventually(lambda: moves(game), "the next run moves")
+    game.press("ctrl+q")
+    assert game.exit_status() == 0
+    assert game.printed() == ""
