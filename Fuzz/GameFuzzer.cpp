@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <random>
 #include <span>
-#include <unordered_set>
+#include <vector>
 
 #include "Require.hpp"
 #include "SnakeCore/Playing.hpp"
@@ -19,10 +19,14 @@ bool onBoard(const Game& game, Cell cell) {
 
 void checkState(const Game& game) {
     const Snake& snake = game.snake();
-    std::unordered_set<Cell> cells;
+    std::vector<bool> taken(static_cast<std::size_t>(game.width() * game.height()));
+    const auto place = [&](Cell cell) {
+        return taken[static_cast<std::size_t>(cell.y * game.width() + cell.x)];
+    };
     for (const Cell& cell : snake) {
         require(onBoard(game, cell), "the snake lies on the board");
-        require(cells.insert(cell).second, "no two cells of the snake are equal");
+        require(!place(cell), "no two cells of the snake are equal");
+        place(cell) = true;
     }
     for (std::size_t i = 1; i < snake.size(); ++i) {
         const std::int64_t distance =
@@ -32,7 +36,7 @@ void checkState(const Game& game) {
     const auto length = static_cast<std::int64_t>(snake.size());
     require(game.score() == 10 * (length - 4), "each fruit is worth ten points and one cell");
     require(onBoard(game, game.food()), "the fruit lies on the board");
-    require(cells.contains(game.food()) == game.won(), "the fruit lies off the snake");
+    require(place(game.food()) == game.won(), "the fruit lies off the snake");
     require(game.won() == (length == game.width() * game.height()), "only a full board is won");
     require(!game.won() || game.ended(), "a won run has ended");
 }
@@ -59,15 +63,18 @@ void checkStep(const Game& before, const Game& after) {
 }  // namespace
 
 /// The first three bytes choose board and chance; each byte after them is one step: up to two
-/// turns, or, from 0xF0, a stretch along the way through all cells.
+/// turns, or, from 0xF0, a stretch along the way through all cells. A run stops soon after its end
+/// or, so that the fuzzer gets round to more of them, after so many steps.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     constexpr std::size_t header = 3;
     constexpr std::uint8_t tour = 0xF0;
+    constexpr int mostSteps = 1000;
     if (size < header) {
         return 0;
     }
     Game game(6 + data[0] % 35, 4 + data[1] % 27);
     std::mt19937_64 generator(data[2]);
+    int stepsMade = 0;
     for (const std::uint8_t byte : std::span(data, size).subspan(header)) {
         const bool onTour = byte >= tour && game.height() % 2 == 0;
         const int steps = onTour ? 8 * (byte - tour + 1) : 1;
@@ -82,6 +89,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             game.step(generator);
             checkStep(before, game);
             checkState(game);
+            if (before.ended() || ++stepsMade == mostSteps) {
+                return 0;
+            }
         }
     }
     return 0;
