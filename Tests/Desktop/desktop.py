@@ -56,6 +56,10 @@ class Desktop:
         number = line.rpartition("# ")[2].strip()
         return int(number, 16) if number.startswith("0x") else 0
 
+    def run_folder(self):
+        """Where programs put their sockets."""
+        return self.folder / "run"
+
     def spawn(self, *command):
         """A program of the desktop that stays until its process is terminated."""
         return subprocess.Popen(command, env=self.environment, stdin=subprocess.DEVNULL,

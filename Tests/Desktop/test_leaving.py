@@ -26,6 +26,8 @@ WAYS_OUT = {
     "SIGINT": send(signal.SIGINT),
     "SIGHUP": send(signal.SIGHUP),
 }
+# A signal asks the program, whatever its window shows; these two ask the window.
+asking_the_window = pytest.mark.parametrize("leave", [close_by_window_manager, press_ctrl_q])
 ways_out = pytest.mark.parametrize("leave", WAYS_OUT.values(), ids=WAYS_OUT.keys())
 
 
@@ -38,7 +40,7 @@ def test_in_the_middle_of_a_run_it_ends_with_status_0_and_the_best_stored(game, 
     assert home.preferences() == {"best-Classic": 10}
 
 
-@ways_out
+@asking_the_window
 def test_while_a_name_is_awaited_it_ends_with_status_0(game, leave):
     game.start_run()
     game.press("Up")
@@ -47,7 +49,7 @@ def test_while_a_name_is_awaited_it_ends_with_status_0(game, leave):
     assert game.exit_status() == 0
 
 
-@ways_out
+@asking_the_window
 def test_under_the_sheet_it_ends_with_status_0(game, leave):
     game.press("ctrl+l")
     game.wait_for("The high scores.")
