@@ -1,40 +1,71 @@
-"""Leaving the game for another window."""
+"""Leaving the game for another window, and coming back."""
 
 import pytest
 from game import FRESH, MOVING, OVER, PAUSED
 from waiting import eventually
 
 
-@pytest.fixture
-def other_window(desktop):
-    """Opens a window that takes the focus; the value it gives closes it again."""
-    opened = []
+class OtherWindow:
+    def __init__(self, desktop):
+        self._desktop = desktop
+        self._process = None
 
-    def open_window(game):
-        opened.append(desktop.spawn("xmessage", "Another window"))
-        eventually(lambda: desktop.active_window() not in (0, game.window),
-                   "another window has the focus")
+    def take_focus_from(self, game):
+        self._process = self._desktop.spawn("xmessage", "Another window")
+        eventually(lambda: self._desktop.active_window() not in (0, game.window),
+                   "the other window has the focus")
 
-    def close_window(game):
-        process = opened.pop()
-        process.terminate()
-        process.wait()
+    def give_focus_back_to(self, game):
+        self.close()
         eventually(game.is_active, "the game has the focus again")
 
-    open_window.close = close_window
-    yield open_window
-    for process in opened:
-        process.terminate()
-        process.wait()
+    def close(self):
+        if self._process is not None:
+            self._process.terminate()
+            self._process.wait()
+            self._process = None
+
+
+@pytest.fixture
+def other_window(desktop):
+    window = OtherWindow(desktop)
+    yield window
+    window.close()
 
 
 def test_losing_the_focus_pauses_and_coming_back_leaves_it_paused(game, other_window):
     game.start_run()
-    other_window(game)
-    game.wait_for(PAUSED)
-    other_window.close(game)
-    game.press("Escape")
-    assert game.shows(PAUSED, "No rush.")
+    other_window.take_focus_from(game)
+    game.wait_for(PAUSED, "No rush.")
+    other_window.give_focus_back_to(game)
+    assert game.shows(PAUSED)
     # Had coming back resumed it, this would pause.
     game.press("space")
     game.wait_for(MOVING)
+
+
+def test_losing_the_focus_changes_nothing_before_the_first_run(game, other_window):
+    other_window.take_focus_from(game)
+    other_window.give_focus_back_to(game)
+    assert game.shows(FRESH, "Find your flow.")
+
+
+def test_losing_the_focus_keeps_a_name_half_typed(game, other_window):
+    game.start_run()
+    game.press("Up")
+    game.wait_for("Game over.")
+    game.type("Pi")
+    other_window.take_focus_from(game)
+    other_window.give_focus_back_to(game)
+    game.type("p")
+    eventually(lambda: game.find("Player name").text == "Pip", "the name is typed on")
+    assert game.shows(OVER)
+
+
+def test_minimising_pauses(game):
+    game.press("F11")
+    game.wait_for("Minimise")
+    game.start_run()
+    pause = game.find("Pause")
+    game.click(game.find("Minimise"))
+    eventually(lambda: pause.name == "Resume", "the menu offers to resume")

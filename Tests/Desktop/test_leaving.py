@@ -37,7 +37,8 @@ def test_in_the_middle_of_a_run_it_ends_with_status_0_and_the_best_stored(game, 
     eventually(lambda: "best-Classic" in home.preferences(), "the best is on disk")
     leave(game)
     assert game.exit_status() == 0
-    assert home.preferences() == {"best-Classic": 10}
+    assert list(home.preferences()) == ["best-Classic"]
+    assert home.preferences()["best-Classic"] >= 10
 
 
 @asking_the_window
