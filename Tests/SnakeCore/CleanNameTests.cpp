@@ -102,6 +102,10 @@ TEST(CleanName, countsAMarkThatLandsOnTheJoiningSpaceAsOneCharacterWithIt) {
     EXPECT_EQ(cleaned("a\n\u0301" + repeated("x", 30)), "a \u0301" + repeated("x", 22));
 }
 
+TEST(CleanName, keepsASpaceThatMakesOneCharacterWithThePrefixBeforeIt) {
+    EXPECT_EQ(cleaned("Pip \u0600 "), "Pip \u0600 ");
+}
+
 TEST(CleanName, replacesWhatIsNotUtf8) {
     EXPECT_EQ(cleaned("P\xffip"), "P\ufffdip");
     EXPECT_EQ(cleaned("\xe2\x82"), "\ufffd");

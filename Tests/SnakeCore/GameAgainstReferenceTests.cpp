@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 #include <SnakeCore/Game.hpp>
 
+#include <algorithm>
 #include <array>
 #include <cstdlib>
+#include <limits>
 #include <random>
 
 #include "SnakeCore/Playing.hpp"
@@ -113,6 +115,10 @@ TEST(GameAgainstReference, agreesAllTheWayToAWonRun) {
     compareAWonRun(6, 4);
     compareAWonRun(7, 6);
     compareAWonRun(13, 10);
+}
+
+TEST(GameAgainstReference, agreesAllTheWayToThePlayersWonBoard) {
+    compareAWonRun(28, 22);
 }
 
 }  // namespace
