@@ -22,7 +22,8 @@ constexpr int markSpacing = 8;
 MenuBand::MenuBand(QWidget* window) : QWidget(window), menuBar_(new QMenuBar(this)) {
     styleMenuBar(*menuBar_);
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(leftMargin - menuItemPadding, 0, rightMargin, 0);
+    // The first title's letters, not its plate, begin where the rows below begin.
+    row->setContentsMargins(leftMargin - menuItemPadding - menuItemSpacing, 0, rightMargin, 0);
     row->setSpacing(markSpacing);
     row->addWidget(menuBar_, 0, Qt::AlignVCenter);
     row->addStretch();

@@ -20,7 +20,7 @@ void styleMenuBar(QMenuBar& bar) {
     bar.setFont(Garden::sans(fontSize, QFont::Normal));
     bar.setStyleSheet(
         QStringLiteral(
-            "QMenuBar { background: transparent; color: %1; }"
+            "QMenuBar { background: transparent; color: %1; spacing: %9px; }"
             "QMenuBar::item { background: transparent; padding: 5px %2px; border-radius: 6px; }"
             "QMenuBar::item:selected { background: %3; color: %4; }"
             "QMenu { background: %5; color: %6; border: 1px solid %7; padding: 6px; }"
@@ -33,5 +33,6 @@ void styleMenuBar(QMenuBar& bar) {
             .arg(css(Garden::withOpacity(Garden::mint, hoverOpacity)), css(Garden::mint),
                  css(Garden::soil), css(Garden::primaryText),
                  css(Garden::withOpacity(Garden::mint, edgeOpacity)),
-                 css(Garden::withOpacity(Garden::muted, disabledOpacity))));
+                 css(Garden::withOpacity(Garden::muted, disabledOpacity)))
+            .arg(menuItemSpacing));
 }

@@ -35,7 +35,8 @@ void SheetLayer::present() {
     // Made on first use: nothing of it is needed for the first frame.
     if (sheet_ == nullptr) {
         sheet_ = new HighScoresView(session_, this);
-        sheet_->setFocusPolicy(Qt::StrongFocus);
+        // A click beside its controls keeps the focus inside; Tab has no business with it.
+        sheet_->setFocusPolicy(Qt::ClickFocus);
     }
     focusBefore_ = QApplication::focusWidget();
     placeSheet();

@@ -1,10 +1,13 @@
 #include "ScoreScreens/ScoreRows.hpp"
 
-#include <QScrollBar>
+#include <QFocusEvent>
+#include <QPainter>
+#include <QPainterPath>
 #include <QVBoxLayout>
 
 #include "Garden/Fonts.hpp"
 #include "Garden/Palette.hpp"
+#include "Garden/RoundedShape.hpp"
 #include "Garden/StyleSheet.hpp"
 #include "Garden/TrackedLabel.hpp"
 #include "ScoreScreens/ScoreRow.hpp"
@@ -16,20 +19,22 @@ constexpr int emptyTextPadding = 28;
 constexpr int rowSpacing = 4;
 constexpr int scrollBarWidth = 10;
 constexpr int scrollHandleWidth = 4;
+constexpr int scrollHandleMargin = (scrollBarWidth - scrollHandleWidth) / 2;
 constexpr int shortestScrollHandle = 24;
 constexpr double scrollHandleOpacity = 0.4;
+constexpr double ringRadius = 9;
 
 QString scrollBarStyle() {
     return QStringLiteral(
                "QScrollBar:vertical { background: transparent; width: %1px; border: none; }"
                "QScrollBar::handle:vertical { background: %2; border-radius: %3px;"
-               " margin-left: %4px; min-height: %5px; }"
+               " margin: %4px; min-height: %5px; }"
                "QScrollBar::add-line, QScrollBar::sub-line { height: 0; }"
                "QScrollBar::add-page, QScrollBar::sub-page { background: none; }")
         .arg(scrollBarWidth)
         .arg(Garden::css(Garden::withOpacity(Garden::muted, scrollHandleOpacity)))
         .arg(scrollHandleWidth / 2)
-        .arg(scrollBarWidth - scrollHandleWidth)
+        .arg(scrollHandleMargin)
         .arg(shortestScrollHandle);
 }
 
@@ -40,6 +45,7 @@ ScoreRows::ScoreRows(QWidget* parent)
       empty_(new Garden::TrackedLabel(tr("A fresh start. Be the first on the board."),
                                       Garden::sans(emptyTextSize, QFont::Normal), Garden::muted)),
       scrollArea_(new QScrollArea),
+      indicator_(new QScrollBar(Qt::Vertical, scrollArea_)),
       column_(nullptr) {
     auto* list = new QWidget;
     column_ = new QVBoxLayout(list);
@@ -50,8 +56,9 @@ ScoreRows::ScoreRows(QWidget* parent)
     scrollArea_->setWidgetResizable(true);
     scrollArea_->setFrameShape(QFrame::NoFrame);
     scrollArea_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scrollArea_->verticalScrollBar()->setStyleSheet(scrollBarStyle());
-    scrollArea_->setFocusPolicy(Qt::TabFocus);
+    scrollArea_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scrollArea_->setAccessibleName(tr("Scores"));
+    scrollArea_->installEventFilter(this);
     scrollArea_->viewport()->setAutoFillBackground(false);
     list->setAutoFillBackground(false);
 
@@ -60,6 +67,50 @@ ScoreRows::ScoreRows(QWidget* parent)
     forms->addWidget(empty_, 0, Qt::AlignCenter);
     forms->addWidget(scrollArea_);
     empty_->setContentsMargins(0, emptyTextPadding, 0, emptyTextPadding);
+    showIndicator();
+}
+
+void ScoreRows::showIndicator() {
+    const QScrollBar* scrolling = scrollArea_->verticalScrollBar();
+    indicator_->setStyleSheet(scrollBarStyle());
+    indicator_->raise();
+    connect(scrolling, &QScrollBar::rangeChanged, this, &ScoreRows::followRange);
+    connect(scrolling, &QScrollBar::valueChanged, indicator_, &QScrollBar::setValue);
+    connect(indicator_, &QScrollBar::valueChanged, scrolling, &QScrollBar::setValue);
+    followRange(scrolling->minimum(), scrolling->maximum());
+}
+
+void ScoreRows::followRange(int lowest, int highest) {
+    const bool scrolls = highest > lowest;
+    indicator_->setRange(lowest, highest);
+    indicator_->setPageStep(scrollArea_->viewport()->height());
+    indicator_->setVisible(scrolls);
+    // A stop for the keyboard only while it has something to move.
+    scrollArea_->setFocusPolicy(scrolls ? Qt::TabFocus : Qt::NoFocus);
+}
+
+bool ScoreRows::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusIn) {
+        focusRing_.focusIn(static_cast<QFocusEvent*>(event)->reason());
+        update();
+    } else if (event->type() == QEvent::FocusOut) {
+        focusRing_.focusOut(static_cast<QFocusEvent*>(event)->reason());
+        update();
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void ScoreRows::resizeEvent(QResizeEvent*) {
+    indicator_->setGeometry(width() - scrollBarWidth, 0, scrollBarWidth, height());
+}
+
+void ScoreRows::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    constexpr double inset = Garden::FocusRing::width / 2;
+    focusRing_.paint(painter,
+                     Garden::continuousRoundedRect(
+                         QRectF(rect()).adjusted(inset, inset, -inset, -inset), ringRadius),
+                     Garden::mint);
 }
 
 void ScoreRows::setRowCount(std::size_t count) {

@@ -4,8 +4,11 @@
 
 #include <QList>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <optional>
 #include <vector>
+
+#include "Garden/FocusRing.hpp"
 
 class QVBoxLayout;
 class ScoreRow;
@@ -27,11 +30,22 @@ public:
     void setEntries(const std::vector<SnakeCore::HighScore>& entries,
                     const std::optional<SnakeCore::UUID>& highlighted = std::nullopt);
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
+    void showIndicator();
+    void followRange(int lowest, int highest);
     void setRowCount(std::size_t count);
 
     Garden::TrackedLabel* empty_;
     QScrollArea* scrollArea_;
+    // Lies over the padding of the rows, which keep the whole width.
+    QScrollBar* indicator_;
+    Garden::FocusRing focusRing_;
     QVBoxLayout* column_;
     QList<ScoreRow*> rows_;
 };
