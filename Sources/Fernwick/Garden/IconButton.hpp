@@ -13,6 +13,7 @@ class IconButton : public QuietButton {
 public:
     IconButton(Icon icon, const QString& helpText, QWidget* parent = nullptr);
 
+    [[nodiscard]] Icon icon() const { return icon_; }
     void setIcon(Icon icon);
 
     [[nodiscard]] QSize sizeHint() const override;

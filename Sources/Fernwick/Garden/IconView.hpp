@@ -14,7 +14,9 @@ class IconView : public QWidget {
 public:
     IconView(Icon icon, double size, const QColor& colour, QWidget* parent = nullptr);
 
+    [[nodiscard]] Icon icon() const { return icon_; }
     void setIcon(Icon icon);
+    [[nodiscard]] QColor colour() const { return colour_; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;

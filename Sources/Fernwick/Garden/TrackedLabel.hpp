@@ -17,6 +17,7 @@ public:
 
     [[nodiscard]] QString text() const { return text_; }
     void setText(const QString& text);
+    [[nodiscard]] QColor colour() const { return colour_; }
 
     /// Whether the line may be given less room than it needs, to end in "…". False at first.
     void setElided(bool elided);
