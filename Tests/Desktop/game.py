@@ -47,6 +47,7 @@ class Game:
 
     def click(self, element):
         """Presses the left button of the mouse in the middle of a control."""
+        eventually(self._knows_its_place, "the window has settled")
         left, top, width, height = element.place_on_screen()
         self.point_at(left + width // 2, top + height // 2)
         self.desktop.run("xdotool", "click", "1")
@@ -117,6 +118,10 @@ class Game:
         lines = self.desktop.run("xdotool", "getwindowgeometry", "--shell", str(self.window))
         values = dict(line.split("=") for line in lines.split())
         return tuple(int(values[key]) for key in ("X", "Y", "WIDTH", "HEIGHT"))
+
+    def _knows_its_place(self):
+        window = self.top().children()[0]
+        return tuple(window.place_on_screen()) == self.geometry()
 
     def _has_window(self):
         assert self.process.poll() is None, f"ended at once: {self.printed()}"

@@ -32,9 +32,9 @@ def test_escape_closes_it_and_never_resumes(game):
     game.wait_for(*SHEET)
     game.press("Escape")
     wait_until_closed(game)
-    game.press("Escape")
     assert game.shows(PAUSED)
-    # Had an Escape resumed, this would pause.
+    game.press("Escape")
+    # Had the second Escape resumed, this would pause.
     game.press("space")
     game.wait_for(MOVING)
 
