@@ -3,6 +3,7 @@
 #include <SnakeCore/HighScores.hpp>
 
 #include <algorithm>
+#include <string>
 #include <tuple>
 #include <vector>
 
@@ -88,6 +89,23 @@ TEST(Leaders, keepTheEarlierOfEqualsWhenOnlyOneFits) {
 
     EXPECT_EQ(leaders.front().id, identity(10));
     EXPECT_EQ(leaders.back().id, identity(8));
+}
+
+TEST(Leaders, keepTheTablesOrderWhereNothingElseDecides) {
+    // Only a stored table can hold one id several times.
+    std::string stored = "[";
+    for (char name = 'a'; name < 'a' + 12; ++name) {
+        EntryText entry;
+        entry.name = {'"', name, '"'};
+        stored += (stored.size() > 1 ? "," : "") + entry.text();
+    }
+
+    std::string names;
+    for (const HighScore& leader : HighScores(stored + "]").leaders("Classic")) {
+        names += leader.name;
+    }
+
+    EXPECT_EQ(names, "abcdefghij");
 }
 
 TEST(Leaders, doNotChangeTheTable) {
