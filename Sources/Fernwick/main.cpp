@@ -2,11 +2,13 @@
 
 #include "MainWindow/ApplicationStyle.hpp"
 #include "MainWindow/FernwickApp.hpp"
+#include "MainWindow/SessionBus.hpp"
 #include "MainWindow/UnixSignals.hpp"
 #include "Session/PreferencesFile.hpp"
 #include "Session/PulseSoundEffects.hpp"
 
 int main(int, char* argv[]) {
+    leaveMissingSessionBusAlone();
     // The program takes no command line; only its own name reaches the toolkit.
     int count = 1;
     QApplication application(count, argv);

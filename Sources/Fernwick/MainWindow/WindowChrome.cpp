@@ -1,6 +1,7 @@
 #include "MainWindow/WindowChrome.hpp"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QWidget>
@@ -64,25 +65,41 @@ void WindowChrome::showCursorFor(const QPoint& position) {
 }
 
 bool WindowChrome::press(const QMouseEvent& event) {
-    if (event.button() != Qt::LeftButton) {
+    const QPoint position = event.position().toPoint();
+    const bool takesHold =
+        event.button() == Qt::LeftButton && (edgesAt(position) != Qt::Edges() || isBand(position));
+    held_ = takesHold ? std::optional(position) : std::nullopt;
+    return takesHold;
+}
+
+// The window manager takes over only once the pointer is dragged: it never hears of the release of
+// a mere click, and would hold on to the window.
+bool WindowChrome::drag(const QMouseEvent& event) {
+    const QPoint position = event.position().toPoint();
+    if (!held_ || !event.buttons().testFlag(Qt::LeftButton) ||
+        (position - *held_).manhattanLength() < QApplication::startDragDistance()) {
         return false;
     }
-    const QPoint position = event.position().toPoint();
-    if (const Qt::Edges edges = edgesAt(position); edges != Qt::Edges()) {
-        return handle_->startSystemResize(edges);
-    }
-    return isBand(position) && handle_->startSystemMove();
+    const Qt::Edges edges = edgesAt(*held_);
+    held_.reset();
+    return edges != Qt::Edges() ? handle_->startSystemResize(edges) : handle_->startSystemMove();
 }
 
 bool WindowChrome::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
         case QEvent::MouseMove:
+            if (drag(static_cast<QMouseEvent&>(*event))) {
+                return true;
+            }
             showCursorFor(static_cast<QMouseEvent*>(event)->position().toPoint());
             break;
         case QEvent::MouseButtonPress:
             if (press(static_cast<QMouseEvent&>(*event))) {
                 return true;
             }
+            break;
+        case QEvent::MouseButtonRelease:
+            held_.reset();
             break;
         case QEvent::MouseButtonDblClick:
             if (isBand(static_cast<QMouseEvent*>(event)->position().toPoint())) {

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QObject>
+#include <QPoint>
 #include <QPointer>
+#include <optional>
 
 class QMouseEvent;
 class QWidget;
@@ -26,9 +28,12 @@ private:
     [[nodiscard]] bool isBand(const QPoint& position) const;
     void showCursorFor(const QPoint& position);
     bool press(const QMouseEvent& event);
+    bool drag(const QMouseEvent& event);
 
     QWidget& window_;
     QPointer<QWindow> handle_;
     int bandHeight_;
     Qt::Edges hovered_;
+    // Where the band or an edge has been taken hold of, in points.
+    std::optional<QPoint> held_;
 };

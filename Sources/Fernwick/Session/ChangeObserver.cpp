@@ -8,6 +8,7 @@
 ChangeObserver::ChangeObserver(ObservableObject& observed, std::function<void()> refresh)
     : refresh_(std::move(refresh)) {
     connect(&observed, &ObservableObject::objectWillChange, this, &ChangeObserver::request);
+    connect(&observed, &ObservableObject::refreshDue, this, &ChangeObserver::deliver);
 }
 
 void ChangeObserver::request() {
@@ -16,11 +17,12 @@ void ChangeObserver::request() {
         return;
     }
     requested_ = true;
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            requested_ = false;
-            refresh_();
-        },
-        Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &ChangeObserver::deliver, Qt::QueuedConnection);
+}
+
+void ChangeObserver::deliver() {
+    if (requested_) {
+        requested_ = false;
+        refresh_();
+    }
 }

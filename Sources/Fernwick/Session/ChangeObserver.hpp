@@ -15,6 +15,7 @@ public:
 
 private:
     void request();
+    void deliver();
 
     std::function<void()> refresh_;
     bool requested_ = false;

@@ -41,7 +41,13 @@ bool KeyMonitor::eventFilter(QObject* watched, QEvent* event) {
 
 bool KeyMonitor::handles(const QKeyEvent& event) const {
     assertMainThread();
-    if ((event.modifiers() & commandModifiers) != 0 || menuIsOpen() || session_.isNull()) {
+    if (session_.isNull()) {
+        return false;
+    }
+    // A key may come in the same turn as the change before it. What it reaches if it is passed on
+    // must be the control that this change brings up.
+    Q_EMIT session_->refreshDue();
+    if ((event.modifiers() & commandModifiers) != 0 || menuIsOpen()) {
         return false;
     }
     return session_->key(physicalKey(event));

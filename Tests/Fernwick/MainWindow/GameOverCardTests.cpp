@@ -1,4 +1,5 @@
 #include <QTest>
+#include <QWindow>
 
 #include "Fernwick/MainWindow/WindowTest.hpp"
 #include "ScoreScreens/NameField.hpp"
@@ -54,6 +55,14 @@ TEST_F(GameOverCard, takesLettersSpaceAndRAsPartOfTheName) {
 
     EXPECT_EQ(session.playerName, "war r W");
     EXPECT_TRUE(session.awaitingName);
+}
+
+TEST_F(GameOverCard, takesALetterThatComesInTheTurnThatEndsTheRun) {
+    startAndEndRun();
+
+    QTest::keyClick(window.windowHandle(), Qt::Key_W);
+
+    EXPECT_EQ(session.playerName, "w");
 }
 
 TEST_F(GameOverCard, savesOnlyANameThatIsMoreThanBlanks) {

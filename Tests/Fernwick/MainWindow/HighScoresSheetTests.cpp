@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QTest>
+#include <QWindow>
 
 #include "Fernwick/MainWindow/WindowTest.hpp"
 #include "ScoreScreens/HighScoresView.hpp"
@@ -94,6 +95,16 @@ TEST_F(HighScoresSheet, closesByEscapeAndLeavesTheRunPaused) {
     EXPECT_FALSE(session.showingScores);
     EXPECT_FALSE(isUp());
     EXPECT_FALSE(session.running);
+}
+
+TEST_F(HighScoresSheet, closesByAnEscapeThatComesInTheTurnThatOpensIt) {
+    session.openScores();
+
+    QTest::keyClick(window.windowHandle(), Qt::Key_Escape);
+    settle();
+
+    EXPECT_FALSE(session.showingScores);
+    EXPECT_FALSE(isUp());
 }
 
 TEST_F(HighScoresSheet, takesEveryKeyFromTheGame) {

@@ -72,6 +72,19 @@ TEST(ChangeObserver, seesAChangeMadeWhileItRefreshes) {
     EXPECT_EQ(seen, (std::vector{2, 3}));
 }
 
+TEST(ChangeObserver, refreshesAtOnceWhenThatIsDueAndNotAgainOnTheNextTurn) {
+    Counter counter;
+    std::vector<int> seen;
+    const ChangeObserver observer(counter, [&] { seen.push_back(counter.value); });
+
+    counter.value = 2;
+    Q_EMIT counter.refreshDue();
+    EXPECT_EQ(seen, std::vector{2});
+    QCoreApplication::processEvents();
+
+    EXPECT_EQ(seen, std::vector{2});
+}
+
 TEST(ChangeObserver, asksForNothingOnceItIsGone) {
     Counter counter;
     int refreshes = 0;
