@@ -1,0 +1,47 @@
+#include "SnakeCore/PeakMemory.hpp"
+
+#include <malloc.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <new>
+
+namespace {
+
+// One thread: plain counters.
+std::size_t inUse = 0;
+std::size_t atReset = 0;
+std::size_t peak = 0;
+
+}  // namespace
+
+namespace PeakMemory {
+
+void reset() {
+    peak = atReset = inUse;
+}
+
+std::size_t bytes() {
+    return peak - atReset;
+}
+
+}  // namespace PeakMemory
+
+void* operator new(std::size_t size) {
+    void* const place = std::malloc(size);
+    if (place == nullptr) {
+        throw std::bad_alloc();
+    }
+    inUse += malloc_usable_size(place);
+    peak = std::max(peak, inUse);
+    return place;
+}
+
+void operator delete(void* place) noexcept {
+    inUse -= malloc_usable_size(place);
+    std::free(place);
+}
+
+void operator delete(void* place, std::size_t) noexcept {
+    operator delete(place);
+}

@@ -1,0 +1,120 @@
+#include <benchmark/benchmark.h>
+#include <SnakeCore/HighScores.hpp>
+
+#include <array>
+#include <cstdint>
+#include <map>
+#include <random>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "SnakeCore/PeakMemory.hpp"
+
+namespace SnakeCore {
+namespace {
+
+constexpr std::array<std::string_view, 3> paces{"Gentle", "Classic", "Swift"};
+
+/// The stored form of a table of plausible results; made as text, since recording one after the
+/// other looks through all the earlier ones.
+std::string storedTable(std::int64_t entries) {
+    constexpr std::array<std::string_view, 4> names{"Pip", "Pip Green", "Zoë", "a gardener 🌱"};
+    std::mt19937 dice(1);
+    std::string json = "[";
+    for (std::int64_t i = 0; i < entries; ++i) {
+        json += i == 0 ? "" : ",";
+        json += "{\"id\":\"" + UUID::random().string() + "\",\"name\":\"";
+        json += names[dice() % names.size()];
+        json += "\",\"score\":" + std::to_string(10 * (dice() % 613)) + ",\"pace\":\"";
+        json += paces[dice() % paces.size()];
+        json += "\",\"date\":" + std::to_string(784598400 + 40 * i) + "." +
+                std::to_string(100000 + dice() % 900000) + "}";
+    }
+    return json + "]";
+}
+
+/// Made once for each size.
+const std::string& storedTableOnce(std::int64_t entries) {
+    static std::map<std::int64_t, std::string> tables;
+    const auto [place, isNew] = tables.try_emplace(entries);
+    if (isNew) {
+        place->second = storedTable(entries);
+    }
+    return place->second;
+}
+
+HighScores tableOf(std::int64_t entries) {
+    return HighScores(std::string_view(storedTableOnce(entries)));
+}
+
+void reportMemory(benchmark::State& state) {
+    state.counters["peak_MB"] = static_cast<double>(PeakMemory::bytes()) / 1e6;
+}
+
+void load(benchmark::State& state) {
+    const std::string_view data = storedTableOnce(state.range(0));
+    PeakMemory::reset();
+    for (auto _ : state) {
+        const HighScores table(data);
+        if (std::ssize(table.entries()) != state.range(0)) {
+            state.SkipWithError("the table did not load");
+        }
+    }
+    reportMemory(state);
+    state.SetBytesProcessed(state.iterations() * std::ssize(data));
+}
+
+void encode(benchmark::State& state) {
+    const HighScores table = tableOf(state.range(0));
+    PeakMemory::reset();
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(table.encoded());
+    }
+    reportMemory(state);
+}
+
+void leaders(benchmark::State& state) {
+    const HighScores table = tableOf(state.range(0));
+    PeakMemory::reset();
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(table.leaders("Classic"));
+    }
+    reportMemory(state);
+}
+
+/// Into a table that is put back to its size when it has grown by a tenth.
+void record(benchmark::State& state) {
+    const HighScores original = tableOf(state.range(0));
+    std::vector<UUID> ids;
+    for (std::int64_t i = 0; i < state.range(0) / 10; ++i) {
+        ids.push_back(UUID::random());
+    }
+    HighScores table = original;
+    PeakMemory::reset();
+    std::size_t next = 0;
+    for (auto _ : state) {
+        if (next == ids.size()) {
+            state.PauseTiming();
+            table = original;
+            next = 0;
+            state.ResumeTiming();
+        }
+        if (!table.record(ids[next++], "Pip Green", 120, "Classic", {784598400.5})) {
+            state.SkipWithError("the result was not recorded");
+        }
+    }
+    reportMemory(state);
+}
+
+void sizes(benchmark::internal::Benchmark* benchmark) {
+    benchmark->Arg(100)->Arg(10'000)->Arg(1'000'000)->Unit(benchmark::kMicrosecond);
+}
+
+BENCHMARK(load)->Apply(sizes);
+BENCHMARK(encode)->Apply(sizes);
+BENCHMARK(leaders)->Apply(sizes);
+BENCHMARK(record)->Apply(sizes);
+
+}  // namespace
+}  // namespace SnakeCore
