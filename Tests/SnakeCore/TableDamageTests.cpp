@@ -91,7 +91,8 @@ TEST(TableDamage, leavesNothingWhenOneEntryHasAWrongType) {
 TEST(TableDamage, leavesNothingWhenAScoreIsNoIntegerOf64Bits) {
     expectRefused(&EntryText::score,
                   {"120.5", "1e-1", "9223372036854775808", "-9223372036854775809",
-                   "18446744073709551616", "1e19", "9.3e18", "-9.3e18", "1e400", "-1e400"});
+                   "18446744073709551616", "9223372036854775808.0", "9.223372036854775808e18",
+                   "1e19", "9.3e18", "-9.3e18", "1e400", "-1e400"});
 }
 
 TEST(TableDamage, leavesNothingWhenADateIsBeyondADouble) {
