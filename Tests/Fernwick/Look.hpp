@@ -15,9 +15,9 @@
 /// The numbers of a look, as a designer lays them over a screen.
 namespace Look {
 
-inline const char* const sans = "Inter";
-inline const char* const serif = "ElstobD";
-inline const char* const mono = "JetBrains Mono";
+inline constexpr const char* sans = "Inter";
+inline constexpr const char* serif = "ElstobD";
+inline constexpr const char* mono = "JetBrains Mono";
 
 /// The type of a text; sizes and tracking in points.
 struct Type {

@@ -15,8 +15,11 @@ protected:
         settle();
     }
 
-    /// Lets the window follow the session.
-    static void settle() { QCoreApplication::processEvents(); }
+    /// Lets the window follow the session and lay out anew what that changed.
+    static void settle() {
+        QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
+    }
 
     [[nodiscard]] bool shows(const QString& text) const { return Screen::shows(window, text); }
 
