@@ -2,15 +2,30 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
+#include <QPainterPath>
+#include <algorithm>
 #include <cmath>
 
 #include "Garden/Accessibility.hpp"
 
 namespace Garden {
 
+namespace {
+
+// How far the deepest letters of a font reach below the line that it claims: an old style serif
+// may promise less room than its g takes.
+double overhang(const QFont& font) {
+    QPainterPath deepest;
+    deepest.addText(0, 0, font, QStringLiteral("gjpqy"));
+    return std::max(0.0,
+                    std::ceil(deepest.boundingRect().bottom() - QFontMetricsF(font).descent()));
+}
+
+}  // namespace
+
 TrackedLabel::TrackedLabel(const QString& text, const QFont& font, const QColor& colour,
                            QWidget* parent)
-    : QWidget(parent), text_(text), colour_(colour) {
+    : QWidget(parent), text_(text), colour_(colour), overhang_(overhang(font)) {
     installAccessibility();
     setFont(font);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
@@ -36,7 +51,7 @@ QSize TrackedLabel::sizeHint() const {
     const QFontMetricsF metrics(font());
     const double trailing = text_.isEmpty() ? 0 : font().letterSpacing();
     return {static_cast<int>(std::ceil(metrics.horizontalAdvance(text_) - trailing)),
-            static_cast<int>(std::ceil(metrics.height()))};
+            static_cast<int>(std::ceil(metrics.height()) + overhang_)};
 }
 
 QSize TrackedLabel::minimumSizeHint() const {
@@ -49,7 +64,7 @@ void TrackedLabel::paintEvent(QPaintEvent*) {
     painter.setPen(colour_);
     const QFontMetricsF metrics(font());
     const bool fits = width() >= sizeHint().width();
-    painter.drawText(rect(),
+    painter.drawText(QRectF(rect()).adjusted(0, 0, 0, -overhang_),
                      Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip,
                      fits ? text_ : metrics.elidedText(text_, Qt::ElideRight, width()));
 }

@@ -31,6 +31,8 @@ protected:
 private:
     QString text_;
     QColor colour_;
+    // The room below the line for its deepest letters.
+    double overhang_;
     bool elided_ = false;
 };
 

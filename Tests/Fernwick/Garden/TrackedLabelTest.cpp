@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QFontMetricsF>
+#include <QPainter>
 
 #include "Fernwick/Garden/Picture.hpp"
 #include "Garden/Fonts.hpp"
@@ -81,4 +82,24 @@ TEST(TrackedLabel, givesWayOnlyWhenItMayElide) {
     const QRect ink = inkOf(picture(label));
     EXPECT_GT(ink.width(), label.width() / 2);
     EXPECT_LT(ink.right(), label.width());
+}
+
+TEST(TrackedLabel, paintsTheDeepestLettersWhole) {
+    const QString deepest = QStringLiteral("gjpqy");
+    for (const QFont& font : {Garden::serif(27, QFont::Light), Garden::serif(30, QFont::Normal),
+                              Garden::serif(34, QFont::Normal), Garden::serif(35, QFont::Normal),
+                              Garden::sans(14, QFont::Normal), Garden::mono(13, QFont::Normal)}) {
+        Garden::TrackedLabel label(deepest, font, Qt::white);
+        QImage free(400, 400, QImage::Format_ARGB32_Premultiplied);
+        free.setDevicePixelRatio(2);
+        free.fill(Qt::black);
+        QPainter painter(&free);
+        painter.setPen(Qt::white);
+        painter.setFont(font);
+        painter.drawText(20, 100, deepest);
+        painter.end();
+
+        EXPECT_NEAR(inkOf(picture(label, 2)).height(), inkOf(free).height(), 1)
+            << font.family().toStdString() << font.pixelSize();
+    }
 }
