@@ -74,8 +74,10 @@ class Desktop:
 
     def _start_display(self):
         reading, writing = os.pipe()
+        # Without -noreset the server would start over whenever its last client leaves, and take
+        # along a window manager that is just arriving.
         self._spawn("Xvfb", "-displayfd", str(writing), "-screen", "0",
-                    f"{Screen.WIDTH}x{Screen.HEIGHT}x24", "-nolisten", "tcp",
+                    f"{Screen.WIDTH}x{Screen.HEIGHT}x24", "-nolisten", "tcp", "-noreset",
                     "-fbdir", str(self.folder), pass_fds=[writing])
         os.close(writing)
         with os.fdopen(reading) as number:
