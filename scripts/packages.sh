@@ -41,6 +41,7 @@ librapidcheck-dev    tries properties on random values
 strace               makes system calls fail under test
 xvfb                 a display of its own for the desktop tests
 openbox              the window manager on that display
+weston               a Wayland desktop without a screen, for the desktop tests
 xdotool              presses real keys and moves the pointer
 x11-utils            reads the state of windows
 x11-xkb-utils        switches keyboard layouts
@@ -48,6 +49,7 @@ imagemagick          takes screenshots
 dbus                 the message bus for accessibility
 at-spi2-core         the accessibility bus
 python3-pyatspi      reads the screen as assistive programs do
+python3-gi           talks to the accessibility bus
 python3-cbor2        reads the settings file
 python3-pytest       runs the desktop tests
 pulseaudio           a real sound server for the sound tests
