@@ -48,8 +48,7 @@ x11-xkb-utils        switches keyboard layouts
 imagemagick          takes screenshots
 dbus                 the message bus for accessibility
 at-spi2-core         the accessibility bus
-python3-pyatspi      reads the screen as assistive programs do
-python3-gi           talks to the accessibility bus
+python3-gi           reads the screen as assistive programs do
 python3-cbor2        reads the settings file
 python3-pytest       runs the desktop tests
 pulseaudio           a real sound server for the sound tests

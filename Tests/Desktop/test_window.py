@@ -69,3 +69,24 @@ def test_its_marks_maximise_and_close_it(window):
 def test_its_mark_minimises_it(window):
     window.click(window.find("Minimise"))
     eventually(lambda: "_NET_WM_STATE_HIDDEN" in window.state(), "the window is minimised")
+
+
+def double_click(game):
+    game.desktop.run("xdotool", "click", "--repeat", "2", "--delay", "50", "1")
+
+
+def test_a_click_on_the_top_band_does_not_hold_the_window(window):
+    left, top, width, _ = before = window.geometry()
+    window.point_at(left + width // 2, top + TOP_BAND)
+    window.desktop.run("xdotool", "click", "1")
+    window.point_at(left + width // 2 + 80, top + TOP_BAND + 60)
+    # A key goes through the same hands as the pointer's move and shows that it has been seen.
+    window.start_run()
+    assert window.geometry() == before
+
+
+def test_a_double_click_on_the_top_band_maximises_it(window):
+    left, top, width, _ = window.geometry()
+    window.point_at(left + width // 2, top + TOP_BAND)
+    double_click(window)
+    eventually(window.is_maximised, "the window is maximised")

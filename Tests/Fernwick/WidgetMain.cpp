@@ -2,10 +2,12 @@
 
 #include <QApplication>
 
-// Tests of widgets that need no screen.
-int main(int argc, char* argv[]) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    ::testing::InitGoogleTest(&argc, argv);
+int main(int argc, char** argv) {
+    // Also when run by hand or asked for its list of tests, with no display about.
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    QApplication application(argc, argv);
+    testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -142,4 +142,4 @@ TEST_F(MotionSetting, asksForNothingWhereThereIsNoPortal) {
     EXPECT_FALSE(setting.asksForStillness());
 }
 
-#include "MotionSettingTest.moc"
+#include "MotionSettingTests.moc"
