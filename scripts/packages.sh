@@ -9,6 +9,8 @@ ninja-build          runs the build
 pkg-config           finds libraries for the build
 qt6-base-dev         windows, events and drawing
 qt6-svg-dev          draws the icons
+qt6-tools-dev        tells the build about the tools below
+qt6-l10n-tools       compiles the translations
 qt6-wayland          lets the game run on Wayland desktops
 nlohmann-json3-dev   reads the table of high scores
 libicu-dev           counts the characters of a name as people see them
@@ -53,6 +55,8 @@ python3-cbor2        reads the settings file
 python3-pytest       runs the desktop tests
 pulseaudio           a real sound server for the sound tests
 pulseaudio-utils     records what that server plays
+fonts-noto-core      Arabic and Devanagari letters for the tests of the translations
+fonts-droid-fallback Chinese, Japanese and Korean ones, in a thirtieth of the room of others
 LIST
 }
 

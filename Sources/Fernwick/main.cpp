@@ -1,7 +1,9 @@
 #include <QApplication>
+#include <QLocale>
 
 #include "MainWindow/ApplicationStyle.hpp"
 #include "MainWindow/FernwickApp.hpp"
+#include "MainWindow/Language.hpp"
 #include "MainWindow/SessionBus.hpp"
 #include "MainWindow/UnixSignals.hpp"
 #include "Session/PreferencesFile.hpp"
@@ -16,6 +18,7 @@ int main(int, char* argv[]) {
     QApplication::setApplicationDisplayName(QStringLiteral("Fernwick"));
     QGuiApplication::setDesktopFileName(QStringLiteral("fernwick"));
 
+    const Language language(Language::bestFor(QLocale::system().uiLanguages()));
     applyGardenStyle();
 
     const UnixSignals signalsQuit;

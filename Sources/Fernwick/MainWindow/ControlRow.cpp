@@ -43,11 +43,14 @@ void ControlRow::choose(int index) {
 
 QString ControlRow::statusWord() const {
     if (session_.running) {
+        //: What the game is doing, in tiny capitals: a run is going on.
         return tr("IN THE FLOW");
     }
     if (session_.game->ended()) {
+        //: The run is over.
         return tr("ANOTHER CHANCE TO GROW");
     }
+    //: The run is paused; and: no run has been started yet, of a classic game in a new garden.
     return session_.started ? tr("TAKE A BREATH") : tr("THE CLASSIC, REPLANTED");
 }
 

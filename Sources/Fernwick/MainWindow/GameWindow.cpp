@@ -23,6 +23,7 @@ GameWindow::GameWindow(Session& session)
       band_(new MenuBand(this)),
       content_(new ContentView(session, this)) {
     setObjectName(QStringLiteral("main"));
+    //: The name of the game. Stays as it is in every language.
     setWindowTitle(tr("Fernwick"));
     setWindowIcon(Garden::applicationIcon());
     setMinimumSize(smallestSize);

@@ -36,6 +36,7 @@ HeaderRow::HeaderRow(Session& session, QWidget* parent)
     row->setSpacing(0);
     row->addLayout(titleBlock());
     row->addStretch();
+    //: A tiny label above a number; so is the next. In capitals where the script has them.
     row->addLayout(metric(tr("SCORE"), score_, Qt::AlignLeft));
     row->addSpacing(rulePadding);
     row->addWidget(new Rule, 0, Qt::AlignVCenter);
@@ -49,6 +50,7 @@ QBoxLayout* HeaderRow::titleBlock() {
     wordmark->setSpacing(wordmarkSpacing);
     wordmark->addWidget(new Garden::IconView(Garden::Icon::leafFilled, wordmarkSize, Garden::mint));
     wordmark->addWidget(new Garden::TrackedLabel(
+        //: The name of the game as its wordmark. Stays as it is in every language.
         tr("FERNWICK"), Garden::sans(wordmarkSize, QFont::DemiBold, wordmarkTracking),
         Garden::primaryText));
     wordmark->addStretch();
@@ -56,6 +58,7 @@ QBoxLayout* HeaderRow::titleBlock() {
     auto* block = new QVBoxLayout;
     block->setSpacing(titleBlockSpacing);
     block->addLayout(wordmark);
+    //: The line under the wordmark: of the garden, and of whoever plays in it.
     block->addWidget(new Garden::TrackedLabel(tr("A little room to grow."),
                                               Garden::serif(taglineSize, QFont::Light),
                                               Garden::withOpacity(Qt::white, taglineOpacity)));

@@ -35,7 +35,10 @@ HintRow::HintRow(Session& session, QWidget* parent)
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(hintSpacing);
     row->addWidget(hint(QStringLiteral("↑ ↓ ← →"), arrowsSize));
+    //: Follows the four arrows. W A S D are places on the keyboard: name the letters that the
+    //: keyboards of the language show there.
     row->addWidget(hint(tr("or WASD to move"), hintSize));
+    //: Three spaces on each side of a dot, as here. R stays a Latin letter.
     row->addWidget(hint(tr("·   SPACE to pause   ·   R to restart"), hintSize));
     row->addStretch();
 

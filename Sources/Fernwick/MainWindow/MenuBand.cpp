@@ -27,6 +27,7 @@ MenuBand::MenuBand(QWidget* window) : QWidget(window), menuBar_(new QMenuBar(thi
     row->setSpacing(markSpacing);
     row->addWidget(menuBar_, 0, Qt::AlignVCenter);
     row->addStretch();
+    //: Help for the marks of the window, as the desktops of the language say it.
     maximize_ = new Garden::IconButton(Garden::Icon::windowMaximize, tr("Maximise"));
     addMark(*row, new Garden::IconButton(Garden::Icon::windowMinimize, tr("Minimise")),
             &MenuBand::minimize);

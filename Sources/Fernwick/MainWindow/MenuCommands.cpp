@@ -16,6 +16,7 @@ MenuCommands::MenuCommands(Session& session, QMenuBar& bar, QWidget& window)
       session_(session),
       window_(window),
       observer_(session, [this] { refresh(); }) {
+    //: Titles of menus; they and their items are worded as the desktops of the language do.
     fillFileMenu(*bar.addMenu(tr("File")));
     fillGameMenu(*bar.addMenu(tr("Game")));
     refresh();

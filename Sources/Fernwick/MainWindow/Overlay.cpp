@@ -47,6 +47,7 @@ Overlay::Overlay(Session& session, QWidget* parent)
     column->addSpacing(spaceAboveHint);
     column->addWidget(
         new Garden::TrackedLabel(
+            //: The space bar.
             tr("PRESS SPACE"), Garden::sans(hintSize, QFont::Medium, hintTracking), Garden::muted),
         0, Qt::AlignHCenter);
     column->addStretch();
@@ -57,18 +58,23 @@ Overlay::Overlay(Session& session, QWidget* parent)
 void Overlay::refresh() {
     if (session_.game->ended()) {
         symbol_->setIcon(Garden::Icon::arrowClockwise);
+        //: Headlines of an ended run: the snake fills the whole board; it struck something.
         title_->setText(session_.game->won() ? tr("Fully grown.")
                                              : tr("A good place to begin again."));
         line_->setText(Garden::withNumber(
+            //: %lld is the score; it has to stay.
             tr("You gathered %lld points. Let's grow a little further."), session_.game->score()));
+        //: A button; so are "Keep growing" and "Let's grow". An arrow follows the words.
         button_->setText(tr("Grow again"));
     } else if (session_.started) {
         symbol_->setIcon(Garden::Icon::moon);
+        //: The headline of the pause.
         title_->setText(tr("No rush."));
         line_->setText(tr("Your garden will be here when you're ready."));
         button_->setText(tr("Keep growing"));
     } else {
         symbol_->setIcon(Garden::Icon::leaf);
+        //: The headline before the first run.
         title_->setText(tr("Find your flow."));
         line_->setText(tr("Gather the fruit. Grow a little longer. Stay curious."));
         button_->setText(tr("Let's grow"));

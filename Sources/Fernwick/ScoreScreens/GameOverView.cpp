@@ -47,7 +47,9 @@ GameOverView::GameOverView(Session& session, QWidget* parent)
 }
 
 void GameOverView::refresh() {
+    //: Headlines of an ended run: the snake fills the whole board; it struck something.
     headline_->setText(session_.game->won() ? tr("Fully grown.") : tr("Game over."));
+    //: %lld is the score, %@ the name of the speed; both have to stay. Two spaces round the dot.
     result_->setText(Garden::withNumber(tr("%lld POINTS  ·  %@"), session_.game->score())
                          .replace(QStringLiteral("%@"), displayName(session_.runPace())));
     if (session_.awaitingName) {

@@ -32,6 +32,7 @@ constexpr double edgeOpacity = 0.16;
 HighScoresView::HighScoresView(Session& session, QWidget* parent)
     : QWidget(parent),
       session_(session),
+      //: Read aloud for the choice between the speeds.
       speed_(new Garden::ChoiceGroup(paceNames(), tr("Speed"))),
       rows_(new ScoreRows),
       observer_(session, [this] { refresh(); }) {
@@ -50,6 +51,7 @@ HighScoresView::HighScoresView(Session& session, QWidget* parent)
                                  Garden::primaryText),
         0, Qt::AlignHCenter);
     column->addWidget(
+        //: "Mac" means the player's own computer, of whatever make.
         new Garden::TrackedLabel(tr("Top 10 for each speed · saved on this Mac"),
                                  Garden::sans(subtitleSize, QFont::Normal), Garden::muted),
         0, Qt::AlignHCenter);

@@ -37,6 +37,7 @@ NameEntry::NameEntry(Session& session, QWidget* parent)
       session_(session),
       field_(new NameField(this)),
       save_(new Garden::GardenButton(tr("Save score"), this)) {
+    //: Shown in the empty field.
     field_->setPlaceholderText(tr("Your name"));
     field_->setAccessibleName(tr("Player name"));
     auto* skip =
@@ -49,6 +50,7 @@ NameEntry::NameEntry(Session& session, QWidget* parent)
         0, Qt::AlignHCenter);
     column->addWidget(field_);
     column->addWidget(
+        //: "Mac" means the player's own computer, of whatever make.
         new Garden::TrackedLabel(tr("Up to 24 characters · saved on this Mac"),
                                  Garden::sans(hintSize, QFont::Normal), Garden::muted),
         0, Qt::AlignHCenter);

@@ -33,6 +33,7 @@ SavedBoard::SavedBoard(Session& session, QWidget* parent)
     column->addWidget(title_, 0, Qt::AlignHCenter);
     column->addWidget(rows_);
     column->addWidget(replay, 0, Qt::AlignHCenter);
+    //: The space bar.
     column->addWidget(new Garden::TrackedLabel(tr("SPACE TO PLAY AGAIN"),
                                                Garden::sans(hintSize, QFont::Normal, hintTracking),
                                                Garden::muted),

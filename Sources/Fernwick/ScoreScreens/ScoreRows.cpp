@@ -57,6 +57,7 @@ ScoreRows::ScoreRows(QWidget* parent)
     scrollArea_->setFrameShape(QFrame::NoFrame);
     scrollArea_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scrollArea_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    //: Read aloud for the list of scores.
     scrollArea_->setAccessibleName(tr("Scores"));
     scrollArea_->installEventFilter(this);
     scrollArea_->viewport()->setAutoFillBackground(false);

@@ -14,6 +14,7 @@ struct PaceRow {
 
 using std::chrono_literals::operator""ms;
 
+//: The three speeds, each a short word of its own: slow, as usual, fast.
 constexpr std::array<PaceRow, allPaces.size()> rows{{
     {QT_TRANSLATE_NOOP("Pace", "Gentle"), 190ms},
     {QT_TRANSLATE_NOOP("Pace", "Classic"), 130ms},

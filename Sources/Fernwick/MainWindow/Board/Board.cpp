@@ -153,6 +153,7 @@ void Board::preparePicture() {
 }
 
 void Board::announceScore() {
+    //: Read aloud for the picture of the board. %lld is the score; it has to stay.
     const QString label = tr("Snake board. Score %lld. Use arrow keys or W A S D to move.");
     setAccessibleName(Garden::withNumber(label, game_.score()));
 }

@@ -1,0 +1,377 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>Board</name>
+    <message>
+        <source>Snake board. Score %lld. Use arrow keys or W A S D to move.</source>
+        <extracomment>Read aloud for the picture of the board. %lld is the score; it has to stay.</extracomment>
+        <translation>Plateau du serpent. Score : %lld. Déplacements avec les flèches ou Z Q S D.</translation>
+    </message>
+</context>
+<context>
+    <name>ControlRow</name>
+    <message>
+        <source>Speed</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>IN THE FLOW</source>
+        <extracomment>What the game is doing, in tiny capitals: a run is going on.</extracomment>
+        <translation>EN PLEIN ÉLAN</translation>
+    </message>
+    <message>
+        <source>ANOTHER CHANCE TO GROW</source>
+        <extracomment>The run is over.</extracomment>
+        <translation>UNE AUTRE CHANCE DE GRANDIR</translation>
+    </message>
+    <message>
+        <source>TAKE A BREATH</source>
+        <extracomment>The run is paused; and: no run has been started yet, of a classic game in a new garden.</extracomment>
+        <translation>LE TEMPS DE SOUFFLER</translation>
+    </message>
+    <message>
+        <source>THE CLASSIC, REPLANTED</source>
+        <translation>LE CLASSIQUE, REPLANTÉ</translation>
+    </message>
+</context>
+<context>
+    <name>GameOverView</name>
+    <message>
+        <source>Fully grown.</source>
+        <extracomment>Headlines of an ended run: the snake fills the whole board; it struck something.</extracomment>
+        <translation>Tout a poussé.</translation>
+    </message>
+    <message>
+        <source>Game over.</source>
+        <translation>Partie terminée.</translation>
+    </message>
+    <message>
+        <source>%lld POINTS  ·  %@</source>
+        <extracomment>%lld is the score, %@ the name of the speed; both have to stay. Two spaces round the dot.</extracomment>
+        <translation>%lld POINTS  ·  %@</translation>
+    </message>
+</context>
+<context>
+    <name>GameWindow</name>
+    <message>
+        <source>Fernwick</source>
+        <extracomment>The name of the game. Stays as it is in every language.</extracomment>
+        <translation>Fernwick</translation>
+    </message>
+</context>
+<context>
+    <name>HeaderRow</name>
+    <message>
+        <source>SCORE</source>
+        <extracomment>A tiny label above a number; so is the next. In capitals where the script has them.</extracomment>
+        <translation>SCORE</translation>
+    </message>
+    <message>
+        <source>PERSONAL BEST</source>
+        <translation>RECORD PERSONNEL</translation>
+    </message>
+    <message>
+        <source>FERNWICK</source>
+        <extracomment>The name of the game as its wordmark. Stays as it is in every language.</extracomment>
+        <translation>FERNWICK</translation>
+    </message>
+    <message>
+        <source>A little room to grow.</source>
+        <extracomment>The line under the wordmark: of the garden, and of whoever plays in it.</extracomment>
+        <translation>Un peu de place pour grandir.</translation>
+    </message>
+</context>
+<context>
+    <name>HighScoresView</name>
+    <message>
+        <source>Speed</source>
+        <extracomment>Read aloud for the choice between the speeds.</extracomment>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>The high scores.</source>
+        <translation>Les meilleurs scores.</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Terminé</translation>
+    </message>
+    <message>
+        <source>Top 10 for each speed · saved on this Mac</source>
+        <extracomment>&quot;Mac&quot; means the player&apos;s own computer, of whatever make.</extracomment>
+        <translation>Top 10 de chaque vitesse · enregistré sur cet ordinateur</translation>
+    </message>
+</context>
+<context>
+    <name>HintRow</name>
+    <message>
+        <source>High scores</source>
+        <translation>Meilleurs scores</translation>
+    </message>
+    <message>
+        <source>Toggle sound effects</source>
+        <translation>Activer ou couper les effets sonores</translation>
+    </message>
+    <message>
+        <source>Pause or resume</source>
+        <translation>Mettre en pause ou reprendre</translation>
+    </message>
+    <message>
+        <source>or WASD to move</source>
+        <extracomment>Follows the four arrows. W A S D are places on the keyboard: name the letters that the keyboards of the language show there.</extracomment>
+        <translation>ou ZQSD pour se déplacer</translation>
+    </message>
+    <message>
+        <source>·   SPACE to pause   ·   R to restart</source>
+        <extracomment>Three spaces on each side of a dot, as here. R stays a Latin letter.</extracomment>
+        <translation>·   ESPACE pour la pause   ·   R pour recommencer</translation>
+    </message>
+</context>
+<context>
+    <name>MenuBand</name>
+    <message>
+        <source>Maximise</source>
+        <extracomment>Help for the marks of the window, as the desktops of the language say it.</extracomment>
+        <translation>Agrandir</translation>
+    </message>
+    <message>
+        <source>Minimise</source>
+        <translation>Réduire</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>MenuCommands</name>
+    <message>
+        <source>File</source>
+        <extracomment>Titles of menus; they and their items are worded as the desktops of the language do.</extracomment>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Jeu</translation>
+    </message>
+    <message>
+        <source>New Game</source>
+        <translation>Nouvelle partie</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Toggle Full Screen</source>
+        <translation>Basculer en plein écran</translation>
+    </message>
+    <message>
+        <source>High Scores</source>
+        <translation>Meilleurs scores</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Reprendre</translation>
+    </message>
+    <message>
+        <source>Sound Effects</source>
+        <translation>Effets sonores</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Mettre en pause</translation>
+    </message>
+</context>
+<context>
+    <name>NameEntry</name>
+    <message>
+        <source>Save score</source>
+        <translation>Enregistrer le score</translation>
+    </message>
+    <message>
+        <source>Your name</source>
+        <extracomment>Shown in the empty field.</extracomment>
+        <translation>Ton nom</translation>
+    </message>
+    <message>
+        <source>Player name</source>
+        <translation>Nom du joueur</translation>
+    </message>
+    <message>
+        <source>Skip saving</source>
+        <translation>Ne pas enregistrer</translation>
+    </message>
+    <message>
+        <source>Leave your name in the garden.</source>
+        <translation>Laisse ton nom dans le jardin.</translation>
+    </message>
+    <message>
+        <source>Up to 24 characters · saved on this Mac</source>
+        <extracomment>&quot;Mac&quot; means the player&apos;s own computer, of whatever make.</extracomment>
+        <translation>24 caractères au plus · enregistré sur cet ordinateur</translation>
+    </message>
+</context>
+<context>
+    <name>Overlay</name>
+    <message>
+        <source>PRESS SPACE</source>
+        <extracomment>The space bar.</extracomment>
+        <translation>APPUIE SUR ESPACE</translation>
+    </message>
+    <message>
+        <source>Fully grown.</source>
+        <extracomment>Headlines of an ended run: the snake fills the whole board; it struck something.</extracomment>
+        <translation>Tout a poussé.</translation>
+    </message>
+    <message>
+        <source>A good place to begin again.</source>
+        <translation>Un bel endroit pour recommencer.</translation>
+    </message>
+    <message>
+        <source>You gathered %lld points. Let&apos;s grow a little further.</source>
+        <extracomment>%lld is the score; it has to stay.</extracomment>
+        <translation>Tu as récolté %lld points. Grandissons encore un peu.</translation>
+    </message>
+    <message>
+        <source>Grow again</source>
+        <extracomment>A button; so are &quot;Keep growing&quot; and &quot;Let&apos;s grow&quot;. An arrow follows the words.</extracomment>
+        <translation>Grandir encore</translation>
+    </message>
+    <message>
+        <source>No rush.</source>
+        <extracomment>The headline of the pause.</extracomment>
+        <translation>Rien ne presse.</translation>
+    </message>
+    <message>
+        <source>Your garden will be here when you&apos;re ready.</source>
+        <translation>Ton jardin t’attendra, le temps qu’il faudra.</translation>
+    </message>
+    <message>
+        <source>Keep growing</source>
+        <translation>Continuer à grandir</translation>
+    </message>
+    <message>
+        <source>Find your flow.</source>
+        <extracomment>The headline before the first run.</extracomment>
+        <translation>Trouve ton rythme.</translation>
+    </message>
+    <message>
+        <source>Gather the fruit. Grow a little longer. Stay curious.</source>
+        <translation>Cueille les fruits. Grandis encore un peu. Garde ta curiosité.</translation>
+    </message>
+    <message>
+        <source>Let&apos;s grow</source>
+        <translation>Grandissons</translation>
+    </message>
+</context>
+<context>
+    <name>Pace</name>
+    <message>
+        <source>Gentle</source>
+        <extracomment>The three speeds, each a short word of its own: slow, as usual, fast.</extracomment>
+        <translation>Douce</translation>
+    </message>
+    <message>
+        <source>Classic</source>
+        <translation>Classique</translation>
+    </message>
+    <message>
+        <source>Swift</source>
+        <translation>Vive</translation>
+    </message>
+</context>
+<context>
+    <name>QAccessibleActionInterface</name>
+    <message>
+        <source>Press</source>
+        <extracomment>What can be done with a button, and what that means; read aloud.</extracomment>
+        <translation>Appuyer</translation>
+    </message>
+    <message>
+        <source>Triggers the action</source>
+        <translation>Déclenche l’action</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <extracomment>The menu of a text field, worded as the desktops of the language do.</extracomment>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Co&amp;uper</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>Cop&amp;ier</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>C&amp;oller</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tout sélectionner</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <extracomment>Keys, as they are written on the keyboards of the language.</extracomment>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Maj</translation>
+    </message>
+    <message>
+        <source>Meta</source>
+        <translation>Méta</translation>
+    </message>
+</context>
+<context>
+    <name>SavedBoard</name>
+    <message>
+        <source>Play again</source>
+        <translation>Rejouer</translation>
+    </message>
+    <message>
+        <source>SPACE TO PLAY AGAIN</source>
+        <extracomment>The space bar.</extracomment>
+        <translation>ESPACE POUR REJOUER</translation>
+    </message>
+    <message>
+        <source>Score saved · Top 10</source>
+        <translation>Score enregistré · Top 10</translation>
+    </message>
+    <message>
+        <source>Top 10</source>
+        <translation>Top 10</translation>
+    </message>
+</context>
+<context>
+    <name>ScoreRows</name>
+    <message>
+        <source>A fresh start. Be the first on the board.</source>
+        <translation>Un nouveau départ. La première place est à prendre.</translation>
+    </message>
+    <message>
+        <source>Scores</source>
+        <extracomment>Read aloud for the list of scores.</extracomment>
+        <translation>Scores</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,377 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pl" sourcelanguage="en">
+<context>
+    <name>Board</name>
+    <message>
+        <source>Snake board. Score %lld. Use arrow keys or W A S D to move.</source>
+        <extracomment>Read aloud for the picture of the board. %lld is the score; it has to stay.</extracomment>
+        <translation>Plansza węża. Wynik: %lld. Sterowanie strzałkami lub klawiszami W A S D.</translation>
+    </message>
+</context>
+<context>
+    <name>ControlRow</name>
+    <message>
+        <source>Speed</source>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>IN THE FLOW</source>
+        <extracomment>What the game is doing, in tiny capitals: a run is going on.</extracomment>
+        <translation>W SWOIM RYTMIE</translation>
+    </message>
+    <message>
+        <source>ANOTHER CHANCE TO GROW</source>
+        <extracomment>The run is over.</extracomment>
+        <translation>KOLEJNA SZANSA, BY ROSNĄĆ</translation>
+    </message>
+    <message>
+        <source>TAKE A BREATH</source>
+        <extracomment>The run is paused; and: no run has been started yet, of a classic game in a new garden.</extracomment>
+        <translation>WEŹ ODDECH</translation>
+    </message>
+    <message>
+        <source>THE CLASSIC, REPLANTED</source>
+        <translation>KLASYK ZASADZONY NA NOWO</translation>
+    </message>
+</context>
+<context>
+    <name>GameOverView</name>
+    <message>
+        <source>Fully grown.</source>
+        <extracomment>Headlines of an ended run: the snake fills the whole board; it struck something.</extracomment>
+        <translation>W pełni wyrośnięty.</translation>
+    </message>
+    <message>
+        <source>Game over.</source>
+        <translation>Koniec gry.</translation>
+    </message>
+    <message>
+        <source>%lld POINTS  ·  %@</source>
+        <extracomment>%lld is the score, %@ the name of the speed; both have to stay. Two spaces round the dot.</extracomment>
+        <translation>%lld PUNKTÓW  ·  %@</translation>
+    </message>
+</context>
+<context>
+    <name>GameWindow</name>
+    <message>
+        <source>Fernwick</source>
+        <extracomment>The name of the game. Stays as it is in every language.</extracomment>
+        <translation>Fernwick</translation>
+    </message>
+</context>
+<context>
+    <name>HeaderRow</name>
+    <message>
+        <source>SCORE</source>
+        <extracomment>A tiny label above a number; so is the next. In capitals where the script has them.</extracomment>
+        <translation>WYNIK</translation>
+    </message>
+    <message>
+        <source>PERSONAL BEST</source>
+        <translation>TWÓJ REKORD</translation>
+    </message>
+    <message>
+        <source>FERNWICK</source>
+        <extracomment>The name of the game as its wordmark. Stays as it is in every language.</extracomment>
+        <translation>FERNWICK</translation>
+    </message>
+    <message>
+        <source>A little room to grow.</source>
+        <extracomment>The line under the wordmark: of the garden, and of whoever plays in it.</extracomment>
+        <translation>Trochę miejsca, by rosnąć.</translation>
+    </message>
+</context>
+<context>
+    <name>HighScoresView</name>
+    <message>
+        <source>Speed</source>
+        <extracomment>Read aloud for the choice between the speeds.</extracomment>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>The high scores.</source>
+        <translation>Najlepsze wyniki.</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Gotowe</translation>
+    </message>
+    <message>
+        <source>Top 10 for each speed · saved on this Mac</source>
+        <extracomment>&quot;Mac&quot; means the player&apos;s own computer, of whatever make.</extracomment>
+        <translation>10 najlepszych w każdym tempie · zapisane na tym komputerze</translation>
+    </message>
+</context>
+<context>
+    <name>HintRow</name>
+    <message>
+        <source>High scores</source>
+        <translation>Najlepsze wyniki</translation>
+    </message>
+    <message>
+        <source>Toggle sound effects</source>
+        <translation>Włącz lub wyłącz efekty dźwiękowe</translation>
+    </message>
+    <message>
+        <source>Pause or resume</source>
+        <translation>Wstrzymaj lub wznów</translation>
+    </message>
+    <message>
+        <source>or WASD to move</source>
+        <extracomment>Follows the four arrows. W A S D are places on the keyboard: name the letters that the keyboards of the language show there.</extracomment>
+        <translation>lub WASD, by się poruszać</translation>
+    </message>
+    <message>
+        <source>·   SPACE to pause   ·   R to restart</source>
+        <extracomment>Three spaces on each side of a dot, as here. R stays a Latin letter.</extracomment>
+        <translation>·   SPACJA, by wstrzymać   ·   R, by zacząć od nowa</translation>
+    </message>
+</context>
+<context>
+    <name>MenuBand</name>
+    <message>
+        <source>Maximise</source>
+        <extracomment>Help for the marks of the window, as the desktops of the language say it.</extracomment>
+        <translation>Zmaksymalizuj</translation>
+    </message>
+    <message>
+        <source>Minimise</source>
+        <translation>Zminimalizuj</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zamknij</translation>
+    </message>
+</context>
+<context>
+    <name>MenuCommands</name>
+    <message>
+        <source>File</source>
+        <extracomment>Titles of menus; they and their items are worded as the desktops of the language do.</extracomment>
+        <translation>Plik</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Gra</translation>
+    </message>
+    <message>
+        <source>New Game</source>
+        <translation>Nowa gra</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Zakończ</translation>
+    </message>
+    <message>
+        <source>Toggle Full Screen</source>
+        <translation>Przełącz pełny ekran</translation>
+    </message>
+    <message>
+        <source>High Scores</source>
+        <translation>Najlepsze wyniki</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Wznów</translation>
+    </message>
+    <message>
+        <source>Sound Effects</source>
+        <translation>Efekty dźwiękowe</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Wstrzymaj</translation>
+    </message>
+</context>
+<context>
+    <name>NameEntry</name>
+    <message>
+        <source>Save score</source>
+        <translation>Zapisz wynik</translation>
+    </message>
+    <message>
+        <source>Your name</source>
+        <extracomment>Shown in the empty field.</extracomment>
+        <translation>Twoje imię</translation>
+    </message>
+    <message>
+        <source>Player name</source>
+        <translation>Imię gracza</translation>
+    </message>
+    <message>
+        <source>Skip saving</source>
+        <translation>Nie zapisuj</translation>
+    </message>
+    <message>
+        <source>Leave your name in the garden.</source>
+        <translation>Zostaw swoje imię w ogrodzie.</translation>
+    </message>
+    <message>
+        <source>Up to 24 characters · saved on this Mac</source>
+        <extracomment>&quot;Mac&quot; means the player&apos;s own computer, of whatever make.</extracomment>
+        <translation>Do 24 znaków · zapisane na tym komputerze</translation>
+    </message>
+</context>
+<context>
+    <name>Overlay</name>
+    <message>
+        <source>PRESS SPACE</source>
+        <extracomment>The space bar.</extracomment>
+        <translation>NACIŚNIJ SPACJĘ</translation>
+    </message>
+    <message>
+        <source>Fully grown.</source>
+        <extracomment>Headlines of an ended run: the snake fills the whole board; it struck something.</extracomment>
+        <translation>W pełni wyrośnięty.</translation>
+    </message>
+    <message>
+        <source>A good place to begin again.</source>
+        <translation>Dobre miejsce, by zacząć od nowa.</translation>
+    </message>
+    <message>
+        <source>You gathered %lld points. Let&apos;s grow a little further.</source>
+        <extracomment>%lld is the score; it has to stay.</extracomment>
+        <translation>Zebrano %lld punktów. Rośnijmy jeszcze trochę.</translation>
+    </message>
+    <message>
+        <source>Grow again</source>
+        <extracomment>A button; so are &quot;Keep growing&quot; and &quot;Let&apos;s grow&quot;. An arrow follows the words.</extracomment>
+        <translation>Rośnij znowu</translation>
+    </message>
+    <message>
+        <source>No rush.</source>
+        <extracomment>The headline of the pause.</extracomment>
+        <translation>Bez pośpiechu.</translation>
+    </message>
+    <message>
+        <source>Your garden will be here when you&apos;re ready.</source>
+        <translation>Twój ogród poczeka, aż wrócisz.</translation>
+    </message>
+    <message>
+        <source>Keep growing</source>
+        <translation>Rośnij dalej</translation>
+    </message>
+    <message>
+        <source>Find your flow.</source>
+        <extracomment>The headline before the first run.</extracomment>
+        <translation>Znajdź swój rytm.</translation>
+    </message>
+    <message>
+        <source>Gather the fruit. Grow a little longer. Stay curious.</source>
+        <translation>Zbieraj owoce. Rośnij jeszcze trochę. Nie trać ciekawości.</translation>
+    </message>
+    <message>
+        <source>Let&apos;s grow</source>
+        <translation>Rośnijmy</translation>
+    </message>
+</context>
+<context>
+    <name>Pace</name>
+    <message>
+        <source>Gentle</source>
+        <extracomment>The three speeds, each a short word of its own: slow, as usual, fast.</extracomment>
+        <translation>Łagodne</translation>
+    </message>
+    <message>
+        <source>Classic</source>
+        <translation>Klasyczne</translation>
+    </message>
+    <message>
+        <source>Swift</source>
+        <translation>Żwawe</translation>
+    </message>
+</context>
+<context>
+    <name>QAccessibleActionInterface</name>
+    <message>
+        <source>Press</source>
+        <extracomment>What can be done with a button, and what that means; read aloud.</extracomment>
+        <translation>Naciśnij</translation>
+    </message>
+    <message>
+        <source>Triggers the action</source>
+        <translation>Wykonuje działanie</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <extracomment>The menu of a text field, worded as the desktops of the language do.</extracomment>
+        <translation>&amp;Cofnij</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Ponów</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>W&amp;ytnij</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopiuj</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>Wk&amp;lej</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Usuń</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Zaznacz wszystko</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <extracomment>Keys, as they are written on the keyboards of the language.</extracomment>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Meta</source>
+        <translation>Meta</translation>
+    </message>
+</context>
+<context>
+    <name>SavedBoard</name>
+    <message>
+        <source>Play again</source>
+        <translation>Zagraj ponownie</translation>
+    </message>
+    <message>
+        <source>SPACE TO PLAY AGAIN</source>
+        <extracomment>The space bar.</extracomment>
+        <translation>SPACJA, BY ZAGRAĆ PONOWNIE</translation>
+    </message>
+    <message>
+        <source>Score saved · Top 10</source>
+        <translation>Wynik zapisany · Top 10</translation>
+    </message>
+    <message>
+        <source>Top 10</source>
+        <translation>Top 10</translation>
+    </message>
+</context>
+<context>
+    <name>ScoreRows</name>
+    <message>
+        <source>A fresh start. Be the first on the board.</source>
+        <translation>Nowy początek. Pierwsze miejsce czeka na ciebie.</translation>
+    </message>
+    <message>
+        <source>Scores</source>
+        <extracomment>Read aloud for the list of scores.</extracomment>
+        <translation>Wyniki</translation>
+    </message>
+</context>
+</TS>
