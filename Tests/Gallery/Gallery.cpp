@@ -8,6 +8,7 @@
 #include "Gallery/Scenes.hpp"
 #include "MainWindow/ApplicationStyle.hpp"
 #include "MainWindow/GameWindow.hpp"
+#include "MainWindow/Language.hpp"
 #include "Session/PreferencesFile.hpp"
 #include "Session/Session.hpp"
 #include "Session/SoundEffects.hpp"
@@ -50,8 +51,9 @@ void addToSheet(QPainter& sheet, const QImage& picture, int index, const QSize& 
 }  // namespace
 
 int main(int argc, char* argv[]) {
-    if (argc != 5) {
-        std::fputs("usage: fernwick-gallery FOLDER WIDTH HEIGHT window|full-screen\n", stderr);
+    if (argc != 5 && argc != 6) {
+        std::fputs("usage: fernwick-gallery FOLDER WIDTH HEIGHT window|full-screen [LANGUAGE]\n",
+                   stderr);
         return 2;
     }
     const QDir folder(QString::fromLocal8Bit(argv[1]));
@@ -59,6 +61,9 @@ int main(int argc, char* argv[]) {
     const bool fullScreen = QByteArray(argv[4]) == "full-screen";
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
+    // A locale's name ("de", "pt_BR"); English when none is given.
+    const QString wanted = argc == 6 ? QString::fromLocal8Bit(argv[5]) : QString();
+    const Language language(Language::bestFor({wanted}));
     applyGardenStyle();
     if (!QDir().mkpath(folder.path())) {
         std::fputs("the folder cannot be made\n", stderr);
