@@ -6,10 +6,16 @@
 #include "MainWindow/Language.hpp"
 #include "MainWindow/SessionBus.hpp"
 #include "MainWindow/UnixSignals.hpp"
+#include "Session/OneGame.hpp"
 #include "Session/PreferencesFile.hpp"
 #include "Session/PulseSoundEffects.hpp"
 
 int main(int, char* argv[]) {
+    const std::filesystem::path settings = PreferencesFile::defaultPath();
+    OneGame oneGame(settings);
+    if (oneGame.place() == OneGame::Place::second) {
+        return 0;
+    }
     leaveMissingSessionBusAlone();
     // The program takes no command line; only its own name reaches the toolkit.
     int count = 1;
@@ -22,11 +28,14 @@ int main(int, char* argv[]) {
     applyGardenStyle();
 
     const UnixSignals signalsQuit;
-    PreferencesFile preferences(PreferencesFile::defaultPath());
+    PreferencesFile preferences(settings);
     PulseSoundEffects soundEffects;
     FernwickApp fernwick(preferences, soundEffects);
     QObject::connect(&fernwick.window(), &GameWindow::appeared, &fernwick,
                      [&soundEffects] { soundEffects.prepare(); });
+    QObject::connect(&oneGame, &OneGame::startedAgain, &fernwick, &FernwickApp::bringForward);
+    QObject::connect(&application, &QApplication::aboutToQuit, &oneGame, &OneGame::leave);
+    oneGame.answer();
     fernwick.show();
     return QApplication::exec();
 }

@@ -6,6 +6,7 @@ from accessibility import accessibility_bus
 from desktop import Desktop
 from game import Game
 from home import Home
+from other_window import OtherWindow
 from screen import Screen
 
 # Below everything that answers to the pointer.
@@ -52,3 +53,10 @@ def launch(desktop, home, tmp_path):
 @pytest.fixture
 def game(launch):
     return launch()
+
+
+@pytest.fixture
+def other_window(desktop):
+    window = OtherWindow(desktop)
+    yield window
+    window.close()

@@ -110,6 +110,9 @@ class Game:
     def is_maximised(self):
         return "_NET_WM_STATE_MAXIMIZED_VERT" in self.state()
 
+    def is_minimised(self):
+        return "_NET_WM_STATE_HIDDEN" in self.state()
+
     def is_active(self):
         return self.desktop.active_window() == self.window
 

@@ -17,6 +17,17 @@ void FernwickApp::show() {
     window_.activateWindow();
 }
 
+void FernwickApp::bringForward(const QByteArray& activationToken) {
+    if (!activationToken.isEmpty()) {
+        // Where the toolkit looks for it when a window is to be activated under Wayland.
+        qputenv("XDG_ACTIVATION_TOKEN", activationToken);
+    }
+    window_.setWindowState(window_.windowState() & ~Qt::WindowMinimized);
+    window_.show();
+    window_.raise();
+    window_.activateWindow();
+}
+
 void FernwickApp::applicationStateChanged(Qt::ApplicationState state) {
     assertMainThread();
     if (state != Qt::ApplicationActive && session_.running) {

@@ -17,6 +17,9 @@ public:
 
     /// Shows the window, starts to watch the keys and brings the game to the front.
     void show();
+    /// Brings the window to the front, also one that is minimised. `activationToken` is what the
+    /// desktop gave whoever asks for it; may be empty.
+    void bringForward(const QByteArray& activationToken);
 
     [[nodiscard]] Session& session() { return session_; }
     [[nodiscard]] GameWindow& window() { return window_; }

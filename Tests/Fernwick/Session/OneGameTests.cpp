@@ -1,0 +1,193 @@
+#include "Session/OneGame.hpp"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QSignalSpy>
+#include <chrono>
+#include <deque>
+#include <thread>
+
+#include "Fernwick/Session/AsOrdinaryUser.hpp"
+#include "Fernwick/Session/EnvironmentVariable.hpp"
+#include "Fernwick/Session/ForkedProcess.hpp"
+#include "Fernwick/Session/TemporaryFolder.hpp"
+
+using Place = OneGame::Place;
+
+namespace {
+
+class OneGameTest : public testing::Test {
+protected:
+    [[nodiscard]] std::filesystem::path settings() const {
+        return folder_.path() / "fernwick" / "preferences.cbor";
+    }
+
+    /// What a start of the game does in a process of its own: it reports its place and stays.
+    [[nodiscard]] auto start() const {
+        return [this](const auto& report) {
+            const OneGame game(settings());
+            report(static_cast<ForkedProcess::Report>(game.place()));
+            ::pause();
+        };
+    }
+
+    [[nodiscard]] static Place placeOf(const ForkedProcess& game) {
+        constexpr ForkedProcess::Report none = -1;
+        return static_cast<Place>(game.nextReport(none));
+    }
+
+private:
+    TemporaryFolder folder_;
+};
+
+}  // namespace
+
+TEST_F(OneGameTest, theFirstStartIsFirst) {
+    EXPECT_EQ(OneGame(settings()).place(), Place::first);
+}
+
+TEST_F(OneGameTest, aSecondStartIsSecondAndTheFirstIsTold) {
+    OneGame first(settings());
+    const QSignalSpy startedAgain(&first, &OneGame::startedAgain);
+    first.answer();
+
+    const ForkedProcess second(start());
+
+    while (startedAgain.empty()) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    EXPECT_EQ(placeOf(second), Place::second);
+    EXPECT_EQ(startedAgain.count(), 1);
+    EXPECT_EQ(startedAgain.at(0).at(0), QByteArray());
+}
+
+TEST_F(OneGameTest, theFirstIsHandedTheTokenOfTheSecondStart) {
+    OneGame first(settings());
+    const QSignalSpy startedAgain(&first, &OneGame::startedAgain);
+    first.answer();
+    for (const char* name : {"DESKTOP_STARTUP_ID", "XDG_ACTIVATION_TOKEN"}) {
+        const EnvironmentVariable token(name, name);
+        const qsizetype before = startedAgain.count();
+
+        const ForkedProcess second(start());
+
+        while (startedAgain.count() == before) {
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        }
+        EXPECT_EQ(startedAgain.last().at(0), QByteArray(name));
+    }
+}
+
+TEST_F(OneGameTest, aStartThatCameTooEarlyIsAnsweredLater) {
+    OneGame first(settings());
+    const QSignalSpy startedAgain(&first, &OneGame::startedAgain);
+    const ForkedProcess second(start());
+    EXPECT_EQ(placeOf(second), Place::second);
+
+    first.answer();
+    QCoreApplication::processEvents();
+
+    EXPECT_EQ(startedAgain.count(), 1);
+}
+
+TEST_F(OneGameTest, aGameThatDoesNotAnswerStillKeepsOthersFromStarting) {
+    const OneGame hung(settings());
+    constexpr int moreThanCanWait = 20;
+    const auto began = std::chrono::steady_clock::now();
+    std::deque<ForkedProcess> starts;
+    for (int time = 0; time < moreThanCanWait; ++time) {
+        starts.emplace_back(start());
+    }
+
+    for (const ForkedProcess& game : starts) {
+        EXPECT_EQ(placeOf(game), Place::second);
+    }
+    EXPECT_LT(std::chrono::steady_clock::now() - began, std::chrono::seconds(5));
+}
+
+TEST_F(OneGameTest, aGameThatWasKilledStopsNoStart) {
+    for (int round = 0; round < 20; ++round) {
+        ForkedProcess game(start());
+        ASSERT_EQ(placeOf(game), Place::first);
+        game.kill();
+
+        EXPECT_EQ(OneGame(settings()).place(), Place::first);
+    }
+}
+
+TEST_F(OneGameTest, aGameThatLeavesMakesRoomAtOnce) {
+    OneGame leaving(settings());
+    leaving.leave();
+
+    EXPECT_EQ(OneGame(settings()).place(), Place::first);
+}
+
+TEST_F(OneGameTest, aStartThatTheLeavingGameHadNoTimeForIsFirst) {
+    constexpr auto untilTheGameIsThere = std::chrono::milliseconds(50);
+    // Made before the game, or it would hold a copy of the game's address.
+    const ForkedProcess waiting([&](const auto& report) {
+        std::this_thread::sleep_for(untilTheGameIsThere);
+        start()(report);
+    });
+    OneGame leaving(settings());
+    std::this_thread::sleep_for(3 * untilTheGameIsThere);
+
+    leaving.leave();
+
+    EXPECT_EQ(placeOf(waiting), Place::first);
+}
+
+TEST_F(OneGameTest, ofManyStartsAtOnceExactlyOneIsFirst) {
+    constexpr int starts = 8;
+    for (int round = 0; round < 3; ++round) {
+        std::deque<ForkedProcess> games;
+        for (int game = 0; game < starts; ++game) {
+            games.emplace_back(start());
+        }
+        int first = 0;
+        for (const ForkedProcess& game : games) {
+            const Place place = placeOf(game);
+            ASSERT_NE(place, Place::unknown);
+            first += place == Place::first ? 1 : 0;
+        }
+        ASSERT_EQ(first, 1);
+    }
+}
+
+TEST_F(OneGameTest, gamesOverOtherSettingsStayApart) {
+    const OneGame game(settings());
+    const TemporaryFolder elsewhere;
+
+    EXPECT_EQ(OneGame(elsewhere.path() / "preferences.cbor").place(), Place::first);
+}
+
+TEST_F(OneGameTest, theSameSettingsByAnotherPathAreTheSameGame) {
+    const TemporaryFolder elsewhere;
+    const auto link = elsewhere.path() / "link";
+    std::filesystem::create_directory_symlink(settings().parent_path().parent_path(), link);
+    const OneGame game(settings());
+
+    EXPECT_EQ(OneGame(link / "fernwick" / "preferences.cbor").place(), Place::second);
+}
+
+TEST_F(OneGameTest, aStrangerOnTheAddressStopsNoStart) {
+    if (::geteuid() != 0) {
+        GTEST_SUCCEED() << "only the superuser can play a stranger";
+        return;
+    }
+    const TemporaryFolder folder;
+    const ForkedProcess stranger([this, &folder](const auto& report) {
+        const AsOrdinaryUser other(folder.path());
+        start()(report);
+    });
+    ASSERT_EQ(placeOf(stranger), Place::first);
+
+    EXPECT_EQ(OneGame(settings()).place(), Place::unknown);
+}
+
+int main(int argc, char* argv[]) {
+    const QCoreApplication application(argc, argv);
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
