@@ -6,6 +6,21 @@ namespace SnakeCore {
 namespace {
 
 constexpr std::size_t textLength = UUID_STR_LEN - 1;
+constexpr int noDigit = -1;
+
+constexpr int hexadecimalDigit(char character) {
+    if (character >= '0' && character <= '9') {
+        return character - '0';
+    }
+    // The bit between upper and lower case.
+    const char lower = static_cast<char>(character | 0x20);
+    return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : noDigit;
+}
+
+/// A group of the text begins with a "-", but for the first.
+constexpr bool isGroupStart(std::size_t byte) {
+    return byte == 4 || byte == 6 || byte == 8 || byte == 10;
+}
 
 }  // namespace
 
@@ -15,12 +30,23 @@ UUID UUID::random() {
     return result;
 }
 
+// The library's reader takes a fifth of the time to load a table; ours reads each digit once.
 std::optional<UUID> UUID::parse(std::string_view text) {
-    // The library reads up to a NUL: without the check of the length, whatever follows would pass.
-    UUID result;
-    if (text.size() != textLength ||
-        uuid_parse(std::string(text).c_str(), result.bytes_.data()) != 0) {
+    if (text.size() != textLength) {
         return std::nullopt;
+    }
+    UUID result;
+    std::size_t next = 0;
+    for (std::size_t byte = 0; byte < result.bytes_.size(); ++byte) {
+        if (isGroupStart(byte) && text[next++] != '-') {
+            return std::nullopt;
+        }
+        const int high = hexadecimalDigit(text[next++]);
+        const int low = hexadecimalDigit(text[next++]);
+        if (high == noDigit || low == noDigit) {
+            return std::nullopt;
+        }
+        result.bytes_[byte] = static_cast<unsigned char>(high << 4 | low);
     }
     return result;
 }
