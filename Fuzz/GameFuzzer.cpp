@@ -1,4 +1,5 @@
 #include <SnakeCore/Game.hpp>
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -19,14 +20,19 @@ bool onBoard(const Game& game, Cell cell) {
 
 void checkState(const Game& game) {
     const Snake& snake = game.snake();
-    std::vector<bool> taken(static_cast<std::size_t>(game.width() * game.height()));
-    const auto place = [&](Cell cell) {
-        return taken[static_cast<std::size_t>(cell.y * game.width() + cell.x)];
+    // One board for all runs, marked with a new stamp each time: clearing it would cost more than
+    // everything else.
+    static std::vector<std::uint64_t> stamps;
+    static std::uint64_t stamp = 0;
+    stamps.resize(std::max(stamps.size(), static_cast<std::size_t>(game.width() * game.height())));
+    ++stamp;
+    const auto place = [&](Cell cell) -> std::uint64_t& {
+        return stamps[static_cast<std::size_t>(cell.y * game.width() + cell.x)];
     };
     for (const Cell& cell : snake) {
         require(onBoard(game, cell), "the snake lies on the board");
-        require(!place(cell), "no two cells of the snake are equal");
-        place(cell) = true;
+        require(place(cell) != stamp, "no two cells of the snake are equal");
+        place(cell) = stamp;
     }
     for (std::size_t i = 1; i < snake.size(); ++i) {
         const std::int64_t distance =
@@ -36,28 +42,39 @@ void checkState(const Game& game) {
     const auto length = static_cast<std::int64_t>(snake.size());
     require(game.score() == 10 * (length - 4), "each fruit is worth ten points and one cell");
     require(onBoard(game, game.food()), "the fruit lies on the board");
-    require(place(game.food()) == game.won(), "the fruit lies off the snake");
+    require((place(game.food()) == stamp) == game.won(), "the fruit lies off the snake");
     require(game.won() == (length == game.width() * game.height()), "only a full board is won");
     require(!game.won() || game.ended(), "a won run has ended");
 }
 
-void checkStep(const Game& before, const Game& after) {
-    if (before.ended()) {
-        require(after == before, "nothing changes after the end");
-        return;
+/// What a step is judged by. Less than the whole game, whose record of the free cells is larger
+/// than all the rest and would be copied at each step.
+struct Moment {
+    Snake snake{Cell{}};
+    Cell food{};
+    Direction direction{};
+
+    // Into the room that the last moment took.
+    void take(const Game& game) {
+        snake = game.snake();
+        food = game.food();
+        direction = game.direction();
     }
-    require(!opposite(before.direction(), after.direction()), "the snake never reverses");
+};
+
+void checkStep(const Moment& before, const Game& after) {
+    require(!opposite(before.direction, after.direction()), "the snake never reverses");
     const Cell offset = stepVector(after.direction());
-    const Cell head{before.snake().front().x + offset.x, before.snake().front().y + offset.y};
+    const Cell head{before.snake.front().x + offset.x, before.snake.front().y + offset.y};
     if (after.ended() && !after.won()) {
-        require(after.snake() == before.snake(), "a strike leaves the snake");
-        require(after.food() == before.food(), "a strike leaves the fruit");
+        require(after.snake() == before.snake, "a strike leaves the snake");
+        require(after.food() == before.food, "a strike leaves the fruit");
         return;
     }
-    const bool ate = head == before.food();
+    const bool ate = head == before.food;
     require(after.snake().front() == head, "the head moves one cell");
-    require(after.snake().size() == before.snake().size() + (ate ? 1 : 0), "fruit makes it grow");
-    require(ate || after.food() == before.food(), "the fruit stays until it is eaten");
+    require(after.snake().size() == before.snake.size() + (ate ? 1 : 0), "fruit makes it grow");
+    require(ate || after.food() == before.food, "the fruit stays until it is eaten");
 }
 
 }  // namespace
@@ -73,7 +90,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return 0;
     }
     Game game(6 + data[0] % 35, 4 + data[1] % 27);
-    std::mt19937_64 generator(data[2]);
+    std::minstd_rand generator(data[2] + 1U);
+    Moment before;
     int stepsMade = 0;
     for (const std::uint8_t byte : std::span(data, size).subspan(header)) {
         const bool onTour = byte >= tour && game.height() % 2 == 0;
@@ -85,13 +103,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                 game.turn(static_cast<Direction>(byte & 3U));
                 game.turn(static_cast<Direction>(byte >> 2U & 3U));
             }
-            const Game before = game;
+            if (game.ended() || stepsMade++ == mostSteps) {
+                const Game last = game;
+                game.step(generator);
+                require(!last.ended() || game == last, "nothing changes after the end");
+                return 0;
+            }
+            before.take(game);
             game.step(generator);
             checkStep(before, game);
             checkState(game);
-            if (before.ended() || ++stepsMade == mostSteps) {
-                return 0;
-            }
         }
     }
     return 0;
