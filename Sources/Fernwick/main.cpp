@@ -2,6 +2,7 @@
 #include <QLocale>
 
 #include "MainWindow/ApplicationStyle.hpp"
+#include "MainWindow/BusActivation.hpp"
 #include "MainWindow/FernwickApp.hpp"
 #include "MainWindow/Language.hpp"
 #include "MainWindow/SessionBus.hpp"
@@ -31,8 +32,11 @@ int main(int, char* argv[]) {
     PreferencesFile preferences(settings);
     PulseSoundEffects soundEffects;
     FernwickApp fernwick(preferences, soundEffects);
-    QObject::connect(&fernwick.window(), &GameWindow::appeared, &fernwick,
-                     [&soundEffects] { soundEffects.prepare(); });
+    QObject::connect(&fernwick.window(), &GameWindow::appeared, &fernwick, [&] {
+        soundEffects.prepare();
+        new BusActivation(QDBusConnection::sessionBus(), &fernwick,
+                          [&fernwick](const QByteArray& token) { fernwick.bringForward(token); });
+    });
     QObject::connect(&oneGame, &OneGame::startedAgain, &fernwick, &FernwickApp::bringForward);
     QObject::connect(&application, &QApplication::aboutToQuit, &oneGame, &OneGame::leave);
     oneGame.answer();

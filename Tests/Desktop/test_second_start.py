@@ -5,9 +5,12 @@ import subprocess
 import time
 
 import pytest
+from accessibility import call, connect
 from game import PAUSED, PROGRAM
+from gi.repository import GLib
 from waiting import PATIENCE, eventually
 
+BUS_NAME = "org.fernwick.Fernwick"
 NO_BUS = {"DBUS_SESSION_BUS_ADDRESS": "unix:path=/nonexistent/bus"}
 
 
@@ -90,3 +93,34 @@ def test_of_two_starts_at_the_same_moment_exactly_one_stays(start_again):
     assert stayed.poll() is None
     stayed.terminate()
     assert stayed.wait(PATIENCE) == 0
+
+
+@pytest.fixture
+def bus(desktop):
+    """A connection to the desktop's session bus."""
+    return connect(desktop.environment["DBUS_SESSION_BUS_ADDRESS"])
+
+
+def has_owner(bus):
+    return call(bus, ("org.freedesktop.DBus", "/"), "org.freedesktop.DBus", "NameHasOwner", "(s)",
+                BUS_NAME)[0]
+
+
+@pytest.mark.parametrize("method, signature, arguments", [
+    ("Activate", "(a{sv})", [{}]),
+    ("Activate", "(a{sv})", [{"desktop-startup-id": GLib.Variant("s", "launcher_TIME0")}]),
+    ("Open", "(asa{sv})", [["file:///somewhere"], {}]),
+], ids=["plainly", "with a token", "with a file"])
+def test_the_desktop_brings_the_game_forward_over_the_bus(
+        game, bus, other_window, method, signature, arguments):
+    eventually(lambda: has_owner(bus), "the game has its name on the bus")
+    other_window.take_focus_from(game)
+    call(bus, (BUS_NAME, "/org/fernwick/Fernwick"), "org.freedesktop.Application", method,
+         signature, *arguments)
+    eventually(game.is_active, "the window is in front")
+
+
+def test_the_name_on_the_bus_goes_with_the_game(game, bus):
+    eventually(lambda: has_owner(bus), "the game has its name on the bus")
+    game.quit()
+    eventually(lambda: not has_owner(bus), "the name is free")
