@@ -66,12 +66,16 @@ void checkStep(const Moment& before, const Game& after) {
     require(!opposite(before.direction, after.direction()), "the snake never reverses");
     const Cell offset = stepVector(after.direction());
     const Cell head{before.snake.front().x + offset.x, before.snake.front().y + offset.y};
+    const bool ate = head == before.food;
     if (after.ended() && !after.won()) {
         require(after.snake() == before.snake, "a strike leaves the snake");
         require(after.food() == before.food, "a strike leaves the fruit");
+        // The tail leaves its cell in the same step, unless the snake grows.
+        const auto body = std::find(before.snake.begin(), before.snake.end(), head);
+        const auto hit = std::distance(body, before.snake.end());
+        require(!onBoard(after, head) || hit > (ate ? 0 : 1), "a run ends only at a strike");
         return;
     }
-    const bool ate = head == before.food;
     require(after.snake().front() == head, "the head moves one cell");
     require(after.snake().size() == before.snake.size() + (ate ? 1 : 0), "fruit makes it grow");
     require(ate || after.food() == before.food, "the fruit stays until it is eaten");
