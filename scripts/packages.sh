@@ -30,8 +30,28 @@ x11vnc               lets you look at that display
 LIST
 }
 
-check_packages() {
+package_packages() {
     build_packages
+    cat <<'LIST'
+dpkg-dev             finds what the program needs and writes it into the package
+file                 tells programs from other files
+LIST
+}
+
+bare_root_packages() {
+    package_packages
+    cat <<'LIST'
+debootstrap          makes a Debian with nothing in it
+util-linux           keeps what is mounted there away from this system
+xvfb                 a display of its own to play on
+openbox              the window manager on that display
+xdotool              presses real keys
+imagemagick          takes screenshots
+LIST
+}
+
+check_packages() {
+    package_packages
     cat <<'LIST'
 clang-14             the second compiler, with the sanitizers
 libclang-rt-14-dev   the sanitizers' run-time library
@@ -55,6 +75,10 @@ python3-cbor2        reads the settings file
 python3-pytest       runs the desktop tests
 pulseaudio           a real sound server for the sound tests
 pulseaudio-utils     records what that server plays
+lintian              judges the package as Debian does
+desktop-file-utils   judges the entry in the desktop's menu
+appstream            judges the page in software catalogues
+man-db               judges the manual page
 fonts-noto-core      Arabic and Devanagari letters for the tests of the translations
 fonts-droid-fallback Chinese, Japanese and Korean ones, in a thirtieth of the room of others
 LIST

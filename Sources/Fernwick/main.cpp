@@ -23,7 +23,7 @@ int main(int, char* argv[]) {
     QApplication application(count, argv);
     QApplication::setApplicationName(QStringLiteral("fernwick"));
     QApplication::setApplicationDisplayName(QStringLiteral("Fernwick"));
-    QGuiApplication::setDesktopFileName(QStringLiteral("fernwick"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.fernwick.fernwick"));
 
     const Language language(Language::bestFor(QLocale::system().uiLanguages()));
     applyGardenStyle();

@@ -1,0 +1,35 @@
+# The Debian package, made by cpack from what `cmake --install` would put under /usr.
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_PACKAGE_NAME fernwick)
+set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
+set(CPACK_PACKAGE_CONTACT "The Fernwick developers <developers@fernwick.example>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "calm snake game in a night garden")
+set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/package)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION games)
+set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
+set(CPACK_DEBIAN_PACKAGE_HOMEPAGE ${FERNWICK_HOMEPAGE})
+set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
+"You steer a snake through a dark garden, gather the fruit and grow a little
+longer. Three speeds, each with a personal best and a top ten of its own.
+.
+The game opens in full screen and is played by keyboard alone, on X11 or
+Wayland, on any keyboard layout. It reads itself out to screen readers, keeps
+still where the desktop asks for it, and uses no network.")
+# What the program is linked with is found by its symbols. What it only looks for when it runs:
+# the plugin for Wayland desktops and a sound server, a screen reader's bus, letters of scripts that
+# its own fonts lack.
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, pipewire-pulse | pulseaudio")
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS "at-spi2-core, fonts-noto-core, fonts-noto-cjk")
+
+# The files as Debian wants them are made from the staged ones just before they are packed.
+set(FERNWICK_DEBIAN_FOLDER ${CMAKE_CURRENT_LIST_DIR})
+configure_file(${CMAKE_CURRENT_LIST_DIR}/Stage.cmake.in ${CMAKE_CURRENT_BINARY_DIR}/Stage.cmake @ONLY)
+set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_BINARY_DIR}/Stage.cmake)
+include(CPack)

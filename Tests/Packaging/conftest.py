@@ -1,0 +1,44 @@
+import os
+import pathlib
+import subprocess
+
+import pytest
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+BUILD = pathlib.Path(os.environ.get("FERNWICK_BUILD", ROOT / "build/release")).resolve()
+
+
+@pytest.fixture(scope="session")
+def package():
+    """The Debian package, as scripts/package left it."""
+    package, = (BUILD / "package").glob("*.deb")
+    return package
+
+
+@pytest.fixture(scope="session")
+def control(package):
+    """The fields that describe the package."""
+    text = subprocess.check_output(["dpkg-deb", "--field", package], text=True)
+    fields = {}
+    for line in text.splitlines():
+        name, _, value = line.partition(": ")
+        if not line.startswith(" "):
+            fields[name] = value
+    return fields
+
+
+@pytest.fixture(scope="session")
+def unpacked(package, tmp_path_factory):
+    """The folder that stands for the root of a system with the package in it."""
+    folder = tmp_path_factory.mktemp("unpacked")
+    subprocess.check_call(["dpkg-deb", "--extract", package, folder])
+    return folder
+
+
+@pytest.fixture(scope="session")
+def installed(tmp_path_factory):
+    """A prefix into which the build was installed."""
+    prefix = tmp_path_factory.mktemp("prefix")
+    subprocess.run(["cmake", "--install", BUILD, "--prefix", prefix], check=True,
+                   stdout=subprocess.DEVNULL)
+    return prefix

@@ -1,0 +1,77 @@
+"""The Debian package, taken apart and judged."""
+
+import gzip
+import os
+import re
+import subprocess
+
+from conftest import BUILD, ROOT
+
+ID = "org.fernwick.fernwick"
+FILES = {
+    "usr/games/fernwick": 0o755,
+    f"usr/share/applications/{ID}.desktop": 0o644,
+    "usr/share/doc/fernwick/changelog.gz": 0o644,
+    "usr/share/doc/fernwick/copyright": 0o644,
+    f"usr/share/icons/hicolor/48x48/apps/{ID}.png": 0o644,
+    f"usr/share/icons/hicolor/128x128/apps/{ID}.png": 0o644,
+    f"usr/share/icons/hicolor/256x256/apps/{ID}.png": 0o644,
+    f"usr/share/icons/hicolor/scalable/apps/{ID}.svg": 0o644,
+    "usr/share/man/man6/fernwick.6.gz": 0o644,
+    f"usr/share/metainfo/{ID}.metainfo.xml": 0o644,
+}
+
+
+def test_every_file_is_where_debian_looks_for_it(unpacked):
+    files = {str(path.relative_to(unpacked)): path.stat().st_mode & 0o777
+             for path in unpacked.rglob("*") if not path.is_dir()}
+    assert files == FILES
+
+
+def test_lintian_finds_neither_error_nor_warning(package):
+    as_root = ["--allow-root"] if os.getuid() == 0 else []
+    done = subprocess.run(["lintian", *as_root, "--fail-on", "error,warning", package], text=True,
+                          stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
+    assert (done.returncode, done.stdout) == (0, "")
+
+
+def test_it_says_what_it_is_and_where_it_belongs(control):
+    assert control["Package"] == "fernwick"
+    assert control["Section"] == "games"
+    assert control["Description"] == "calm snake game in a night garden"
+
+
+def test_it_depends_on_the_libraries_that_the_program_is_linked_with(control, unpacked):
+    dependencies = {entry.split()[0] for entry in control["Depends"].split(",")}
+    assert {"libc6", "libqt6widgets6", "libqt6svg6", "libpulse0", "libicu72"} <= dependencies
+    assert not any(name.endswith("-dev") or name.startswith("fonts-") for name in dependencies)
+    assert "qt6-wayland" in control["Recommends"]
+
+
+def test_one_version_is_told_everywhere(control, unpacked):
+    version = control["Version"]
+    changelog = gzip.open(unpacked / "usr/share/doc/fernwick/changelog.gz", "rt").readline()
+    manual = gzip.open(unpacked / "usr/share/man/man6/fernwick.6.gz", "rt").readline()
+    catalogue = (unpacked / f"usr/share/metainfo/{ID}.metainfo.xml").read_text()
+    assert changelog.startswith(f"fernwick ({version}) ")
+    assert f"Fernwick {version}" in manual
+    assert re.search(r'<release version="([^"]+)"', catalogue)[1] == version
+
+
+def test_the_fonts_inside_the_program_are_named_with_their_terms(unpacked):
+    terms = (unpacked / "usr/share/doc/fernwick/copyright").read_text()
+    program = (unpacked / "usr/games/fernwick").read_bytes()
+    for family in ("Inter", "Elstob", "JetBrainsMono"):
+        assert family in terms
+        # Fonts travel uncompressed; their names are in them.
+        assert family.encode() in program or family.encode("utf-16-be") in program
+
+
+def test_the_same_files_make_the_same_package(package, tmp_path):
+    changelog = ROOT / "Packaging/Debian/changelog"
+    moment = subprocess.check_output(
+        ["dpkg-parsechangelog", "-l", changelog, "-S", "Timestamp"], text=True).strip()
+    subprocess.run(["cpack", "-G", "DEB", "-B", tmp_path], cwd=BUILD, check=True,
+                   env=os.environ | {"SOURCE_DATE_EPOCH": moment},
+                   stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    assert (tmp_path / package.name).read_bytes() == package.read_bytes()
