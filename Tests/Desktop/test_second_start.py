@@ -10,7 +10,7 @@ from game import PAUSED, PROGRAM
 from gi.repository import GLib
 from waiting import PATIENCE, eventually
 
-BUS_NAME = "org.fernwick.Fernwick"
+BUS_NAME = "org.fernwick.fernwick"
 NO_BUS = {"DBUS_SESSION_BUS_ADDRESS": "unix:path=/nonexistent/bus"}
 
 
@@ -115,7 +115,7 @@ def test_the_desktop_brings_the_game_forward_over_the_bus(
         game, bus, other_window, method, signature, arguments):
     eventually(lambda: has_owner(bus), "the game has its name on the bus")
     other_window.take_focus_from(game)
-    call(bus, (BUS_NAME, "/org/fernwick/Fernwick"), "org.freedesktop.Application", method,
+    call(bus, (BUS_NAME, "/org/fernwick/fernwick"), "org.freedesktop.Application", method,
          signature, *arguments)
     eventually(game.is_active, "the window is in front")
 

@@ -6,8 +6,8 @@
 
 namespace {
 
-constexpr const char* name = "org.fernwick.Fernwick";
-constexpr const char* path = "/org/fernwick/Fernwick";
+constexpr const char* name = "org.fernwick.fernwick";
+constexpr const char* path = "/org/fernwick/fernwick";
 
 QString text(const char* latin) {
     return QString::fromLatin1(latin);
