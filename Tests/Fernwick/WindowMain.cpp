@@ -4,9 +4,12 @@
 
 #include "MainWindow/ApplicationStyle.hpp"
 
-// Tests of windows that need no real screen, in the application's own dress.
+// Tests of windows in the application's own dress. They need no real screen, and take none that
+// happens to be about unless FERNWICK_TEST_PLATFORM names its kind.
 int main(int argc, char* argv[]) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QPA_PLATFORM", qEnvironmentVariableIsEmpty("FERNWICK_TEST_PLATFORM")
+                                   ? "offscreen"
+                                   : qgetenv("FERNWICK_TEST_PLATFORM"));
     const QApplication application(argc, argv);
     applyGardenStyle();
     ::testing::InitGoogleTest(&argc, argv);

@@ -1,6 +1,5 @@
 #include "MainWindow/SheetLayer.hpp"
 
-#include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -38,7 +37,7 @@ void SheetLayer::present() {
         // A click beside its controls keeps the focus inside; Tab has no business with it.
         sheet_->setFocusPolicy(Qt::ClickFocus);
     }
-    focusBefore_ = QApplication::focusWidget();
+    focusBefore_ = window()->focusWidget();
     placeSheet();
     show();
     raise();
@@ -46,7 +45,7 @@ void SheetLayer::present() {
 }
 
 void SheetLayer::dismiss() {
-    const bool hadFocus = isAncestorOf(QApplication::focusWidget());
+    const bool hadFocus = isAncestorOf(window()->focusWidget());
     Garden::releaseFocus(*this);
     hide();
     if (hadFocus && !focusBefore_.isNull() && focusBefore_->isVisible()) {
@@ -66,7 +65,7 @@ void SheetLayer::placeSheet() {
 
 bool SheetLayer::focusNextPrevChild(bool next) {
     // Walks the chain until it meets a control of the sheet again.
-    QWidget* const start = QApplication::focusWidget();
+    QWidget* const start = window()->focusWidget();
     QWidget* candidate = start;
     do {
         candidate = next ? candidate->nextInFocusChain() : candidate->previousInFocusChain();

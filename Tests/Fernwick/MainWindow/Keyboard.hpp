@@ -3,23 +3,25 @@
 #include <QApplication>
 #include <QList>
 #include <QTest>
+#include <QWindow>
 
 #include "Fernwick/Screen.hpp"
 
 /// Works a window as someone with nothing but a keyboard does.
 namespace Keyboard {
 
-inline void press(QWidget& window, Qt::Key key) {
-    QWidget* focus = QApplication::focusWidget();
-    QTest::keyClick(focus == nullptr ? &window : focus, key);
+/// Presses and releases a key the way a keyboard does: whatever has the focus gets it.
+inline void press(QWidget& window, Qt::Key key, Qt::KeyboardModifiers held = {}) {
+    QTest::keyClick(window.windowHandle(), key, held);
+    QCoreApplication::processEvents();
     QCoreApplication::processEvents();
 }
 
-/// Every control that Tab reaches from where the focus is, in order, each once.
-[[nodiscard]] inline QList<QWidget*> tabStops(QWidget& window) {
+/// Every control that Tab (or Backtab) reaches from where the focus is, in order, each once.
+[[nodiscard]] inline QList<QWidget*> tabStops(QWidget& window, Qt::Key key = Qt::Key_Tab) {
     QList<QWidget*> stops;
     for (;;) {
-        press(window, Qt::Key_Tab);
+        press(window, key);
         QWidget* stop = QApplication::focusWidget();
         if (stop == nullptr || stops.contains(stop)) {
             return stops;

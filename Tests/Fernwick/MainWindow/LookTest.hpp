@@ -17,7 +17,9 @@ protected:
     LookTest() { resizeTo(GetParam()); }
 
     void resizeTo(const QSize& size) {
-        window.showNormal();
+        if (window.isFullScreen()) {
+            leaveFullScreen();
+        }
         window.resize(size);
         settle();
     }

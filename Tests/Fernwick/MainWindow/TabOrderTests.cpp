@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "Fernwick/MainWindow/Keyboard.hpp"
 #include "Fernwick/MainWindow/LookTest.hpp"
 #include "ScoreScreens/HighScoresView.hpp"
@@ -16,6 +18,17 @@ protected:
         EXPECT_EQ(Keyboard::namesOf(stops), names)
             << Keyboard::namesOf(stops).join(", ").toStdString();
         expectInTheOrderOfSight(stops);
+        expectTheSameBackwards(names);
+    }
+
+    /// Shift and Tab lead the other way round, from wherever the focus is.
+    void expectTheSameBackwards(QStringList names) {
+        QStringList back = Keyboard::namesOf(Keyboard::tabStops(window, Qt::Key_Backtab));
+        std::reverse(back.begin(), back.end());
+        // Begun at another stop, it is the same round.
+        const auto begin = std::find(names.begin(), names.end(), back.front());
+        std::rotate(names.begin(), begin, names.end());
+        EXPECT_EQ(back, names) << back.join(", ").toStdString();
     }
 
     /// From the top down, and from the left within a row.
@@ -89,7 +102,7 @@ TEST_P(TabOrder, staysInTheSheetWhileItIsUp) {
 
 TEST_P(TabOrder, leavesTheMarksOutInFullScreen) {
     window.showFullScreen();
-    settle();
+    waitForFullScreen(true);
 
     expectStops(speeds + QStringList("Let's grow") + icons);
 }

@@ -1,10 +1,20 @@
 #pragma once
 
-#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QTest>
+
+#include <array>
 
 #include "Fernwick/Screen.hpp"
+#include "Fernwick/Session/SessionState.hpp"
 #include "Fernwick/Session/SessionTest.hpp"
 #include "MainWindow/GameWindow.hpp"
+
+/// Every state that a game can be in.
+inline constexpr std::array everyState{SessionState::fresh,   SessionState::running,
+                                       SessionState::paused,  SessionState::awaitingName,
+                                       SessionState::skipped, SessionState::saved};
 
 /// The whole window around a session whose time passes only when a test lets it.
 class WindowTest : public SessionTest {
@@ -13,6 +23,23 @@ protected:
         session.installKeys();
         window.show();
         settle();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+        waitForFullScreen(true);
+    }
+
+    /// On a real screen the desktop takes its time over it.
+    void waitForFullScreen(bool fullScreen) {
+        const bool hasDesktop = QGuiApplication::platformName() != QStringLiteral("offscreen");
+        EXPECT_TRUE(QTest::qWaitFor([this, fullScreen, hasDesktop] {
+            const bool fills = window.size() == window.screen()->size();
+            return window.isFullScreen() == fullScreen && (!hasDesktop || fills == fullScreen);
+        }));
+        settle();
+    }
+
+    void leaveFullScreen() {
+        window.showNormal();
+        waitForFullScreen(false);
     }
 
     /// Lets the window follow the session and lay out anew what that changed.
@@ -65,6 +92,32 @@ protected:
         startAndEndRun();
         session.skipSaving();
         settle();
+    }
+
+    /// Brings the game into `state`. Nothing leads back to a fresh game, and a run that awaits a
+    /// name has to be saved or skipped before another.
+    void arriveAt(SessionState state) {
+        switch (state) {
+            case SessionState::running:
+                startRun();
+                break;
+            case SessionState::paused:
+                pauseRun();
+                break;
+            case SessionState::awaitingName:
+                endRunAwaitingName();
+                break;
+            case SessionState::saved:
+                saveRunAs("Ada");
+                break;
+            case SessionState::skipped:
+                skipRun();
+                break;
+            case SessionState::fresh:
+            case SessionState::impossible:
+                break;
+        }
+        ASSERT_EQ(stateOf(session), state);
     }
 
     GameWindow window{session};
