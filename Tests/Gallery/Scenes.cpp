@@ -94,7 +94,7 @@ void fillTable(Session& session) {
         {"Ada Lovelace", 1240},
         {"WWWWWWWWWWWWWWWWWWWWWWWW", 980},
         {"مريم", 870},
-        {"🌿🌱🍀🌾🌿🌱🍀🌾🌿🌱🍀🌾", 640},
+        {"🌿🌱🍀🌾🌿🌱🍀🌾🌿🌱🍀🌾🌿🌱🍀🌾🌿🌱🍀🌾🌿🌱🍀🌾", 640},
         {"Grace", 500},
         {"さくら", 410},
         {"Ὑπατία", 380},
@@ -111,8 +111,9 @@ void fillTable(Session& session) {
 }
 
 void run(Session& session, Game game) {
+    constexpr std::int64_t earlierBest = 1240;
+    session.best = std::max(earlierBest, game.score());
     session.game = std::move(game);
-    session.best = 1240;
     session.started = true;
     session.running = !session.game->ended();
     session.awaitingName = session.game->ended();
