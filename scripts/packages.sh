@@ -80,8 +80,8 @@ desktop-file-utils   judges the entry in the desktop's menu
 appstream            judges the page in software catalogues
 man-db               judges the manual page
 fonts-noto-core      Arabic and Devanagari letters for the tests of the translations
+fonts-wqy-zenhei     Chinese, Japanese and Korean ones: the smallest package with all three
 fonts-noto-color-emoji  the emoji in players' names, for the pictures of every screen
-fonts-droid-fallback Chinese, Japanese and Korean ones, in a thirtieth of the room of others
 LIST
 }
 

@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QLocale>
+#include <QLoggingCategory>
 
 #include "MainWindow/ApplicationStyle.hpp"
 #include "MainWindow/BusActivation.hpp"
@@ -20,6 +21,8 @@ int main(int, char* argv[]) {
     leaveMissingSessionBusAlone();
     // The program takes no command line; only its own name reaches the toolkit.
     int count = 1;
+    // The toolkit would tell the player, for one, which fonts lack which scripts.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
     QApplication application(count, argv);
     QApplication::setApplicationName(QStringLiteral("fernwick"));
     QApplication::setApplicationDisplayName(QStringLiteral("Fernwick"));

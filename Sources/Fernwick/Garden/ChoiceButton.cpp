@@ -37,7 +37,8 @@ QSize ChoiceButton::sizeHint() const {
 
 void ChoiceButton::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Left || event->key() == Qt::Key_Right) {
-        Q_EMIT steppedOff(event->key() == Qt::Key_Right ? 1 : -1);
+        const bool forward = (event->key() == Qt::Key_Right) != isRightToLeft();
+        Q_EMIT steppedOff(forward ? 1 : -1);
     } else {
         QuietButton::keyPressEvent(event);
     }

@@ -14,7 +14,7 @@ public:
     [[nodiscard]] QSize sizeHint() const override;
 
 Q_SIGNALS:
-    /// The right (+1) or left (-1) arrow was pressed on this choice.
+    /// The arrow towards the next (+1) or the previous (-1) choice was pressed on this one.
     void steppedOff(int step);
 
 protected:

@@ -57,7 +57,12 @@ void OverlayButton::paintEvent(QPaintEvent*) {
     line.setLeft(std::floor((shape.width() - content) / 2));
     line.setWidth(content);
     painter.setPen(ink);
+    // On the side that lines begin at, whichever it is.
     painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text());
+    if (isRightToLeft()) {
+        // The arrow points the way that is read, too.
+        painter.setTransform(QTransform(-1, 0, 0, 1, shape.width(), 0), true);
+    }
     paintIcon(
         painter, Icon::arrowRight,
         QRectF(line.right() - arrowSize, (shape.height() - arrowSize) / 2, arrowSize, arrowSize),

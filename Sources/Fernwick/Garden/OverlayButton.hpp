@@ -4,7 +4,8 @@
 
 namespace Garden {
 
-/// The way on, over the resting board: a text and an arrow, dark on mint.
+/// The way on, over the resting board: a text and an arrow in the direction of reading, dark on
+/// mint.
 class OverlayButton : public QuietButton {
     Q_OBJECT
 

@@ -85,7 +85,8 @@ QSize RollingDigits::sizeHint() const {
 double RollingDigits::left(int fromRight) const {
     const double cell = QFontMetricsF(font()).horizontalAdvance(u'0');
     const double needed = cell * static_cast<double>(shown_.size());
-    const double right = alignment_.testFlag(Qt::AlignRight) ? width() : needed;
+    const bool staysAtRight = alignment_.testFlag(Qt::AlignRight) != isRightToLeft();
+    const double right = staysAtRight ? width() : needed;
     return right - cell * (fromRight + 1);
 }
 

@@ -12,7 +12,8 @@ class RollingDigits : public QWidget {
     Q_OBJECT
 
 public:
-    /// `alignment` (left or right) is the side that stays put when the number grows longer.
+    /// `alignment` (left or right) is the side that stays put when the number grows longer; the
+    /// other one where lines are read from right to left.
     explicit RollingDigits(Qt::Alignment alignment, QWidget* parent = nullptr);
 
     [[nodiscard]] qint64 value() const { return value_; }

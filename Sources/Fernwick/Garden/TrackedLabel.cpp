@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "Garden/Accessibility.hpp"
+#include "Garden/Fonts.hpp"
 
 namespace Garden {
 
@@ -25,9 +26,9 @@ double overhang(const QFont& font) {
 
 TrackedLabel::TrackedLabel(const QString& text, const QFont& font, const QColor& colour,
                            QWidget* parent)
-    : QWidget(parent), text_(text), colour_(colour), overhang_(overhang(font)) {
+    : QWidget(parent), text_(text), font_(font), colour_(colour), overhang_(overhang(font)) {
     installAccessibility();
-    setFont(font);
+    setFont(fittedTo(text, font_));
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     setAccessibleName(text);
 }
@@ -37,6 +38,7 @@ void TrackedLabel::setText(const QString& text) {
         return;
     }
     text_ = text;
+    setFont(fittedTo(text, font_));
     setAccessibleName(text);
     updateGeometry();
     update();
@@ -47,11 +49,19 @@ void TrackedLabel::setElided(bool elided) {
     updateGeometry();
 }
 
+TrackedLabel::Excess TrackedLabel::excess() const {
+    const QFontMetricsF metrics(font());
+    const QRectF ink = metrics.tightBoundingRect(text_);
+    return {std::max(0.0, std::ceil(-ink.top() - metrics.ascent())),
+            std::max(0.0, std::ceil(ink.bottom() - metrics.descent() - overhang_))};
+}
+
 QSize TrackedLabel::sizeHint() const {
     const QFontMetricsF metrics(font());
     const double trailing = text_.isEmpty() ? 0 : font().letterSpacing();
+    const Excess more = excess();
     return {static_cast<int>(std::ceil(metrics.horizontalAdvance(text_) - trailing)),
-            static_cast<int>(std::ceil(metrics.height()) + overhang_)};
+            static_cast<int>(more.above + std::ceil(metrics.height()) + overhang_ + more.below)};
 }
 
 QSize TrackedLabel::minimumSizeHint() const {
@@ -63,9 +73,13 @@ void TrackedLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setPen(colour_);
     const QFontMetricsF metrics(font());
-    const bool fits = width() >= sizeHint().width();
-    painter.drawText(QRectF(rect()).adjusted(0, 0, 0, -overhang_),
-                     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip,
+    const QSize needed = sizeHint();
+    const bool fits = width() >= needed.width();
+    // Neither by alignment: the space after the last letter would push the first one out; nor by
+    // the height of the line, which a helping face may have stretched to one side.
+    const double left = fits && isRightToLeft() ? width() - needed.width() : 0;
+    const double top = (height() - needed.height()) / 2.0;
+    painter.drawText(QPointF(left, top + excess().above + metrics.ascent()),
                      fits ? text_ : metrics.elidedText(text_, Qt::ElideRight, width()));
 }
 

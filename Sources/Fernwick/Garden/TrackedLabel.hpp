@@ -1,13 +1,15 @@
 #pragma once
 
 #include <QColor>
+#include <QFont>
 #include <QString>
 #include <QWidget>
 
 namespace Garden {
 
-/// One line of text. It is as wide as its letters: Qt's font metrics count the letter spacing after
-/// the last letter too, which would push centred and right-aligned lines off by half or all of it.
+/// One line of text, in the font given or as near to it as its script can bear. It is as wide as
+/// its letters: Qt's font metrics count the letter spacing after the last letter too, which would
+/// push centred and right-aligned lines off by half or all of it.
 class TrackedLabel : public QWidget {
     Q_OBJECT
 
@@ -29,7 +31,16 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    /// What the letters need besides the line of the font: those of a face that is called to help
+    /// may stand higher and reach lower.
+    struct Excess {
+        double above = 0;
+        double below = 0;
+    };
+    [[nodiscard]] Excess excess() const;
+
     QString text_;
+    QFont font_;
     QColor colour_;
     // The room below the line for its deepest letters.
     double overhang_;

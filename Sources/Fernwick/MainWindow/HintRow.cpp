@@ -34,7 +34,10 @@ HintRow::HintRow(Session& session, QWidget* parent)
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(hintSpacing);
-    row->addWidget(hint(QStringLiteral("↑ ↓ ← →"), arrowsSize));
+    auto* arrows = hint(QStringLiteral("↑ ↓ ← →"), arrowsSize);
+    // They are keys in their own order, not words.
+    arrows->setLayoutDirection(Qt::LeftToRight);
+    row->addWidget(arrows);
     //: Follows the four arrows. W A S D are places on the keyboard: name the letters that the
     //: keyboards of the language show there.
     row->addWidget(hint(tr("or WASD to move"), hintSize));

@@ -64,6 +64,8 @@ Language::Language(const QString& name) {
     if (!name.isEmpty() && texts_.load(catalogueStem + name, catalogueFolder)) {
         QCoreApplication::installTranslator(&texts_);
     }
-    QGuiApplication::setLayoutDirection(name.isEmpty() ? Qt::LeftToRight
-                                                       : QLocale(name).textDirection());
+    const QLocale locale(name.isEmpty() ? QStringLiteral("en") : name);
+    // The fonts look here for the letters they are to go with.
+    QLocale::setDefault(locale);
+    QGuiApplication::setLayoutDirection(locale.textDirection());
 }

@@ -23,7 +23,11 @@ MenuBand::MenuBand(QWidget* window) : QWidget(window), menuBar_(new QMenuBar(thi
     styleMenuBar(*menuBar_);
     auto* row = new QHBoxLayout(this);
     // The first title's letters, not its plate, begin where the rows below begin.
-    row->setContentsMargins(leftMargin - menuItemPadding - menuItemSpacing, 0, rightMargin, 0);
+    QMargins margins(leftMargin - menuItemPadding - menuItemSpacing, 0, rightMargin, 0);
+    if (isRightToLeft()) {
+        margins = {margins.right(), 0, margins.left(), 0};
+    }
+    row->setContentsMargins(margins);
     row->setSpacing(markSpacing);
     row->addWidget(menuBar_, 0, Qt::AlignVCenter);
     row->addStretch();

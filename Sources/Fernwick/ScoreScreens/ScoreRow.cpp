@@ -68,6 +68,12 @@ QSize ScoreRow::sizeHint() const {
     return {static_cast<int>(2 * horizontalPadding + rankWidth), height};
 }
 
+QRectF ScoreRow::asRead(const QRectF& place) const {
+    QRectF mirrored = place;
+    mirrored.moveRight(width() - place.left());
+    return isRightToLeft() ? mirrored : place;
+}
+
 void ScoreRow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -84,17 +90,21 @@ void ScoreRow::paintEvent(QPaintEvent*) {
     rank.setWidth(static_cast<double>(rank_.size()) * cell);
     rank.moveLeft(line.left() + (rankWidth - rank.width()) / 2);
     painter.setPen(Garden::muted);
-    drawDigits(painter, rank, rank_);
+    drawDigits(painter, asRead(rank), rank_);
 
     QRectF score = line;
     score.setLeft(line.right() - static_cast<double>(score_.size()) * cell);
     painter.setPen(Garden::mint);
-    drawDigits(painter, score, score_);
+    drawDigits(painter, asRead(score), score_);
 
     QRectF name = line;
     name.setLeft(line.left() + rankWidth + elementSpacing);
     name.setRight(score.left() - elementSpacing);
     painter.setPen(Garden::primaryText);
-    painter.drawText(name, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+    const int begin = isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
+    // A name reads in the direction of its own letters, whatever those around it do.
+    painter.setLayoutDirection(name_.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+    painter.drawText(asRead(name),
+                     begin | Qt::AlignAbsolute | Qt::AlignVCenter | Qt::TextSingleLine,
                      metrics.elidedText(name_, Qt::ElideRight, name.width()));
 }

@@ -21,6 +21,9 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    /// `place`, or its mirror image where lines are read from right to left.
+    [[nodiscard]] QRectF asRead(const QRectF& place) const;
+
     QString rank_;
     QString name_;
     QString score_;

@@ -3,6 +3,7 @@
 #include <QFocusEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include "Garden/Fonts.hpp"
@@ -102,7 +103,8 @@ bool ScoreRows::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void ScoreRows::resizeEvent(QResizeEvent*) {
-    indicator_->setGeometry(width() - scrollBarWidth, 0, scrollBarWidth, height());
+    const QRect atTheEnd(width() - scrollBarWidth, 0, scrollBarWidth, height());
+    indicator_->setGeometry(QStyle::visualRect(layoutDirection(), rect(), atTheEnd));
 }
 
 void ScoreRows::paintEvent(QPaintEvent*) {

@@ -1,5 +1,6 @@
 #include "MainWindow/Board/Backdrop.hpp"
 
+#include <QGuiApplication>
 #include <QPainter>
 #include <QPainterPath>
 #include <QRegion>
@@ -15,7 +16,7 @@
 namespace {
 
 constexpr float lightOpacity = 0.075F;
-/// In points, from the corner of the window.
+/// In points, from the corner of the window that reading begins at.
 constexpr double lightReach = 800;
 
 constexpr float shadowOpacity = 0.25F;
@@ -31,14 +32,17 @@ void paintLight(QImage& picture, double scale) {
     const auto reach = static_cast<float>(lightReach * scale);
     const int columns = std::min(picture.width(), static_cast<int>(std::ceil(reach)));
     const int rows = std::min(picture.height(), static_cast<int>(std::ceil(reach)));
+    const int corner = QGuiApplication::isRightToLeft() ? picture.width() : 0;
+    const int left = corner == 0 ? 0 : corner - columns;
     const Rgb mint = Rgb::of(Garden::mint);
     for (int y = 0; y < rows; ++y) {
         const float below = static_cast<float>(y) + 0.5F;
-        Pixels::mixRow(pixelsAt(picture, 0, y), columns, Pixels::phase(0, y), mint, [=](int x) {
-            const float aside = static_cast<float>(x) + 0.5F;
-            const float distance = std::sqrt(aside * aside + below * below);
-            return std::max(1 - distance / reach, 0.0F) * lightOpacity;
-        });
+        Pixels::mixRow(pixelsAt(picture, left, y), columns, Pixels::phase(left, y), mint,
+                       [=](int x) {
+                           const float aside = static_cast<float>(left + x - corner) + 0.5F;
+                           const float distance = std::sqrt(aside * aside + below * below);
+                           return std::max(1 - distance / reach, 0.0F) * lightOpacity;
+                       });
     }
 }
 

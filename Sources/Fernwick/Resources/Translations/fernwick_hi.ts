@@ -125,7 +125,7 @@
     <message>
         <source>·   SPACE to pause   ·   R to restart</source>
         <extracomment>Three spaces on each side of a dot, as here. R stays a Latin letter.</extracomment>
-        <translation>·   रोकने के लिए SPACE   ·   फिर शुरू करने के लिए R</translation>
+        <translation>·   SPACE: रोकें   ·   R: फिर शुरू करें</translation>
     </message>
 </context>
 <context>

@@ -100,7 +100,7 @@
     <message>
         <source>Top 10 for each speed · saved on this Mac</source>
         <extracomment>&quot;Mac&quot; means the player&apos;s own computer, of whatever make.</extracomment>
-        <translation>10 найкращих для кожного темпу · збережено на цьому комп’ютері</translation>
+        <translation>Топ-10 кожного темпу · збережено на цьому комп’ютері</translation>
     </message>
 </context>
 <context>
