@@ -2,6 +2,7 @@
 
 from gi.repository import Gio, GLib
 
+ACTION = "org.a11y.atspi.Action"
 ACCESSIBLE = "org.a11y.atspi.Accessible"
 COMPONENT = "org.a11y.atspi.Component"
 TEXT = "org.a11y.atspi.Text"
@@ -80,6 +81,10 @@ class Element:
     def text(self):
         """What is written in a field."""
         return self._ask(TEXT, "GetText", "(ii)", 0, -1)[0]
+
+    def use(self):
+        """Does what a press on the control does."""
+        self._ask(ACTION, "DoAction", "(i)", 0)
 
     def can_be_used(self):
         """Whether it is not greyed."""

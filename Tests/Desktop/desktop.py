@@ -39,6 +39,11 @@ class Desktop:
             process.wait()
         shutil.rmtree(self.folder, ignore_errors=True)
 
+    def end_display(self):
+        """Ends the X server under all of its programs, as when it crashes."""
+        self._display.kill()
+        self._display.wait()
+
     def run(self, *command):
         """The output of a command that ends by itself; an error when it fails."""
         done = subprocess.run(command, env=self.environment, check=True, text=True,
@@ -76,7 +81,7 @@ class Desktop:
         reading, writing = os.pipe()
         # Without -noreset the server would start over whenever its last client leaves, and take
         # along a window manager that is just arriving.
-        self._spawn("Xvfb", "-displayfd", str(writing), "-screen", "0",
+        self._display = self._spawn("Xvfb", "-displayfd", str(writing), "-screen", "0",
                     f"{Screen.WIDTH}x{Screen.HEIGHT}x24", "-nolisten", "tcp", "-noreset",
                     "-fbdir", str(self.folder), pass_fds=[writing])
         os.close(writing)
