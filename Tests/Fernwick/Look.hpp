@@ -3,10 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <QColor>
+#include <QGlyphRun>
 #include <QImage>
 #include <QPointF>
 #include <QRawFont>
 #include <QRect>
+#include <QTextLayout>
 #include <QWidget>
 #include <algorithm>
 #include <cmath>
@@ -35,6 +37,19 @@ inline void expectType(const QWidget& widget, const Type& type) {
     EXPECT_EQ(drawn.weight(), static_cast<int>(type.weight));
     EXPECT_EQ(font.pixelSize(), type.size);
     EXPECT_DOUBLE_EQ(font.letterSpacing(), type.tracking);
+}
+
+/// Whether `font`, with the faces that help it out, can draw every letter of `text`.
+[[nodiscard]] inline bool hasEveryLetter(const QString& text, const QFont& font) {
+    QTextLayout layout(text, font);
+    layout.beginLayout();
+    layout.createLine();
+    layout.endLayout();
+    const QList<QGlyphRun> runs = layout.glyphRuns();
+    return std::ranges::none_of(runs, [](const QGlyphRun& run) {
+        // Glyph 0 is the box in place of a letter that a font does not have.
+        return run.glyphIndexes().contains(0);
+    });
 }
 
 /// `top` laid over the opaque `ground`.

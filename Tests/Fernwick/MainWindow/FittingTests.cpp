@@ -1,10 +1,6 @@
 #include "Fernwick/MainWindow/LookTest.hpp"
-#include "Garden/ChoiceButton.hpp"
-#include "Garden/IconView.hpp"
-#include "Garden/RollingDigits.hpp"
+#include "Fernwick/MainWindow/Tidiness.hpp"
 #include "MainWindow/HeaderRow.hpp"
-#include "MainWindow/Rule.hpp"
-#include "MainWindow/StatusDot.hpp"
 #include "ScoreScreens/HighScoresView.hpp"
 #include "ScoreScreens/NameField.hpp"
 #include "ScoreScreens/ScoreRow.hpp"
@@ -15,57 +11,13 @@ namespace {
 /// In the smallest window everything has to find its room.
 class Fitting : public LookTest {
 protected:
-    static bool isElement(const QWidget& widget) {
-        return qobject_cast<const Garden::TrackedLabel*>(&widget) != nullptr ||
-               qobject_cast<const Garden::RollingDigits*>(&widget) != nullptr ||
-               qobject_cast<const Garden::IconView*>(&widget) != nullptr ||
-               qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
-               qobject_cast<const NameField*>(&widget) != nullptr ||
-               qobject_cast<const ScoreRows*>(&widget) != nullptr ||
-               qobject_cast<const StatusDot*>(&widget) != nullptr ||
-               qobject_cast<const Rule*>(&widget) != nullptr;
-    }
-
-    /// What is shown inside `root` and is not made up of smaller things.
-    static QList<QWidget*> elementsOf(const QWidget& root) {
-        QList<QWidget*> elements;
-        for (QWidget* widget : root.findChildren<QWidget*>()) {
-            const bool insideRows = qobject_cast<ScoreRows*>(widget->parentWidget()) != nullptr;
-            if (widget->isVisible() && isElement(*widget) && !insideRows) {
-                elements.append(widget);
-            }
-        }
-        return elements;
-    }
-
-    /// Expects every element of `root` whole, inside the padding of `root` and apart from the
-    /// others.
-    static void expectTidy(const QWidget& root, const QMargins& padding) {
-        const QList<QWidget*> elements = elementsOf(root);
-        ASSERT_FALSE(elements.empty());
-        for (qsizetype index = 0; index < elements.size(); ++index) {
-            const QWidget& element = *elements[index];
-            SCOPED_TRACE(Screen::nameOf(elements[index]).toStdString());
-            const QRect place = placeIn(root, element);
-            EXPECT_TRUE(root.rect().marginsRemoved(padding).contains(place));
-            EXPECT_TRUE(element.parentWidget()->rect().contains(element.geometry()));
-            const QSize needed = element.sizeHint().boundedTo(element.maximumSize());
-            EXPECT_GE(element.width(), needed.width());
-            EXPECT_GE(element.height(), needed.height());
-            for (qsizetype other = 0; other < index; ++other) {
-                EXPECT_FALSE(place.intersects(placeIn(root, *elements[other])))
-                    << Screen::nameOf(elements[other]).toStdString();
-            }
-        }
-    }
-
-    void expectTidyWindow() const { expectTidy(window, {38, 0, 38, 26}); }
+    void expectTidyWindow() const { Tidiness::expectTidy(window, {38, 0, 38, 26}); }
 
     void expectTidySheet() {
         session.openScores();
         settle();
         EXPECT_TRUE(window.rect().contains(placeOf(the<HighScoresView>())));
-        expectTidy(the<HighScoresView>(), {32, 32, 32, 32});
+        Tidiness::expectTidy(the<HighScoresView>(), {32, 32, 32, 32});
         session.showingScores = false;
         settle();
     }

@@ -1,0 +1,88 @@
+#include "Fernwick/MainWindow/Languages/LanguageTest.hpp"
+#include "Fernwick/MainWindow/Tidiness.hpp"
+#include "Garden/Fonts.hpp"
+#include "MainWindow/BoardArea.hpp"
+#include "MainWindow/Overlay.hpp"
+#include "ScoreScreens/HighScoresView.hpp"
+
+namespace {
+
+struct SpeakerOfParameter : ::testing::WithParamInterface<QString>, Speaker {
+    SpeakerOfParameter() : Speaker(GetParam()) {}
+};
+
+/// In the smallest window every language has to find its room.
+class FittingLanguages : public SpeakerOfParameter, public LanguageTest {
+protected:
+    void expectTidyWindow() const { Tidiness::expectTidy(window, {38, 0, 38, 26}); }
+
+    void expectTidySheet() {
+        session.openScores();
+        settle();
+        EXPECT_TRUE(window.rect().contains(placeOf(the<HighScoresView>())));
+        Tidiness::expectTidy(the<HighScoresView>(), {32, 32, 32, 32});
+        session.showingScores = false;
+        settle();
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Languages, FittingLanguages, ::testing::ValuesIn(everyLanguage()),
+                         nameOfLanguage);
+
+}  // namespace
+
+TEST_P(FittingLanguages, everythingFitsInEveryState) {
+    for (const SessionState state : everyState) {
+        SCOPED_TRACE(state);
+        arriveAt(state);
+        expectTidyWindow();
+        if (state == SessionState::awaitingName) {
+            session.skipSaving();
+        }
+    }
+}
+
+TEST_P(FittingLanguages, theSheetFitsWithAndWithoutScores) {
+    expectTidySheet();
+    saveRunAs(QString(24, u'W'));
+    expectTidySheet();
+}
+
+TEST_P(FittingLanguages, theOverlayOfAnEndedRunFitsTheBoard) {
+    session.start();
+    gatherFirstFruit();
+    endRun();
+    Overlay overlay(session);
+    overlay.resize(the<BoardArea>().frame().size().toSize());
+    overlay.show();
+    settle();
+
+    Tidiness::expectTidy(overlay, {25, 25, 25, 25});
+}
+
+TEST_P(FittingLanguages, theHeadlineOfAWonRunFitsTheCard) {
+    const Garden::TrackedLabel headline(QCoreApplication::translate("GameOverView", "Fully grown."),
+                                        Garden::serif(34, QFont::Normal), Qt::white);
+    EXPECT_LE(headline.sizeHint().width(), 400);
+}
+
+TEST_P(FittingLanguages, thePlaceholderOfTheNameFitsItsField) {
+    endRunAwaitingName();
+    const auto& field = the<NameField>();
+    const int room = field.width() - 2 * 14;
+    EXPECT_LE(field.fontMetrics().horizontalAdvance(field.placeholderText()), room);
+}
+
+TEST_P(FittingLanguages, everyLetterIsInAFontOfThisMachine) {
+    for (const SessionState state : {SessionState::fresh, SessionState::awaitingName}) {
+        arriveAt(state);
+        for (const auto* label : window.findChildren<Garden::TrackedLabel*>()) {
+            EXPECT_TRUE(Look::hasEveryLetter(label->text(), label->font()))
+                << label->text().toStdString();
+        }
+        for (const auto* button : window.findChildren<QAbstractButton*>()) {
+            EXPECT_TRUE(Look::hasEveryLetter(button->text(), button->font()))
+                << button->text().toStdString();
+        }
+    }
+}

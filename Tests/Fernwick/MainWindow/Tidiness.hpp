@@ -1,0 +1,66 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+
+#include "Fernwick/Look.hpp"
+#include "Fernwick/Screen.hpp"
+#include "Garden/IconView.hpp"
+#include "Garden/RollingDigits.hpp"
+#include "Garden/TrackedLabel.hpp"
+#include "MainWindow/Rule.hpp"
+#include "MainWindow/StatusDot.hpp"
+#include "ScoreScreens/NameField.hpp"
+#include "ScoreScreens/ScoreRows.hpp"
+
+/// A screen is tidy when everything on it has the room it needs and none of another's.
+namespace Tidiness {
+
+inline bool isElement(const QWidget& widget) {
+    return qobject_cast<const Garden::TrackedLabel*>(&widget) != nullptr ||
+           qobject_cast<const Garden::RollingDigits*>(&widget) != nullptr ||
+           qobject_cast<const Garden::IconView*>(&widget) != nullptr ||
+           qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
+           qobject_cast<const NameField*>(&widget) != nullptr ||
+           qobject_cast<const ScoreRows*>(&widget) != nullptr ||
+           qobject_cast<const StatusDot*>(&widget) != nullptr ||
+           qobject_cast<const Rule*>(&widget) != nullptr;
+}
+
+/// What is shown inside `root` and is not made up of smaller things.
+inline QList<QWidget*> elementsOf(const QWidget& root) {
+    QList<QWidget*> elements;
+    for (QWidget* widget : root.findChildren<QWidget*>()) {
+        const bool insideRows = qobject_cast<ScoreRows*>(widget->parentWidget()) != nullptr;
+        if (widget->isVisible() && isElement(*widget) && !insideRows) {
+            elements.append(widget);
+        }
+    }
+    return elements;
+}
+
+/// Expects every element of `root` whole, inside the padding of `root` and apart from the others.
+inline void expectTidy(const QWidget& root, const QMargins& padding) {
+    const QList<QWidget*> elements = elementsOf(root);
+    ASSERT_FALSE(elements.empty());
+    const auto placeOf = [&root](const QWidget& widget) {
+        return QRect(widget.mapTo(&root, QPoint()), widget.size());
+    };
+    for (qsizetype index = 0; index < elements.size(); ++index) {
+        const QWidget& element = *elements[index];
+        SCOPED_TRACE(Screen::nameOf(elements[index]).toStdString());
+        const QRect place = placeOf(element);
+        EXPECT_TRUE(root.rect().marginsRemoved(padding).contains(place));
+        EXPECT_TRUE(element.parentWidget()->rect().contains(element.geometry()));
+        const QSize needed = element.sizeHint().boundedTo(element.maximumSize());
+        EXPECT_GE(element.width(), needed.width());
+        EXPECT_GE(element.height(), needed.height());
+        for (qsizetype other = 0; other < index; ++other) {
+            EXPECT_FALSE(place.intersects(placeOf(*elements[other])))
+                << Screen::nameOf(elements[other]).toStdString();
+        }
+    }
+}
+
+}  // namespace Tidiness
