@@ -1,5 +1,5 @@
 # The Debian packages the project stands on, each with what it is for, and how the missing ones are
-# installed. Sourced by play and check.
+# installed. Sourced by play, check and Benchmarks/run.
 
 build_packages() {
     cat <<'LIST'
@@ -82,6 +82,19 @@ man-db               judges the manual page
 fonts-noto-core      Arabic and Devanagari letters for the tests of the translations
 fonts-wqy-zenhei     Chinese, Japanese and Korean ones: the smallest package with all three
 fonts-noto-color-emoji  the emoji in players' names, for the pictures of every screen
+LIST
+}
+
+bench_packages() {
+    build_packages
+    cat <<'LIST'
+libbenchmark-dev     times the code
+xvfb                 a display of its own for the program
+openbox              the window manager on that display
+x11-utils            tells when the window manager is up
+libxtst6             presses keys as a keyboard does
+dbus                 the message bus that a desktop has
+python3              measures the whole program
 LIST
 }
 

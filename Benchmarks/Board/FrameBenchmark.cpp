@@ -13,19 +13,22 @@ namespace {
 
 using SnakeCore::Game;
 
+constexpr std::size_t wholeBoard = 616;
+
 double scaleOf(const benchmark::State& state) {
     return static_cast<double>(state.range(0));
 }
 
-// A run and the same one step later.
+// A run and the same one step later, that step being no meal unless it is the last there can be.
 std::pair<Game, Game> neighbours(std::size_t length) {
-    Game game = length > 4 ? Games::ofLength(length) : Game(28, 22);
+    const std::size_t before = std::min(length, wholeBoard - 1);
+    Game game = before > 4 ? Games::ofLength(before) : Game(28, 22);
     Game next = game;
     do {
         game = next;
         next.turn(Games::onTour(next));
         next.step();
-    } while (next.score() != game.score());
+    } while (length < wholeBoard && next.score() != game.score());
     return {game, next};
 }
 

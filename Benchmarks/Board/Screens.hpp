@@ -7,7 +7,7 @@
 namespace Screens {
 
 /// The points that the main screen leaves to the board on a screen of 1920 x 1080 points.
-inline constexpr QRectF space(0, 0, 1844, 815);
+inline constexpr QRectF space(0, 0, 1844, 810);
 
 /// At a scale of 1 a screen of 1920 x 1080 pixels, at 2 one of 3840 x 2160.
 [[nodiscard]] inline PixelGrid grid(double scale) {

@@ -116,7 +116,7 @@ void eyes(benchmark::State& state) {
 // What a change of the window's size costs beside the picture.
 void backdropAndEdge(benchmark::State& state) {
     const auto scale = static_cast<double>(state.range(0));
-    const QRectF frame = fitBoard(Screens::space).frame.translated(38, 190);
+    const QRectF frame = fitBoard(Screens::space).frame.translated(38, 195);
     const QRect place = QRectF(frame.topLeft() * scale, frame.size() * scale).toAlignedRect();
     const QRectF here(frame.topLeft() * scale - place.topLeft(), frame.size() * scale);
     for (auto _ : state) {

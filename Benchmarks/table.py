@@ -1,0 +1,77 @@
+"""Turns the results into one table.
+
+table.py RESULTS [--document]: prints the table; with --document it also replaces the one in
+Docs/performance.md.
+"""
+
+import json
+import pathlib
+import platform
+import sys
+
+import goals
+
+DOCUMENT = pathlib.Path(__file__).resolve().parents[1] / "Docs/performance.md"
+BEGIN = "<!-- measured: written by Benchmarks/run -->"
+END = "<!-- end of what was measured -->"
+
+SECONDS = {"ns": 1e-9, "us": 1e-6, "ms": 1e-3, "s": 1}
+
+
+def medians(results):
+    """Processor seconds of every benchmark of the code, by name."""
+    found = {}
+    for name in ("game", "table", "board"):
+        for run in json.loads((results / f"{name}.json").read_text())["benchmarks"]:
+            if run["aggregate_name"] == "median":
+                found[run["run_name"]] = run["cpu_time"] * SECONDS[run["time_unit"]]
+    return found
+
+
+def machine():
+    names = [line.partition(":")[2].strip()
+             for line in pathlib.Path("/proc/cpuinfo").read_text().splitlines()
+             if line.startswith("model name")]
+    system = platform.freedesktop_os_release()["PRETTY_NAME"]
+    return f"{names[0]}, {len(names)} cores; {system}, Linux {platform.release()}"
+
+
+def as_markdown(heading, rows):
+    lines = [heading, ["---"] * len(heading), *rows]
+    return "\n".join("| " + " | ".join(line) + " |" for line in lines)
+
+
+def goal_table(rows):
+    return as_markdown(["What", "Goal", "Measured", "Of the goal", ""],
+                       [[row.what, row.goal, row.measured, f"{row.used:.2f}",
+                         "met" if row.met else "**missed**"] for row in rows])
+
+
+def detail_table(seconds, program):
+    timed = [[name, f"{value * 1e6:,.4g} µs"] for name, value in seconds.items()]
+    figures = [[name, f"{value:,.4g}"] for name, value in program.items()]
+    return as_markdown(["Figure", "Median"], timed + figures)
+
+
+def put_into_document(text):
+    before, begin, rest = DOCUMENT.read_text().partition(BEGIN)
+    _, end, after = rest.partition(END)
+    assert begin and end, f"{DOCUMENT.name} has no place for the table"
+    DOCUMENT.write_text(f"{before}{begin}\n{text}\n{end}{after}")
+
+
+def main():
+    results = pathlib.Path(sys.argv[1])
+    seconds = medians(results)
+    program = json.loads((results / "program.json").read_text())
+    table = goal_table(list(goals.rows(seconds, program)))
+    print(table)
+    if "--document" in sys.argv[2:]:
+        put_into_document(f"\nMeasured on: {machine()}.\n\n{table}\n\n"
+                          "Every single figure behind it (of the program: seconds, bytes, "
+                          "shares of one core, or counts):\n\n"
+                          f"{detail_table(seconds, program)}\n")
+
+
+if __name__ == "__main__":
+    main()
