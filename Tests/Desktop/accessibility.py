@@ -12,6 +12,7 @@ ON_SCREEN = 0
 ANSWER_WITHIN_MS = 10_000
 
 # Numbers of states, as the bus counts them.
+ACTIVE = 1
 CHECKED = 4
 FOCUSED = 12
 SENSITIVE = 24
@@ -89,6 +90,10 @@ class Element:
     def can_be_used(self):
         """Whether it is not greyed."""
         return self._has(SENSITIVE)
+
+    def is_active(self):
+        """Whether it is the window that has the keyboard."""
+        return self._has(ACTIVE)
 
     def is_checked(self):
         return self._has(CHECKED)

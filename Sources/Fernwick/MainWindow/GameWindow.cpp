@@ -43,7 +43,24 @@ GameWindow::GameWindow(Session& session)
     connect(content_, &ContentView::appeared, this, &GameWindow::appeared, Qt::QueuedConnection);
 }
 
+bool GameWindow::coversScreen() const {
+    return isFullScreen() || isMaximized();
+}
+
+void GameWindow::changeEvent(QEvent* event) {
+    // A window that covers a small screen must not outgrow it: a Wayland desktop ends the program
+    // for that.
+    if (event->type() == QEvent::WindowStateChange && coversScreen()) {
+        setMinimumSize(QSize(0, 0));
+    }
+    QWidget::changeEvent(event);
+}
+
 void GameWindow::resizeEvent(QResizeEvent* event) {
+    // No sooner: until the desktop has let it go, the window still has the screen's size.
+    if (!coversScreen()) {
+        setMinimumSize(smallestSize);
+    }
     content_->setGeometry(rect());
     band_->setGeometry(0, 0, event->size().width(), MenuBand::height);
 }

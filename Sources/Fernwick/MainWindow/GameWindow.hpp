@@ -18,10 +18,13 @@ Q_SIGNALS:
     void appeared();
 
 protected:
+    void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    [[nodiscard]] bool coversScreen() const;
+
     MenuBand* band_;
     ContentView* content_;
 };

@@ -1,0 +1,49 @@
+"""A Wayland desktop in a window of the private one, where real keys and a real pointer reach it."""
+
+from waiting import eventually
+
+SOCKET = "fernwick-wayland"
+# What lies around the game's window; nothing in the game has this colour.
+GROUND = 255, 0, 255
+SETTINGS = """
+[shell]
+panel-position=none
+background-color=0xffff00ff
+locking=false
+animation=none
+startup-animation=none
+"""
+
+
+class Compositor:
+    """Runs from `start` to `stop`."""
+
+    def __init__(self, desktop, size):
+        self._desktop = desktop
+        self.size = size
+        self._process = None
+        self.window = None
+        # What tells programs of it.
+        self.environment = {"QT_QPA_PLATFORM": "wayland", "WAYLAND_DISPLAY": SOCKET,
+                            "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
+
+    def start(self):
+        settings = self._desktop.folder / "weston.ini"
+        settings.write_text(SETTINGS)
+        width, height = self.size
+        self._process = self._desktop.spawn(
+            "weston", "--backend=x11-backend.so", f"--config={settings}", "--fullscreen",
+            "--idle-time=0", f"--socket={SOCKET}", f"--width={width}", f"--height={height}")
+        socket = self._desktop.run_folder() / SOCKET
+        assert not socket.exists()
+        eventually(socket.exists, "the compositor is up")
+        self.window = eventually(self._active_window, "the compositor is in front")
+
+    def stop(self):
+        self._process.terminate()
+        self._process.wait()
+
+    def _active_window(self):
+        window = self._desktop.active_window()
+        name = self._desktop.property(window, "WM_CLASS") if window else ""
+        return window if "Weston" in name else None
