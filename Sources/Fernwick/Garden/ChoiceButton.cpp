@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <cmath>
 
+#include "Garden/Contrast.hpp"
 #include "Garden/Fonts.hpp"
 #include "Garden/Palette.hpp"
 #include "Garden/RoundedShape.hpp"
@@ -55,7 +56,7 @@ void ChoiceButton::paintEvent(QPaintEvent*) {
     } else if (hovered()) {
         painter.fillPath(continuousCapsule(shape), withOpacity(mint, hoverOpacity));
     }
-    painter.setPen(isChecked() ? mint : muted);
+    painter.setPen(legible(isChecked() ? mint : muted));
     painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
     constexpr double inset = FocusRing::width / 2;
     focusRing().paint(painter, continuousCapsule(shape.adjusted(inset, inset, -inset, -inset)),

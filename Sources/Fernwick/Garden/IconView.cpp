@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "Garden/Accessibility.hpp"
+#include "Garden/Contrast.hpp"
 
 namespace Garden {
 
@@ -23,7 +24,7 @@ void IconView::setIcon(Icon icon) {
 
 void IconView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    paintIcon(painter, icon_, QRectF(0, 0, size_, size_), colour_);
+    paintIcon(painter, icon_, QRectF(0, 0, size_, size_), legible(colour_));
 }
 
 }  // namespace Garden

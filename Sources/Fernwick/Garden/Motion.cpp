@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QDBusConnection>
-#include <QFileInfo>
 #include <QPointer>
 #include <QStyle>
 
@@ -11,12 +10,6 @@
 namespace Garden {
 
 namespace {
-
-// Without one to connect to, the bus library would start a bus of its own.
-bool sessionBusExists() {
-    return !qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS") ||
-           QFileInfo::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus"));
-}
 
 bool desktopAsksForStillness() {
     static QPointer<MotionSetting> setting;

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 
 #include "Garden/Accessibility.hpp"
+#include "Garden/Contrast.hpp"
 #include "Garden/Palette.hpp"
 
 namespace Garden {
@@ -32,12 +33,12 @@ bool QuietButton::hovered() const {
 
 QColor QuietButton::quietColour() const {
     if (!isEnabled()) {
-        return withOpacity(muted, disabledQuiet);
+        return withOpacity(legible(muted), disabledQuiet);
     }
     if (isDown()) {
-        return withOpacity(muted, pressedQuiet);
+        return withOpacity(legible(muted), pressedQuiet);
     }
-    return hovered() ? hoveredQuiet : muted;
+    return legible(hovered() ? hoveredQuiet : muted);
 }
 
 void QuietButton::keyPressEvent(QKeyEvent* event) {

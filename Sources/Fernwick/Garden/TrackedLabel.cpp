@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "Garden/Accessibility.hpp"
+#include "Garden/Contrast.hpp"
 #include "Garden/Fonts.hpp"
 
 namespace Garden {
@@ -71,7 +72,7 @@ QSize TrackedLabel::minimumSizeHint() const {
 
 void TrackedLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setPen(colour_);
+    painter.setPen(legible(colour_));
     const QFontMetricsF metrics(font());
     const QSize needed = sizeHint();
     const bool fits = width() >= needed.width();

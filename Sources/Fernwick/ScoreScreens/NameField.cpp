@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include "Garden/Contrast.hpp"
 #include "Garden/Fonts.hpp"
 #include "Garden/Palette.hpp"
 #include "Garden/RoundedShape.hpp"
@@ -31,9 +32,21 @@ NameField::NameField(QWidget* parent) : QLineEdit(parent) {
     QPalette colours = palette();
     colours.setColor(QPalette::Base, Qt::transparent);
     colours.setColor(QPalette::Text, Garden::primaryText);
-    colours.setColor(QPalette::PlaceholderText, Garden::withOpacity(Qt::white, placeholderOpacity));
     colours.setColor(QPalette::Highlight, Garden::withOpacity(Garden::mint, selectionOpacity));
     colours.setColor(QPalette::HighlightedText, Qt::white);
+    setPalette(colours);
+    setPlaceholderColour();
+    connect(&Garden::Contrast::shared(), &Garden::Contrast::changed, this,
+            &NameField::setPlaceholderColour);
+}
+
+void NameField::setPlaceholderColour() {
+    QPalette colours = palette();
+    // Quieter than a name that was typed, at high contrast too.
+    colours.setColor(QPalette::PlaceholderText,
+                     Garden::Contrast::shared().isHigh()
+                         ? Garden::legible(Garden::muted)
+                         : Garden::withOpacity(Qt::white, placeholderOpacity));
     setPalette(colours);
 }
 
@@ -49,7 +62,9 @@ void NameField::paintEvent(QPaintEvent* event) {
         const QPainterPath shape = Garden::continuousRoundedRect(
             QRectF(rect()).adjusted(inset, inset, -inset, -inset), cornerRadius);
         painter.fillPath(shape, Garden::withOpacity(Qt::white, plateOpacity));
-        painter.strokePath(shape, QPen(Garden::withOpacity(Garden::mint, edgeOpacity), edgeWidth));
+        painter.strokePath(
+            shape,
+            QPen(Garden::legible(Garden::withOpacity(Garden::mint, edgeOpacity)), edgeWidth));
     }
     QLineEdit::paintEvent(event);
 }

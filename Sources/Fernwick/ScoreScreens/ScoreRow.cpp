@@ -5,6 +5,7 @@
 #include <QPainterPath>
 #include <algorithm>
 
+#include "Garden/Contrast.hpp"
 #include "Garden/Fonts.hpp"
 #include "Garden/Palette.hpp"
 #include "Garden/RoundedShape.hpp"
@@ -89,7 +90,7 @@ void ScoreRow::paintEvent(QPaintEvent*) {
     QRectF rank = line;
     rank.setWidth(static_cast<double>(rank_.size()) * cell);
     rank.moveLeft(line.left() + (rankWidth - rank.width()) / 2);
-    painter.setPen(Garden::muted);
+    painter.setPen(Garden::legible(Garden::muted));
     drawDigits(painter, asRead(rank), rank_);
 
     QRectF score = line;
