@@ -60,7 +60,8 @@ clang-format         checks the layout of the code
 clang-tidy           checks the code for likely mistakes
 libgtest-dev         runs the unit tests
 librapidcheck-dev    tries properties on random values
-strace               makes system calls fail under test
+strace               makes system calls fail under test, and shows those the program makes
+devscripts           checks how the program is hardened
 xvfb                 a display of its own for the desktop tests
 openbox              the window manager on that display
 weston               a Wayland desktop without a screen, for the desktop tests

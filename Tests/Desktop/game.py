@@ -24,11 +24,11 @@ OVER = "ANOTHER CHANCE TO GROW"
 
 
 class Game:
-    def __init__(self, desktop, folder, environment):
+    def __init__(self, desktop, folder, environment, command=(PROGRAM,)):
         self.desktop = desktop
         self._printed = folder / "printed"
         with open(self._printed, "ab") as printed:
-            self.process = subprocess.Popen([PROGRAM], env=environment, stdin=subprocess.DEVNULL,
+            self.process = subprocess.Popen(command, env=environment, stdin=subprocess.DEVNULL,
                                             stdout=printed, stderr=printed)
         self.window = None
         self._top = None
