@@ -63,7 +63,7 @@ TEST_F(Clock, setBackOrForwardDoesNotChangeThePaceOfARun) {
         const WallClock moved(jump);
         waitForCell(4);
 
-        EXPECT_GE(steady_clock::now() - began, 2 * tickInterval(Pace::swift));
+        EXPECT_GE(steady_clock::now() - began, tickInterval(Pace::swift));
         EXPECT_LT(steady_clock::now() - began, 10s);
         EXPECT_EQ(cellsGone(), 4);
     }

@@ -1,9 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <iostream>
 #include <random>
 #include <thread>
 
+#include "Fernwick/Session/EnvironmentNumber.hpp"
 #include "Fernwick/Session/FileContent.hpp"
 #include "Fernwick/Session/ForkedProcess.hpp"
 #include "Fernwick/Session/TemporaryFolder.hpp"
@@ -30,8 +32,9 @@ QByteArray tableOf(std::int64_t count) {
 
 }  // namespace
 
+// FERNWICK_KILL_ROUNDS programs are killed.
 TEST_F(PreferencesKill, everySaveThatHadReturnedIsThereAndTheFileIsWhole) {
-    constexpr int rounds = 300;
+    const auto rounds = static_cast<int>(environmentNumber("FERNWICK_KILL_ROUNDS", 300));
     std::mt19937 random(std::random_device{}());
     std::uniform_int_distribution<int> lifetime(0, 4000);
     std::int64_t saved = 0;
@@ -65,6 +68,7 @@ TEST_F(PreferencesKill, everySaveThatHadReturnedIsThereAndTheFileIsWhole) {
         saved = count;
     }
     EXPECT_GE(saved, rounds / 2);
+    std::cout << rounds << " programs killed, " << saved << " saves, none lost\n";
     EXPECT_EQ(namesIn(folder()),
               (std::vector<std::string>{"preferences.cbor", "preferences.cbor.lock"}));
 }
