@@ -1,0 +1,156 @@
+"""A player who does whatever comes to mind, by real keys and clicks, and looks closely at rest."""
+
+import pathlib
+import re
+import time
+
+from gi.repository import GLib
+
+from game import FRESH, MOVING, OVER, PAUSED
+from waiting import eventually
+
+STATES = FRESH, MOVING, PAUSED, OVER
+CARDS = {
+    FRESH: {"Find your flow."},
+    PAUSED: {"No rush."},
+    OVER: {"Game over.", "Fully grown."},
+}
+ALL_CARDS = set.union(*CARDS.values())
+SHEET = "The high scores."
+TURNS = ["Up", "Left", "Down", "Right", "w", "a", "s", "d"]
+KILOBYTES_PER_MEGABYTE = 1024
+
+
+class RandomPlayer:
+    """Plays one game; all chance comes from `random`."""
+
+    def __init__(self, game, other_window, random):
+        self._game = game
+        self._other_window = other_window
+        self._random = random
+        self.actions = 0
+        self.looks = 0
+
+    def play(self, seconds):
+        end = time.monotonic() + seconds
+        while time.monotonic() < end:
+            assert self._game.process.poll() is None, "the game has ended"
+            self._act()
+            self.actions += 1
+            time.sleep(self._random.uniform(0, 0.3))
+            if self._random.random() < 0.2:
+                self.look()
+
+    def memory(self):
+        """What the game holds of the machine's memory, in MB, in full screen and at rest."""
+        self._come_to_rest()
+        if not self._game.is_full_screen():
+            self._game.press("F11")
+            eventually(self._game.is_full_screen, "full screen is reached")
+            self._come_to_rest()
+        status = pathlib.Path(f"/proc/{self._game.process.pid}/status").read_text()
+        return int(re.search(r"VmRSS:\s+(\d+) kB", status).group(1)) / KILOBYTES_PER_MEGABYTE
+
+    def look(self):
+        """What is shown at rest must not contradict itself."""
+        self._come_to_rest()
+        texts = self._texts()
+        state, = [text for text in texts if text in STATES]
+        assert state != MOVING
+        cards = ALL_CARDS & set(texts)
+        assert cards <= CARDS[state] and len(cards) == 1
+        (score,), (best,) = self._numbers(texts, "SCORE"), self._numbers(texts, "PERSONAL BEST")
+        assert score % 10 == 0
+        if state == PAUSED:
+            assert best >= score
+        assert any(text.startswith(f"Snake board. Score {score}. ") for text in texts)
+        assert [self._game.find(name).can_be_used() for name in ("Gentle", "Classic", "Swift")] \
+            == [state != PAUSED and not self._awaits_name(texts)] * 3
+        assert self._game.find("New Game").can_be_used() == (not self._awaits_name(texts))
+        self.looks += 1
+
+    # What it does.
+
+    def _act(self):
+        texts = self._texts()
+        if SHEET in texts:
+            self._game.press("Escape")
+        elif self._awaits_name(texts):
+            self._end_naming()
+        elif self._random.random() < 0.6:
+            self._steer_or_start(texts)
+        else:
+            self._random.choice([self._press_one, self._open_sheet, self._switch_screen,
+                                 self._lose_focus, self._click_one])()
+
+    def _steer_or_start(self, texts):
+        if MOVING in texts:
+            self._game.press(*self._random.choices(TURNS, k=self._random.randint(1, 4)))
+        else:
+            self._game.press("space")
+
+    def _press_one(self):
+        self._game.press(self._random.choice(
+            ["space", "Escape", "r", "ctrl+n", "ctrl+p", "Tab", "F10"]))
+        # Whatever menu that opened is closed again; a run is at most paused by it.
+        self._game.press("Escape")
+
+    def _open_sheet(self):
+        self._game.press("ctrl+l")
+
+    def _switch_screen(self):
+        was = self._game.is_full_screen()
+        self._game.press("F11")
+        eventually(lambda: self._game.is_full_screen() != was, "the screen is switched")
+
+    def _lose_focus(self):
+        self._other_window.take_focus_from(self._game)
+        self._other_window.give_focus_back_to(self._game)
+
+    def _click_one(self):
+        self._click(self._random.choice(
+            ["Gentle", "Classic", "Swift", "Toggle sound effects", "High scores"]))
+
+    def _end_naming(self):
+        if self._random.random() < 0.3:
+            self._click("Skip saving")
+        else:
+            self._game.type(self._random.choice(["", "  ", "Pip ", "Wren of the Fern "]))
+            self._game.press("Return")
+
+    def _click(self, name):
+        shown = self._game.find_showing(name)
+        if shown and shown[-1].can_be_used():
+            self._game.click(shown[-1])
+
+    # What it sees.
+
+    def _texts(self):
+        return eventually(self._texts_or_none, "the screen can be read")
+
+    def _texts_or_none(self):
+        try:
+            return self._game.texts()
+        except GLib.Error:
+            # A control was taken away while it was asked.
+            return None
+
+    def _come_to_rest(self):
+        """Until no run moves and no sheet is up."""
+        def rests():
+            texts = self._texts()
+            if SHEET in texts or MOVING in texts:
+                self._game.press("Escape")
+            else:
+                return sum(text in STATES for text in texts) == 1
+            time.sleep(0.1)
+            return False
+        eventually(rests, "the game rests")
+
+    @staticmethod
+    def _awaits_name(texts):
+        return "Save score" in texts
+
+    @staticmethod
+    def _numbers(texts, label):
+        return [int(text.partition(": ")[2]) for text in texts if text.startswith(f"{label}: ")]
