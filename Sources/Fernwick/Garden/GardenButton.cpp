@@ -39,6 +39,9 @@ void GardenButton::paintEvent(QPaintEvent*) {
     const QRectF shape = rect();
     painter.fillPath(continuousCapsule(shape),
                      withOpacity(mint, fillOpacity(isEnabled(), isDown())));
+    constexpr double edgeInset = hoverEdgeWidth / 2;
+    paintHoverEdge(painter,
+                   continuousCapsule(shape.adjusted(edgeInset, edgeInset, -edgeInset, -edgeInset)));
     focusRing().paint(
         painter, continuousCapsule(shape.adjusted(ringInset, ringInset, -ringInset, -ringInset)),
         ink);

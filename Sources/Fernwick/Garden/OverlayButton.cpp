@@ -46,6 +46,10 @@ void OverlayButton::paintEvent(QPaintEvent*) {
     const QRectF shape = rect();
     painter.fillPath(continuousRoundedRect(shape, cornerRadius),
                      withOpacity(mint, fillOpacity(isEnabled(), isDown())));
+    constexpr double edgeInset = hoverEdgeWidth / 2;
+    paintHoverEdge(
+        painter, continuousRoundedRect(shape.adjusted(edgeInset, edgeInset, -edgeInset, -edgeInset),
+                                       cornerRadius));
     focusRing().paint(
         painter,
         continuousRoundedRect(shape.adjusted(ringInset, ringInset, -ringInset, -ringInset),

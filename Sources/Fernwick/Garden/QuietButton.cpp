@@ -1,6 +1,8 @@
 #include "Garden/QuietButton.hpp"
 
 #include <QKeyEvent>
+#include <QPainter>
+#include <QPainterPath>
 
 #include "Garden/Accessibility.hpp"
 #include "Garden/Contrast.hpp"
@@ -17,6 +19,9 @@ constexpr double disabledFill = 0.3;
 constexpr QColor hoveredQuiet = srgb(0.66, 0.80, 0.70);
 constexpr double pressedQuiet = 0.7;
 constexpr double disabledQuiet = 0.4;
+
+// The fill itself speaks of pressed and disabled alone.
+constexpr double hoverEdgeOpacity = 0.7;
 
 }  // namespace
 
@@ -39,6 +44,12 @@ QColor QuietButton::quietColour() const {
         return withOpacity(legible(muted), pressedQuiet);
     }
     return legible(hovered() ? hoveredQuiet : muted);
+}
+
+void QuietButton::paintHoverEdge(QPainter& painter, const QPainterPath& outline) const {
+    if (hovered()) {
+        painter.strokePath(outline, QPen(withOpacity(Qt::white, hoverEdgeOpacity), hoverEdgeWidth));
+    }
 }
 
 void QuietButton::keyPressEvent(QKeyEvent* event) {

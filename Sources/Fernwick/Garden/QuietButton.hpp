@@ -13,6 +13,9 @@ class QuietButton : public QAbstractButton {
     Q_OBJECT
 
 protected:
+    /// Width of the edge in logical pixels; a path inset by half of it stays inside its widget.
+    static constexpr double hoverEdgeWidth = 1.5;
+
     explicit QuietButton(QWidget* parent);
 
     [[nodiscard]] bool hovered() const;
@@ -20,6 +23,9 @@ protected:
     /// The colour of quiet text and symbols: `muted`, a little brighter under the pointer, fainter
     /// while pressed and fainter still while disabled.
     [[nodiscard]] QColor quietColour() const;
+
+    /// Under the pointer, traces `outline` of a filled button in faint light.
+    void paintHoverEdge(QPainter& painter, const QPainterPath& outline) const;
 
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;

@@ -35,7 +35,7 @@ QChar digitAt(const QString& text, int fromRight) {
 }  // namespace
 
 RollingDigits::RollingDigits(Qt::Alignment alignment, QWidget* parent)
-    : QWidget(parent), alignment_(alignment) {
+    : QWidget(parent), alignment_(alignment), roll_(this) {
     installAccessibility();
     setFont(mono(fontSize, fontWeight));
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);

@@ -1,20 +1,17 @@
 #include "MainWindow/SheetLayer.hpp"
 
 #include <QMouseEvent>
-#include <QPainter>
 
 #include "Garden/Focus.hpp"
+#include "MainWindow/SheetShade.hpp"
 #include "ScoreScreens/HighScoresView.hpp"
 #include "Session/Session.hpp"
 
-namespace {
-
-constexpr double scrimOpacity = 0.48;
-
-}  // namespace
-
 SheetLayer::SheetLayer(Session& session, QWidget* parent)
-    : QWidget(parent), session_(session), observer_(session, [this] { refresh(); }) {
+    : QWidget(parent),
+      session_(session),
+      shade_(new SheetShade(parent)),
+      observer_(session, [this] { refresh(); }) {
     hide();
     refresh();
 }
@@ -41,12 +38,14 @@ void SheetLayer::present() {
     placeSheet();
     show();
     raise();
+    shade_->come(*sheet_);
     sheet_->setFocus(Qt::PopupFocusReason);
 }
 
 void SheetLayer::dismiss() {
     const bool hadFocus = isAncestorOf(window()->focusWidget());
     Garden::releaseFocus(*this);
+    shade_->go(*sheet_);
     hide();
     if (hadFocus && !focusBefore_.isNull() && focusBefore_->isVisible()) {
         focusBefore_->setFocus(Qt::PopupFocusReason);
@@ -80,12 +79,6 @@ bool SheetLayer::focusNextPrevChild(bool next) {
 
 void SheetLayer::mousePressEvent(QMouseEvent* event) {
     event->accept();
-}
-
-void SheetLayer::paintEvent(QPaintEvent*) {
-    QColor scrim = Qt::black;
-    scrim.setAlphaF(static_cast<float>(scrimOpacity));
-    QPainter(this).fillRect(rect(), scrim);
 }
 
 void SheetLayer::resizeEvent(QResizeEvent*) {

@@ -7,6 +7,7 @@
 
 class HighScoresView;
 class Session;
+class SheetShade;
 
 /// Presents the sheet of high scores over the whole window while the session shows scores: dims
 /// what lies behind, keeps pointer and keyboard focus inside, gives the focus back on closing.
@@ -19,7 +20,6 @@ public:
 protected:
     bool focusNextPrevChild(bool next) override;
     void mousePressEvent(QMouseEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
@@ -29,6 +29,7 @@ private:
     void placeSheet();
 
     Session& session_;
+    SheetShade* shade_;
     HighScoresView* sheet_ = nullptr;
     QPointer<QWidget> focusBefore_;
     ChangeObserver observer_;

@@ -47,12 +47,16 @@ GameOverView::GameOverView(Session& session, QWidget* parent)
 }
 
 void GameOverView::refresh() {
+    if (!session_.game->ended()) {
+        return;
+    }
     //: Headlines of an ended run: the snake fills the whole board; it struck something.
     headline_->setText(session_.game->won() ? tr("Fully grown.") : tr("Game over."));
     //: %lld is the score, %@ the name of the speed; both have to stay. Two spaces round the dot.
     result_->setText(Garden::withNumber(tr("%lld POINTS  ·  %@"), session_.game->score())
                          .replace(QStringLiteral("%@"), displayName(session_.runPace())));
     if (session_.awaitingName) {
+        savedBoard_->clear();
         savedBoard_->hide();
         nameEntry_->refresh();
         nameEntry_->show();
@@ -60,7 +64,8 @@ void GameOverView::refresh() {
         // The keys are the game's again: no button may hold the Space that starts the next run.
         Garden::releaseFocus(*nameEntry_);
         nameEntry_->hide();
-        savedBoard_->refresh();
+        // Shown first: what changes on it is then read out.
         savedBoard_->show();
+        savedBoard_->refresh();
     }
 }

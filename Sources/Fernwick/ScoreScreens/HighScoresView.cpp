@@ -12,6 +12,7 @@
 #include "Garden/Palette.hpp"
 #include "Garden/RoundedShape.hpp"
 #include "Garden/TrackedLabel.hpp"
+#include "ScoreScreens/Accessibility.hpp"
 #include "ScoreScreens/ScoreRows.hpp"
 #include "Session/Session.hpp"
 
@@ -36,6 +37,7 @@ HighScoresView::HighScoresView(Session& session, QWidget* parent)
       speed_(new Garden::ChoiceGroup(paceNames(), tr("Speed"))),
       rows_(new ScoreRows),
       observer_(session, [this] { refresh(); }) {
+    installScoreAccessibility();
     setFixedWidth(sheetWidth);
     setAccessibleName(tr("The high scores."));
     rows_->setFixedHeight(boardHeight);

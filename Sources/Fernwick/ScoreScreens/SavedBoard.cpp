@@ -40,6 +40,10 @@ SavedBoard::SavedBoard(Session& session, QWidget* parent)
                       0, Qt::AlignHCenter);
 }
 
+void SavedBoard::clear() {
+    title_->setText({});
+}
+
 void SavedBoard::refresh() {
     title_->setText(session_.savedRun ? tr("Score saved · Top 10") : tr("Top 10"));
     rows_->setEntries(session_.scores->leaders(rawValue(session_.runPace())),

@@ -19,6 +19,9 @@ public:
 
     void refresh();
 
+    /// Takes the title away, so that the next one is news again.
+    void clear();
+
 private:
     Session& session_;
     Garden::TrackedLabel* title_;

@@ -11,6 +11,7 @@
 #include "Garden/RoundedShape.hpp"
 #include "Garden/StyleSheet.hpp"
 #include "Garden/TrackedLabel.hpp"
+#include "ScoreScreens/Accessibility.hpp"
 #include "ScoreScreens/ScoreRow.hpp"
 
 namespace {
@@ -48,6 +49,7 @@ ScoreRows::ScoreRows(QWidget* parent)
       scrollArea_(new QScrollArea),
       indicator_(new QScrollBar(Qt::Vertical, scrollArea_)),
       column_(nullptr) {
+    installScoreAccessibility();
     auto* list = new QWidget;
     column_ = new QVBoxLayout(list);
     column_->setContentsMargins(0, 0, 0, 0);

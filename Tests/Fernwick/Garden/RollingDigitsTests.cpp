@@ -2,13 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include <QAbstractEventDispatcher>
 #include <QFontMetricsF>
 #include <QTest>
-#include <QTimer>
 
 #include "Fernwick/Garden/Picture.hpp"
 #include "Fernwick/Garden/StillStyle.hpp"
+#include "Fernwick/Wakeups.hpp"
 #include "Garden/Fonts.hpp"
 #include "Garden/Motion.hpp"
 #include "Garden/Palette.hpp"
@@ -21,19 +20,6 @@ QImage atRest(qint64 value, Qt::Alignment alignment = Qt::AlignLeft) {
     Garden::RollingDigits digits(alignment);
     digits.setValue(value);
     return picture(digits);
-}
-
-// How often the event loop wakes up in the given time, all by itself.
-int wakeups(int milliseconds) {
-    int count = 0;
-    QEventLoop loop;
-    const QMetaObject::Connection counter =
-        QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake,
-                         [&count] { ++count; });
-    QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
-    loop.exec();
-    QObject::disconnect(counter);
-    return count;
 }
 
 class ShownDigits : public testing::Test {
@@ -130,14 +116,13 @@ TEST_F(ShownDigits, comeToRestOnTheLastOfManyValues) {
 }
 
 TEST_F(ShownDigits, wakeTheProcessorOnlyWhileTheyRoll) {
-    constexpr int idle = 4;
-    EXPECT_LE(wakeups(200), idle);
+    EXPECT_LE(wakeups(200), idleWakeups);
 
     digits.setValue(250);
-    EXPECT_GT(wakeups(200), idle);
+    EXPECT_GT(wakeups(200), idleWakeups);
 
     QTest::qWait(settled);
-    EXPECT_LE(wakeups(200), idle);
+    EXPECT_LE(wakeups(200), idleWakeups);
 }
 
 TEST_F(ShownDigits, changeInPlaceUnderReducedMotion) {
@@ -146,11 +131,11 @@ TEST_F(ShownDigits, changeInPlaceUnderReducedMotion) {
     digits.setValue(250);
 
     EXPECT_EQ(picture(digits), atRest(250));
-    EXPECT_LE(wakeups(200), 4);
+    EXPECT_LE(wakeups(200), idleWakeups);
 }
 
 TEST_F(ShownDigits, stayAtRestWhenTheValueIsTheSame) {
     digits.setValue(240);
 
-    EXPECT_LE(wakeups(200), 4);
+    EXPECT_LE(wakeups(200), idleWakeups);
 }

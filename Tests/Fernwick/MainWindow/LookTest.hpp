@@ -64,7 +64,11 @@ protected:
                                                          static_cast<double>(place.y) + 0.5);
     }
 
-    [[nodiscard]] QImage picture() { return window.grab().toImage(); }
+    /// The window once nothing on it moves any more.
+    [[nodiscard]] QImage picture() {
+        EXPECT_TRUE(QTest::qWaitFor([this] { return isStill(); }));
+        return window.grab().toImage();
+    }
 
     /// Fills the board of the pace that is chosen.
     void fillTable(const std::vector<std::pair<QString, std::int64_t>>& saved) {

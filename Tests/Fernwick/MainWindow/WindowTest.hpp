@@ -1,9 +1,11 @@
 #pragma once
 
+#include <QAbstractAnimation>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QTest>
 
+#include <algorithm>
 #include <array>
 
 #include "Fernwick/Screen.hpp"
@@ -92,6 +94,13 @@ protected:
         startAndEndRun();
         session.skipSaving();
         settle();
+    }
+
+    [[nodiscard]] bool isStill() const {
+        const auto animations = window.findChildren<QAbstractAnimation*>();
+        return std::none_of(animations.begin(), animations.end(), [](const auto* animation) {
+            return animation->state() == QAbstractAnimation::Running;
+        });
     }
 
     /// Brings the game into `state`. Nothing leads back to a fresh game, and a run that awaits a
