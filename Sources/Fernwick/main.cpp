@@ -7,6 +7,7 @@
 #include "MainWindow/FernwickApp.hpp"
 #include "MainWindow/Language.hpp"
 #include "MainWindow/SessionBus.hpp"
+#include "MainWindow/SessionManagement.hpp"
 #include "MainWindow/UnixSignals.hpp"
 #include "Session/OneGame.hpp"
 #include "Session/PreferencesFile.hpp"
@@ -19,11 +20,13 @@ int main(int, char* argv[]) {
         return 0;
     }
     leaveMissingSessionBusAlone();
+    leaveMissingSessionManagerAlone();
     // The program takes no command line; only its own name reaches the toolkit.
     int count = 1;
     // The toolkit would tell the player, for one, which fonts lack which scripts.
     QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
     QApplication application(count, argv);
+    outliveSessionManager();
     QApplication::setApplicationName(QStringLiteral("fernwick"));
     QApplication::setApplicationDisplayName(QStringLiteral("Fernwick"));
     QGuiApplication::setDesktopFileName(QStringLiteral("org.fernwick.fernwick"));

@@ -1,7 +1,11 @@
 """The end of the session, asked for by a session manager."""
 
+import os
+import pathlib
+import time
+
 import pytest
-from game import OVER
+from game import OVER, PAUSED
 from session_manager import SessionManagerProcess
 from waiting import eventually
 
@@ -67,3 +71,33 @@ def test_a_logout_called_off_leaves_it_as_it_was(game, manager):
     game.type("p")
     eventually(lambda: game.find("Player name").text == "Pip", "the name is typed on")
     assert game.shows(OVER)
+
+
+def processor_time(game):
+    """Seconds of the processor's time that the game has taken."""
+    fields = pathlib.Path(f"/proc/{game.process.pid}/stat").read_text().rpartition(")")[2].split()
+    return sum(map(int, fields[11:13])) / os.sysconf("SC_CLK_TCK")
+
+
+def test_it_plays_on_quietly_when_the_session_manager_crashes(game, home, manager):
+    game.press("space", "space")
+    game.wait_for(PAUSED)
+    manager.stop()
+    before = processor_time(game)
+    time.sleep(2)
+    # At rest it takes none; asking about a lost connection again and again would take it all.
+    assert processor_time(game) - before < 0.5
+    game.press("space", "Up")
+    game.wait_for("Game over.")
+    game.type("Pip")
+    game.press("Return")
+    eventually(home.high_scores, "the run is saved")
+    game.press("ctrl+q")
+    assert game.exit_status() == 0
+
+
+def test_a_session_manager_that_is_no_more_is_not_spoken_of(launch, manager):
+    manager.stop()
+    game = launch(SESSION_MANAGER=manager.address)
+    game.start_run()
+    game.quit()
