@@ -38,10 +38,27 @@ class Compositor:
         assert not socket.exists()
         eventually(socket.exists, "the compositor is up")
         self.window = eventually(self._active_window, "the compositor is in front")
+        eventually(self._fills_the_screen, "the compositor is drawn all over")
+        self._sweep_pointer()
 
     def stop(self):
         self._process.terminate()
         self._process.wait()
+
+    def _fills_the_screen(self):
+        picture = self._desktop.screen.picture()
+        width, height = self.size
+        return all(picture.colour(x, y) == GROUND for x in (0, width - 1)
+                   for y in (0, height - 1))
+
+    def _sweep_pointer(self):
+        """Brings its pointer to where the real one is.
+
+        It adds up movements from where it first saw the pointer, which was before its window had
+        its place; at the edges it cannot go wrong by more."""
+        width, height = self.size
+        for x, y in ((0, 0), (width - 1, height - 1)):
+            self._desktop.run("xdotool", "mousemove", str(x), str(y))
 
     def _active_window(self):
         window = self._desktop.active_window()

@@ -49,22 +49,13 @@ class Picture:
         return bytes((blue, green, red)) in self._pixels
 
     def place_of_all_but(self, ground):
-        """Left, top, width and height around all that has another colour; None without any."""
-        red, green, blue = ground
-        # The fourth byte of a pixel is padding.
-        row_of_ground = bytes((blue, green, red)) * Screen.WIDTH
-        rows = [row_of_ground != line for line in self._lines()]
-        if True not in rows:
-            return None
-        first = rows.index(True)
-        last = len(rows) - 1 - rows[::-1].index(True)
-        columns = [x for x in range(Screen.WIDTH)
-                   if self.colour(x, (first + last) // 2) != ground]
-        return columns[0], first, columns[-1] - columns[0] + 1, last - first + 1
+        """Left, top, width and height of what covers the middle line, on a ground of this colour.
 
-    def _lines(self):
-        """The colours of each row, three bytes a pixel."""
-        for y in range(Screen.HEIGHT):
-            row = bytearray(self._pixels[y * self._stride:][:Screen.WIDTH * BYTES_PER_PIXEL])
-            del row[BYTES_PER_PIXEL - 1::BYTES_PER_PIXEL]
-            yield bytes(row)
+        None when nothing does. Small things elsewhere, such as a pointer, do not count."""
+        columns = [x for x in range(Screen.WIDTH)
+                   if self.colour(x, Screen.HEIGHT // 2) != ground]
+        if not columns:
+            return None
+        rows = [y for y in range(Screen.HEIGHT)
+                if self.colour(columns[len(columns) // 2], y) != ground]
+        return (columns[0], rows[0], columns[-1] - columns[0] + 1, rows[-1] - rows[0] + 1)

@@ -30,7 +30,7 @@ def french_keyboard(desktop):
 
 @pytest.fixture
 def launch(desktop, wayland, home, tmp_path):
-    """Starts the program there and waits until keys reach it; it may print nothing."""
+    """Starts the program there and waits until it can be played; it may print nothing."""
     games = []
 
     def launch(**environment):
@@ -42,6 +42,7 @@ def launch(desktop, wayland, home, tmp_path):
         game.wait_for(FRESH, "Find your flow.")
         window, = game.top().children()
         eventually(window.is_active, "the window is in front")
+        eventually(lambda: place_within_ground(game) == (0, 0, *SIZE), "the screen is filled")
         return game
 
     yield launch
@@ -66,9 +67,8 @@ def place_within_ground(game):
 
 
 def test_full_screen_is_reached_on_launch(game):
-    eventually(lambda: window_size(game) == SIZE, "the window covers the screen")
+    assert window_size(game) == SIZE
     assert not game.find("File").is_showing()
-    eventually(lambda: place_within_ground(game) == (0, 0, *SIZE), "it is drawn all over")
 
 
 def test_the_letters_w_a_s_d_steer_the_snake(game):
@@ -108,7 +108,6 @@ def test_outside_full_screen_the_window_has_its_own_size_and_no_frame(game):
 @pytest.mark.parametrize("scale", [1.25, 1.5])
 def test_it_plays_at_fractional_scales(launch, scale):
     game = launch(QT_SCALE_FACTOR=str(scale))
-    eventually(lambda: place_within_ground(game) == (0, 0, *SIZE), "it is drawn all over")
     game.start_run()
     game.press("space")
     game.wait_for(PAUSED)
