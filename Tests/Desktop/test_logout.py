@@ -94,10 +94,3 @@ def test_it_plays_on_quietly_when_the_session_manager_crashes(game, home, manage
     eventually(home.high_scores, "the run is saved")
     game.press("ctrl+q")
     assert game.exit_status() == 0
-
-
-def test_a_session_manager_that_is_no_more_is_not_spoken_of(launch, manager):
-    manager.stop()
-    game = launch(SESSION_MANAGER=manager.address)
-    game.start_run()
-    game.quit()

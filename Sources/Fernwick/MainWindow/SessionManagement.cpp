@@ -4,10 +4,6 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <QByteArray>
-#include <QFile>
-#include <QList>
-#include <algorithm>
 #include <array>
 
 namespace {
@@ -38,25 +34,6 @@ Function find(void* library, const char* name) {
 }
 
 }  // namespace
-
-void leaveMissingSessionManagerAlone() {
-    constexpr const char* variable = "SESSION_MANAGER";
-    const QByteArray addresses = qgetenv(variable);
-    // Only looked up: to knock and go away would be rude to a manager that is there.
-    QFile sockets(QStringLiteral("/proc/net/unix"));
-    if (addresses.isEmpty() || !sockets.open(QIODevice::ReadOnly)) {
-        return;
-    }
-    const QByteArray listening = sockets.readAll();
-    const auto mayAnswer = [&listening](const QByteArray& address) {
-        const bool isLocal = address.startsWith("local/") || address.startsWith("unix/");
-        const QByteArray path = address.mid(address.indexOf(':') + 1);
-        return !isLocal || listening.contains(' ' + path + '\n');
-    };
-    if (std::ranges::none_of(addresses.split(','), mayAnswer)) {
-        qunsetenv(variable);
-    }
-}
 
 void outliveSessionManager() {
     void* library = ::dlopen("libICE.so.6", RTLD_LAZY | RTLD_NOLOAD);
