@@ -61,6 +61,7 @@ void OverlayButton::paintEvent(QPaintEvent*) {
     line.setLeft(std::floor((shape.width() - content) / 2));
     line.setWidth(content);
     painter.setPen(ink);
+    painter.setLayoutDirection(layoutDirection());
     // On the side that lines begin at, whichever it is.
     painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text());
     if (isRightToLeft()) {

@@ -23,15 +23,22 @@ double overhang(const QFont& font) {
                     std::ceil(deepest.boundingRect().bottom() - QFontMetricsF(font).descent()));
 }
 
+// Latin letters and the marks among them, for which the line of every font has room.
+bool isOrdinary(QChar letter) {
+    constexpr char16_t lastLatin = 0x24f;
+    constexpr char16_t firstMark = 0x2010;
+    constexpr char16_t lastMark = 0x2027;
+    return letter <= lastLatin || (letter >= firstMark && letter <= lastMark);
+}
+
 }  // namespace
 
 TrackedLabel::TrackedLabel(const QString& text, const QFont& font, const QColor& colour,
                            QWidget* parent)
     : QWidget(parent), text_(text), font_(font), colour_(colour), overhang_(overhang(font)) {
     installAccessibility();
-    setFont(fittedTo(text, font_));
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    setAccessibleName(text);
+    fitToText();
 }
 
 void TrackedLabel::setText(const QString& text) {
@@ -39,8 +46,7 @@ void TrackedLabel::setText(const QString& text) {
         return;
     }
     text_ = text;
-    setFont(fittedTo(text, font_));
-    setAccessibleName(text);
+    fitToText();
     updateGeometry();
     update();
 }
@@ -50,19 +56,30 @@ void TrackedLabel::setElided(bool elided) {
     updateGeometry();
 }
 
-TrackedLabel::Excess TrackedLabel::excess() const {
+void TrackedLabel::fitToText() {
+    setFont(fittedTo(text_, font_));
+    setAccessibleName(text_);
+    excess_ = {};
+    if (std::ranges::all_of(text_, isOrdinary)) {
+        return;
+    }
+    // The letters themselves: metrics know nothing of marks that are stacked on each other.
+    QPainterPath letters;
+    letters.addText(0, 0, font(), text_);
+    const QRectF ink = letters.boundingRect();
+    // Glyphs are set on whole pixels, which may be one off.
     const QFontMetricsF metrics(font());
-    const QRectF ink = metrics.tightBoundingRect(text_);
-    return {std::max(0.0, std::ceil(-ink.top() - metrics.ascent())),
-            std::max(0.0, std::ceil(ink.bottom() - metrics.descent() - overhang_))};
+    const double above = -ink.top() - std::floor(metrics.ascent());
+    const double below = ink.bottom() - std::floor(metrics.descent()) - overhang_;
+    excess_ = {std::max(0.0, std::ceil(above)), std::max(0.0, std::ceil(below))};
 }
 
 QSize TrackedLabel::sizeHint() const {
     const QFontMetricsF metrics(font());
     const double trailing = text_.isEmpty() ? 0 : font().letterSpacing();
-    const Excess more = excess();
-    return {static_cast<int>(std::ceil(metrics.horizontalAdvance(text_) - trailing)),
-            static_cast<int>(more.above + std::ceil(metrics.height()) + overhang_ + more.below)};
+    return {
+        static_cast<int>(std::ceil(metrics.horizontalAdvance(text_) - trailing)),
+        static_cast<int>(excess_.above + std::ceil(metrics.height()) + overhang_ + excess_.below)};
 }
 
 QSize TrackedLabel::minimumSizeHint() const {
@@ -73,6 +90,7 @@ QSize TrackedLabel::minimumSizeHint() const {
 void TrackedLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setPen(legible(colour_));
+    painter.setLayoutDirection(layoutDirection());
     const QFontMetricsF metrics(font());
     const QSize needed = sizeHint();
     const bool fits = width() >= needed.width();
@@ -80,7 +98,7 @@ void TrackedLabel::paintEvent(QPaintEvent*) {
     // the height of the line, which a helping face may have stretched to one side.
     const double left = fits && isRightToLeft() ? width() - needed.width() : 0;
     const double top = (height() - needed.height()) / 2.0;
-    painter.drawText(QPointF(left, top + excess().above + metrics.ascent()),
+    painter.drawText(QPointF(left, top + excess_.above + metrics.ascent()),
                      fits ? text_ : metrics.elidedText(text_, Qt::ElideRight, width()));
 }
 

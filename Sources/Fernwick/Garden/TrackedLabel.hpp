@@ -37,13 +37,14 @@ private:
         double above = 0;
         double below = 0;
     };
-    [[nodiscard]] Excess excess() const;
+    void fitToText();
 
     QString text_;
     QFont font_;
     QColor colour_;
     // The room below the line for its deepest letters.
     double overhang_;
+    Excess excess_;
     bool elided_ = false;
 };
 

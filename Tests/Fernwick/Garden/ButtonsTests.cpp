@@ -106,6 +106,20 @@ TEST(OverlayButton, pairsATextWithAnArrowInInk) {
     EXPECT_GT(countOf(image.copy(rightOfText), Garden::ink), 20);
 }
 
+TEST(OverlayButton, pointsTheWayThatIsRead) {
+    constexpr int padding = 25;
+    constexpr int arrow = 13;
+    Garden::OverlayButton button(QStringLiteral("oooo"));
+    const QImage leftToRight = picture(button);
+    button.setLayoutDirection(Qt::RightToLeft);
+    const QImage rightToLeft = picture(button);
+
+    const int height = button.height();
+    const QImage atTheEnd = leftToRight.copy(button.width() - padding - arrow, 0, arrow, height);
+    EXPECT_EQ(rightToLeft.copy(padding, 0, arrow, height), atTheEnd.mirrored(true, false));
+    EXPECT_NE(rightToLeft, leftToRight);
+}
+
 TEST(OverlayButton, takesTheWidthOfANewText) {
     Garden::OverlayButton button({});
     const int before = button.sizeHint().width();

@@ -62,3 +62,23 @@ TEST(Fonts, trackTheSansByLogicalPixels) {
 
     EXPECT_NEAR(tracked - plain, 2.0 * static_cast<double>(word.size()), 0.5);
 }
+
+TEST(Fonts, keepLettersTogetherThatJoinEachOther) {
+    const QFont spaced = Garden::sans(14, QFont::Medium, 2);
+    for (const char* text : {"النقاط", "अंक", "10 نقاط"}) {
+        EXPECT_EQ(Garden::fittedTo(QString::fromUtf8(text), spaced).letterSpacing(), 0) << text;
+    }
+    for (const char* text : {"FERNWICK", "РАХУНОК", "スコア", ""}) {
+        EXPECT_EQ(Garden::fittedTo(QString::fromUtf8(text), spaced).letterSpacing(), 2) << text;
+    }
+}
+
+TEST(Fonts, keepLettersOfManyStrokesLegible) {
+    const QFont small = Garden::sans(8, QFont::Medium);
+    for (const char* text : {"النقاط", "अंक", "スコア", "得分", "점수"}) {
+        EXPECT_EQ(Garden::fittedTo(QString::fromUtf8(text), small).pixelSize(), 11) << text;
+    }
+    EXPECT_EQ(Garden::fittedTo(QStringLiteral("SCORE"), small).pixelSize(), 8);
+    const QFont large = Garden::sans(27, QFont::Normal);
+    EXPECT_EQ(Garden::fittedTo(QStringLiteral("得分"), large).pixelSize(), 27);
+}

@@ -74,6 +74,15 @@ TEST(RollingDigits, keepsItsSideWhenGivenMoreRoom) {
     EXPECT_GT(inkOf(picture(right)).right(), 300 - 6);
 }
 
+TEST(RollingDigits, keepsTheOtherSideAmongLinesReadFromRightToLeft) {
+    Garden::RollingDigits digits(Qt::AlignLeft);
+    digits.setLayoutDirection(Qt::RightToLeft);
+    digits.setValue(888);
+    digits.resize(2 * digits.sizeHint().width(), digits.sizeHint().height());
+
+    EXPECT_GE(inkOf(picture(digits)).left(), digits.width() / 2);
+}
+
 TEST(RollingDigits, showsTheFirstValueAtOnce) {
     Garden::RollingDigits digits(Qt::AlignLeft);
     digits.show();

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QFontMetricsF>
+#include <QGuiApplication>
 #include <QPainter>
 
 #include "Fernwick/Garden/Picture.hpp"
@@ -102,4 +103,58 @@ TEST(TrackedLabel, paintsTheDeepestLettersWhole) {
         EXPECT_NEAR(inkOf(picture(label, 2)).height(), inkOf(free).height(), 1)
             << font.family().toStdString() << font.pixelSize();
     }
+}
+
+TEST(TrackedLabel, paintsItsLettersUpToBothEdgesAmongLinesReadFromRightToLeft) {
+    Garden::TrackedLabel label(word, trackedFont(), Garden::mint);
+    const QImage leftToRight = picture(label);
+    label.setLayoutDirection(Qt::RightToLeft);
+
+    EXPECT_EQ(picture(label), leftToRight);
+}
+
+TEST(TrackedLabel, beginsAtTheRightAmongLinesReadFromRightToLeft) {
+    Garden::TrackedLabel label(word, trackedFont(), Garden::mint);
+    label.setLayoutDirection(Qt::RightToLeft);
+    label.resize(2 * label.sizeHint().width(), label.sizeHint().height());
+
+    const QRect ink = inkOf(picture(label));
+    EXPECT_GT(ink.left(), label.width() / 3);
+    EXPECT_GE(ink.right(), label.width() - 3);
+}
+
+TEST(TrackedLabel, readsInItsOwnDirection) {
+    const QString keys = QStringLiteral("← 1 →");
+    Garden::TrackedLabel label(keys, trackedFont(), Garden::mint);
+    const QImage leftToRight = picture(label);
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    label.setLayoutDirection(Qt::LeftToRight);
+    const QImage amongOthers = picture(label);
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+
+    EXPECT_EQ(amongOthers, leftToRight);
+}
+
+TEST(TrackedLabel, hasRoomForTheTallestAndDeepestLettersOfAnyScript) {
+    for (const char* text : {"إِيقَاعُكَ", "ढ़ेंर्टीं", "ひと息ついて、", "Ọ̧́Ǎ̈", "ที่นี่ญู"}) {
+        for (const QFont& font :
+             {Garden::serif(35, QFont::Normal), Garden::sans(13, QFont::Normal)}) {
+            Garden::TrackedLabel label(QString::fromUtf8(text), font, Garden::mint);
+            const QRect tight = inkOf(picture(label));
+            constexpr int ample = 40;
+            label.resize(label.width(), label.height() + 2 * ample);
+
+            EXPECT_EQ(inkOf(picture(label)).height(), tight.height()) << text;
+        }
+    }
+}
+
+TEST(TrackedLabel, followsTheScriptOfEachNewText) {
+    Garden::TrackedLabel label(word, trackedFont(), Garden::mint);
+
+    label.setText(QStringLiteral("نموّ"));
+    EXPECT_EQ(label.font().letterSpacing(), 0);
+
+    label.setText(word);
+    EXPECT_EQ(label.font().letterSpacing(), tracking);
 }
