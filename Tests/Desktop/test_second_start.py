@@ -45,6 +45,16 @@ def test_a_second_start_brings_the_first_to_the_front_and_ends(
     assert game.is_full_screen()
 
 
+def test_a_second_start_comes_before_the_window_that_was_last_typed_into(
+        game, other_window, start_again):
+    """Window managers keep from the front what was asked for before the player's last key."""
+    game.press("shift")
+    other_window.take_focus_from(game)
+    game.press("shift", "a")
+    assert ends_at_once(start_again())
+    eventually(game.is_active, "the first window is in front")
+
+
 def test_a_second_start_changes_nothing_of_a_run(game, start_again):
     game.start_run()
     game.press("space")
