@@ -17,6 +17,7 @@ CARDS = {
 }
 ALL_CARDS = set.union(*CARDS.values())
 SHEET = "The high scores."
+CLICKABLE = ["Gentle", "Classic", "Swift", "Toggle sound effects", "High scores"]
 TURNS = ["Up", "Left", "Down", "Right", "w", "a", "s", "d"]
 KILOBYTES_PER_MEGABYTE = 1024
 
@@ -40,6 +41,21 @@ class RandomPlayer:
             time.sleep(self._random.uniform(0, 0.3))
             if self._random.random() < 0.2:
                 self.look()
+
+    def see_everything(self):
+        """Brings up once what is made when it first comes up."""
+        for deal_with_it in (self._save, self._skip):
+            self._game.press("space", "Up")
+            self._game.wait_for("Save score")
+            deal_with_it()
+            eventually(lambda: not self._awaits_name(self._texts()), "the run is dealt with")
+        for _ in range(2):
+            for action in (self._open_sheet, self._come_to_rest, self._lose_focus,
+                           self._press_menu, self._switch_screen):
+                action()
+        for name in CLICKABLE:
+            self._click(name)
+            self._come_to_rest()
 
     def memory(self):
         """What the game holds of the machine's memory, in MB, in full screen and at rest."""
@@ -80,8 +96,8 @@ class RandomPlayer:
         elif self._random.random() < 0.6:
             self._steer_or_start(texts)
         else:
-            self._random.choice([self._press_one, self._open_sheet, self._switch_screen,
-                                 self._lose_focus, self._click_one])()
+            self._random.choice([self._press_one, self._press_menu, self._open_sheet,
+                                 self._switch_screen, self._lose_focus, self._click_one])()
 
     def _steer_or_start(self, texts):
         if MOVING in texts:
@@ -91,9 +107,10 @@ class RandomPlayer:
 
     def _press_one(self):
         self._game.press(self._random.choice(
-            ["space", "Escape", "r", "ctrl+n", "ctrl+p", "Tab", "F10"]))
-        # Whatever menu that opened is closed again; a run is at most paused by it.
-        self._game.press("Escape")
+            ["space", "Escape", "r", "ctrl+n", "ctrl+p", "Tab"]))
+
+    def _press_menu(self):
+        self._game.press("F10", "Right", "Escape", "Escape")
 
     def _open_sheet(self):
         self._game.press("ctrl+l")
@@ -108,15 +125,20 @@ class RandomPlayer:
         self._other_window.give_focus_back_to(self._game)
 
     def _click_one(self):
-        self._click(self._random.choice(
-            ["Gentle", "Classic", "Swift", "Toggle sound effects", "High scores"]))
+        self._click(self._random.choice(CLICKABLE))
 
     def _end_naming(self):
         if self._random.random() < 0.3:
-            self._click("Skip saving")
+            self._skip()
         else:
-            self._game.type(self._random.choice(["", "  ", "Pip ", "Wren of the Fern "]))
-            self._game.press("Return")
+            self._save(self._random.choice(["", "  ", "Pip ", "Wren of the Fern "]))
+
+    def _save(self, name="Pip"):
+        self._game.type(name)
+        self._game.press("Return")
+
+    def _skip(self):
+        self._click("Skip saving")
 
     def _click(self, name):
         shown = self._game.find_showing(name)

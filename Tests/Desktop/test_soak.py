@@ -11,7 +11,6 @@ from random_player import RandomPlayer
 
 SECONDS = float(os.environ.get("FERNWICK_SOAK_SECONDS", "60"))
 SEED = int(os.environ.get("FERNWICK_SOAK_SEED", "2026"))
-# By then every screen has been up, and what is made once has been made.
 WARM_UP_SECONDS = min(60.0, SECONDS / 2)
 MAY_GROW_MEGABYTES = 4
 
@@ -19,6 +18,7 @@ MAY_GROW_MEGABYTES = 4
 def test_a_random_player_leaves_the_game_sound(game, home, other_window):
     player = RandomPlayer(game, other_window, random.Random(SEED))
     print(f"seed {SEED}")
+    player.see_everything()
     player.play(WARM_UP_SECONDS)
     before = player.memory()
     player.play(SECONDS - WARM_UP_SECONDS)
