@@ -6,7 +6,7 @@
     <message>
         <source>Snake board. Score %lld. Use arrow keys or W A S D to move.</source>
         <extracomment>Read aloud for the picture of the board. %lld is the score; it has to stay.</extracomment>
-        <translation>Plateau du serpent. Score : %lld. Déplacements avec les flèches ou Z Q S D.</translation>
+        <translation>Plateau du serpent. Score&#xa0;: %lld. Déplacements avec les flèches ou Z Q S D.</translation>
     </message>
 </context>
 <context>
