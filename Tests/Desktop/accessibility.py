@@ -4,7 +4,9 @@ from gi.repository import Gio, GLib
 
 ACTION = "org.a11y.atspi.Action"
 ACCESSIBLE = "org.a11y.atspi.Accessible"
+ACTION = "org.a11y.atspi.Action"
 COMPONENT = "org.a11y.atspi.Component"
+EDITABLE_TEXT = "org.a11y.atspi.EditableText"
 TEXT = "org.a11y.atspi.Text"
 PROPERTIES = "org.freedesktop.DBus.Properties"
 REGISTRY = "org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root"
@@ -14,7 +16,10 @@ ANSWER_WITHIN_MS = 10_000
 # Numbers of states, as the bus counts them.
 ACTIVE = 1
 CHECKED = 4
+EDITABLE = 7
+FOCUSABLE = 11
 FOCUSED = 12
+MODAL = 16
 SENSITIVE = 24
 SHOWING = 25
 
@@ -79,6 +84,26 @@ class Element:
         return self._ask(PROPERTIES, "Get", "(ss)", ACCESSIBLE, "Name")[0]
 
     @property
+    def role(self):
+        """What it is, such as "push button"."""
+        return self._ask(ACCESSIBLE, "GetRoleName")[0]
+
+    @property
+    def actions(self):
+        """The names of what can be done with it."""
+        if ACTION not in self._ask(ACCESSIBLE, "GetInterfaces")[0]:
+            return []
+        return [name for name, _, _ in self._ask(ACTION, "GetActions")[0]]
+
+    def do(self, action):
+        """Does what one of its actions says."""
+        self._ask(ACTION, "DoAction", "(i)", self.actions.index(action))
+
+    def write(self, text):
+        """Puts a text into a field in place of what was there."""
+        self._ask(EDITABLE_TEXT, "SetTextContents", "(s)", text)
+
+    @property
     def text(self):
         """What is written in a field."""
         return self._ask(TEXT, "GetText", "(ii)", 0, -1)[0]
@@ -98,6 +123,16 @@ class Element:
     def is_checked(self):
         return self._has(CHECKED)
 
+    def is_editable(self):
+        return self._has(EDITABLE)
+
+    def is_focusable(self):
+        return self._has(FOCUSABLE)
+
+    def is_modal(self):
+        """Whether everything else waits for it."""
+        return self._has(MODAL)
+
     def is_focused(self):
         return self._has(FOCUSED)
 
@@ -114,3 +149,33 @@ class Element:
 
     def _ask(self, interface, method, signature="()", *arguments):
         return call(self._bus, self.place, interface, method, signature, *arguments)
+
+
+class Listener:
+    """The new names that an assistive program is told of while this listens, in order."""
+
+    def __init__(self, bus):
+        self._bus = bus
+        self._names = []
+        registry = REGISTRY[0], "/org/a11y/atspi/registry"
+        call(bus, registry, "org.a11y.atspi.Registry", "RegisterEvent", "(sass)",
+             "Object:PropertyChange", [], "")
+        self._subscription = bus.signal_subscribe(
+            None, "org.a11y.atspi.Event.Object", "PropertyChange", None, "accessible-name",
+            Gio.DBusSignalFlags.NONE, self._hear)
+
+    def names(self):
+        """What has been told up to now: a status, a score, a title."""
+        while GLib.MainContext.default().iteration(False):
+            pass
+        return self._names
+
+    def close(self):
+        self._bus.signal_unsubscribe(self._subscription)
+
+    def _hear(self, bus, sender, path, interface, signal, parameters):
+        # Told is only that the name is new; a screen reader then asks for it, too.
+        try:
+            self._names.append(Element(self._bus, (sender, path)).name)
+        except GLib.Error:
+            pass

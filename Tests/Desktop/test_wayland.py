@@ -85,6 +85,8 @@ def test_losing_the_focus_pauses_and_coming_back_leaves_it_paused(game, other_wi
     other_window.take_focus_from(game)
     game.wait_for(PAUSED, "No rush.")
     other_window.give_focus_back_to(game)
+    window, = game.top().children()
+    eventually(window.is_active, "keys reach the game again")
     assert game.shows(PAUSED)
     # Had coming back resumed it, this would pause.
     game.press("space")

@@ -1,5 +1,6 @@
 #include "MainWindow/GameWindow.hpp"
 
+#include <QAccessibleWidget>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QResizeEvent>
@@ -16,12 +17,19 @@ namespace {
 constexpr QSize defaultSize(940, 860);
 constexpr QSize smallestSize(820, 760);
 
+// A screen reader follows windows; the toolkit calls one that is a plain widget a mere filler.
+QAccessibleInterface* createAccessible(const QString&, QObject* object) {
+    auto* window = qobject_cast<GameWindow*>(object);
+    return window == nullptr ? nullptr : new QAccessibleWidget(window, QAccessible::Window);
+}
+
 }  // namespace
 
 GameWindow::GameWindow(Session& session)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint),
       band_(new MenuBand(this)),
       content_(new ContentView(session, this)) {
+    QAccessible::installFactory(createAccessible);
     setObjectName(QStringLiteral("main"));
     //: The name of the game. Stays as it is in every language.
     setWindowTitle(tr("Fernwick"));

@@ -51,6 +51,8 @@ HintRow::HintRow(Session& session, QWidget* parent)
     buttons->addWidget(sound_);
     buttons->addWidget(pause_);
     row->addLayout(buttons);
+    // Its picture says whether sounds are on; a screen reader is told by the check.
+    sound_->setCheckable(true);
 
     connect(scores_, &QAbstractButton::clicked, &session_, &Session::openScores);
     connect(sound_, &QAbstractButton::clicked, &session_,
@@ -61,6 +63,7 @@ HintRow::HintRow(Session& session, QWidget* parent)
 
 void HintRow::refresh() {
     sound_->setIcon(session_.sound ? Garden::Icon::speakerWaves : Garden::Icon::speakerSlash);
+    sound_->setChecked(session_.sound);
     pause_->setIcon(session_.running ? Garden::Icon::pause : Garden::Icon::play);
     pause_->setEnabled(session_.started && !session_.game->ended());
 }
