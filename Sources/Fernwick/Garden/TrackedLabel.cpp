@@ -23,6 +23,23 @@ double overhang(const QFont& font) {
                     std::ceil(deepest.boundingRect().bottom() - QFontMetricsF(font).descent()));
 }
 
+// Letters as tall and as deep as they come in the script of `text`, so that its lines stand
+// at one height whatever they say. Other scripts fill the same square with every letter.
+QString commonLetters(const QString& text) {
+    for (const QChar letter : text) {
+        if (letter.script() == QChar::Script_Arabic) {
+            return QStringLiteral("أإجمة");
+        }
+        if (letter.script() == QChar::Script_Cyrillic) {
+            return QStringLiteral("ЙЩру");
+        }
+        if (letter.script() == QChar::Script_Devanagari) {
+            return QStringLiteral("र्कींुऊ");
+        }
+    }
+    return {};
+}
+
 // Latin letters and the marks among them, for which the line of every font has room.
 bool isOrdinary(QChar letter) {
     constexpr char16_t lastLatin = 0x24f;
@@ -65,7 +82,7 @@ void TrackedLabel::fitToText() {
     }
     // The letters themselves: metrics know nothing of marks that are stacked on each other.
     QPainterPath letters;
-    letters.addText(0, 0, font(), text_);
+    letters.addText(0, 0, font(), text_ + commonLetters(text_));
     const QRectF ink = letters.boundingRect();
     // Glyphs are set on whole pixels, which may be one off.
     const QFontMetricsF metrics(font());

@@ -149,6 +149,21 @@ TEST(TrackedLabel, hasRoomForTheTallestAndDeepestLettersOfAnyScript) {
     }
 }
 
+TEST(TrackedLabel, isOfOneHeightForTheCommonTextsOfAScript) {
+    const auto heightOf = [](const char* text) {
+        return Garden::TrackedLabel(QString::fromUtf8(text), Garden::sans(9, QFont::Medium, 2),
+                                    Garden::mint)
+            .sizeHint()
+            .height();
+    };
+
+    EXPECT_EQ(heightOf("النقاط"), heightOf("أفضل نتائجك"));
+    EXPECT_EQ(heightOf("РАХУНОК"), heightOf("ОСОБИСТИЙ РЕКОРД"));
+    EXPECT_EQ(heightOf("अंक"), heightOf("आपका सर्वश्रेष्ठ"));
+    EXPECT_EQ(heightOf("スコア"), heightOf("自己ベスト"));
+    EXPECT_EQ(heightOf("점수"), heightOf("개인 최고 기록"));
+}
+
 TEST(TrackedLabel, followsTheScriptOfEachNewText) {
     Garden::TrackedLabel label(word, trackedFont(), Garden::mint);
 

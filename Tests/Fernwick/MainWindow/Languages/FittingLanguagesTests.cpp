@@ -42,6 +42,13 @@ TEST_P(FittingLanguages, everythingFitsInEveryState) {
     }
 }
 
+TEST_P(FittingLanguages, bothTilesStandOnOneLine) {
+    const QList<Garden::RollingDigits*> tiles = window.findChildren<Garden::RollingDigits*>();
+
+    ASSERT_EQ(tiles.size(), 2);
+    EXPECT_EQ(placeOf(*tiles[0]).top(), placeOf(*tiles[1]).top());
+}
+
 TEST_P(FittingLanguages, theSheetFitsWithAndWithoutScores) {
     expectTidySheet();
     saveRunAs(QString(24, u'W'));
