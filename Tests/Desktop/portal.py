@@ -1,6 +1,6 @@
 """A desktop's settings portal: tells programs what the player has chosen.
 
-portal.py GROUP KEY VALUE   answers with that one setting, an unsigned number, until it is ended
+portal.py GROUP KEY VALUE   answers with that one setting, such as "uint32 1", until it is ended
 """
 
 import sys
@@ -33,7 +33,7 @@ def main():
     def answer(bus, sender, path, interface, method, question, invocation):
         if question.unpack() == (group, key):
             # In two envelopes, as portals really answer.
-            setting = GLib.Variant("v", GLib.Variant("u", int(value)))
+            setting = GLib.Variant("v", GLib.Variant.parse(None, value))
             invocation.return_value(GLib.Variant("(v)", (setting,)))
         else:
             invocation.return_dbus_error("org.freedesktop.portal.Error.NotFound", "not kept here")

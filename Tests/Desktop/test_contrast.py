@@ -68,12 +68,16 @@ def contrasts(game):
     for element in showing:
         if is_text(element) and (not on_sheet or element.name in ON_SHEET):
             left, top, width, height = element.place_on_screen()
-            measured[element.name] = contrast(picture, (left, top, width, height))
-            if element.name.startswith("01 "):
+            name = element.name
+            if name == "Player name":
+                # Its blinking cursor is not what is to be read.
+                name = "Your name"
+                place = left + INSET, top + INSET, PART_OF_PLACEHOLDER, height - 2 * INSET
+            else:
+                place = left, top, width, height
+            measured[name] = contrast(picture, place)
+            if name.startswith("01 "):
                 measured["rank"] = contrast(picture, (left, top, RANK_WIDTH, height))
-            if element.name == "Player name" and element.text == "":
-                inside = left + INSET, top + INSET, PART_OF_PLACEHOLDER, height - 2 * INSET
-                measured["Your name"] = contrast(picture, inside)
     return measured
 
 
@@ -112,11 +116,13 @@ def measured_on_every_screen(game):
     return lowest
 
 
-@pytest.fixture
-def asking_for_high_contrast(desktop):
+# Desktops say it in one of two ways.
+@pytest.fixture(params=["org.freedesktop.appearance contrast uint32 1",
+                        "org.gnome.desktop.a11y.interface high-contrast true"])
+def asking_for_high_contrast(request, desktop):
     portal = subprocess.Popen(
         [sys.executable, pathlib.Path(__file__).parent / "portal.py",
-         "org.freedesktop.appearance", "contrast", "1"],
+         *request.param.split(maxsplit=2)],
         env=desktop.environment, stdout=subprocess.PIPE, text=True)
     assert portal.stdout.readline() == "ready\n"
     yield
