@@ -18,7 +18,8 @@ CARDS = {
 ALL_CARDS = set.union(*CARDS.values())
 SHEET = "The high scores."
 CLICKABLE = ["Gentle", "Classic", "Swift", "Toggle sound effects", "High scores"]
-TURNS = ["Up", "Left", "Down", "Right", "w", "a", "s", "d"]
+CIRCLE = ["Up", "Left", "Down", "Right"]
+TURNS = [*CIRCLE, "w", "a", "s", "d"]
 KILOBYTES_PER_MEGABYTE = 1024
 
 
@@ -100,10 +101,15 @@ class RandomPlayer:
                                  self._switch_screen, self._lose_focus, self._click_one])()
 
     def _steer_or_start(self, texts):
-        if MOVING in texts:
-            self._game.press(*self._random.choices(TURNS, k=self._random.randint(1, 4)))
-        else:
+        if MOVING not in texts:
             self._game.press("space")
+        # In circles, mostly: whoever turns at random alone is in a wall at once.
+        first = self._random.randrange(len(CIRCLE))
+        for step in range(self._random.randint(4, 16)):
+            self._game.press(CIRCLE[(first + step) % len(CIRCLE)])
+            time.sleep(self._random.uniform(0.05, 0.25))
+        if self._random.random() < 0.3:
+            self._game.press(*self._random.choices(TURNS, k=4))
 
     def _press_one(self):
         self._game.press(self._random.choice(

@@ -13,6 +13,7 @@ from waiting import PATIENCE, eventually
 
 ACCESSIBLE = {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
 STALL_SECONDS = 4
+FIRST_COLUMN = 14
 
 
 def save_a_run(game):
@@ -46,10 +47,17 @@ def lose(game, take_away):
         game.kill()
 
 
+def has_moved(board, picture):
+    snake = board.snake(picture)
+    return snake is not None and snake.head[0] > FIRST_COLUMN
+
+
 def test_a_stalled_program_goes_on_where_it_was(game):
     """Were the ticks that it missed made up for, the snake would be in the wall."""
     game.click(game.find("Gentle"))
+    board = game.board()
     game.start_run()
+    eventually(lambda: has_moved(board, game.desktop.screen.picture()), "the snake has moved")
     game.process.send_signal(signal.SIGSTOP)
     time.sleep(STALL_SECONDS)
     game.process.send_signal(signal.SIGCONT)
