@@ -20,6 +20,7 @@ PRESSES = 100
 LOOK_EVERY = 0.0002
 # A turn that is not to be seen by then was lost.
 TICKS_TO_WAIT = 4
+STEPS_BETWEEN_LOOKS = 3
 CIRCLE = "down", "left", "up", "right"
 
 
@@ -53,15 +54,26 @@ class Player:
         return time.monotonic() - pressed
 
     def _wait_for_step(self, deadline, turned):
-        """Until the snake has made one step; whether it has done so in time."""
+        """Until the snake has moved on; whether it has done so in time."""
         while time.monotonic() < deadline:
-            for direction in (turned or self._direction, self._direction):
-                ahead = beside(self._head, direction)
-                if self._stage.pixels.shows_head(ahead, direction):
-                    self._head, self._direction = ahead, direction
+            for head, direction in self._places(turned):
+                if self._stage.pixels.shows_head(head, direction):
+                    self._head, self._direction = head, direction
                     return True
             time.sleep(LOOK_EVERY)
         return False
+
+    def _places(self, turned):
+        """Where the head may be next; later ones when we have been kept from looking."""
+        corner = self._head
+        for _ in range(STEPS_BETWEEN_LOOKS):
+            if turned:
+                head = corner
+                for _ in range(STEPS_BETWEEN_LOOKS):
+                    head = beside(head, turned)
+                    yield head, turned
+            corner = beside(corner, self._direction)
+            yield corner, self._direction
 
 
 def key_presses(stage, pace):
