@@ -37,6 +37,9 @@ void applyGardenStyle() {
     const QPalette colours = gardenPalette();
     QApplication::setPalette(colours);
     QApplication::setFont(Garden::sans(fontSize, QFont::Normal));
+    // A caret that stands still, like all else that waits: a blinking one would wake the processor
+    // for as long as a name is asked for.
+    QApplication::setCursorFlashTime(0);
     QToolTip::setPalette(colours);
     QToolTip::setFont(Garden::sans(toolTipFontSize, QFont::Normal));
 }
