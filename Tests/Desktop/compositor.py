@@ -48,8 +48,9 @@ class Compositor:
     def _fills_the_screen(self):
         picture = self._desktop.screen.picture()
         width, height = self.size
-        return all(picture.colour(x, y) == GROUND for x in (0, width - 1)
-                   for y in (0, height - 1))
+        # Away from the corners, where a pointer may be.
+        edges = (0, height // 2), (width - 1, height // 2), (width // 2, 0)
+        return all(picture.colour(x, y) == GROUND for x, y in edges)
 
     def _sweep_pointer(self):
         """Brings its pointer to where the real one is.

@@ -16,9 +16,11 @@ OWN_SIZE = 940, 860
 @pytest.fixture
 def wayland(desktop):
     compositor = Compositor(desktop, SIZE)
-    compositor.start()
-    yield compositor
-    compositor.stop()
+    try:
+        compositor.start()
+        yield compositor
+    finally:
+        compositor.stop()
 
 
 @pytest.fixture
