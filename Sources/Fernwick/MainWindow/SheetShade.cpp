@@ -9,6 +9,15 @@ namespace {
 
 constexpr double scrimOpacity = 0.48;
 
+// Without the window's ground, which would show in the round corners.
+QPixmap pictureOf(QWidget& sheet) {
+    QPixmap picture(sheet.size() * sheet.devicePixelRatioF());
+    picture.setDevicePixelRatio(sheet.devicePixelRatioF());
+    picture.fill(Qt::transparent);
+    sheet.render(&picture, {}, {}, QWidget::DrawChildren);
+    return picture;
+}
+
 }  // namespace
 
 SheetShade::SheetShade(QWidget* parent) : QWidget(parent), presence_(this) {
@@ -36,7 +45,7 @@ void SheetShade::come(QWidget& sheet) {
 
 void SheetShade::go(QWidget& sheet) {
     sheet.setGraphicsEffect(nullptr);
-    picture_ = sheet.grab();
+    picture_ = pictureOf(sheet);
     picturePlace_ = mapFromGlobal(sheet.mapToGlobal(QPoint()));
     run(QAbstractAnimation::Backward);
 }

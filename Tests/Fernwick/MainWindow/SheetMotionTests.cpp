@@ -116,6 +116,23 @@ TEST_F(SheetMotion, takesClicksAndKeysBeforeItHasCome) {
     EXPECT_FALSE(session.showingScores);
 }
 
+TEST_F(SheetMotion, beginsToGoAsItStood) {
+    openAndWait();
+    const QImage up = picture();
+    close();
+    holdHalfway();
+    motion().setCurrentTime(motion().duration());
+    const QImage leaving = picture();
+
+    const QRect place(sheet().mapTo(&window, QPoint()), sheet().size());
+    for (int y = place.top() - 2; y < place.bottom() + 2; ++y) {
+        for (int x = place.left() - 2; x < place.right() + 2; ++x) {
+            ASSERT_LE(Look::distance(leaving.pixelColor(x, y), up.pixelColor(x, y)), 2)
+                << x << ", " << y;
+        }
+    }
+}
+
 TEST_F(SheetMotion, leavesWhatLiesBehindAsItWas) {
     const QImage before = picture();
     openAndWait();
