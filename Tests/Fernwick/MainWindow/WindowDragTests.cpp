@@ -11,6 +11,8 @@
 namespace {
 
 constexpr int dragSteps = 10;
+// What a hand takes from one place to the next, in milliseconds.
+constexpr int handPause = 60;
 // A drag begins only once the pointer has gone some way.
 constexpr int slack = 16;
 
@@ -39,6 +41,8 @@ protected:
         hand({"mousedown", "1"});
         for (int step = 1; step <= dragSteps; ++step) {
             pointAt(from + by * step / dragSteps);
+            // The window manager takes hold where it is told of the drag.
+            QTest::qWait(handPause);
         }
         // A window hears where it has been moved to only when it is let go.
         hand({"mouseup", "1"});
