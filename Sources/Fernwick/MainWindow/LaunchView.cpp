@@ -17,7 +17,7 @@ public:
     explicit PaintsOnceResized(QWidget& window) : QObject(&window), window_(window) {
         window.setUpdatesEnabled(false);
         window.installEventFilter(this);
-        QTimer::singleShot(patience, this, &PaintsOnceResized::paint);
+        QTimer::singleShot(patience, this, &PaintsOnceResized::giveUp);
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
@@ -29,6 +29,12 @@ public:
 
 private:
     static constexpr std::chrono::milliseconds patience{100};
+
+    void giveUp() {
+        paint();
+        // What was to be painted is known already and would not be asked for anew.
+        window_.repaint();
+    }
 
     void paint() {
         window_.removeEventFilter(this);

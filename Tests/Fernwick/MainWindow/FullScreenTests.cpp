@@ -1,7 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QScreen>
+#include <QTest>
 #include <memory>
+#include <vector>
 
 #include "Fernwick/MainWindow/WindowTest.hpp"
 #include "MainWindow/FullScreen.hpp"
@@ -69,6 +72,40 @@ TEST(LaunchView, doesNotFightAPlayerWhoLeavesFullScreen) {
     QCoreApplication::processEvents();
 
     EXPECT_FALSE(window.isFullScreen());
+}
+
+namespace {
+
+/// A window that remembers at which sizes it was painted.
+class PaintedWindow : public QWidget {
+public:
+    std::vector<QSize> sizes;
+
+protected:
+    void paintEvent(QPaintEvent*) override { sizes.push_back(size()); }
+};
+
+}  // namespace
+
+TEST(LaunchView, hasItsWindowPaintedInFullScreenOnly) {
+    PaintedWindow window;
+    window.resize(300, 200);
+    new LaunchView(&window);
+
+    window.show();
+    EXPECT_TRUE(QTest::qWaitFor([&window] { return !window.sizes.empty(); }));
+
+    EXPECT_EQ(window.sizes.front(), window.screen()->size());
+}
+
+TEST(LaunchView, hasItsWindowPaintedAlsoWhenTheDesktopGivesItNoNewSize) {
+    PaintedWindow window;
+    window.setFixedSize(window.screen()->size());
+    new LaunchView(&window);
+
+    window.show();
+
+    EXPECT_TRUE(QTest::qWaitFor([&window] { return !window.sizes.empty(); }));
 }
 
 TEST(ToggleFullScreen, doesNothingWithoutAWindow) {
