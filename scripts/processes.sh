@@ -1,4 +1,5 @@
-# Starting what must not outlive us, and ending it. Sourced by play, display.sh, Fuzz/run and Tests/long-run.
+# Starting what must not outlive us, and ending it. Sourced by play, check,
+# display.sh, Fuzz/run and Tests/long-run.
 
 # start COMMAND...: in the background and in a process group of its own, so that Ctrl-C reaches
 # only the script and the script can end the command whole. Its id is in $!.
