@@ -20,6 +20,7 @@ int main(int, char* argv[]) {
         return 0;
     }
     leaveMissingSessionBusAlone();
+    leaveSilentSessionBusAlone();
     // The program takes no command line; only its own name reaches the toolkit.
     int count = 1;
     // The toolkit would tell the player, for one, which fonts lack which scripts.

@@ -2,7 +2,6 @@
 
 from gi.repository import Gio, GLib
 
-ACTION = "org.a11y.atspi.Action"
 ACCESSIBLE = "org.a11y.atspi.Accessible"
 ACTION = "org.a11y.atspi.Action"
 COMPONENT = "org.a11y.atspi.Component"

@@ -90,9 +90,9 @@ class Desktop:
         self.screen = Screen(self.folder / "Xvfb_screen0")
 
     def _start_bus(self):
-        bus = self._spawn("dbus-daemon", "--session", "--nofork", "--nopidfile", "--print-address",
-                          stdout=subprocess.PIPE, text=True)
-        self.environment["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().strip()
+        self.bus = self._spawn("dbus-daemon", "--session", "--nofork", "--nopidfile",
+                               "--print-address", stdout=subprocess.PIPE, text=True)
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = self.bus.stdout.readline().strip()
 
     def _has_window_manager(self):
         return "0x" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK")

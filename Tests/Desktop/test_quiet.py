@@ -1,12 +1,8 @@
 """The program prints nothing and needs nothing of a desktop but a display."""
 
 import pytest
-from board import Board
-from screen import Screen
+from seen import moves, shows_card
 from waiting import eventually
-
-MINT = (166, 240, 163)
-INSIDE_THE_BUTTON = Screen.WIDTH // 2 - 60, 650
 
 
 def nowhere(home):
@@ -18,15 +14,6 @@ def nowhere(home):
                              "AT_SPI_BUS_ADDRESS": place},
         "no sound server": {"PULSE_SERVER": place},
     }
-
-
-def shows_card(game):
-    """Whether the start card's button is to be seen in full screen."""
-    return game.desktop.screen.picture().colour(*INSIDE_THE_BUTTON) == MINT
-
-
-def moves(game):
-    return Board.is_moving(game.desktop.screen.picture())
 
 
 @pytest.mark.parametrize("missing", [

@@ -1,5 +1,17 @@
 #pragma once
 
+#include <QByteArray>
+#include <chrono>
+
+// What the toolkit does with the session bus happens in the thread of the windows, and cannot be
+// called off. Both functions set the environment of this process, so that it never begins. They
+// are to be called before the application object is made.
+
 /// On a desktop without a session bus the bus library starts one for whoever asks, and leaves it
-/// behind. A game is no reason to: this makes it go without. To be called before anything asks.
+/// behind. A game is no reason to: this makes it go without.
 void leaveMissingSessionBusAlone();
+
+/// A session bus that hangs would keep the window away until it goes on. This makes the game go
+/// without a bus that does not answer within `patience`; one in good health answers in less than a
+/// millisecond.
+void leaveSilentSessionBusAlone(std::chrono::milliseconds patience = std::chrono::seconds(2));

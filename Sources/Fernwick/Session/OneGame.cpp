@@ -1,18 +1,14 @@
 #include "Session/OneGame.hpp"
 
-#include <sys/socket.h>
 #include <sys/stat.h>
-#include <sys/time.h>
-#include <sys/un.h>
 
 #include <QCryptographicHash>
 #include <QSocketNotifier>
-#include <algorithm>
 #include <array>
 #include <chrono>
-#include <cstddef>
-#include <optional>
 #include <thread>
+
+#include "Session/LocalSocket.hpp"
 
 namespace fs = std::filesystem;
 
@@ -35,26 +31,8 @@ QByteArray nameFor(const fs::path& settings) {
     QCryptographicHash hash(QCryptographicHash::Sha256);
     hash.addData(QByteArray::fromStdString(folder.native()));
     hash.addData(QByteArray::number(root.st_dev) + ' ' + QByteArray::number(root.st_ino));
-    return "fernwick-" + QByteArray::number(::getuid()) + '-' + hash.result().toHex();
-}
-
-/// Begins with a NUL: such a name lies in no folder.
-struct Address {
-    explicit Address(const QByteArray& name) {
-        const auto count =
-            std::min<std::size_t>(static_cast<std::size_t>(name.size()), sizeof value.sun_path - 1);
-        value.sun_family = AF_UNIX;
-        std::copy_n(name.constData(), count, value.sun_path + 1);
-        size = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + 1 + count);
-    }
-    [[nodiscard]] const sockaddr* get() const { return reinterpret_cast<const sockaddr*>(&value); }
-
-    sockaddr_un value{};
-    socklen_t size = 0;
-};
-
-FileDescriptor localSocket(int flags) {
-    return FileDescriptor(::socket(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC | flags, 0));
+    // Behind a NUL: such a name lies in no folder.
+    return '\0' + ("fernwick-" + QByteArray::number(::getuid()) + '-' + hash.result().toHex());
 }
 
 /// Anyone on the machine may take or call a name; only the same user is listened to.
@@ -63,10 +41,6 @@ bool isOwnUser(const FileDescriptor& connection) {
     socklen_t size = sizeof other;
     return ::getsockopt(connection.number(), SOL_SOCKET, SO_PEERCRED, &other, &size) == 0 &&
            other.uid == ::getuid();
-}
-
-void waitAtMost(const FileDescriptor& connection, int option, timeval patience) {
-    ::setsockopt(connection.number(), SOL_SOCKET, option, &patience, sizeof patience);
 }
 
 /// Desktops give what they start a token that lets it come to the front.
@@ -78,11 +52,11 @@ QByteArray ownActivationToken() {
 enum class Call { heard, unheard, nobody, stranger };
 
 /// Asks the game that holds the address to come forward.
-Call call(const Address& address) {
-    const FileDescriptor connection = localSocket(0);
+Call call(const LocalAddress& address) {
+    const FileDescriptor connection = localSocket(SOCK_SEQPACKET);
     waitAtMost(connection, SO_SNDTIMEO, patienceForAnswer);
     waitAtMost(connection, SO_RCVTIMEO, patienceForAnswer);
-    if (::connect(connection.number(), address.get(), address.size) != 0) {
+    if (::connect(connection.number(), address.get(), address.size()) != 0) {
         return errno == EAGAIN ? Call::unheard : Call::nobody;
     }
     if (!isOwnUser(connection)) {
@@ -106,11 +80,11 @@ OneGame::OneGame(const fs::path& settings) {
     constexpr auto patience = std::chrono::seconds(1);
     constexpr auto pause = std::chrono::milliseconds(2);
     constexpr int waitingCalls = 16;
-    const Address address(nameFor(settings));
+    const LocalAddress address(nameFor(settings));
     const auto deadline = std::chrono::steady_clock::now() + patience;
     do {
-        FileDescriptor socket = localSocket(SOCK_NONBLOCK);
-        if (::bind(socket.number(), address.get(), address.size) == 0) {
+        FileDescriptor socket = localSocket(SOCK_SEQPACKET | SOCK_NONBLOCK);
+        if (::bind(socket.number(), address.get(), address.size()) == 0) {
             if (::listen(socket.number(), waitingCalls) == 0) {
                 listener_ = std::move(socket);
                 place_ = Place::first;
