@@ -16,19 +16,54 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// Large enough to take several writes of the disk, and different each time.
+QByteArray tableOf(std::int64_t count) {
+    return QByteArray::number(static_cast<qlonglong>(count)).repeated(5000);
+}
+
+// What a program reports of its saves, each of which has a number from 1 on.
+constexpr std::int64_t beginningOf(std::int64_t save) {
+    return 2 * save - 1;
+}
+
+constexpr std::int64_t returnOf(std::int64_t save) {
+    return 2 * save;
+}
+
+constexpr bool isBeginning(std::int64_t report) {
+    return report % 2 == 1;
+}
+
+constexpr std::int64_t lastReturned(std::int64_t report) {
+    return report / 2;
+}
+
 class PreferencesKill : public testing::Test {
 protected:
     [[nodiscard]] fs::path folder() const { return folder_.path() / "fernwick"; }
     [[nodiscard]] fs::path path() const { return folder() / "preferences.cbor"; }
 
+    /// A save in two steps, so that a program can also end between them.
+    [[nodiscard]] static bool save(PreferencesFile& preferences, std::int64_t count) {
+        return preferences.store(u"table"_s, tableOf(count)) &&
+               preferences.store(u"count"_s, static_cast<qint64>(count));
+    }
+
+    /// On this machine, with its disk as busy as it is now.
+    [[nodiscard]] static std::int64_t microsecondsOfASave() {
+        constexpr int saves = 20;
+        const TemporaryFolder elsewhere;
+        PreferencesFile preferences(elsewhere.path() / "preferences.cbor");
+        const auto began = std::chrono::steady_clock::now();
+        for (int count = 1; count <= saves; ++count) {
+            EXPECT_TRUE(save(preferences, count));
+        }
+        return (std::chrono::steady_clock::now() - began) / std::chrono::microseconds(saves);
+    }
+
 private:
     TemporaryFolder folder_;
 };
-
-/// Large enough to take several writes of the disk, and different each time.
-QByteArray tableOf(std::int64_t count) {
-    return QByteArray::number(static_cast<qlonglong>(count)).repeated(5000);
-}
 
 }  // namespace
 
@@ -36,25 +71,31 @@ QByteArray tableOf(std::int64_t count) {
 TEST_F(PreferencesKill, everySaveThatHadReturnedIsThereAndTheFileIsWhole) {
     const auto rounds = static_cast<int>(environmentNumber("FERNWICK_KILL_ROUNDS", 300));
     std::mt19937 random(std::random_device{}());
-    std::uniform_int_distribution<int> lifetime(0, 4000);
+    std::uniform_int_distribution<std::int64_t> lifetime(0, 2 * microsecondsOfASave());
     std::int64_t saved = 0;
+    int insideASave = 0;
     for (int round = 0; round < rounds; ++round) {
         ForkedProcess game([&](const auto& report) {
-            report(saved);
+            report(returnOf(saved));
             PreferencesFile preferences(path());
             for (std::int64_t count = saved + 1;; ++count) {
-                if (preferences.store(u"table"_s, tableOf(count)) &&
-                    preferences.store(u"count"_s, static_cast<qint64>(count))) {
-                    report(count);
+                report(beginningOf(count));
+                if (save(preferences, count)) {
+                    report(returnOf(count));
                 }
             }
         });
         // Half of the programs die anywhere, half after a save however slow the machine is.
-        const std::int64_t begun = game.nextReport(saved);
-        const std::int64_t first = round % 2 == 0 ? begun : game.nextReport(begun);
+        std::int64_t last = game.nextReport(returnOf(saved));
+        if (round % 2 == 1) {
+            const std::int64_t begun = game.nextReport(last);
+            last = game.nextReport(begun);
+        }
         std::this_thread::sleep_for(std::chrono::microseconds(lifetime(random)));
         game.kill();
-        const std::int64_t returned = game.lastReport(first);
+        last = game.lastReport(last);
+        insideASave += isBeginning(last) ? 1 : 0;
+        const std::int64_t returned = lastReturned(last);
 
         const PreferencesFile preferences(path());
 
@@ -68,7 +109,9 @@ TEST_F(PreferencesKill, everySaveThatHadReturnedIsThereAndTheFileIsWhole) {
         saved = count;
     }
     EXPECT_GE(saved, rounds / 2);
-    std::cout << rounds << " programs killed, " << saved << " saves, none lost\n";
+    EXPECT_GE(insideASave, rounds / 2);
+    std::cout << rounds << " programs killed, " << insideASave << " of them while they saved; "
+              << saved << " saves, none lost\n";
     EXPECT_EQ(namesIn(folder()),
               (std::vector<std::string>{"preferences.cbor", "preferences.cbor.lock"}));
 }
