@@ -32,10 +32,10 @@ std::pair<Game, Game> neighbours(std::size_t length) {
     return {game, next};
 }
 
-void present(QImage& screen, const BoardPicture& picture, const QRegion& region) {
+void present(QImage& screen, BoardPicture& picture, const QRegion& region) {
     QPainter painter(&screen);
     for (const QRect& part : region) {
-        painter.drawImage(part.topLeft(), picture.image(), part);
+        picture.paint(painter, part);
     }
 }
 
@@ -44,7 +44,7 @@ void frame(benchmark::State& state) {
     const auto [before, after] = neighbours(static_cast<std::size_t>(state.range(1)));
     BoardPicture picture(Screens::grid(scaleOf(state)));
     picture.show(before);
-    QImage screen = picture.image().copy();
+    QImage screen = picture.image();
     bool forward = false;
     for (auto _ : state) {
         forward = !forward;
@@ -55,9 +55,11 @@ void frame(benchmark::State& state) {
 void copyingTheFrame(benchmark::State& state) {
     BoardPicture picture(Screens::grid(scaleOf(state)));
     picture.show(Game(28, 22));
-    QImage screen = picture.image().copy();
+    const QImage whole = picture.image();
+    QImage screen = whole.copy();
     for (auto _ : state) {
-        present(screen, picture, picture.image().rect());
+        QPainter painter(&screen);
+        painter.drawImage(0, 0, whole);
     }
 }
 

@@ -6,12 +6,12 @@
 #include <limits>
 
 #include "Garden/Palette.hpp"
+#include "MainWindow/Board/RowLoops.hpp"
 
 namespace {
 
 constexpr QColor tailColour = Garden::srgb(0.23, 0.58, 0.40);
-constexpr int fractionBits = 16;
-constexpr double one = 1 << fractionBits;
+constexpr double one = 1 << 16;
 
 std::array<int, 3> channels(const QColor& colour) {
     return {colour.red(), colour.green(), colour.blue()};
@@ -39,6 +39,14 @@ int runEnd(const std::uint8_t* bytes, std::uint8_t value, int begin, int end) {
     return begin;
 }
 
+// Where the run of bytes other than `value` that begins at `begin` ends.
+int otherEnd(const std::uint8_t* bytes, std::uint8_t value, int begin, int end) {
+    const void* const found =
+        std::memchr(bytes + begin, value, static_cast<std::size_t>(end - begin));
+    return found == nullptr ? end
+                            : static_cast<int>(static_cast<const std::uint8_t*>(found) - bytes);
+}
+
 }  // namespace
 
 BandGradient::BandGradient(const QPointF& tail, const QPointF& head) : tail_(tail) {
@@ -60,17 +68,19 @@ void BandGradient::paintRow(quint32* row, const quint32* ground, const std::uint
     constexpr std::uint8_t none = 0;
     constexpr std::uint8_t whole = 255;
     const Row gradient = across(y);
-    for (int begin = 0, end = 0; begin < count; begin = end) {
-        const std::uint8_t covered = mask[begin];
-        end = runEnd(mask, covered, begin, count);
-        if (covered == none) {
-            std::copy(ground + begin, ground + end, row + begin);
-            continue;
-        }
+    int end = 0;
+    while (end < count) {
+        int begin = end;
+        end = runEnd(mask, none, begin, count);
+        std::copy(ground + begin, ground + end, row + begin);
+        begin = end;
+        end = otherEnd(mask, none, begin, count);
         fill(row + begin, end - begin, x + begin, y, gradient);
-        if (covered != whole) {
-            Pixels::blendRow(row + begin, ground + begin, end - begin, Pixels::phase(x + begin, y),
-                             static_cast<float>(covered) / whole);
+        while ((begin = runEnd(mask, whole, begin, end)) < end) {
+            const int edge = begin;
+            begin = otherEnd(mask, whole, edge, end);
+            rowLoops().blend(row + edge, ground + edge, mask + edge, begin - edge,
+                             Pixels::phase(x + edge, y));
         }
     }
 }
@@ -102,24 +112,10 @@ void BandGradient::fill(quint32* pixels, int count, int x, int y, const Row& row
 }
 
 void BandGradient::fillSlope(quint32* pixels, int count, int x, int y) const {
-    const auto first = [&](std::size_t i) {
-        return static_cast<quint32>(origin_[i] + x * right_[i] + y * down_[i]);
-    };
-    const auto step = [&](std::size_t i) { return static_cast<quint32>(right_[i]); };
-    const quint32 red = first(0);
-    const quint32 green = first(1);
-    const quint32 blue = first(2);
-    const quint32 redStep = step(0);
-    const quint32 greenStep = step(1);
-    const quint32 blueStep = step(2);
-    const quint32 start = Pixels::phase(x, y);
-    for (int i = 0; i < count; ++i) {
-        const auto at = static_cast<quint32>(i);
-        const quint32 rounding = (start + at * Pixels::patternStepX) >> fractionBits;
-        const auto channel = [&](quint32 from, quint32 growth) {
-            return (from + at * growth + rounding) >> fractionBits;
-        };
-        pixels[i] = 0xFF000000U | channel(red, redStep) << 16U | channel(green, greenStep) << 8U |
-                    channel(blue, blueStep);
+    RowLoops::Slope slope{};
+    for (std::size_t i = 0; i < origin_.size(); ++i) {
+        slope.first[i] = static_cast<quint32>(origin_[i] + x * right_[i] + y * down_[i]);
+        slope.growth[i] = static_cast<quint32>(right_[i]);
     }
+    rowLoops().fillSlope(pixels, count, Pixels::phase(x, y), slope);
 }

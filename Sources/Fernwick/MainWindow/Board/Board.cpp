@@ -74,15 +74,19 @@ void Board::paintEvent(QPaintEvent* event) {
     const QPointF begin = toDevice.map(QPointF()) - corner + pixelsInWindow().topLeft();
     painter.setTransform(QTransform::fromTranslate(std::round(begin.x()), std::round(begin.y())) *
                          toDevice.inverted());
-    const QImage& picture = idle_ ? idlePicture_ : picture_->image();
+    const QRect all(QPoint(), picture_->grid().size);
     const QColor scrim = Garden::withOpacity(Qt::black, scrim_);
     const QTransform toPicture = toDevice * QTransform::fromTranslate(-begin.x(), -begin.y());
     for (const QRect& part : event->region()) {
-        const QRect area = toPicture.mapRect(QRectF(part)).toAlignedRect() & picture.rect();
+        const QRect area = toPicture.mapRect(QRectF(part)).toAlignedRect() & all;
         // The painter's clip is the whole region; copying is fastest within a clip of one
         // rectangle.
         painter.setClipRect(area);
-        painter.drawImage(area.topLeft(), picture, area);
+        if (idle_) {
+            painter.drawImage(area.topLeft(), idlePicture_, area);
+        } else {
+            picture_->paint(painter, area);
+        }
         if (scrim_ > 0) {
             painter.fillRect(area, scrim);
         }

@@ -1,21 +1,25 @@
 #pragma once
 
 #include <QImage>
+#include <QPainter>
 #include <QRegion>
 #include <SnakeCore/Game.hpp>
 #include <optional>
 #include <vector>
 
+#include "MainWindow/Board/BandGradient.hpp"
 #include "MainWindow/Board/BandMask.hpp"
 #include "MainWindow/Board/Dots.hpp"
+#include "MainWindow/Board/Eyes.hpp"
 #include "MainWindow/Board/Fruit.hpp"
 #include "MainWindow/Board/GlowField.hpp"
 #include "MainWindow/Board/PixelGrid.hpp"
 #include "MainWindow/Board/SnakeLinks.hpp"
-#include "MainWindow/Board/TileSet.hpp"
 
-/// The picture of a game at one size, on the board's plain fill, kept up to date tile by tile. The
-/// bytes of the picture depend on the game shown last alone, not on those before it.
+/// The picture of a game at one size, on the board's plain fill. Everything below the snake's band
+/// is kept painted; band and eyes, which change their colours with nearly every step, are laid
+/// over it only as they are put on the screen. A pixel depends on the game shown last alone, not
+/// on those before it and not on the areas that it is painted by.
 class BoardPicture {
 public:
     explicit BoardPicture(const PixelGrid& grid);
@@ -24,27 +28,33 @@ public:
     /// hold a few that did not.
     QRegion show(const SnakeCore::Game& game);
 
-    [[nodiscard]] const QImage& image() const { return image_; }
+    /// Paints the pixels of `area`, at their place in the painter's coordinates. A game has been
+    /// shown.
+    void paint(QPainter& painter, const QRect& area);
+    /// The whole picture.
+    [[nodiscard]] QImage image() const;
+
     [[nodiscard]] const PixelGrid& grid() const { return grid_; }
 
 private:
-    struct Changes;
-
-    [[nodiscard]] Changes update(const SnakeCore::Game& game);
-    void paintGround(const QRect& cells);
-    void paintBand(const QRect& area, bool band, const SnakeCore::Game& game);
-    [[nodiscard]] QRect bandArea(const QRect& cells) const;
+    void placeFruit(const SnakeCore::Cell& cell, QRegion& changed);
+    void placeBand(const SnakeCore::Game& game, QRegion& changed);
+    void paintGround(const QRect& area);
+    void composeRow(quint32* row, int x, int count, int y) const;
+    [[nodiscard]] QRegion bandRegion() const;
     [[nodiscard]] Links linksOf(int column, int row) const;
-    [[nodiscard]] bool hasBand(int column, int row) const;
 
     PixelGrid grid_;
-    // Everything below the band, and the same with band and eyes.
+    // A few rows at a time, on their way to the screen.
+    QImage composed_;
+    // Everything below the band.
     QImage ground_;
-    QImage image_;
     Dots dots_;
     GlowField glow_;
     BandMask mask_;
     std::vector<Links> links_;
     std::optional<Fruit> fruit_;
+    std::optional<BandGradient> gradient_;
+    std::optional<Eyes> eyes_;
     std::optional<SnakeCore::Game> shown_;
 };

@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QRect>
+#include <algorithm>
 #include <vector>
 
 #include "MainWindow/Board/Pixels.hpp"
@@ -23,17 +24,29 @@ public:
         }
     }
 
+    [[nodiscard]] const QRect& bounds() const { return bounds_; }
+
     /// Lays `colour` over what of the layer lies inside `area`, itself inside the picture.
     void paint(QImage& picture, const QRect& area, const Rgb& colour) const {
         const QRect part = bounds_ & area;
         for (int y = part.top(); y <= part.bottom(); ++y) {
-            const float* const values =
-                values_.data() + static_cast<std::ptrdiff_t>(y - bounds_.top()) * bounds_.width() +
-                (part.left() - bounds_.left());
             auto* const row = reinterpret_cast<quint32*>(picture.scanLine(y)) + part.left();
-            Pixels::mixRow(row, part.width(), Pixels::phase(part.left(), y), colour,
-                           [values](int i) { return values[i]; });
+            paintRow(row, part.left(), part.width(), y, colour);
         }
+    }
+
+    /// Lays `colour` over what of the layer lies in one row: `count` pixels from (x, y) on.
+    void paintRow(quint32* row, int x, int count, int y, const Rgb& colour) const {
+        if (y < bounds_.top() || y > bounds_.bottom()) {
+            return;
+        }
+        const int begin = std::max(bounds_.left(), x);
+        const int end = std::min(bounds_.right() + 1, x + count);
+        const float* const values =
+            values_.data() + static_cast<std::ptrdiff_t>(y - bounds_.top()) * bounds_.width() +
+            (begin - bounds_.left());
+        Pixels::mixRow(row + (begin - x), end - begin, Pixels::phase(begin, y), colour,
+                       [values](int i) { return values[i]; });
     }
 
 private:

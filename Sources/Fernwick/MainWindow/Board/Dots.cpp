@@ -10,7 +10,7 @@ constexpr double opacity = 0.12;
 
 }  // namespace
 
-Dots::Dots(const PixelGrid& grid) : columns_(grid.columns) {
+Dots::Dots(const PixelGrid& grid) : grid_(grid) {
     const double radius = diameter / 2 * grid.scale;
     for (int row = 0; row < grid.rows; ++row) {
         for (int column = 0; column < grid.columns; ++column) {
@@ -22,11 +22,12 @@ Dots::Dots(const PixelGrid& grid) : columns_(grid.columns) {
     }
 }
 
-void Dots::paint(QImage& picture, const QRect& cells, const QRect& area) const {
+void Dots::paint(QImage& picture, const QRect& area) const {
+    const QRect cells = grid_.cellsAt(area);
     for (int row = cells.top(); row <= cells.bottom(); ++row) {
         for (int column = cells.left(); column <= cells.right(); ++column) {
-            dots_[static_cast<std::size_t>(row * columns_ + column)].paint(picture, area,
-                                                                           Rgb::of(Garden::mint));
+            const auto index = static_cast<std::size_t>(row * grid_.columns + column);
+            dots_[index].paint(picture, area, Rgb::of(Garden::mint));
         }
     }
 }

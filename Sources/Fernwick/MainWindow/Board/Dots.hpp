@@ -11,11 +11,11 @@ class Dots {
 public:
     explicit Dots(const PixelGrid& grid);
 
-    /// Paints the dots of a rectangle of cells, where they lie inside `area`.
-    void paint(QImage& picture, const QRect& cells, const QRect& area) const;
+    /// Paints the dots where they lie inside `area`.
+    void paint(QImage& picture, const QRect& area) const;
 
 private:
-    int columns_;
+    PixelGrid grid_;
     // Every dot falls differently on the pixels.
     std::vector<CoverageLayer> dots_;
 };

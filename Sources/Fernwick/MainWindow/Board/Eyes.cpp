@@ -1,7 +1,6 @@
 #include "MainWindow/Board/Eyes.hpp"
 
 #include "MainWindow/Board/Coverage.hpp"
-#include "MainWindow/Board/CoverageLayer.hpp"
 
 namespace {
 
@@ -15,17 +14,23 @@ constexpr Rgb black{};
 
 }  // namespace
 
-void paintEyes(QImage& picture, const PixelGrid& grid, const SnakeCore::Game& game) {
+Eyes::Eyes(const PixelGrid& grid, const SnakeCore::Game& game) {
     const SnakeCore::Cell step = stepVector(game.direction());
     const QPointF forward(static_cast<double>(step.x), static_cast<double>(step.y));
     const QPointF across(forward.y(), forward.x());
     const QPointF head = grid.centre(game.snake().front());
     const double radius = diameter / 2 * grid.cell;
-    for (const double side : {-aside, aside}) {
+    const auto eyeAt = [&](double side) {
         const QPointF eye = head + (ahead * forward + side * across) * grid.cell;
-        const CoverageLayer layer(Coverage::discBounds(eye, radius), [&](int x, int y) {
+        return CoverageLayer(Coverage::discBounds(eye, radius), [&](int x, int y) {
             return Coverage::ofDisc(eye, radius, x, y) * opacity;
         });
-        layer.paint(picture, picture.rect(), black);
+    };
+    eyes_ = {eyeAt(-aside), eyeAt(aside)};
+}
+
+void Eyes::paintRow(quint32* row, int x, int count, int y) const {
+    for (const CoverageLayer& eye : eyes_) {
+        eye.paintRow(row, x, count, y, black);
     }
 }

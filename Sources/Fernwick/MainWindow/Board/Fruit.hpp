@@ -11,8 +11,8 @@ class Fruit {
 public:
     Fruit(const PixelGrid& grid, const SnakeCore::Cell& place);
 
-    /// How far the glow reaches over the cells around the fruit's.
-    static constexpr int reach = 2;
+    /// The pixels that it and its glow touch; some may lie beyond the picture.
+    [[nodiscard]] QRect bounds() const { return glow_.bounds() | stem_.bounds(); }
 
     /// Paints what of it lies inside `area`.
     void paint(QImage& picture, const QRect& area) const;

@@ -2,7 +2,7 @@
 
 #include "Garden/Palette.hpp"
 #include "MainWindow/Board/GlowPieces.hpp"
-#include "MainWindow/Board/Pixels.hpp"
+#include "MainWindow/Board/RowLoops.hpp"
 
 namespace {
 
@@ -42,6 +42,14 @@ void GlowField::change(int column, int row, Links before, Links after) {
     }
 }
 
+QRect GlowField::reach(int column, int row) const {
+    // A pixel takes from the samples on both sides of it.
+    const double margin = (GlowPieces::margin + 1.0) / samplesPerCell * grid_.cell;
+    const QRectF cell(grid_.origin + QPointF(column, row) * grid_.cell,
+                      QSizeF(grid_.cell, grid_.cell));
+    return cell.marginsAdded(QMarginsF() + margin).toAlignedRect();
+}
+
 void GlowField::add(int column, int row, Links links, int sign) {
     const GlowPieces::Piece& piece = GlowPieces::piece(links);
     const auto factor = static_cast<std::uint16_t>(sign);
@@ -65,11 +73,8 @@ void GlowField::paint(QImage& picture, const QRect& area) const {
     for (int y = area.top(); y <= area.bottom(); ++y) {
         const auto [sample, weight] = rows_[y];
         pair.seek(sample);
-        const float upperWeight = (1 - weight) * scale;
-        const float lowerWeight = weight * scale;
         auto* const row = reinterpret_cast<quint32*>(picture.scanLine(y)) + area.left();
-        Pixels::mixRow(row, area.width(), Pixels::phase(area.left(), y), colour,
-                       [upper = pair.upper(), lower = pair.lower(), upperWeight, lowerWeight](
-                           int i) { return upper[i] * upperWeight + lower[i] * lowerWeight; });
+        rowLoops().mixBetween(row, area.width(), Pixels::phase(area.left(), y), colour,
+                              {pair.upper(), pair.lower(), (1 - weight) * scale, weight * scale});
     }
 }

@@ -16,11 +16,11 @@ class GlowField {
 public:
     explicit GlowField(const PixelGrid& grid);
 
-    /// How far the glow reaches over the cells around one.
-    static constexpr int reach = 2;
-
     /// Replaces the piece of one cell.
     void change(int column, int row, Links before, Links after);
+
+    /// The pixels that the piece of one cell reaches to; some may lie beyond the picture.
+    [[nodiscard]] QRect reach(int column, int row) const;
 
     /// Lays the glow over the pixels of `area`.
     void paint(QImage& picture, const QRect& area) const;

@@ -29,3 +29,8 @@ QRect PixelGrid::tiles(const QRect& cells) const {
     const QPoint end(column(cells.left() + cells.width()), row(cells.top() + cells.height()));
     return {topLeft, QSize(end.x() - topLeft.x(), end.y() - topLeft.y())};
 }
+
+QRect PixelGrid::cellsAt(const QRect& pixels) const {
+    const QRectF reached((QPointF(pixels.topLeft()) - origin) / cell, QSizeF(pixels.size()) / cell);
+    return reached.toAlignedRect() & QRect(0, 0, columns, rows);
+}

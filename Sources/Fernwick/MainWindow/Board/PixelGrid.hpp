@@ -23,6 +23,8 @@ struct PixelGrid {
     /// The pixels that belong to the cells of a rectangle of the grid. Tiles share no pixel, and
     /// together they fill the picture: those at the border reach to its edge.
     [[nodiscard]] QRect tiles(const QRect& cells) const;
+    /// The cells of the grid that reach into a rectangle of pixels.
+    [[nodiscard]] QRect cellsAt(const QRect& pixels) const;
 
     friend bool operator==(const PixelGrid&, const PixelGrid&) = default;
 };

@@ -68,17 +68,4 @@ void fillRow(quint32* row, int count, quint32 start, quint32 under, float covera
     }
 }
 
-/// Lays `row` at one coverage over `under`, different memory, and keeps the result in `row`.
-inline void blendRow(quint32* __restrict row, const quint32* __restrict under, int count,
-                     quint32 start, float coverage) {
-    constexpr quint32 channel = 0xFFU;
-    for (int i = 0; i < count; ++i) {
-        const float rounding = threshold(start + static_cast<quint32>(i) * patternStepX);
-        const Rgb over{static_cast<float>(static_cast<int>((row[i] >> 16U) & channel)),
-                       static_cast<float>(static_cast<int>((row[i] >> 8U) & channel)),
-                       static_cast<float>(static_cast<int>(row[i] & channel))};
-        row[i] = mixPixel(under[i], over, coverage, rounding);
-    }
-}
-
 }  // namespace Pixels

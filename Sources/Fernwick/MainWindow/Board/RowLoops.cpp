@@ -1,0 +1,106 @@
+#include "MainWindow/Board/RowLoops.hpp"
+
+// Every loop is written once, and compiled into a function for each kind of processor. None of them
+// is allowed to fuse a product with a sum, which would round differently.
+#define FERNWICK_INLINE [[gnu::always_inline]] inline
+
+namespace {
+
+FERNWICK_INLINE void mixBetweenLoop(quint32* row, int count, quint32 phase, const Rgb& colour,
+                                    const RowLoops::Between& coverage) {
+    const auto [upper, lower, upperWeight, lowerWeight] = coverage;
+    const Rgb over = colour;
+    for (int i = 0; i < count; ++i) {
+        const float rounding =
+            Pixels::threshold(phase + static_cast<quint32>(i) * Pixels::patternStepX);
+        row[i] = Pixels::mixPixel(row[i], over, upper[i] * upperWeight + lower[i] * lowerWeight,
+                                  rounding);
+    }
+}
+
+FERNWICK_INLINE void blendLoop(quint32* __restrict row, const quint32* __restrict under,
+                               const std::uint8_t* __restrict mask, int count, quint32 phase) {
+    constexpr quint32 channel = 0xFFU;
+    constexpr float perStep = 1.0F / 255.0F;
+    static_assert(255.0F * perStep == 1.0F, "what covers wholly keeps its value");
+    for (int i = 0; i < count; ++i) {
+        const float rounding =
+            Pixels::threshold(phase + static_cast<quint32>(i) * Pixels::patternStepX);
+        const Rgb over{static_cast<float>(static_cast<int>((row[i] >> 16U) & channel)),
+                       static_cast<float>(static_cast<int>((row[i] >> 8U) & channel)),
+                       static_cast<float>(static_cast<int>(row[i] & channel))};
+        const float coverage = static_cast<float>(static_cast<int>(mask[i])) * perStep;
+        row[i] = Pixels::mixPixel(under[i], over, coverage, rounding);
+    }
+}
+
+FERNWICK_INLINE void fillSlopeLoop(quint32* row, int count, quint32 phase,
+                                   const RowLoops::Slope& slope) {
+    constexpr int fractionBits = 16;
+    const auto [red, green, blue] = slope.first;
+    const auto [redGrowth, greenGrowth, blueGrowth] = slope.growth;
+    for (int i = 0; i < count; ++i) {
+        const auto at = static_cast<quint32>(i);
+        const quint32 rounding = (phase + at * Pixels::patternStepX) >> fractionBits;
+        row[i] = 0xFF000000U | ((red + at * redGrowth + rounding) >> fractionBits) << 16U |
+                 ((green + at * greenGrowth + rounding) >> fractionBits) << 8U |
+                 ((blue + at * blueGrowth + rounding) >> fractionBits);
+    }
+}
+
+void mixBetween(quint32* row, int count, quint32 phase, const Rgb& colour,
+                const RowLoops::Between& coverage) {
+    mixBetweenLoop(row, count, phase, colour, coverage);
+}
+
+void blend(quint32* row, const quint32* under, const std::uint8_t* mask, int count, quint32 phase) {
+    blendLoop(row, under, mask, count, phase);
+}
+
+void fillSlope(quint32* row, int count, quint32 phase, const RowLoops::Slope& slope) {
+    fillSlopeLoop(row, count, phase, slope);
+}
+
+constexpr RowLoops plain{mixBetween, blend, fillSlope};
+
+#if defined(__x86_64__)
+
+[[gnu::target("avx2")]] void mixBetweenAvx2(quint32* row, int count, quint32 phase,
+                                            const Rgb& colour, const RowLoops::Between& coverage) {
+    mixBetweenLoop(row, count, phase, colour, coverage);
+}
+
+[[gnu::target("avx2")]] void blendAvx2(quint32* row, const quint32* under, const std::uint8_t* mask,
+                                       int count, quint32 phase) {
+    blendLoop(row, under, mask, count, phase);
+}
+
+[[gnu::target("avx2")]] void fillSlopeAvx2(quint32* row, int count, quint32 phase,
+                                           const RowLoops::Slope& slope) {
+    fillSlopeLoop(row, count, phase, slope);
+}
+
+constexpr RowLoops avx2{mixBetweenAvx2, blendAvx2, fillSlopeAvx2};
+
+const RowLoops& fastest() {
+    return __builtin_cpu_supports("avx2") != 0 ? avx2 : plain;
+}
+
+#else
+
+const RowLoops& fastest() {
+    return plain;
+}
+
+#endif
+
+}  // namespace
+
+const RowLoops& plainRowLoops() {
+    return plain;
+}
+
+const RowLoops& rowLoops() {
+    static const RowLoops& loops = fastest();
+    return loops;
+}
