@@ -8,6 +8,7 @@
 #include "MainWindow/Language.hpp"
 #include "MainWindow/SessionBus.hpp"
 #include "MainWindow/SessionManagement.hpp"
+#include "MainWindow/SilentServices.hpp"
 #include "MainWindow/UnixSignals.hpp"
 #include "Session/OneGame.hpp"
 #include "Session/PreferencesFile.hpp"
@@ -27,6 +28,7 @@ int main(int, char* argv[]) {
     QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
     QApplication application(count, argv);
     outliveSessionManager();
+    SilentServices silentServices;
     QApplication::setApplicationName(QStringLiteral("fernwick"));
     QApplication::setApplicationDisplayName(QStringLiteral("Fernwick"));
     QGuiApplication::setDesktopFileName(QStringLiteral("org.fernwick.fernwick"));
@@ -37,6 +39,7 @@ int main(int, char* argv[]) {
     const UnixSignals signalsQuit;
     PreferencesFile preferences(settings);
     PulseSoundEffects soundEffects;
+    silentServices.leaveAlone();
     FernwickApp fernwick(preferences, soundEffects);
     QObject::connect(&fernwick.window(), &GameWindow::appeared, &fernwick, [&] {
         soundEffects.prepare();

@@ -33,13 +33,17 @@ def home(tmp_path):
 
 @pytest.fixture
 def launch(desktop, home, tmp_path):
-    """Starts the program and waits until it can be played; it may never print anything."""
+    """Starts the program and waits until it can be played; it may never print anything.
+
+    What is None is taken out of its environment."""
     games = []
 
     def launch(**environment):
         desktop.run("xdotool", "mousemove", *POINTER_AT_REST)
-        game = Game(desktop, tmp_path, desktop.environment | home.environment
-                    | {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"} | environment)
+        environment = (desktop.environment | home.environment
+                       | {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"} | environment)
+        game = Game(desktop, tmp_path, {name: value for name, value in environment.items()
+                                        if value is not None})
         games.append(game)
         game.wait_until_shown()
         return game

@@ -1,12 +1,23 @@
-"""What the desktop around the game hangs on, the game does not: it starts, plays and ends."""
+"""Where the desktop around the game hangs, the game does not: it starts, plays and ends."""
 
 import contextlib
+import os
+import pathlib
 import signal
 import socket
+import subprocess
+import sys
 
 import pytest
+from accessibility import call, connect
 from seen import moves, shows_card
 from waiting import eventually
+
+BUS = "org.freedesktop.DBus", "/org/freedesktop/DBus"
+REGISTRY = "org.a11y.atspi.Registry"
+# Services that the toolkit speaks to while it makes a window, and one that the game asks itself.
+MENUS = "com.canonical.AppMenu.Registrar"
+PORTAL = "org.freedesktop.portal.Desktop"
 
 
 def plays(game):
@@ -21,13 +32,23 @@ def plays(game):
 
 
 @contextlib.contextmanager
-def stopped(process):
-    """Has a process hang, until the end of the block."""
-    process.send_signal(signal.SIGSTOP)
+def hanging(process):
+    """Has the process of this number hang until the end of the block."""
+    os.kill(process, signal.SIGSTOP)
     try:
         yield
     finally:
-        process.send_signal(signal.SIGCONT)
+        os.kill(process, signal.SIGCONT)
+
+
+def owner(bus, name):
+    """The number of the process that has a name on a bus."""
+    process, = call(bus, BUS, BUS[0], "GetConnectionUnixProcessID", "(s)", name)
+    return process
+
+
+def first_child(process):
+    return int(pathlib.Path(f"/proc/{process}/task/{process}/children").read_text().split()[0])
 
 
 @pytest.fixture
@@ -40,15 +61,60 @@ def silent_address(home):
         yield f"unix:path={path}"
 
 
+@pytest.fixture
+def assistance(desktop):
+    """What makes up the desktop's accessibility: the numbers of its processes."""
+    launcher = owner(connect(desktop.environment["DBUS_SESSION_BUS_ADDRESS"]), "org.a11y.Bus")
+    call(desktop.accessibility, BUS, BUS[0], "StartServiceByName", "(su)", REGISTRY, 0)
+    return {"launcher": launcher, "bus": first_child(launcher),
+            "registry": owner(desktop.accessibility, REGISTRY)}
+
+
+@pytest.fixture
+def hanging_service(desktop):
+    """Makes a service of that name, which hangs."""
+    services = []
+
+    def hanging_service(name):
+        services.append(subprocess.Popen(
+            [sys.executable, str(pathlib.Path(__file__).with_name("own_name.py")), name],
+            env=desktop.environment, stdout=subprocess.PIPE, text=True))
+        assert services[-1].stdout.readline() == "ready\n"
+        services[-1].send_signal(signal.SIGSTOP)
+
+    yield hanging_service
+    for service in services:
+        service.kill()
+        service.communicate()
+
+
 def test_it_starts_while_whoever_has_the_address_of_the_bus_says_nothing(launch, silent_address):
     plays(launch(DBUS_SESSION_BUS_ADDRESS=silent_address))
 
 
 def test_it_starts_while_the_session_bus_hangs(desktop, launch):
-    with stopped(desktop.bus):
+    with hanging(desktop.bus.pid):
         plays(launch())
 
 
 def test_it_plays_on_when_the_session_bus_hangs(desktop, game):
-    with stopped(desktop.bus):
+    with hanging(desktop.bus.pid):
         plays(game)
+
+
+@pytest.mark.parametrize("part, asked_for", [("launcher", None), ("bus", None), ("registry", "1")])
+def test_it_starts_while_a_part_of_the_accessibility_hangs(launch, assistance, part, asked_for):
+    with hanging(assistance[part]):
+        plays(launch(QT_LINUX_ACCESSIBILITY_ALWAYS_ON=asked_for))
+
+
+@pytest.mark.parametrize("part", ["launcher", "bus", "registry"])
+def test_it_plays_on_when_a_part_of_the_accessibility_hangs(game, assistance, part):
+    with hanging(assistance[part]):
+        plays(game)
+
+
+@pytest.mark.parametrize("service", [MENUS, PORTAL])
+def test_it_starts_while_a_service_on_the_bus_hangs(launch, hanging_service, service):
+    hanging_service(service)
+    plays(launch())

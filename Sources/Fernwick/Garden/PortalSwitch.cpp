@@ -28,7 +28,9 @@ PortalSwitch::PortalSwitch(const QDBusConnection& bus, std::span<const Setting> 
     : QObject(parent), bus_(bus), settings_(settings) {
     // Until it is known by name, no slot that takes one can be connected.
     qRegisterMetaType<QDBusVariant>();
-    bus_.connect(portalService, portalPath, portalInterface, QStringLiteral("SettingChanged"), this,
+    // From whoever says it at the portal's place: a subscription to one sender would first wait for
+    // the bus to tell who that is.
+    bus_.connect(QString(), portalPath, portalInterface, QStringLiteral("SettingChanged"), this,
                  SLOT(settingChanged(QString, QString, QDBusVariant)));
     for (std::size_t setting = 0; setting < settings_.size(); ++setting) {
         ask(setting);

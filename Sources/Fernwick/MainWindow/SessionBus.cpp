@@ -68,8 +68,9 @@ Call call(const QByteArray& name, std::chrono::milliseconds patience) {
     return count < 0 && errno == EAGAIN ? Call::unanswered : Call::answered;
 }
 
-/// Whether the first of these addresses at which there is anybody stays silent.
-bool isSilent(const QByteArray& addresses, std::chrono::milliseconds patience) {
+}  // namespace
+
+bool isSilentBus(const QByteArray& addresses, std::chrono::milliseconds patience) {
     for (const QByteArray& address : addresses.split(';')) {
         const std::optional<QByteArray> name = socketName(address);
         if (!name || name->size() > LocalAddress::longest) {
@@ -83,8 +84,6 @@ bool isSilent(const QByteArray& addresses, std::chrono::milliseconds patience) {
     return false;
 }
 
-}  // namespace
-
 void leaveMissingSessionBusAlone() {
     if (qEnvironmentVariableIsEmpty(addressVariable) && !hasUserBus()) {
         qputenv(addressVariable, noBus);
@@ -95,7 +94,7 @@ void leaveSilentSessionBusAlone(std::chrono::milliseconds patience) {
     const QByteArray addresses = qEnvironmentVariableIsEmpty(addressVariable)
                                      ? QByteArray("unix:runtime=yes")
                                      : qgetenv(addressVariable);
-    if (isSilent(addresses, patience)) {
+    if (isSilentBus(addresses, patience)) {
         qputenv(addressVariable, noBus);
     }
 }

@@ -1,6 +1,7 @@
 #include "Garden/MotionSetting.hpp"
 
 #include <gtest/gtest.h>
+#include <signal.h>
 
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -8,6 +9,7 @@
 #include <QHash>
 #include <QProcess>
 #include <QTest>
+#include <chrono>
 
 namespace {
 
@@ -113,6 +115,19 @@ TEST_F(MotionSetting, letsThingsMoveWhereTheDesktopDoes) {
     QTest::qWait(50);
 
     EXPECT_FALSE(setting.asksForStillness());
+}
+
+TEST_F(MotionSetting, doesNotWaitForABusThatHangs) {
+    const QDBusConnection bus = programBus();
+    const auto process = static_cast<pid_t>(daemon.processId());
+    ASSERT_EQ(::kill(process, SIGSTOP), 0);
+    const auto began = std::chrono::steady_clock::now();
+
+    const Garden::MotionSetting setting(bus);
+
+    EXPECT_LT(std::chrono::steady_clock::now() - began, std::chrono::seconds(5));
+    EXPECT_FALSE(setting.asksForStillness());
+    ::kill(process, SIGCONT);
 }
 
 TEST_F(MotionSetting, followsALaterChange) {
