@@ -56,11 +56,11 @@ Game::Meal Game::advance() {
     }
     const Cell offset = stepVector(direction_);
     const Cell head{checkedSum(snake_.front().x, offset.x), checkedSum(snake_.front().y, offset.y)};
-    const bool eats = head == food_;
-    if (!onBoard(head) || strikesBody(head, eats)) {
+    if (!onBoard(head) || strikesBody(head)) {
         ended_ = true;
         return Meal::none;
     }
+    const bool eats = head == food_;
     if (!eats) {
         taken_.release(snake_.back());
         snake_.popBack();
@@ -79,9 +79,10 @@ bool Game::onBoard(Cell cell) const {
     return cell.x >= 0 && cell.x < width_ && cell.y >= 0 && cell.y < height_;
 }
 
-bool Game::strikesBody(Cell head, bool eats) const {
-    // The tail leaves its cell in the same step, unless the snake grows.
-    return taken_.taken(head) && (eats || head != snake_.back());
+bool Game::strikesBody(Cell head) const {
+    // The tail leaves its cell in the same step. It stays where the snake grows, but then the head
+    // is on a fruit, and no fruit lies on the snake.
+    return taken_.taken(head) && head != snake_.back();
 }
 
 bool operator==(const Game& left, const Game& right) {

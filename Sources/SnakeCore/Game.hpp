@@ -64,7 +64,7 @@ private:
 
     [[nodiscard]] Meal advance();
     [[nodiscard]] bool onBoard(Cell cell) const;
-    [[nodiscard]] bool strikesBody(Cell head, bool eats) const;
+    [[nodiscard]] bool strikesBody(Cell head) const;
 
     std::int64_t width_;
     std::int64_t height_;
