@@ -1,5 +1,7 @@
 #pragma once
 
+#include <poll.h>
+
 #include <cstdint>
 
 #include "Fernwick/Session/PipedProcess.hpp"
@@ -19,6 +21,12 @@ public:
                   static_cast<void>(!::write(reports, &number, sizeof number));
               });
           }) {}
+
+    /// Whether a number waits to be asked for, or it has ended.
+    [[nodiscard]] bool hasReported() const {
+        pollfd end{readEnd(), POLLIN, 0};
+        return ::poll(&end, 1, 0) > 0;
+    }
 
     /// Waits for the next number it reports; `otherwise` when it ends without one.
     [[nodiscard]] Report nextReport(Report otherwise) const {

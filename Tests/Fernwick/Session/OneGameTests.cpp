@@ -8,9 +8,9 @@
 #include <deque>
 #include <thread>
 
-#include "Fernwick/Session/AsOrdinaryUser.hpp"
 #include "Fernwick/Session/EnvironmentVariable.hpp"
 #include "Fernwick/Session/ForkedProcess.hpp"
+#include "Fernwick/Session/OtherUsers.hpp"
 #include "Fernwick/Session/TemporaryFolder.hpp"
 
 using Place = OneGame::Place;
@@ -172,18 +172,26 @@ TEST_F(OneGameTest, theSameSettingsByAnotherPathAreTheSameGame) {
 }
 
 TEST_F(OneGameTest, aStrangerOnTheAddressStopsNoStart) {
-    if (::geteuid() != 0) {
-        GTEST_SUCCEED() << "only the superuser can play a stranger";
-        return;
-    }
-    const TemporaryFolder folder;
-    const ForkedProcess stranger([this, &folder](const auto& report) {
-        const AsOrdinaryUser other(folder.path());
-        start()(report);
-    });
+    const ForkedProcess stranger(start());
     ASSERT_EQ(placeOf(stranger), Place::first);
+    const OtherUsers all;
 
     EXPECT_EQ(OneGame(settings()).place(), Place::unknown);
+}
+
+TEST_F(OneGameTest, aStrangerWhoCallsIsNotListenedTo) {
+    OneGame first(settings());
+    const QSignalSpy startedAgain(&first, &OneGame::startedAgain);
+    first.answer();
+    const ForkedProcess stranger(start());
+    const OtherUsers all;
+
+    while (!stranger.hasReported()) {
+        QCoreApplication::processEvents();
+    }
+
+    EXPECT_EQ(placeOf(stranger), Place::unknown);
+    EXPECT_EQ(startedAgain.count(), 0);
 }
 
 int main(int argc, char* argv[]) {
