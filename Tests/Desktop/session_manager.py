@@ -14,6 +14,8 @@ import subprocess
 import sys
 from ctypes import CFUNCTYPE, POINTER, byref, c_char_p, c_int, c_ulong, c_void_p
 
+from waiting import PATIENCE
+
 SAVE_BOTH = 2
 SAVE_LOCAL = 1
 INTERACT_NONE = 0
@@ -101,7 +103,7 @@ class SessionManager:
         self._sm.SmsSaveYourselfPhase2(c_void_p(client))
 
     def _save_done(self, client, _, success):
-        self.saved = True
+        self.saved = bool(success)
 
     def _close(self, client, *_):
         self.gone = True
@@ -171,6 +173,9 @@ class SessionManagerProcess:
         """Gives an order and waits until it is carried out."""
         self._process.stdin.write(order + "\n")
         self._process.stdin.flush()
+        # A game that never does its part must not hold up the test for ever.
+        answered, _, _ = select.select([self._process.stdout], [], [], PATIENCE)
+        assert answered, f"{order}: not carried out within {PATIENCE} s"
         assert self._process.stdout.readline() == f"{order} done\n"
 
     def stop(self):
