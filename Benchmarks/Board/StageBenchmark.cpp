@@ -120,8 +120,9 @@ void backdropAndEdge(benchmark::State& state) {
     const QRectF here(frame.topLeft() * scale - place.topLeft(), frame.size() * scale);
     for (auto _ : state) {
         Backdrop backdrop;
-        const QImage& ground = backdrop.image({1920, 1080}, scale, frame);
-        benchmark::DoNotOptimize(FrameEdge(ground, place, FrameShape(here, scale)));
+        backdrop.fit({1920, 1080}, scale, frame);
+        benchmark::DoNotOptimize(backdrop.image(backdrop.bounds()));
+        benchmark::DoNotOptimize(FrameEdge(backdrop, place, FrameShape(here, scale)));
     }
 }
 

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
+#include "MainWindow/Board/WidgetPixels.hpp"
 #include "MainWindow/BoardArea.hpp"
 #include "MainWindow/ControlRow.hpp"
 #include "MainWindow/HeaderRow.hpp"
@@ -35,13 +36,13 @@ ContentView::ContentView(Session& session, QWidget* parent)
 }
 
 void ContentView::paintEvent(QPaintEvent* event) {
-    const QRectF frame = boardArea_->frame().translated(boardArea_->pos());
-    const QImage& garden = backdrop_.image(size(), devicePixelRatioF(), frame);
+    backdrop_.fit(size(), devicePixelRatioF(), boardArea_->frame().translated(boardArea_->pos()));
     QPainter painter(this);
-    const qreal scale = garden.devicePixelRatio();
+    const WidgetPixels pixels(painter, *this);
     for (const QRect& part : event->region()) {
-        painter.drawImage(QRectF(part), garden,
-                          QRectF(QPointF(part.topLeft()) * scale, QSizeF(part.size()) * scale));
+        const QRect area = pixels.of(part);
+        painter.setClipRect(area);
+        backdrop_.paint(painter, area);
     }
     if (!hasAppeared_) {
         hasAppeared_ = true;

@@ -1,17 +1,12 @@
 #include "MainWindow/Board/Backdrop.hpp"
 
 #include <QGuiApplication>
-#include <QPainter>
-#include <QPainterPath>
-#include <QRegion>
 #include <algorithm>
 #include <cmath>
 
 #include "Garden/Palette.hpp"
-#include "MainWindow/Board/FloatPlane.hpp"
-#include "MainWindow/Board/FrameShape.hpp"
 #include "MainWindow/Board/Pixels.hpp"
-#include "MainWindow/Board/Upsampling.hpp"
+#include "MainWindow/Board/RowPainting.hpp"
 
 namespace {
 
@@ -19,141 +14,118 @@ constexpr float lightOpacity = 0.075F;
 /// In points, from the corner of the window that reading begins at.
 constexpr double lightReach = 800;
 
-constexpr float shadowOpacity = 0.25F;
-/// In points: the blur and how far below the frame the shadow lies.
-constexpr double shadowSigma = 25;
-constexpr double shadowDrop = 15;
-
-quint32* pixelsAt(QImage& picture, int x, int y) {
-    return reinterpret_cast<quint32*>(picture.scanLine(y)) + x;
-}
-
-void paintLight(QImage& picture, double scale) {
-    const auto reach = static_cast<float>(lightReach * scale);
-    const int columns = std::min(picture.width(), static_cast<int>(std::ceil(reach)));
-    const int rows = std::min(picture.height(), static_cast<int>(std::ceil(reach)));
-    const int corner = QGuiApplication::isRightToLeft() ? picture.width() : 0;
-    const int left = corner == 0 ? 0 : corner - columns;
-    const Rgb mint = Rgb::of(Garden::mint);
-    for (int y = 0; y < rows; ++y) {
-        const float below = static_cast<float>(y) + 0.5F;
-        Pixels::mixRow(pixelsAt(picture, left, y), columns, Pixels::phase(left, y), mint,
-                       [=](int x) {
-                           const float aside = static_cast<float>(left + x - corner) + 0.5F;
-                           const float distance = std::sqrt(aside * aside + below * below);
-                           return std::max(1 - distance / reach, 0.0F) * lightOpacity;
-                       });
+// Lays the light over `count` pixels from (x, y) on; its corner is at (`corner`, 0).
+void paintLight(quint32* row, int x, int count, int y, int corner, double scale) {
+    const double reach = lightReach * scale;
+    const double below = y + 0.5;
+    if (below >= reach) {
+        return;
     }
-}
-
-// The blurred shape at a coarse scale: a few samples to a sigma hold all there is to it.
-class Shadow {
-public:
-    Shadow(const FrameShape& shape, const QRectF& frame, double scale)
-        : area_(frame.translated(0, shadowDrop * scale)
-                    .marginsAdded(QMarginsF() + shadowExtent * shadowSigma * scale)
-                    .toAlignedRect()),
-          pixelsPerSample_(shadowSigma * scale / samplesPerSigma),
-          plane_(samplesAlong(area_.width()), samplesAlong(area_.height())) {
-        QImage mask(plane_.width, plane_.height, QImage::Format_Alpha8);
-        mask.fill(0);
-        QPainter painter(&mask);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.scale(1 / pixelsPerSample_, 1 / pixelsPerSample_);
-        painter.translate(QPointF(0, shadowDrop * scale) - area_.topLeft());
-        painter.fillPath(shape.path(), Qt::black);
-        painter.end();
-        for (int y = 0; y < plane_.height; ++y) {
-            std::transform(mask.constScanLine(y), mask.constScanLine(y) + plane_.width,
-                           plane_.row(y), [](uchar value) { return value / 255.0F; });
-        }
-        blur(plane_, samplesPerSigma);
-    }
-
-    [[nodiscard]] const QRect& area() const { return area_; }
-
-    void paint(QImage& picture, const QRect& part) const {
-        const double step = 1 / pixelsPerSample_;
-        const SampleAxis columns(area_.width(), plane_.width, step, 0.5 * step - 0.5);
-        const SampleAxis rows(area_.height(), plane_.height, step, 0.5 * step - 0.5);
-        WidenedRows<float> pair(plane_.values.data(), plane_.width, columns,
-                                part.left() - area_.left(), part.width());
-        for (int y = part.top(); y <= part.bottom(); ++y) {
-            const auto [sample, weight] = rows[y - area_.top()];
-            pair.seek(sample);
-            Pixels::mixRow(pixelsAt(picture, part.left(), y), part.width(),
-                           Pixels::phase(part.left(), y), Rgb{},
-                           [upper = pair.upper(), lower = pair.lower(), below = weight](int i) {
-                               return (upper[i] + (lower[i] - upper[i]) * below) * shadowOpacity;
-                           });
-        }
-    }
-
-private:
-    static constexpr double samplesPerSigma = 4;
-    static constexpr double shadowExtent = 3;
-
-    [[nodiscard]] int samplesAlong(int pixels) const {
-        return static_cast<int>(std::ceil(pixels / pixelsPerSample_)) + 1;
-    }
-
-    QRect area_;
-    double pixelsPerSample_;
-    FloatPlane plane_;
-};
-
-void paintFrame(QImage& picture, const FrameShape& shape) {
-    QRegion inside(shape.bounds() & picture.rect());
-    for (const QRect& edge : shape.edges()) {
-        const QRect area = edge & picture.rect();
-        if (area.isEmpty()) {
-            continue;
-        }
-        inside -= area;
-        const QImage fill = shape.fill(area);
-        const QImage stroke = shape.stroke(area);
-        for (int y = 0; y < area.height(); ++y) {
-            quint32* const row = pixelsAt(picture, area.left(), area.top() + y);
-            const quint32 phase = Pixels::phase(area.left(), area.top() + y);
-            const auto lay = [&](const QColor& colour, const uchar* share, float opacity) {
-                Pixels::mixRow(row, area.width(), phase, Rgb::of(colour),
-                               [=](int i) { return static_cast<float>(share[i]) * opacity / 255; });
-            };
-            lay(Garden::soil, fill.constScanLine(y), 1);
-            lay(Garden::mint, stroke.constScanLine(y),
-                static_cast<float>(FrameShape::strokeOpacity));
-        }
-    }
-    for (const QRect& area : inside) {
-        for (int y = area.top(); y <= area.bottom(); ++y) {
-            std::fill_n(pixelsAt(picture, area.left(), y), area.width(), Garden::soil.rgb());
-        }
-    }
+    const int aside = static_cast<int>(std::ceil(std::sqrt(reach * reach - below * below)));
+    const int begin = std::max(x, corner - aside);
+    const int end = std::min(x + count, corner + aside);
+    Pixels::mixRow(row + (begin - x), end - begin, Pixels::phase(begin, y), Rgb::of(Garden::mint),
+                   [first = static_cast<float>(begin - corner) + 0.5F,
+                    square = static_cast<float>(below * below),
+                    perPixel = static_cast<float>(1 / reach)](int i) {
+                       const float across = first + static_cast<float>(i);
+                       const float distance = std::sqrt(across * across + square);
+                       return std::max(1 - distance * perPixel, 0.0F) * lightOpacity;
+                   });
 }
 
 }  // namespace
 
-const QImage& Backdrop::image(const QSize& size, qreal devicePixelRatio, const QRectF& frame) {
-    if (size == size_ && devicePixelRatio == devicePixelRatio_ && frame == frame_) {
-        return image_;
+/// The rows of one rectangle, from top to bottom.
+class Backdrop::Rows {
+public:
+    Rows(const Backdrop& ground, const QRect& area) : ground_(ground) {
+        if (ground.shadow_) {
+            shaded_ = ground.shadow_->area() & area;
+            shadow_.emplace(*ground.shadow_, shaded_.left(), std::max(shaded_.width(), 0));
+        }
     }
+
+    void compose(quint32* row, int x, int count, int y) {
+        std::fill_n(row, count, Garden::night.rgb());
+        const int corner = QGuiApplication::isRightToLeft() ? ground_.bounds_.width() : 0;
+        paintLight(row, x, count, y, corner, ground_.scale_);
+        if (!shaded_.isEmpty() && y >= shaded_.top() && y <= shaded_.bottom()) {
+            shadow_->paint(row + (shaded_.left() - x), y);
+        }
+        const QRect line(x, y, count, 1);
+        for (const QRect& inside : ground_.inside_) {
+            const QRect part = inside & line;
+            std::fill_n(row + (part.left() - x), std::max(part.width(), 0), Garden::soil.rgb());
+        }
+        for (const Edge& edge : ground_.edges_) {
+            const QRect part = edge.area & line;
+            if (!part.isEmpty()) {
+                paintEdge(row + (part.left() - x), part, edge);
+            }
+        }
+    }
+
+private:
+    static void paintEdge(quint32* row, const QRect& part, const Edge& edge) {
+        const QPoint place = part.topLeft() - edge.area.topLeft();
+        const auto lay = [&](const QColor& colour, const QImage& shares, float opacity) {
+            const uchar* const share = shares.constScanLine(place.y()) + place.x();
+            Pixels::mixRow(row, part.width(), Pixels::phase(part.left(), part.top()),
+                           Rgb::of(colour),
+                           [=](int i) { return static_cast<float>(share[i]) * opacity / 255; });
+        };
+        lay(Garden::soil, edge.fill, 1);
+        lay(Garden::mint, edge.stroke, static_cast<float>(FrameShape::strokeOpacity));
+    }
+
+    const Backdrop& ground_;
+    QRect shaded_;
+    std::optional<FrameShadow::Rows> shadow_;
+};
+
+void Backdrop::fit(const QSize& size, qreal devicePixelRatio, const QRectF& frame) {
+    if (size == size_ && devicePixelRatio == scale_ && frame == frame_) {
+        return;
+    }
+    ++revision_;
     size_ = size;
-    devicePixelRatio_ = devicePixelRatio;
+    scale_ = devicePixelRatio;
     frame_ = frame;
     const QSizeF pixels = QSizeF(size) * devicePixelRatio;
-    image_ = QImage(static_cast<int>(std::ceil(pixels.width())),
-                    static_cast<int>(std::ceil(pixels.height())), QImage::Format_RGB32);
-    image_.fill(Garden::night.rgb());
-    paintLight(image_, devicePixelRatio);
-    const QRectF place(frame.topLeft() * devicePixelRatio, frame.size() * devicePixelRatio);
-    if (!place.isEmpty()) {
-        const FrameShape shape(place, devicePixelRatio);
-        const Shadow shadow(shape, place, devicePixelRatio);
-        for (const QRect& part : QRegion(shadow.area() & image_.rect()) - shape.inside()) {
-            shadow.paint(image_, part);
-        }
-        paintFrame(image_, shape);
+    bounds_ = {0, 0, static_cast<int>(std::ceil(pixels.width())),
+               static_cast<int>(std::ceil(pixels.height()))};
+    placeFrame();
+}
+
+void Backdrop::placeFrame() {
+    shadow_.reset();
+    edges_.clear();
+    inside_ = {};
+    const QRectF place(frame_.topLeft() * scale_, frame_.size() * scale_);
+    if (place.isEmpty()) {
+        return;
     }
-    image_.setDevicePixelRatio(devicePixelRatio);
-    return image_;
+    const FrameShape shape(place, scale_);
+    shadow_.emplace(shape, place, scale_);
+    inside_ = shape.bounds();
+    for (const QRect& area : shape.edges()) {
+        inside_ -= area;
+        edges_.push_back({area, shape.fill(area), shape.stroke(area)});
+    }
+}
+
+void Backdrop::paint(QPainter& painter, const QRect& area) const {
+    QImage buffer(area.width(), std::min(area.height(), RowPainting::rowsAtOnce),
+                  QImage::Format_RGB32);
+    Rows rows(*this, area);
+    RowPainting::paint(painter, area, buffer, [&](quint32* row, int x, int count, int y) {
+        rows.compose(row, x, count, y);
+    });
+}
+
+QImage Backdrop::image(const QRect& area) const {
+    Rows rows(*this, area);
+    return RowPainting::image(
+        area, [&](quint32* row, int x, int count, int y) { rows.compose(row, x, count, y); });
 }

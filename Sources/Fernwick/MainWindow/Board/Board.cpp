@@ -2,13 +2,13 @@
 
 #include <QPaintEvent>
 #include <QPainter>
-#include <cmath>
 
 #include "Garden/NumberText.hpp"
 #include "Garden/Palette.hpp"
 #include "MainWindow/Board/Backdrop.hpp"
 #include "MainWindow/Board/BoardAccessible.hpp"
 #include "MainWindow/Board/IdlePicture.hpp"
+#include "MainWindow/Board/WidgetPixels.hpp"
 
 namespace {
 
@@ -67,18 +67,10 @@ void Board::paintEvent(QPaintEvent* event) {
     prepareEdge();
     preparePicture();
     QPainter painter(this);
-    // From here on in whole pixels of the window, whatever its scale.
-    const QTransform toDevice = painter.deviceTransform();
-    const double scale = devicePixelRatioF();
-    const QPointF corner = QPointF(mapTo(window(), QPoint())) * scale;
-    const QPointF begin = toDevice.map(QPointF()) - corner + pixelsInWindow().topLeft();
-    painter.setTransform(QTransform::fromTranslate(std::round(begin.x()), std::round(begin.y())) *
-                         toDevice.inverted());
-    const QRect all(QPoint(), picture_->grid().size);
+    const WidgetPixels pixels(painter, *this);
     const QColor scrim = Garden::withOpacity(Qt::black, scrim_);
-    const QTransform toPicture = toDevice * QTransform::fromTranslate(-begin.x(), -begin.y());
     for (const QRect& part : event->region()) {
-        const QRect area = toPicture.mapRect(QRectF(part)).toAlignedRect() & all;
+        const QRect area = pixels.of(part);
         // The painter's clip is the whole region; copying is fastest within a clip of one
         // rectangle.
         painter.setClipRect(area);
@@ -100,16 +92,10 @@ BoardGeometry Board::geometryInWindow() const {
     return geometry;
 }
 
-QRect Board::pixelsInWindow() const {
-    const double scale = devicePixelRatioF();
-    const QPointF corner = QPointF(mapTo(window(), QPoint())) * scale;
-    return QRectF(corner, QSizeF(size()) * scale).toAlignedRect();
-}
-
 PixelGrid Board::grid() const {
     const BoardGeometry geometry = geometryInWindow();
     const double scale = devicePixelRatioF();
-    const QRect pixels = pixelsInWindow();
+    const QRect pixels = WidgetPixels::inWindow(*this);
     return {pixels.size(),
             geometry.frame.topLeft() * scale - pixels.topLeft(),
             geometry.cell * scale,
@@ -120,7 +106,7 @@ PixelGrid Board::grid() const {
 
 QRegion Board::toPoints(const QRegion& pixels) const {
     const double scale = devicePixelRatioF();
-    const QPoint first = pixelsInWindow().topLeft();
+    const QPoint first = WidgetPixels::inWindow(*this).topLeft();
     const QPoint here = mapTo(window(), QPoint());
     QRegion points;
     for (const QRect& part : pixels) {
@@ -135,12 +121,12 @@ QRegion Board::toPoints(const QRegion& pixels) const {
 void Board::prepareEdge() {
     const double scale = devicePixelRatioF();
     const QRectF frame = geometryInWindow().frame;
-    const QImage& ground = backdrop_.image(window()->size(), scale, frame);
-    const QRect place = pixelsInWindow();
-    if (ground.cacheKey() != edgeGround_ || place != edgePlace_) {
+    backdrop_.fit(window()->size(), scale, frame);
+    const QRect place = WidgetPixels::inWindow(*this);
+    if (backdrop_.revision() != edgeGround_ || place != edgePlace_) {
         const QRectF here(frame.topLeft() * scale - place.topLeft(), frame.size() * scale);
-        edge_ = FrameEdge(ground, place, FrameShape(here, scale));
-        edgeGround_ = ground.cacheKey();
+        edge_ = FrameEdge(backdrop_, place, FrameShape(here, scale));
+        edgeGround_ = backdrop_.revision();
         edgePlace_ = place;
     }
 }

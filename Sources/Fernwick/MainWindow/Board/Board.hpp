@@ -37,7 +37,6 @@ protected:
 
 private:
     [[nodiscard]] BoardGeometry geometryInWindow() const;
-    [[nodiscard]] QRect pixelsInWindow() const;
     [[nodiscard]] PixelGrid grid() const;
     [[nodiscard]] QRegion toPoints(const QRegion& pixels) const;
     void prepareEdge();
@@ -53,6 +52,6 @@ private:
     QImage idlePicture_;
     FrameEdge edge_;
     // What the edge was made for: a state of the ground and the place of the board in it.
-    qint64 edgeGround_ = 0;
+    int edgeGround_ = 0;
     QRect edgePlace_;
 };

@@ -5,21 +5,11 @@
 
 #include "Garden/Palette.hpp"
 #include "MainWindow/Board/BandShape.hpp"
-
-namespace {
-
-// So few that they stay in a processor's cache until they are copied to the screen.
-constexpr int composedRows = 16;
-
-quint32* pixelsOf(QImage& picture, int x, int y) {
-    return reinterpret_cast<quint32*>(picture.scanLine(y)) + x;
-}
-
-}  // namespace
+#include "MainWindow/Board/RowPainting.hpp"
 
 BoardPicture::BoardPicture(const PixelGrid& grid)
     : grid_(grid),
-      composed_(grid.size.width(), composedRows, QImage::Format_RGB32),
+      composed_(grid.size.width(), RowPainting::rowsAtOnce, QImage::Format_RGB32),
       ground_(grid.size, QImage::Format_RGB32),
       dots_(grid),
       glow_(grid),
@@ -49,22 +39,15 @@ QRegion BoardPicture::show(const SnakeCore::Game& game) {
 }
 
 void BoardPicture::paint(QPainter& painter, const QRect& area) {
-    const int rows = composed_.height();
-    for (int top = area.top(); top <= area.bottom(); top += rows) {
-        const int count = std::min(rows, area.bottom() + 1 - top);
-        for (int row = 0; row < count; ++row) {
-            composeRow(pixelsOf(composed_, 0, row), area.left(), area.width(), top + row);
-        }
-        painter.drawImage(QPoint(area.left(), top), composed_, QRect(0, 0, area.width(), count));
-    }
+    RowPainting::paint(painter, area, composed_, [this](quint32* row, int x, int count, int y) {
+        composeRow(row, x, count, y);
+    });
 }
 
 QImage BoardPicture::image() const {
-    QImage whole(grid_.size, QImage::Format_RGB32);
-    for (int y = 0; y < whole.height(); ++y) {
-        composeRow(pixelsOf(whole, 0, y), 0, whole.width(), y);
-    }
-    return whole;
+    return RowPainting::image(ground_.rect(), [this](quint32* row, int x, int count, int y) {
+        composeRow(row, x, count, y);
+    });
 }
 
 void BoardPicture::placeFruit(const SnakeCore::Cell& cell, QRegion& changed) {
@@ -95,7 +78,8 @@ void BoardPicture::placeBand(const SnakeCore::Game& game, QRegion& changed) {
 
 void BoardPicture::paintGround(const QRect& area) {
     for (int y = area.top(); y <= area.bottom(); ++y) {
-        std::fill_n(pixelsOf(ground_, area.left(), y), area.width(), Garden::soil.rgb());
+        std::fill_n(RowPainting::pixelsOf(ground_, area.left(), y), area.width(),
+                    Garden::soil.rgb());
     }
     dots_.paint(ground_, area);
     fruit_->paint(ground_, area);

@@ -19,20 +19,18 @@ quint32 withoutFill(quint32 ground, double share) {
     return alpha << 24U | red << 16U | green << 8U | blue;
 }
 
-QImage stripImage(const QImage& ground, const QPoint& offset, const QRect& area,
-                  const FrameShape& shape) {
+// `behind` is the ground of `area`.
+QImage stripImage(const QImage& behind, const QRect& area, const FrameShape& shape) {
     const QImage fill = shape.fill(area);
     const QImage stroke = shape.stroke(area);
     QImage image(area.size(), QImage::Format_ARGB32_Premultiplied);
     for (int y = 0; y < area.height(); ++y) {
         auto* const pixels = reinterpret_cast<quint32*>(image.scanLine(y));
-        const auto* const behind =
-            reinterpret_cast<const quint32*>(ground.constScanLine(area.top() + y + offset.y())) +
-            area.left() + offset.x();
+        const auto* const ground = reinterpret_cast<const quint32*>(behind.constScanLine(y));
         for (int x = 0; x < area.width(); ++x) {
             const double stroked = stroke.constScanLine(y)[x] / 255.0 * FrameShape::strokeOpacity;
             const double share = fill.constScanLine(y)[x] / 255.0 * (1 - stroked);
-            pixels[x] = withoutFill(behind[x], share);
+            pixels[x] = withoutFill(ground[x], share);
         }
     }
     return image;
@@ -40,12 +38,13 @@ QImage stripImage(const QImage& ground, const QPoint& offset, const QRect& area,
 
 }  // namespace
 
-FrameEdge::FrameEdge(const QImage& ground, const QRect& place, const FrameShape& shape) {
-    const QRect known = (place & ground.rect()).translated(-place.topLeft());
+FrameEdge::FrameEdge(const Backdrop& ground, const QRect& place, const FrameShape& shape) {
+    const QRect known = (place & ground.bounds()).translated(-place.topLeft());
     for (const QRect& edge : shape.edges()) {
         const QRect area = edge & known;
         if (!area.isEmpty()) {
-            strips_.push_back({area.topLeft(), stripImage(ground, place.topLeft(), area, shape)});
+            const QImage behind = ground.image(area.translated(place.topLeft()));
+            strips_.push_back({area.topLeft(), stripImage(behind, area, shape)});
         }
     }
 }

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <vector>
 
+#include "MainWindow/Board/Backdrop.hpp"
 #include "MainWindow/Board/FrameShape.hpp"
 
 /// What lies over the board's picture along its edge: the ground outside the rounded corners and
@@ -13,9 +14,9 @@ class FrameEdge {
 public:
     FrameEdge() = default;
 
-    /// `ground` is the window's still ground, with the frame's fill and stroke in it; `place` is
-    /// the part of it behind the board, and `shape` the frame counted from the corner of `place`.
-    FrameEdge(const QImage& ground, const QRect& place, const FrameShape& shape);
+    /// `place` is the part of the window's ground behind the board, in pixels, and `shape` the
+    /// ground's frame counted from the corner of `place`.
+    FrameEdge(const Backdrop& ground, const QRect& place, const FrameShape& shape);
 
     /// Lays what lies inside `area` over the picture that `painter` has painted, in its pixels.
     void paint(QPainter& painter, const QRect& area) const;

@@ -11,6 +11,12 @@ namespace {
 constexpr QSize window(1400, 900);
 constexpr QRectF frame(500.5, 200, 560, 440);
 
+QImage groundOf(const QSize& size, double scale, const QRectF& board) {
+    Backdrop backdrop;
+    backdrop.fit(size, scale, board);
+    return backdrop.image(backdrop.bounds());
+}
+
 // The mean of a channel over a square, which the rounding pattern does not disturb.
 double meanAround(const QImage& picture, int x, int y, int shift) {
     constexpr int reach = 8;
@@ -37,17 +43,13 @@ void expectLitNight(const QImage& picture, int x, int y, double scale) {
 }
 
 TEST(Backdrop, isAsManyPixelsAsTheWindowHas) {
-    Backdrop backdrop;
-
-    EXPECT_EQ(backdrop.image({101, 51}, 1.5, {}).size(), QSize(152, 77));
-    EXPECT_EQ(backdrop.image({101, 51}, 2, {}).size(), QSize(202, 102));
-    EXPECT_DOUBLE_EQ(backdrop.image({101, 51}, 2, {}).devicePixelRatio(), 2);
+    EXPECT_EQ(groundOf({101, 51}, 1.5, {}).size(), QSize(152, 77));
+    EXPECT_EQ(groundOf({101, 51}, 2, {}).size(), QSize(202, 102));
 }
 
 TEST(Backdrop, isNightWithMintLightFadingFromTheCorner) {
-    Backdrop backdrop;
     for (const double scale : {1.0, 2.0}) {
-        const QImage& picture = backdrop.image(window, scale, frame);
+        const QImage picture = groundOf(window, scale, frame);
 
         for (const QPoint& place : {QPoint(8, 8), QPoint(100, 300), QPoint(350, 40),
                                     QPoint(300, 700), QPoint(790, 60), QPoint(1380, 30)}) {
@@ -58,8 +60,7 @@ TEST(Backdrop, isNightWithMintLightFadingFromTheCorner) {
 }
 
 TEST(Backdrop, mixesNeighbouringValuesWhereTheLightChangesSlowly) {
-    Backdrop backdrop;
-    const QImage& picture = backdrop.image(window, 1, frame);
+    const QImage picture = groundOf(window, 1, frame);
 
     int longestRun = 0;
     int run = 0;
@@ -72,8 +73,7 @@ TEST(Backdrop, mixesNeighbouringValuesWhereTheLightChangesSlowly) {
 }
 
 TEST(Backdrop, fillsTheFrameWithPlainSoil) {
-    Backdrop backdrop;
-    const QImage& picture = backdrop.image(window, 1, frame);
+    const QImage picture = groundOf(window, 1, frame);
 
     for (const QPoint& place : {QPoint(510, 240), QPoint(780, 420), QPoint(1050, 620)}) {
         EXPECT_EQ(picture.pixel(place), qRgb(14, 24, 19));
@@ -81,8 +81,7 @@ TEST(Backdrop, fillsTheFrameWithPlainSoil) {
 }
 
 TEST(Backdrop, strokesTheEdgeAcrossTheFramesOutline) {
-    Backdrop backdrop;
-    const QImage& picture = backdrop.image(window, 1, frame);
+    const QImage picture = groundOf(window, 1, frame);
 
     // The left edge runs through the middle of a column of pixels: the stroke is that column.
     EXPECT_NEAR(channelOf(picture, 500, 420, 8), (24 + 12.5) / 2 * 0.84 + 240 * 0.16, 3);
@@ -94,8 +93,7 @@ TEST(Backdrop, strokesTheEdgeAcrossTheFramesOutline) {
 }
 
 TEST(Backdrop, roundsTheFramesCornersBy22) {
-    Backdrop backdrop;
-    const QImage& picture = backdrop.image(window, 1, frame);
+    const QImage picture = groundOf(window, 1, frame);
     const auto onDiagonal = [&](int step) { return picture.pixel(501 + step, 200 + step); };
 
     int brightest = 0;
@@ -112,9 +110,8 @@ TEST(Backdrop, roundsTheFramesCornersBy22) {
 }
 
 TEST(Backdrop, throwsTheFramesShadowDownwards) {
-    Backdrop backdrop;
-    const QImage& picture = backdrop.image(window, 1, frame);
-    const QImage bare = Backdrop().image(window, 1, {});
+    const QImage picture = groundOf(window, 1, frame);
+    const QImage bare = groundOf(window, 1, {});
     const auto shade = [&](int x, int y) {
         return 1 - meanAround(picture, x, y, 8) / meanAround(bare, x, y, 8);
     };
@@ -129,13 +126,34 @@ TEST(Backdrop, throwsTheFramesShadowDownwards) {
     EXPECT_NEAR(shade(500 - 25, 430), 0.25 * 0.5 * std::erfc(1 / std::sqrt(2.0)), 0.02);
 }
 
-TEST(Backdrop, isPaintedAnewOnlyWhenThePlaceChanges) {
+TEST(Backdrop, changesOnlyWithThePlaceOfWhatItLiesBehind) {
     Backdrop backdrop;
-    const qint64 first = backdrop.image(window, 1, frame).cacheKey();
+    backdrop.fit(window, 1, frame);
+    const int first = backdrop.revision();
 
-    EXPECT_EQ(backdrop.image(window, 1, frame).cacheKey(), first);
-    EXPECT_NE(backdrop.image(window, 1, frame.translated(1, 0)).cacheKey(), first);
-    EXPECT_EQ(backdrop.image({800, 600}, 1, frame).size(), QSize(800, 600));
+    backdrop.fit(window, 1, frame);
+    EXPECT_EQ(backdrop.revision(), first);
+    backdrop.fit(window, 1, frame.translated(1, 0));
+    const int moved = backdrop.revision();
+    EXPECT_NE(moved, first);
+    backdrop.fit({800, 600}, 1, frame.translated(1, 0));
+    EXPECT_NE(backdrop.revision(), moved);
+    EXPECT_EQ(backdrop.bounds(), QRect(0, 0, 800, 600));
+}
+
+TEST(Backdrop, isTheSameWhateverTheAreasItIsPaintedBy) {
+    Backdrop backdrop;
+    backdrop.fit(window, 1, frame);
+    QImage inPieces(window, QImage::Format_RGB32);
+    QPainter painter(&inPieces);
+    for (int y = 0; y < window.height(); y += 93) {
+        for (int x = 0; x < window.width(); x += 131) {
+            backdrop.paint(painter, QRect(x, y, 131, 93) & backdrop.bounds());
+        }
+    }
+    painter.end();
+
+    EXPECT_EQ(inPieces, backdrop.image(backdrop.bounds()));
 }
 
 }  // namespace

@@ -57,7 +57,12 @@ public:
         return screen()->grabWindow(winId()).toImage().convertToFormat(QImage::Format_RGB32);
     }
 
-    [[nodiscard]] QImage ground() { return backdrop_.image(size(), devicePixelRatioF(), frame()); }
+    [[nodiscard]] QImage ground() {
+        backdrop_.fit(size(), devicePixelRatioF(), frame());
+        QImage ground = backdrop_.image(backdrop_.bounds());
+        ground.setDevicePixelRatio(devicePixelRatioF());
+        return ground;
+    }
 
 protected:
     bool eventFilter(QObject*, QEvent* event) override {
