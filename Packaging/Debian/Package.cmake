@@ -21,10 +21,11 @@ longer. Three speeds, each with a personal best and a top ten of its own.
 The game opens in full screen and is played by keyboard alone, on X11 or
 Wayland, on any keyboard layout. It reads itself out to screen readers, keeps
 still where the desktop asks for it, and uses no network.")
-# What the program is linked with is found by its symbols. What it only looks for when it runs:
-# the plugin for Wayland desktops and a sound server, a screen reader's bus, letters of scripts that
-# its own fonts lack.
+# What the program is linked with is found by its symbols; the sound server's library is loaded when
+# it runs. What it only looks for: the plugin for Wayland desktops and a sound server, a screen
+# reader's bus, letters of scripts that its own fonts lack.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "libpulse0")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, pipewire-pulse | pulseaudio")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "at-spi2-core, fonts-noto-core, fonts-noto-cjk")
 

@@ -5,6 +5,7 @@
 #include "MainWindow/ApplicationStyle.hpp"
 #include "MainWindow/BusActivation.hpp"
 #include "MainWindow/FernwickApp.hpp"
+#include "MainWindow/FreeMemory.hpp"
 #include "MainWindow/Language.hpp"
 #include "MainWindow/SessionBus.hpp"
 #include "MainWindow/SessionManagement.hpp"
@@ -45,6 +46,7 @@ int main(int, char* argv[]) {
         soundEffects.prepare();
         new BusActivation(QDBusConnection::sessionBus(), &fernwick,
                           [&fernwick](const QByteArray& token) { fernwick.bringForward(token); });
+        giveBackFreeMemory();
     });
     QObject::connect(&oneGame, &OneGame::startedAgain, &fernwick, &FernwickApp::bringForward);
     QObject::connect(&application, &QApplication::aboutToQuit, &oneGame, &OneGame::leave);

@@ -1,7 +1,9 @@
 #include "MainWindow/ApplicationStyle.hpp"
 
 #include <QApplication>
+#include <QIconEngine>
 #include <QPalette>
+#include <QProxyStyle>
 #include <QToolTip>
 
 #include "Garden/Fonts.hpp"
@@ -12,6 +14,42 @@ namespace {
 constexpr double fontSize = 13;
 constexpr double toolTipFontSize = 12;
 constexpr double disabledOpacity = 0.45;
+
+constexpr auto ourStyle = "Fusion";
+
+/// One of the style's own icons, loaded when it is to be seen. The first one loads the toolkit's
+/// picture formats, which nothing else here needs.
+class LateIcon : public QIconEngine {
+public:
+    explicit LateIcon(QStyle::StandardPixmap which) : which_(which) {}
+
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode,
+               QIcon::State state) override {
+        icon().paint(painter, rect, Qt::AlignCenter, mode, state);
+    }
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        return icon().pixmap(size, mode, state);
+    }
+    [[nodiscard]] QIconEngine* clone() const override { return new LateIcon(which_); }
+
+private:
+    [[nodiscard]] QIcon icon() const { return QProxyStyle(ourStyle).standardIcon(which_); }
+
+    QStyle::StandardPixmap which_;
+};
+
+class GardenStyle : public QProxyStyle {
+public:
+    GardenStyle() : QProxyStyle(ourStyle) {}
+
+    [[nodiscard]] QIcon standardIcon(StandardPixmap which, const QStyleOption* option,
+                                     const QWidget* widget) const override {
+        // Every menu bar asks for it in advance, for the case that its titles find no room.
+        return which == SP_ToolBarHorizontalExtensionButton
+                   ? QIcon(new LateIcon(which))
+                   : QProxyStyle::standardIcon(which, option, widget);
+    }
+};
 
 QPalette gardenPalette() {
     QPalette colours(Garden::primaryText, Garden::night);
@@ -33,7 +71,7 @@ QPalette gardenPalette() {
 
 void applyGardenStyle() {
     // One style everywhere: a desktop's own would bring its light controls into the night.
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(new GardenStyle);
     const QPalette colours = gardenPalette();
     QApplication::setPalette(colours);
     QApplication::setFont(Garden::sans(fontSize, QFont::Normal));

@@ -33,7 +33,6 @@ GameWindow::GameWindow(Session& session)
     setObjectName(QStringLiteral("main"));
     //: The name of the game. Stays as it is in every language.
     setWindowTitle(tr("Fernwick"));
-    setWindowIcon(Garden::applicationIcon());
     setMinimumSize(smallestSize);
     resize(defaultSize);
     // The content paints every pixel.
@@ -49,6 +48,9 @@ GameWindow::GameWindow(Session& session)
     new WindowChrome(*this, MenuBand::height);
     band_->watchWindow();
     connect(content_, &ContentView::appeared, this, &GameWindow::appeared, Qt::QueuedConnection);
+    // Drawn at eight sizes, which takes longer than a frame.
+    connect(this, &GameWindow::appeared, this,
+            [this] { setWindowIcon(Garden::applicationIcon()); });
 }
 
 bool GameWindow::coversScreen() const {

@@ -1,19 +1,14 @@
 #include "Session/PulsePlayer.hpp"
 
-#include <pulse/context.h>
-#include <pulse/error.h>
-#include <pulse/proplist.h>
-#include <pulse/scache.h>
-#include <pulse/stream.h>
-
 #include <memory>
 #include <utility>
 
+#include "Session/PulseLibrary.hpp"
 #include "Session/SoundWave.hpp"
 
 namespace {
 
-using Proplist = std::unique_ptr<pa_proplist, decltype(&pa_proplist_free)>;
+using Proplist = std::unique_ptr<pa_proplist, decltype(PulseLibrary::proplist_free)>;
 
 /// Beyond this, sound and picture fall apart.
 constexpr std::chrono::milliseconds patience{150};
@@ -37,17 +32,17 @@ const char* titleOf(SoundEffect effect) {
 
 /// What mixers and the server's own rules know us by.
 Proplist clientProperties() {
-    Proplist list(pa_proplist_new(), pa_proplist_free);
-    pa_proplist_sets(list.get(), PA_PROP_APPLICATION_NAME, "Fernwick");
-    pa_proplist_sets(list.get(), PA_PROP_APPLICATION_ID, "fernwick");
-    pa_proplist_sets(list.get(), PA_PROP_APPLICATION_ICON_NAME, "fernwick");
+    Proplist list(pulse().proplist_new(), pulse().proplist_free);
+    pulse().proplist_sets(list.get(), PA_PROP_APPLICATION_NAME, "Fernwick");
+    pulse().proplist_sets(list.get(), PA_PROP_APPLICATION_ID, "fernwick");
+    pulse().proplist_sets(list.get(), PA_PROP_APPLICATION_ICON_NAME, "fernwick");
     return list;
 }
 
 Proplist sampleProperties(SoundEffect effect) {
-    Proplist list(pa_proplist_new(), pa_proplist_free);
-    pa_proplist_sets(list.get(), PA_PROP_MEDIA_NAME, titleOf(effect));
-    pa_proplist_sets(list.get(), PA_PROP_MEDIA_ROLE, "game");
+    Proplist list(pulse().proplist_new(), pulse().proplist_free);
+    pulse().proplist_sets(list.get(), PA_PROP_MEDIA_NAME, titleOf(effect));
+    pulse().proplist_sets(list.get(), PA_PROP_MEDIA_ROLE, "game");
     return list;
 }
 
@@ -61,7 +56,7 @@ PulsePlayer::PulsePlayer(pa_mainloop_api& loop)
 void PulsePlayer::prepare() {
     if (context_ == nullptr) {
         connect();
-    } else if (pa_context_get_state(context_) == PA_CONTEXT_READY) {
+    } else if (pulse().context_get_state(context_) == PA_CONTEXT_READY) {
         uploadMissing();
     }
 }
@@ -77,14 +72,15 @@ void PulsePlayer::play(SoundEffect effect, Clock::time_point asked) {
 }
 
 void PulsePlayer::connect() {
-    context_ = pa_context_new_with_proplist(&loop_, nullptr, clientProperties().get());
+    context_ = pulse().context_new_with_proplist(&loop_, nullptr, clientProperties().get());
     if (context_ == nullptr) {
         return;
     }
-    pa_context_set_state_callback(context_, contextChanged, this);
+    pulse().context_set_state_callback(context_, contextChanged, this);
     // A game has no business starting sound servers; a failure may come back at once, through
     // the callback as well.
-    const bool begun = pa_context_connect(context_, nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) >= 0;
+    const bool begun =
+        pulse().context_connect(context_, nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) >= 0;
     if (!begun) {
         disconnect();
     }
@@ -98,15 +94,15 @@ void PulsePlayer::disconnect() {
     waiting_.clear();
     unanswered_ = 0;
     if (pa_context* context = std::exchange(context_, nullptr)) {
-        pa_context_set_state_callback(context, nullptr, nullptr);
-        pa_context_disconnect(context);
-        pa_context_unref(context);
+        pulse().context_set_state_callback(context, nullptr, nullptr);
+        pulse().context_disconnect(context);
+        pulse().context_unref(context);
     }
 }
 
 void PulsePlayer::contextChanged(pa_context* context, void* player) {
     auto& self = *static_cast<PulsePlayer*>(player);
-    const pa_context_state_t state = pa_context_get_state(context);
+    const pa_context_state_t state = pulse().context_get_state(context);
     if (state == PA_CONTEXT_READY) {
         self.uploadMissing();
     } else if (!PA_CONTEXT_IS_GOOD(state)) {
@@ -126,24 +122,25 @@ void PulsePlayer::upload(Sample& sample) {
     constexpr pa_sample_spec format{
         .format = PA_SAMPLE_S16NE, .rate = soundWaveRate, .channels = 1};
     sample.wave = soundWave(sample.effect);
-    sample.upload = pa_stream_new_with_proplist(context_, nameOf(sample.effect), &format, nullptr,
-                                                sampleProperties(sample.effect).get());
+    sample.upload = pulse().stream_new_with_proplist(
+        context_, nameOf(sample.effect), &format, nullptr, sampleProperties(sample.effect).get());
     if (sample.upload == nullptr) {
         return;
     }
-    pa_stream_set_state_callback(sample.upload, uploadChanged, &sample);
-    if (pa_stream_connect_upload(sample.upload, sizeOf(sample.wave)) < 0) {
+    pulse().stream_set_state_callback(sample.upload, uploadChanged, &sample);
+    if (pulse().stream_connect_upload(sample.upload, sizeOf(sample.wave)) < 0) {
         releaseUpload(sample);
     }
 }
 
 void PulsePlayer::uploadChanged(pa_stream* stream, void* data) {
     auto& sample = *static_cast<Sample*>(data);
-    const pa_stream_state_t state = pa_stream_get_state(stream);
+    const pa_stream_state_t state = pulse().stream_get_state(stream);
     if (state == PA_STREAM_READY) {
-        const bool handedOver = pa_stream_write(stream, sample.wave.data(), sizeOf(sample.wave),
-                                                nullptr, 0, PA_SEEK_RELATIVE) >= 0 &&
-                                pa_stream_finish_upload(stream) >= 0;
+        const bool handedOver =
+            pulse().stream_write(stream, sample.wave.data(), sizeOf(sample.wave), nullptr, 0,
+                                 PA_SEEK_RELATIVE) >= 0 &&
+            pulse().stream_finish_upload(stream) >= 0;
         if (!handedOver) {
             sample.player->releaseUpload(sample);
         }
@@ -157,8 +154,8 @@ void PulsePlayer::uploadChanged(pa_stream* stream, void* data) {
 void PulsePlayer::releaseUpload(Sample& sample) {
     sample.wave = {};
     if (pa_stream* stream = std::exchange(sample.upload, nullptr)) {
-        pa_stream_set_state_callback(stream, nullptr, nullptr);
-        pa_stream_unref(stream);
+        pulse().stream_set_state_callback(stream, nullptr, nullptr);
+        pulse().stream_unref(stream);
     }
 }
 
@@ -180,12 +177,12 @@ void PulsePlayer::start(SoundEffect effect) {
     if (unanswered_ > 0 && isLate(lastAnswer_)) {
         return;
     }
-    pa_operation* operation = pa_context_play_sample(context_, nameOf(effect), nullptr,
-                                                     PA_VOLUME_INVALID, playAnswered, this);
+    pa_operation* operation = pulse().context_play_sample(context_, nameOf(effect), nullptr,
+                                                          PA_VOLUME_INVALID, playAnswered, this);
     if (operation == nullptr) {
         return;
     }
-    pa_operation_unref(operation);
+    pulse().operation_unref(operation);
     if (unanswered_++ == 0) {
         lastAnswer_ = Clock::now();
     }
@@ -198,7 +195,7 @@ void PulsePlayer::playAnswered(pa_context* context, int success, void* player) {
     if (success != 0) {
         return;
     }
-    if (pa_context_errno(context) == PA_ERR_TIMEOUT) {
+    if (pulse().context_errno(context) == PA_ERR_TIMEOUT) {
         self.disconnect();
         return;
     }

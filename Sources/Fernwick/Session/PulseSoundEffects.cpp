@@ -1,7 +1,6 @@
 #include "Session/PulseSoundEffects.hpp"
 
 #include <fcntl.h>
-#include <pulse/thread-mainloop.h>
 #include <unistd.h>
 
 #include <QByteArray>
@@ -11,6 +10,7 @@
 #include <type_traits>
 
 #include "Session/FileDescriptor.hpp"
+#include "Session/PulseLibrary.hpp"
 #include "Session/PulsePlayer.hpp"
 
 namespace {
@@ -66,19 +66,19 @@ private:
 
 std::unique_ptr<PulseSoundEffects::Loop> PulseSoundEffects::Loop::start() {
     std::array<int, 2> ends{};
-    if (::pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK) != 0) {
+    if (PulseLibrary::load() == nullptr || ::pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK) != 0) {
         return nullptr;
     }
     FileDescriptor receiver(ends[0]);
     FileDescriptor sender(ends[1]);
-    pa_threaded_mainloop* thread = pa_threaded_mainloop_new();
+    pa_threaded_mainloop* thread = pulse().threaded_mainloop_new();
     if (thread == nullptr) {
         return nullptr;
     }
     // Owns the thread from here on, and frees it if it does not start.
     std::unique_ptr<Loop> loop(new Loop(thread, std::move(receiver), std::move(sender)));
-    pa_threaded_mainloop_set_name(thread, "sounds");
-    return pa_threaded_mainloop_start(thread) == 0 ? std::move(loop) : nullptr;
+    pulse().threaded_mainloop_set_name(thread, "sounds");
+    return pulse().threaded_mainloop_start(thread) == 0 ? std::move(loop) : nullptr;
 }
 
 PulseSoundEffects::Loop::Loop(pa_threaded_mainloop* thread, FileDescriptor receiver,
@@ -86,16 +86,16 @@ PulseSoundEffects::Loop::Loop(pa_threaded_mainloop* thread, FileDescriptor recei
     : thread_(thread),
       receiver_(std::move(receiver)),
       sender_(std::move(sender)),
-      player_(*pa_threaded_mainloop_get_api(thread)) {
-    pa_mainloop_api& api = *pa_threaded_mainloop_get_api(thread);
+      player_(*pulse().threaded_mainloop_get_api(thread)) {
+    pa_mainloop_api& api = *pulse().threaded_mainloop_get_api(thread);
     event_ = api.io_new(&api, receiver_.number(), PA_IO_EVENT_INPUT, requestsCame, this);
 }
 
 PulseSoundEffects::Loop::~Loop() {
-    pa_threaded_mainloop_stop(thread_);
-    pa_threaded_mainloop_get_api(thread_)->io_free(event_);
+    pulse().threaded_mainloop_stop(thread_);
+    pulse().threaded_mainloop_get_api(thread_)->io_free(event_);
     player_.disconnect();
-    pa_threaded_mainloop_free(thread_);
+    pulse().threaded_mainloop_free(thread_);
 }
 
 void PulseSoundEffects::Loop::receive() {
