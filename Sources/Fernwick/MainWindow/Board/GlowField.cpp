@@ -44,10 +44,10 @@ void GlowField::change(int column, int row, Links before, Links after) {
 
 QRect GlowField::reach(int column, int row) const {
     // A pixel takes from the samples on both sides of it.
-    const double margin = (GlowPieces::margin + 1.0) / samplesPerCell * grid_.cell;
+    const double around = (GlowPieces::margin + 1.0) / samplesPerCell * grid_.cell;
     const QRectF cell(grid_.origin + QPointF(column, row) * grid_.cell,
                       QSizeF(grid_.cell, grid_.cell));
-    return cell.marginsAdded(QMarginsF() + margin).toAlignedRect();
+    return cell.marginsAdded(QMarginsF() + around).toAlignedRect();
 }
 
 void GlowField::add(int column, int row, Links links, int sign) {
