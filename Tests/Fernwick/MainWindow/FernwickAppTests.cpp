@@ -62,3 +62,16 @@ TEST_F(Application, showsItsWindowAndTakesTheKeys) {
     QCoreApplication::sendEvent(&fernwick.window(), &space);
     EXPECT_TRUE(session.running);
 }
+
+TEST_F(Application, comesForwardFromBeingMinimised) {
+    fernwick.show();
+    fernwick.window().showMinimized();
+    QCoreApplication::processEvents();
+    ASSERT_TRUE(fernwick.window().isMinimized());
+
+    fernwick.bringForward({});
+    QCoreApplication::processEvents();
+
+    EXPECT_FALSE(fernwick.window().isMinimized());
+    EXPECT_TRUE(fernwick.window().isVisible());
+}
