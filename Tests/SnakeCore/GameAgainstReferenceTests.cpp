@@ -13,8 +13,8 @@
 namespace SnakeCore {
 namespace {
 
-constexpr std::array allDirections{Direction::up, Direction::down, Direction::left,
-                                   Direction::right};
+constexpr std::array everyDirection{Direction::up, Direction::down, Direction::left,
+                                    Direction::right};
 
 ::testing::AssertionResult agree(const Game& game, const ReferenceGame& reference) {
     const bool same = game.width() == reference.width && game.height() == reference.height &&
@@ -31,7 +31,7 @@ constexpr std::array allDirections{Direction::up, Direction::down, Direction::le
 }
 
 Direction randomDirection(std::mt19937_64& dice) {
-    return allDirections[dice() % allDirections.size()];
+    return everyDirection[dice() % allDirections.size()];
 }
 
 /// Heads for the fruit by a way that is free for one step, if there is one: lives long enough to
@@ -39,7 +39,7 @@ Direction randomDirection(std::mt19937_64& dice) {
 Direction towardsFood(const ReferenceGame& game) {
     Direction best = game.direction;
     std::int64_t least = std::numeric_limits<std::int64_t>::max();
-    for (const Direction direction : allDirections) {
+    for (const Direction direction : everyDirection) {
         const Cell offset = stepVector(direction);
         const Cell next{game.snake[0].x + offset.x, game.snake[0].y + offset.y};
         const bool open = next.x >= 0 && next.x < game.width && next.y >= 0 &&

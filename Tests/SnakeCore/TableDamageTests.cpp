@@ -15,7 +15,7 @@ std::string amongOthers(const EntryText& entry) {
     return "[" + EntryText().text() + "," + entry.text() + "," + EntryText().text() + "]";
 }
 
-std::string repeated(std::string_view piece, int count) {
+std::string manyOf(std::string_view piece, int count) {
     std::string text;
     for (int i = 0; i < count; ++i) {
         text += piece;
@@ -168,20 +168,20 @@ TEST(TableDamage, leavesNothingOfCommentsAndTrailingCommas) {
 
 TEST(TableDamage, ofAHundredThousandBracketsNeitherCrashesNorHangs) {
     for (const std::string_view bracket : {"[", "{", "[{", "{\"a\":", "[{\"a\":"}) {
-        EXPECT_EQ(entriesIn(repeated(bracket, 100'000)), 0U) << bracket;
+        EXPECT_EQ(entriesIn(manyOf(bracket, 100'000)), 0U) << bracket;
     }
     EntryText entry;
-    entry.more = ",\"deep\":" + repeated("[", 100'000) + repeated("]", 100'000);
+    entry.more = ",\"deep\":" + manyOf("[", 100'000) + manyOf("]", 100'000);
     EXPECT_EQ(entriesIn(tableOf(entry)), 0U);
 }
 
 TEST(TableDamage, beginsAtADepthOf513) {
     // The table and the entry are two levels themselves.
     EntryText entry;
-    entry.more = ",\"deep\":" + repeated("[", 510) + repeated("]", 510);
+    entry.more = ",\"deep\":" + manyOf("[", 510) + manyOf("]", 510);
     EXPECT_EQ(entriesIn(tableOf(entry)), 1U);
 
-    entry.more = ",\"deep\":" + repeated("[", 511) + repeated("]", 511);
+    entry.more = ",\"deep\":" + manyOf("[", 511) + manyOf("]", 511);
     EXPECT_EQ(entriesIn(tableOf(entry)), 0U);
 }
 

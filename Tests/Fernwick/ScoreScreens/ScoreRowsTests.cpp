@@ -124,14 +124,14 @@ TEST_F(Rows, bringTheHighlightedEntryIntoSight) {
 
 TEST_F(Rows, cutALongNameAndKeepTheScoreWhole) {
     rows.setEntries(entries({{"Ada", 6120}}));
-    const QImage shortName = picture();
+    const QImage withShortName = picture();
 
     rows.setEntries(entries({{std::string(24, 'W'), 6120}}));
-    const QImage longName = picture();
+    const QImage withLongName = picture();
 
     const ScoreRow* row = rows.findChild<ScoreRow*>();
     const QRect score(row->mapTo(&rows, QPoint(row->width() - 14 - 40, 0)),
                       QSize(40, row->height()));
-    EXPECT_EQ(shortName.copy(score), longName.copy(score));
+    EXPECT_EQ(withShortName.copy(score), withLongName.copy(score));
     EXPECT_EQ(row->height(), row->sizeHint().height());
 }

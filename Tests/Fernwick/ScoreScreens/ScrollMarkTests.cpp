@@ -13,16 +13,16 @@
 
 namespace {
 
-constexpr int boardWidth = 376;
-constexpr int boardHeight = 150;
-constexpr int markLeft = boardWidth - 10 + 3;
+constexpr int areaWidth = 376;
+constexpr int areaHeight = 150;
+constexpr int markLeft = areaWidth - 10 + 3;
 constexpr int markWidth = 4;
 
 /// A board of rows on black, in a window that can have the focus.
 class ScrollMark : public ::testing::Test {
 protected:
     ScrollMark() {
-        rows.resize(boardWidth, boardHeight);
+        rows.resize(areaWidth, areaHeight);
         rows.show();
         QApplication::setActiveWindow(&rows);
     }
@@ -57,8 +57,8 @@ protected:
     [[nodiscard]] QRect mark() {
         const QImage seen = picture(rows);
         QRect marked;
-        for (int y = 0; y < boardHeight; ++y) {
-            for (int x = boardWidth - 12; x < boardWidth; ++x) {
+        for (int y = 0; y < areaHeight; ++y) {
+            for (int x = areaWidth - 12; x < areaWidth; ++x) {
                 marked |= isMark(seen.pixelColor(x, y)) ? QRect(x, y, 1, 1) : QRect();
             }
         }
@@ -69,13 +69,13 @@ protected:
     [[nodiscard]] int ringed() {
         const QImage seen = picture(rows);
         int count = 0;
-        for (const int y : {0, boardHeight - 1}) {
-            for (int x = boardWidth / 4; x < 3 * boardWidth / 4; ++x) {
+        for (const int y : {0, areaHeight - 1}) {
+            for (int x = areaWidth / 4; x < 3 * areaWidth / 4; ++x) {
                 count += Look::distance(seen.pixelColor(x, y), Garden::mint) < 20 ? 1 : 0;
             }
         }
-        for (const int x : {0, boardWidth - 1}) {
-            for (int y = boardHeight / 4; y < 3 * boardHeight / 4; ++y) {
+        for (const int x : {0, areaWidth - 1}) {
+            for (int y = areaHeight / 4; y < 3 * areaHeight / 4; ++y) {
                 count += Look::distance(seen.pixelColor(x, y), Garden::mint) < 20 ? 1 : 0;
             }
         }
@@ -100,7 +100,7 @@ TEST_F(ScrollMark, liesInThePaddingOfTheRowsAtTheRight) {
     EXPECT_EQ(mark().width(), markWidth);
     // It is as long, of the board, as what is in sight is of all rows.
     const int whole = area().widget()->height();
-    EXPECT_NEAR(mark().height(), boardHeight * boardHeight / whole, 8);
+    EXPECT_NEAR(mark().height(), areaHeight * areaHeight / whole, 8);
 }
 
 TEST_F(ScrollMark, goesFromTheTopToTheBottomWithTheRows) {
@@ -109,10 +109,10 @@ TEST_F(ScrollMark, goesFromTheTopToTheBottomWithTheRows) {
     EXPECT_LE(mark().top(), 5);
 
     bar.setValue(bar.maximum());
-    EXPECT_GE(mark().bottom(), boardHeight - 6);
+    EXPECT_GE(mark().bottom(), areaHeight - 6);
 
     bar.setValue(bar.maximum() / 2);
-    EXPECT_NEAR(mark().center().y(), boardHeight / 2, 3);
+    EXPECT_NEAR(mark().center().y(), areaHeight / 2, 3);
 }
 
 TEST_F(ScrollMark, isDraggedByThePointer) {
@@ -122,9 +122,9 @@ TEST_F(ScrollMark, isDraggedByThePointer) {
     ASSERT_NE(qobject_cast<QScrollBar*>(bar), nullptr);
 
     QTest::mousePress(bar, Qt::LeftButton, {}, bar->mapFrom(&rows, begin));
-    QTest::mouseMove(bar, bar->mapFrom(&rows, QPoint(begin.x(), boardHeight)));
+    QTest::mouseMove(bar, bar->mapFrom(&rows, QPoint(begin.x(), areaHeight)));
     QTest::mouseRelease(bar, Qt::LeftButton, {},
-                        bar->mapFrom(&rows, QPoint(begin.x(), boardHeight)));
+                        bar->mapFrom(&rows, QPoint(begin.x(), areaHeight)));
 
     EXPECT_EQ(area().verticalScrollBar()->value(), area().verticalScrollBar()->maximum());
 }
@@ -144,7 +144,7 @@ TEST_F(ScrollMark, aRingGoesRoundTheRowsForTheKeyboard) {
     EXPECT_EQ(ringed(), 0);
 
     focusBy(Qt::TabFocusReason);
-    EXPECT_EQ(ringed(), 2 * (boardWidth / 2) + 2 * ((3 * boardHeight / 4) - boardHeight / 4));
+    EXPECT_EQ(ringed(), 2 * (areaWidth / 2) + 2 * ((3 * areaHeight / 4) - areaHeight / 4));
 
     area().clearFocus();
     QCoreApplication::processEvents();
