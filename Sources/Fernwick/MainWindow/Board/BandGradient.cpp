@@ -47,6 +47,20 @@ int otherEnd(const std::uint8_t* bytes, std::uint8_t value, int begin, int end) 
                             : static_cast<int>(static_cast<const std::uint8_t*>(found) - bytes);
 }
 
+void blend(quint32* row, const quint32* ground, const std::uint8_t* mask, int count,
+           quint32 phase) {
+    // Where an edge crosses the row it is a pixel or two wide: done before the loops have begun.
+    constexpr int few = 3;
+    if (count > few) {
+        rowLoops().blend(row, ground, mask, count, phase);
+        return;
+    }
+    for (int i = 0; i < count; ++i) {
+        row[i] = Pixels::blendPixel(ground[i], row[i], mask[i], phase);
+        phase += Pixels::patternStepX;
+    }
+}
+
 }  // namespace
 
 BandGradient::BandGradient(const QPointF& tail, const QPointF& head) : tail_(tail) {
@@ -79,8 +93,7 @@ void BandGradient::paintRow(quint32* row, const quint32* ground, const std::uint
         while ((begin = runEnd(mask, whole, begin, end)) < end) {
             const int edge = begin;
             begin = otherEnd(mask, whole, edge, end);
-            rowLoops().blend(row + edge, ground + edge, mask + edge, begin - edge,
-                             Pixels::phase(x + edge, y));
+            blend(row + edge, ground + edge, mask + edge, begin - edge, Pixels::phase(x + edge, y));
         }
     }
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <cstdint>
 
 /// A colour as the pixel loops mix it: channels from 0 to 255.
 struct Rgb {
@@ -47,6 +48,19 @@ inline constexpr quint32 patternStepY = 2447445414U;
     return 0xFF000000U | mixChannel((under >> 16U) & channel, over.red, coverage, rounding) << 16U |
            mixChannel((under >> 8U) & channel, over.green, coverage, rounding) << 8U |
            mixChannel(under & channel, over.blue, coverage, rounding);
+}
+
+/// Lays one pixel over another. `coverage` is from 0 to 255.
+[[nodiscard]] inline quint32 blendPixel(quint32 under, quint32 over, std::uint8_t coverage,
+                                        quint32 phase) {
+    constexpr quint32 channel = 0xFFU;
+    constexpr float perStep = 1.0F / 255.0F;
+    static_assert(255.0F * perStep == 1.0F, "what covers wholly keeps its value");
+    const Rgb colour{static_cast<float>(static_cast<int>((over >> 16U) & channel)),
+                     static_cast<float>(static_cast<int>((over >> 8U) & channel)),
+                     static_cast<float>(static_cast<int>(over & channel))};
+    return mixPixel(under, colour, static_cast<float>(static_cast<int>(coverage)) * perStep,
+                    threshold(phase));
 }
 
 /// Lays `colour` over `row` in place. `coverage(i)` is from 0 to 1; `start` is the phase of the

@@ -20,17 +20,9 @@ FERNWICK_INLINE void mixBetweenLoop(quint32* row, int count, quint32 phase, cons
 
 FERNWICK_INLINE void blendLoop(quint32* __restrict row, const quint32* __restrict under,
                                const std::uint8_t* __restrict mask, int count, quint32 phase) {
-    constexpr quint32 channel = 0xFFU;
-    constexpr float perStep = 1.0F / 255.0F;
-    static_assert(255.0F * perStep == 1.0F, "what covers wholly keeps its value");
     for (int i = 0; i < count; ++i) {
-        const float rounding =
-            Pixels::threshold(phase + static_cast<quint32>(i) * Pixels::patternStepX);
-        const Rgb over{static_cast<float>(static_cast<int>((row[i] >> 16U) & channel)),
-                       static_cast<float>(static_cast<int>((row[i] >> 8U) & channel)),
-                       static_cast<float>(static_cast<int>(row[i] & channel))};
-        const float coverage = static_cast<float>(static_cast<int>(mask[i])) * perStep;
-        row[i] = Pixels::mixPixel(under[i], over, coverage, rounding);
+        row[i] = Pixels::blendPixel(under[i], row[i], mask[i],
+                                    phase + static_cast<quint32>(i) * Pixels::patternStepX);
     }
 }
 
