@@ -13,6 +13,9 @@ from board import Board
 from desktop import Desktop
 
 UNTIL_SHOWN = 2
+# A window manager looks at a click before the window gets it, but not at a key: one that is pressed
+# at once overtakes the click.
+UNTIL_CLICKED = 0.5
 # Where the buttons of the paces lie, in pixels.
 PACE_BUTTONS = {"Gentle": (78, 152), "Classic": (152, 152), "Swift": (222, 152)}
 
@@ -39,6 +42,7 @@ class Stage:
         with Program(self.desktop, self.game) as program:
             time.sleep(UNTIL_SHOWN)
             self.hands.click(*PACE_BUTTONS[pace])
+            time.sleep(UNTIL_CLICKED)
             yield program
 
     def shows_play(self):
