@@ -1,5 +1,6 @@
 #include "MainWindow/SheetShade.hpp"
 
+#include <QEvent>
 #include <QPainter>
 
 #include "Garden/Motion.hpp"
