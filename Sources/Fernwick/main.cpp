@@ -6,6 +6,7 @@
 #include "MainWindow/BusActivation.hpp"
 #include "MainWindow/FernwickApp.hpp"
 #include "MainWindow/FreeMemory.hpp"
+#include "MainWindow/InputMethod.hpp"
 #include "MainWindow/Language.hpp"
 #include "MainWindow/SessionBus.hpp"
 #include "MainWindow/SessionManagement.hpp"
@@ -23,6 +24,7 @@ int main(int, char* argv[]) {
     }
     leaveMissingSessionBusAlone();
     leaveSilentSessionBusAlone();
+    leaveSilentInputMethodAlone();
     // The program takes no command line; only its own name reaches the toolkit.
     int count = 1;
     // The toolkit would tell the player, for one, which fonts lack which scripts.

@@ -62,6 +62,24 @@ def silent_address(home):
 
 
 @pytest.fixture
+def silent_input_method(desktop, home, silent_address):
+    """The environment of a desktop whose input method is there and never says a word."""
+    settings = pathlib.Path(home.environment["XDG_CONFIG_HOME"])
+    machine = desktop.run("dbus-uuidgen", "--get").strip()
+    display = desktop.environment["DISPLAY"].removeprefix(":")
+    address = settings / f"ibus/bus/{machine}-unix-{display}"
+    address.parent.mkdir(parents=True)
+    address.write_text(f"# Where it is.\nIBUS_ADDRESS={silent_address}\n"
+                       f"IBUS_DAEMON_PID={os.getpid()}\n")
+    # The toolkit looks for its program before it believes the file.
+    programs = settings / "programs"
+    programs.mkdir()
+    (programs / "ibus-daemon").write_text("")
+    (programs / "ibus-daemon").chmod(0o755)
+    return {"QT_IM_MODULE": "ibus", "PATH": f"{programs}:{os.environ['PATH']}"}
+
+
+@pytest.fixture
 def assistance(desktop):
     """What makes up the desktop's accessibility: the numbers of its processes."""
     launcher = owner(connect(desktop.environment["DBUS_SESSION_BUS_ADDRESS"]), "org.a11y.Bus")
@@ -95,6 +113,10 @@ def test_it_starts_while_whoever_has_the_address_of_the_bus_says_nothing(launch,
 def test_it_starts_while_the_session_bus_hangs(desktop, launch):
     with hanging(desktop.bus.pid):
         plays(launch())
+
+
+def test_it_starts_while_the_input_method_says_nothing(launch, silent_input_method):
+    plays(launch(**silent_input_method))
 
 
 def test_it_plays_on_when_the_session_bus_hangs(desktop, game):
