@@ -12,7 +12,7 @@ from random_player import RandomPlayer
 SECONDS = float(os.environ.get("FERNWICK_SOAK_SECONDS", "60"))
 SEED = int(os.environ.get("FERNWICK_SOAK_SEED", "2026"))
 WARM_UP_SECONDS = min(60.0, SECONDS / 2)
-MAY_GROW_MEGABYTES = 4
+MAY_GROW_MEGABYTES = 1
 
 
 def test_a_random_player_leaves_the_game_sound(game, home, other_window):
