@@ -1,5 +1,5 @@
 # The display the game plays on: the machine's own where there is one, else a private one with a
-# window manager. Sourced by play.
+# window manager. Sourced, after processes.sh.
 
 # Whether something listens at the Unix socket $1; a socket file outlives a server that was killed.
 socket_answers() {
@@ -59,7 +59,9 @@ start_private_display() {
         export XDG_RUNTIME_DIR=$folder/run
     fi
     # A window that asks for full screen before the manager is up would not get it.
-    start openbox --startup "sh -c 'echo yes >$folder/managed'" >"$folder/manager.log" 2>&1
+    # It takes the command apart itself: the folder's name, which may hold anything, goes around it.
+    start env managed="$folder/managed" openbox --startup "sh -c 'echo yes >\"\$managed\"'" \
+        >"$folder/manager.log" 2>&1
     display_processes="$! $display_processes"
     wait_for "$folder/managed"
 }
