@@ -1,4 +1,4 @@
-# A Debian with nothing in it, in the folder $root. Sourced by try-package.
+# A Debian with nothing in it, in the folder $root; $folder takes the logs. Sourced by try-package.
 
 # The release and the archives of this system, as sources.list lines. apt knows them however they
 # are written down.

@@ -1,5 +1,5 @@
 # The Debian packages the project stands on, each with what it is for, and how the missing ones are
-# installed. Sourced by play, check and Benchmarks/run.
+# installed. Sourced.
 
 build_packages() {
     cat <<'LIST'

@@ -1,5 +1,4 @@
-# Starting what must not outlive us, and ending it. Sourced by play, check,
-# display.sh, Fuzz/run and Tests/long-run.
+# Starting what must not outlive us, and ending it. Sourced.
 
 # start COMMAND...: in the background and in a process group of its own, so that Ctrl-C reaches
 # only the script and the script can end the command whole. Its id is in $!.
