@@ -2,15 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <set>
 #include <utility>
 
+#include "SnakeCore/Playing.hpp"
+
 namespace SnakeCore {
 namespace {
-
-constexpr std::array allDirections{Direction::up, Direction::down, Direction::left,
-                                   Direction::right};
 
 TEST(Direction, isNumberedInTheOrderUpDownLeftRight) {
     EXPECT_EQ(static_cast<int>(Direction::up), 0);
@@ -34,8 +32,8 @@ TEST(Direction, isOppositeInExactlyFourOfSixteenPairs) {
         {Direction::right, Direction::left},
     };
 
-    for (const Direction self : allDirections) {
-        for (const Direction other : allDirections) {
+    for (const Direction self : everyDirection) {
+        for (const Direction other : everyDirection) {
             EXPECT_EQ(opposite(self, other), opposites.contains({self, other}))
                 << static_cast<int>(self) << " and " << static_cast<int>(other);
         }

@@ -2,7 +2,6 @@
 #include <SnakeCore/Game.hpp>
 
 #include <algorithm>
-#include <array>
 #include <cstdlib>
 #include <limits>
 #include <random>
@@ -12,9 +11,6 @@
 
 namespace SnakeCore {
 namespace {
-
-constexpr std::array everyDirection{Direction::up, Direction::down, Direction::left,
-                                    Direction::right};
 
 ::testing::AssertionResult agree(const Game& game, const ReferenceGame& reference) {
     const bool same = game.width() == reference.width && game.height() == reference.height &&
@@ -31,7 +27,7 @@ constexpr std::array everyDirection{Direction::up, Direction::down, Direction::l
 }
 
 Direction randomDirection(std::mt19937_64& dice) {
-    return everyDirection[dice() % allDirections.size()];
+    return everyDirection[dice() % everyDirection.size()];
 }
 
 /// Heads for the fruit by a way that is free for one step, if there is one: lives long enough to

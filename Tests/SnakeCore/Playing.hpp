@@ -1,9 +1,13 @@
 #pragma once
 
 #include <SnakeCore/Game.hpp>
+#include <array>
 #include <vector>
 
 namespace SnakeCore {
+
+inline constexpr std::array everyDirection{Direction::up, Direction::down, Direction::left,
+                                           Direction::right};
 
 using Cells = std::vector<Cell>;
 
