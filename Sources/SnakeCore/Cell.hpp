@@ -21,8 +21,8 @@ template <>
 struct std::hash<SnakeCore::Cell> {
     std::size_t operator()(const SnakeCore::Cell& cell) const noexcept {
         constexpr std::hash<std::int64_t> coordinate;
-        // Boost's combiner constant: 2^64 divided by the golden ratio.
-        constexpr std::size_t spread = 0x9e3779b97f4a7c15U;
+        // 2^64 divided by the golden ratio; where sizes are smaller, the low bits of it do.
+        constexpr auto spread = static_cast<std::size_t>(std::uint64_t{0x9e3779b97f4a7c15U});
         const std::size_t seed = coordinate(cell.x) + spread;
         return seed ^ (coordinate(cell.y) + spread + (seed << 6U) + (seed >> 2U));
     }

@@ -71,13 +71,4 @@ std::string_view firstCharacters(std::string_view utf8, std::size_t count) {
     return utf8.substr(0, length);
 }
 
-std::size_t characterCount(std::string_view utf8) {
-    std::size_t count = 0;
-    forEachCharacter(utf8, [&](std::string_view) {
-        ++count;
-        return true;
-    });
-    return count;
-}
-
 }  // namespace SnakeCore

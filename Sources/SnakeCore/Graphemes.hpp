@@ -16,6 +16,4 @@ void forEachCharacter(std::string_view utf8, const std::function<bool(std::strin
 /// The start of `utf8` that holds its first `count` characters; all of it if there are fewer.
 [[nodiscard]] std::string_view firstCharacters(std::string_view utf8, std::size_t count);
 
-[[nodiscard]] std::size_t characterCount(std::string_view utf8);
-
 }  // namespace SnakeCore

@@ -15,7 +15,6 @@
 namespace SnakeCore {
 namespace {
 
-constexpr std::size_t longestName = 24;
 constexpr std::size_t leaderCount = 10;
 
 /// A character is white space when its first scalar is, whatever marks it carries.

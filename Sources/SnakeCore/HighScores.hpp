@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -16,6 +17,9 @@ namespace SnakeCore {
 /// compact JSON array of objects with the members "id", "name", "score", "pace" and "date".
 class HighScores {
 public:
+    /// The most characters, as people count them, that a name keeps.
+    static constexpr std::size_t longestName = 24;
+
     /// An empty table.
     HighScores() = default;
 
@@ -28,8 +32,8 @@ public:
     [[nodiscard]] std::string encoded() const;
 
     /// The name as it is stored: white space at both ends gone, between words one space, and of
-    /// that the first 24 characters as people count them. What is not UTF-8 becomes U+FFFD. The
-    /// result may be empty, and may end in a space if that is the 24th character.
+    /// that the first `longestName` characters. What is not UTF-8 becomes U+FFFD. The
+    /// result may be empty, and may end in a space if that is the last of so many.
     [[nodiscard]] static std::string cleanName(std::string_view name);
 
     /// Adds a result under its cleaned name. False, and the table as it was, when the cleaned name

@@ -17,14 +17,14 @@
 
 namespace {
 
-constexpr std::size_t longestName = 24;
 constexpr double promptSize = 14;
 constexpr double hintSize = 10;
 constexpr double skipSize = 12;
 
 QString firstCharacters(const QString& text) {
     const std::string utf8 = text.toStdString();
-    const std::string_view kept = SnakeCore::firstCharacters(utf8, longestName);
+    const std::string_view kept =
+        SnakeCore::firstCharacters(utf8, SnakeCore::HighScores::longestName);
     return kept.size() == utf8.size()
                ? text
                : QString::fromUtf8(kept.data(), static_cast<qsizetype>(kept.size()));
