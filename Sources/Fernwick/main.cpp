@@ -12,6 +12,7 @@
 #include "MainWindow/SessionManagement.hpp"
 #include "MainWindow/SilentServices.hpp"
 #include "MainWindow/UnixSignals.hpp"
+#include "Session/ApplicationID.hpp"
 #include "Session/OneGame.hpp"
 #include "Session/PreferencesFile.hpp"
 #include "Session/PulseSoundEffects.hpp"
@@ -34,7 +35,7 @@ int main(int, char* argv[]) {
     SilentServices silentServices;
     QApplication::setApplicationName(QStringLiteral("fernwick"));
     QApplication::setApplicationDisplayName(QStringLiteral("Fernwick"));
-    QGuiApplication::setDesktopFileName(QStringLiteral("org.fernwick.fernwick"));
+    QGuiApplication::setDesktopFileName(applicationID.toString());
 
     const Language language(Language::bestFor(QLocale::system().uiLanguages()));
     applyGardenStyle();

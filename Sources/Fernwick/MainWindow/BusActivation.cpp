@@ -4,9 +4,10 @@
 #include <QStringList>
 #include <utility>
 
+#include "Session/ApplicationID.hpp"
+
 namespace {
 
-constexpr const char* name = "org.fernwick.fernwick";
 constexpr const char* path = "/org/fernwick/fernwick";
 
 QString text(const char* latin) {
@@ -18,7 +19,7 @@ void askForName(const QDBusConnection& bus) {
     QDBusMessage question =
         QDBusMessage::createMethodCall(text("org.freedesktop.DBus"), text("/org/freedesktop/DBus"),
                                        text("org.freedesktop.DBus"), text("RequestName"));
-    question << text(name) << doNotQueue;
+    question << applicationID.toString() << doNotQueue;
     bus.send(question);
 }
 

@@ -7,7 +7,7 @@
 #include <functional>
 
 /// The game as the desktop knows it on the session bus, so that docks and launchers can bring it
-/// forward: the name "org.fernwick.fernwick" with the interface org.freedesktop.Application.
+/// forward: the name `applicationID` with the interface org.freedesktop.Application.
 /// Without a bus, or where a game over other settings has the name, it does nothing.
 class BusActivation : public QDBusAbstractAdaptor {
     Q_OBJECT

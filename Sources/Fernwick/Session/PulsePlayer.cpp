@@ -1,8 +1,10 @@
 #include "Session/PulsePlayer.hpp"
 
+#include <QByteArray>
 #include <memory>
 #include <utility>
 
+#include "Session/ApplicationID.hpp"
 #include "Session/PulseLibrary.hpp"
 #include "Session/SoundWave.hpp"
 
@@ -32,10 +34,11 @@ const char* titleOf(SoundEffect effect) {
 
 /// What mixers and the server's own rules know us by.
 Proplist clientProperties() {
+    const QByteArray id = applicationID.toUtf8();
     Proplist list(pulse().proplist_new(), pulse().proplist_free);
     pulse().proplist_sets(list.get(), PA_PROP_APPLICATION_NAME, "Fernwick");
-    pulse().proplist_sets(list.get(), PA_PROP_APPLICATION_ID, "fernwick");
-    pulse().proplist_sets(list.get(), PA_PROP_APPLICATION_ICON_NAME, "fernwick");
+    pulse().proplist_sets(list.get(), PA_PROP_APPLICATION_ID, id.constData());
+    pulse().proplist_sets(list.get(), PA_PROP_APPLICATION_ICON_NAME, id.constData());
     return list;
 }
 

@@ -96,6 +96,20 @@ TEST_F(PulseSoundEffectsTest, eachEffectComesOutOfTheLoudspeakerAsItWasDrawnUp) 
     }
 }
 
+TEST_F(PulseSoundEffectsTest, mixersShowTheGameUnderTheNameOfItsInstalledIcon) {
+    ASSERT_TRUE(server_.start());
+    PulseSoundEffects effects;
+
+    effects.prepare();
+
+    ASSERT_TRUE(eventually(SoundServer::hasBothEffects));
+    const std::string clients = SoundServer::clients();
+    for (const char* property :
+         {"application.name = \"Fernwick\"", "application.icon_name = \"org.fernwick.fernwick\""}) {
+        EXPECT_NE(clients.find(property), std::string::npos) << property << " not in\n" << clients;
+    }
+}
+
 TEST_F(PulseSoundEffectsTest, effectsOverlap) {
     ASSERT_TRUE(server_.start());
     PulseSoundEffects effects;

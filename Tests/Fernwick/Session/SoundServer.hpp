@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 #include <thread>
+#include <vector>
 
 #include "Fernwick/Session/ChildProcess.hpp"
 #include "Fernwick/Session/EnvironmentVariable.hpp"
@@ -42,7 +43,7 @@ public:
             "--disable-shm=yes", "-L",
             "module-null-sink sink_name=quiet rate=48000 channels=1 norewinds=1", "-L",
             "module-native-protocol-unix auth-anonymous=1 socket=" + socket().native()});
-        return eventually([] { return !ask("info").empty(); });
+        return eventually([] { return !ask({"info"}).empty(); });
     }
 
     void kill() {
@@ -54,10 +55,13 @@ public:
 
     /// True once the server holds both effects.
     [[nodiscard]] static bool hasBothEffects() {
-        const std::string samples = ask("samples");
+        const std::string samples = ask({"list", "short", "samples"});
         return samples.find("fernwick-pop") != std::string::npos &&
                samples.find("fernwick-tink") != std::string::npos;
     }
+
+    /// What the server tells mixers of those who use it.
+    [[nodiscard]] static std::string clients() { return ask({"list", "clients"}); }
 
     /// The folder in which programs look for the server.
     [[nodiscard]] const std::filesystem::path& folder() const { return folder_.path(); }
@@ -65,10 +69,9 @@ public:
 private:
     [[nodiscard]] std::filesystem::path socket() const { return folder_.path() / "native"; }
 
-    [[nodiscard]] static std::string ask(const std::string& what) {
-        ChildProcess tool(what == "info"
-                              ? std::vector<std::string>{"pactl", "info"}
-                              : std::vector<std::string>{"pactl", "list", "short", what});
+    [[nodiscard]] static std::string ask(std::vector<std::string> question) {
+        question.insert(question.begin(), "pactl");
+        ChildProcess tool(question);
         return tool.output();
     }
 
