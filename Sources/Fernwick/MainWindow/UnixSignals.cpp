@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QSocketNotifier>
 #include <array>
+#include <cerrno>
 #include <csignal>
 
 namespace {
@@ -16,8 +17,11 @@ constexpr std::array endingSignals{SIGTERM, SIGINT, SIGHUP};
 volatile std::sig_atomic_t writeEnd = -1;
 
 void leaveByte(int) {
+    // What it interrupted may be about to ask why its own call failed.
+    const int interrupted = errno;
     const char byte = 0;
     [[maybe_unused]] const auto written = ::write(writeEnd, &byte, sizeof byte);
+    errno = interrupted;
 }
 
 }  // namespace
