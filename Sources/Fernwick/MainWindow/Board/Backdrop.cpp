@@ -24,6 +24,9 @@ void paintLight(quint32* row, int x, int count, int y, int corner, double scale)
     const int aside = static_cast<int>(std::ceil(std::sqrt(reach * reach - below * below)));
     const int begin = std::max(x, corner - aside);
     const int end = std::min(x + count, corner + aside);
+    if (begin >= end) {
+        return;
+    }
     Pixels::mixRow(row + (begin - x), end - begin, Pixels::phase(begin, y), Rgb::of(Garden::mint),
                    [first = static_cast<float>(begin - corner) + 0.5F,
                     square = static_cast<float>(below * below),
@@ -56,7 +59,9 @@ public:
         const QRect line(x, y, count, 1);
         for (const QRect& inside : ground_.inside_) {
             const QRect part = inside & line;
-            std::fill_n(row + (part.left() - x), std::max(part.width(), 0), Garden::soil.rgb());
+            if (!part.isEmpty()) {
+                std::fill_n(row + (part.left() - x), part.width(), Garden::soil.rgb());
+            }
         }
         for (const Edge& edge : ground_.edges_) {
             const QRect part = edge.area & line;

@@ -42,6 +42,9 @@ public:
         }
         const int begin = std::max(bounds_.left(), x);
         const int end = std::min(bounds_.right() + 1, x + count);
+        if (begin >= end) {
+            return;
+        }
         const float* const values =
             values_.data() + static_cast<std::ptrdiff_t>(y - bounds_.top()) * bounds_.width() +
             (begin - bounds_.left());
