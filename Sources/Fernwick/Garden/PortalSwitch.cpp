@@ -73,8 +73,9 @@ void PortalSwitch::settingChanged(const QString& group, const QString& key,
 }
 
 bool sessionBusExists() {
+    const QString folder = qEnvironmentVariable("XDG_RUNTIME_DIR");
     return !qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS") ||
-           QFileInfo::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus"));
+           (!folder.isEmpty() && QFileInfo::exists(folder + QStringLiteral("/bus")));
 }
 
 }  // namespace Garden

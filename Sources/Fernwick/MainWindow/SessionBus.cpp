@@ -1,12 +1,12 @@
 #include "MainWindow/SessionBus.hpp"
 
-#include <QFile>
 #include <QList>
 #include <QString>
 #include <QtGlobal>
 #include <optional>
 #include <string_view>
 
+#include "Garden/PortalSwitch.hpp"
 #include "Session/LocalSocket.hpp"
 
 namespace {
@@ -17,11 +17,6 @@ constexpr const char* noBus = "disabled:";
 /// The bus of all of the user's programs, for those who are told of no other.
 QByteArray userBus() {
     return qgetenv("XDG_RUNTIME_DIR") + "/bus";
-}
-
-bool hasUserBus() {
-    return !qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR") &&
-           QFile::exists(QFile::decodeName(userBus()));
 }
 
 /// The name of the socket in one address of a bus, such as "unix:path=/run/user/1000/bus"; none in
@@ -85,7 +80,7 @@ bool isSilentBus(const QByteArray& addresses, std::chrono::milliseconds patience
 }
 
 void leaveMissingSessionBusAlone() {
-    if (qEnvironmentVariableIsEmpty(addressVariable) && !hasUserBus()) {
+    if (!Garden::sessionBusExists()) {
         qputenv(addressVariable, noBus);
     }
 }
