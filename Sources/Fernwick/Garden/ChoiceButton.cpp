@@ -1,9 +1,7 @@
 #include "Garden/ChoiceButton.hpp"
 
-#include <QFontMetricsF>
 #include <QKeyEvent>
 #include <QPainter>
-#include <cmath>
 
 #include "Garden/Contrast.hpp"
 #include "Garden/Fonts.hpp"
@@ -31,9 +29,7 @@ ChoiceButton::ChoiceButton(const QString& text, QWidget* parent) : QuietButton(p
 }
 
 QSize ChoiceButton::sizeHint() const {
-    const QFontMetricsF metrics(font());
-    return {static_cast<int>(std::ceil(metrics.horizontalAdvance(text()))) + 2 * horizontalPadding,
-            static_cast<int>(std::ceil(metrics.height())) + 2 * verticalPadding};
+    return paddedTextSize(horizontalPadding, verticalPadding);
 }
 
 void ChoiceButton::keyPressEvent(QKeyEvent* event) {

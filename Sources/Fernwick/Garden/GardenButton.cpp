@@ -1,8 +1,6 @@
 #include "Garden/GardenButton.hpp"
 
-#include <QFontMetricsF>
 #include <QPainter>
-#include <cmath>
 
 #include "Garden/Fonts.hpp"
 #include "Garden/Palette.hpp"
@@ -28,9 +26,7 @@ GardenButton::GardenButton(const QString& text, QWidget* parent) : QuietButton(p
 }
 
 QSize GardenButton::sizeHint() const {
-    const QFontMetricsF metrics(font());
-    return {static_cast<int>(std::ceil(metrics.horizontalAdvance(text()))) + 2 * horizontalPadding,
-            static_cast<int>(std::ceil(metrics.height())) + 2 * verticalPadding};
+    return paddedTextSize(horizontalPadding, verticalPadding);
 }
 
 void GardenButton::paintEvent(QPaintEvent*) {

@@ -36,8 +36,8 @@ double OverlayButton::textWidth() const {
 }
 
 QSize OverlayButton::sizeHint() const {
-    return {static_cast<int>(textWidth() + arrowSpacing + arrowSize) + 2 * horizontalPadding,
-            static_cast<int>(std::ceil(QFontMetricsF(font()).height())) + 2 * verticalPadding};
+    const QSize arrow(static_cast<int>(arrowSpacing + arrowSize), 0);
+    return paddedTextSize(horizontalPadding, verticalPadding) + arrow;
 }
 
 void OverlayButton::paintEvent(QPaintEvent*) {

@@ -1,8 +1,6 @@
 #include "Garden/PlainButton.hpp"
 
-#include <QFontMetricsF>
 #include <QPainter>
-#include <cmath>
 
 #include "Garden/Palette.hpp"
 #include "Garden/RoundedShape.hpp"
@@ -26,9 +24,7 @@ PlainButton::PlainButton(const QString& text, const QFont& font, QWidget* parent
 }
 
 QSize PlainButton::sizeHint() const {
-    const QFontMetricsF metrics(font());
-    return {static_cast<int>(std::ceil(metrics.horizontalAdvance(text()))) + 2 * horizontalPadding,
-            static_cast<int>(std::ceil(metrics.height())) + 2 * verticalPadding};
+    return paddedTextSize(horizontalPadding, verticalPadding);
 }
 
 void PlainButton::paintEvent(QPaintEvent*) {

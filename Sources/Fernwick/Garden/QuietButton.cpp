@@ -1,8 +1,10 @@
 #include "Garden/QuietButton.hpp"
 
+#include <QFontMetricsF>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <cmath>
 
 #include "Garden/Accessibility.hpp"
 #include "Garden/Contrast.hpp"
@@ -34,6 +36,12 @@ QuietButton::QuietButton(QWidget* parent) : QAbstractButton(parent) {
 
 bool QuietButton::hovered() const {
     return isEnabled() && underMouse();
+}
+
+QSize QuietButton::paddedTextSize(int horizontalPadding, int verticalPadding) const {
+    const QFontMetricsF metrics(font());
+    return {static_cast<int>(std::ceil(metrics.horizontalAdvance(text()))) + 2 * horizontalPadding,
+            static_cast<int>(std::ceil(metrics.height())) + 2 * verticalPadding};
 }
 
 QColor QuietButton::quietColour() const {

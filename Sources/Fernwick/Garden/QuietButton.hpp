@@ -20,6 +20,8 @@ protected:
 
     [[nodiscard]] bool hovered() const;
     [[nodiscard]] const FocusRing& focusRing() const { return focusRing_; }
+    /// The size of the text with this padding on either side of it, in logical pixels.
+    [[nodiscard]] QSize paddedTextSize(int horizontalPadding, int verticalPadding) const;
     /// The colour of quiet text and symbols: `muted`, a little brighter under the pointer, fainter
     /// while pressed and fainter still while disabled.
     [[nodiscard]] QColor quietColour() const;

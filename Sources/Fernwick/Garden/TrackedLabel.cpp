@@ -68,11 +68,6 @@ void TrackedLabel::setText(const QString& text) {
     update();
 }
 
-void TrackedLabel::setElided(bool elided) {
-    elided_ = elided;
-    updateGeometry();
-}
-
 void TrackedLabel::fitToText() {
     setFont(fittedTo(text_, font_));
     setAccessibleName(text_);
@@ -97,11 +92,6 @@ QSize TrackedLabel::sizeHint() const {
     return {
         static_cast<int>(std::ceil(metrics.horizontalAdvance(text_) - trailing)),
         static_cast<int>(excess_.above + std::ceil(metrics.height()) + overhang_ + excess_.below)};
-}
-
-QSize TrackedLabel::minimumSizeHint() const {
-    const QSize whole = sizeHint();
-    return elided_ ? QSize(0, whole.height()) : whole;
 }
 
 void TrackedLabel::paintEvent(QPaintEvent*) {

@@ -9,7 +9,7 @@ namespace Garden {
 
 /// One line of text, in the font given or as near to it as its script can bear. It is as wide as
 /// its letters: Qt's font metrics count the letter spacing after the last letter too, which would
-/// push centred and right-aligned lines off by half or all of it.
+/// push centred and right-aligned lines off by half or all of it. Given less room, it ends in "…".
 class TrackedLabel : public QWidget {
     Q_OBJECT
 
@@ -21,11 +21,8 @@ public:
     void setText(const QString& text);
     [[nodiscard]] QColor colour() const { return colour_; }
 
-    /// Whether the line may be given less room than it needs, to end in "…". False at first.
-    void setElided(bool elided);
-
     [[nodiscard]] QSize sizeHint() const override;
-    [[nodiscard]] QSize minimumSizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -45,7 +42,6 @@ private:
     // The room below the line for its deepest letters.
     double overhang_;
     Excess excess_;
-    bool elided_ = false;
 };
 
 }  // namespace Garden

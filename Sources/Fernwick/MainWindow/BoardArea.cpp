@@ -8,6 +8,9 @@
 
 namespace {
 
+// Each is a constant of a room that does not know the other.
+static_assert(BoardGeometry::columns == Session::columns && BoardGeometry::rows == Session::rows);
+
 void showCard(QWidget& card, bool shown) {
     if (!shown) {
         Garden::releaseFocus(card);

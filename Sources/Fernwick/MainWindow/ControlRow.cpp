@@ -58,6 +58,6 @@ void ControlRow::refresh() {
     const bool inRun = session_.started && !session_.game->ended();
     speeds_->setCurrent(static_cast<int>(session_.pace.get()));
     speeds_->setChoicesEnabled(!inRun && !session_.awaitingName);
-    dot_->setColor(session_.running ? Garden::mint : Garden::muted);
+    dot_->setColour(session_.running ? Garden::mint : Garden::muted);
     status_->setText(statusWord());
 }

@@ -37,11 +37,11 @@ HeaderRow::HeaderRow(Session& session, QWidget* parent)
     row->addLayout(titleBlock());
     row->addStretch();
     //: A tiny label above a number; so is the next. In capitals where the script has them.
-    row->addLayout(metric(tr("SCORE"), score_, Qt::AlignLeft));
+    row->addLayout(scoreTile(tr("SCORE"), score_, Qt::AlignLeft));
     row->addSpacing(rulePadding);
     row->addWidget(new Rule, 0, Qt::AlignVCenter);
     row->addSpacing(rulePadding);
-    row->addLayout(metric(tr("PERSONAL BEST"), best_, Qt::AlignRight));
+    row->addLayout(scoreTile(tr("PERSONAL BEST"), best_, Qt::AlignRight));
     refresh();
 }
 
@@ -65,8 +65,8 @@ QBoxLayout* HeaderRow::titleBlock() {
     return block;
 }
 
-QBoxLayout* HeaderRow::metric(const QString& label, Garden::RollingDigits* value,
-                              Qt::Alignment alignment) {
+QBoxLayout* HeaderRow::scoreTile(const QString& label, Garden::RollingDigits* value,
+                                 Qt::Alignment alignment) {
     value->setAccessibleName(label);
     auto* tile = new QVBoxLayout;
     tile->setSpacing(tileSpacing);

@@ -19,11 +19,10 @@ public:
     explicit HeaderRow(Session& session, QWidget* parent = nullptr);
 
 private:
-    // Its namesake stays in sight.
-    using QWidget::metric;
     QBoxLayout* titleBlock();
-    /// A tile: a small label above a value that rolls. Its accessible name is the label.
-    QBoxLayout* metric(const QString& label, Garden::RollingDigits* value, Qt::Alignment alignment);
+    /// A small label above a value that rolls, whose accessible name is the label.
+    QBoxLayout* scoreTile(const QString& label, Garden::RollingDigits* value,
+                          Qt::Alignment alignment);
     void refresh();
 
     Session& session_;

@@ -5,7 +5,6 @@
 
 class QHBoxLayout;
 class QMenuBar;
-class QMouseEvent;
 class QKeyEvent;
 
 namespace Garden {

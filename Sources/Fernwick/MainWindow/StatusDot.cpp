@@ -12,9 +12,9 @@ StatusDot::StatusDot(QWidget* parent) : QWidget(parent) {
     setFixedSize(diameter, diameter);
 }
 
-void StatusDot::setColor(const QColor& color) {
-    if (color != color_) {
-        color_ = color;
+void StatusDot::setColour(const QColor& colour) {
+    if (colour != colour_) {
+        colour_ = colour;
         update();
     }
 }
@@ -23,6 +23,6 @@ void StatusDot::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(color_);
+    painter.setBrush(colour_);
     painter.drawEllipse(rect());
 }

@@ -10,11 +10,11 @@ class StatusDot : public QWidget {
 public:
     explicit StatusDot(QWidget* parent = nullptr);
 
-    void setColor(const QColor& color);
+    void setColour(const QColor& colour);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QColor color_;
+    QColor colour_;
 };

@@ -27,7 +27,6 @@ NameField::NameField(QWidget* parent) : QLineEdit(parent) {
     setFrame(false);
     setFont(Garden::sans(fontSize, QFont::Normal));
     setTextMargins(padding - lineEditMargin, 0, padding - lineEditMargin, 0);
-    setAttribute(Qt::WA_MacShowFocusRect, false);
 
     QPalette colours = palette();
     colours.setColor(QPalette::Base, Qt::transparent);

@@ -18,7 +18,7 @@ public:
     enum class Place {
         first,   ///< this process holds the address
         second,  ///< another game holds it, and has been asked to come forward
-        unknown  ///< the system offers no such address; the game goes on without
+        unknown  ///< neither: no address is to be had, another user holds it, or it was left
     };
 
     /// `settings` is the file that the game keeps its settings in; it need not exist. Asking

@@ -72,14 +72,17 @@ TEST(TrackedLabel, hasNoWidthWithoutText) {
     EXPECT_GT(label.sizeHint().height(), 0);
 }
 
-TEST(TrackedLabel, givesWayOnlyWhenItMayElide) {
-    Garden::TrackedLabel label(word, trackedFont(), Garden::mint);
+TEST(TrackedLabel, asksForAllTheRoomItNeeds) {
+    const Garden::TrackedLabel label(word, trackedFont(), Garden::mint);
+
     EXPECT_EQ(label.minimumSizeHint(), label.sizeHint());
+}
 
-    label.setElided(true);
+TEST(TrackedLabel, endsInsideTheRoomItHas) {
+    Garden::TrackedLabel label(word, trackedFont(), Garden::mint);
 
-    EXPECT_EQ(label.minimumSizeHint().width(), 0);
     label.resize(label.sizeHint().width() / 2, label.sizeHint().height());
+
     const QRect ink = inkOf(picture(label));
     EXPECT_GT(ink.width(), label.width() / 2);
     EXPECT_LT(ink.right(), label.width());

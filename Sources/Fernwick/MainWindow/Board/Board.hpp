@@ -12,8 +12,7 @@ class Backdrop;
 
 /// Paints one frame of a game, at first of a fresh run: grid dots, fruit, snake and its eyes,
 /// clipped to the rounded frame that `Backdrop` has filled and stroked. It fits its picture to its
-/// parent
-/// (`fit(parent->rect())`); the parent places it at that frame's `toAlignedRect()`.
+/// parent (`fit(parent->rect())`), which places it at that frame's `toAlignedRect()`.
 class Board : public QWidget {
     Q_OBJECT
 

@@ -67,12 +67,6 @@ QRect FrameShape::bounds() const {
     return frame_.adjusted(-outside, -outside, outside, outside).toAlignedRect();
 }
 
-QRect FrameShape::inside() const {
-    // The corner's curve is well inside the square of its radius.
-    const double margin = cornerRadius * scale_;
-    return frame_.adjusted(margin, margin, -margin, -margin).toRect();
-}
-
 QImage FrameShape::fill(const QRect& area) const {
     return paintedShare(area, [&](QPainter& painter) { painter.fillPath(path_, Qt::black); });
 }

@@ -21,9 +21,6 @@ public:
     /// All pixels that the frame touches, stroke and all.
     [[nodiscard]] QRect bounds() const;
 
-    /// A rectangle that the fill covers wholly: nothing behind it shows.
-    [[nodiscard]] QRect inside() const;
-
     /// The share of each pixel of `area`, from 0 to 255; 8 bits a pixel.
     [[nodiscard]] QImage fill(const QRect& area) const;
     /// The same for the stroke, which runs along the middle of the edge.
