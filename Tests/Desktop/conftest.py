@@ -1,9 +1,5 @@
-import pathlib
-import tempfile
-
 import pytest
-from accessibility import accessibility_bus
-from desktop import Desktop
+from accessible_desktop import accessible_desktop
 from game import Game
 from home import Home
 from other_window import OtherWindow
@@ -15,15 +11,8 @@ POINTER_AT_REST = str(Screen.WIDTH // 2), str(Screen.HEIGHT - 2)
 
 @pytest.fixture(scope="session")
 def desktop():
-    # A short path: sockets live in it.
-    desktop = Desktop(pathlib.Path(tempfile.mkdtemp(prefix="fernwick-")))
-    try:
-        desktop.start()
-        desktop.accessibility = accessibility_bus(
-            desktop.environment["DBUS_SESSION_BUS_ADDRESS"])
+    with accessible_desktop() as desktop:
         yield desktop
-    finally:
-        desktop.stop()
 
 
 @pytest.fixture

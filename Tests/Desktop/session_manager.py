@@ -20,7 +20,6 @@ SAVE_BOTH = 2
 SAVE_LOCAL = 1
 INTERACT_NONE = 0
 INTERACT_ANY = 2
-CONNECTION_PENDING = 0
 
 Status = c_int
 # The library gives every call back its own arguments; more than are used do no harm to leave out.

@@ -2,7 +2,7 @@
 
 import pytest
 from accessibility import Listener
-from game import FRESH, MOVING, OVER, PAUSED
+from game import MOVING, OVER, PAUSED
 from test_sheet import SHEET, wait_until_closed
 from waiting import eventually
 

@@ -50,12 +50,7 @@ def test_logout_under_the_sheet_ends_it_with_status_0(game, manager):
 
 
 def test_everything_saved_before_a_logout_is_there_after_it(game, home, manager):
-    game.start_run()
-    game.press("Up")
-    game.wait_for("Game over.")
-    game.type("Pip")
-    game.press("Return")
-    game.wait_for("Score saved · Top 10")
+    game.save_a_run("Pip")
     manager.order("logout")
     assert game.exit_status() == 0
     assert [entry["name"] for entry in home.high_scores()] == ["Pip"]

@@ -1,13 +1,10 @@
 """What the machine does to a running game: stalls, and displays that vanish."""
 
-import pathlib
 import signal
-import tempfile
 import time
 
 import pytest
-from accessibility import accessibility_bus
-from desktop import Desktop
+from accessible_desktop import accessible_desktop
 from game import FRESH, PAUSED, Game
 from waiting import PATIENCE, eventually
 
@@ -16,26 +13,11 @@ STALL_SECONDS = 4
 FIRST_COLUMN = 14
 
 
-def save_a_run(game):
-    game.start_run()
-    game.press("Up")
-    game.wait_for("Game over.")
-    game.type("Pip")
-    game.press("Return")
-    game.wait_for("Score saved · Top 10")
-
-
 @pytest.fixture
 def short_lived_desktop():
     """A desktop that a test may take away from under the game."""
-    desktop = Desktop(pathlib.Path(tempfile.mkdtemp(prefix="fernwick-")))
-    try:
-        desktop.start()
-        desktop.accessibility = accessibility_bus(
-            desktop.environment["DBUS_SESSION_BUS_ADDRESS"])
+    with accessible_desktop() as desktop:
         yield desktop
-    finally:
-        desktop.stop()
 
 
 def lose(game, take_away):
@@ -71,7 +53,7 @@ def test_a_vanished_display_loses_nothing_that_was_stored(short_lived_desktop, h
                 short_lived_desktop.environment | home.environment | ACCESSIBLE)
     try:
         game.wait_until_shown()
-        save_a_run(game)
+        game.save_a_run("Pip")
         game.press("space")
         eventually(lambda: "best-Classic" in home.preferences(), "the best is on disk")
     finally:
@@ -87,7 +69,7 @@ def test_the_start_after_a_vanished_display_knows_everything(
                 short_lived_desktop.environment | home.environment | ACCESSIBLE)
     try:
         lost.wait_until_shown()
-        save_a_run(lost)
+        lost.save_a_run("Pip")
     finally:
         lose(lost, short_lived_desktop.end_display)
     (tmp_path / "printed").unlink()
