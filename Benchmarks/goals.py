@@ -2,9 +2,10 @@
 
 from dataclasses import dataclass
 
+from paces import TICKS
+
 MS = 1e-3
 MB = 1e6
-TICKS = {"Gentle": 0.19, "Classic": 0.13, "Swift": 0.085}
 SCREENS = {1: "1080p", 2: "4K"}
 
 

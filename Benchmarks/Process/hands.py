@@ -2,7 +2,7 @@
 
 import ctypes
 
-SPACE, ESCAPE = 65, 9
+SPACE = 65
 DIRECTION_KEYS = {"up": 111, "left": 113, "right": 114, "down": 116}
 
 AT_ONCE = 0

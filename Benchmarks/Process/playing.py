@@ -8,12 +8,10 @@ import subprocess
 import time
 
 from hands import DIRECTION_KEYS, SPACE
+from paces import TICKS
 from pixels import beside
-from program import Program
+from program import UNTIL_SHOWN, Program
 
-# Seconds between two steps.
-TICKS = {"Gentle": 0.19, "Classic": 0.13, "Swift": 0.085}
-UNTIL_SHOWN = 2
 PLAY_SECONDS = 20
 MEMORY_SECONDS = 10
 PRESSES = 100

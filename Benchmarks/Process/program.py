@@ -1,11 +1,11 @@
 """A program under measurement, and what the kernel knows of it."""
 
-import os
 import pathlib
 import signal
 import time
 
-TICKS_PER_SECOND = os.sysconf("SC_CLK_TCK")
+# Until the window of either program is up, in seconds.
+UNTIL_SHOWN = 2
 
 
 class Program:

@@ -3,9 +3,8 @@
 import time
 
 from hands import SPACE
-from program import Program
+from program import UNTIL_SHOWN, Program
 
-UNTIL_SHOWN = 2
 # Every animation is over after this time.
 UNTIL_STILL = 3
 # From the start of a run to the wall ahead.

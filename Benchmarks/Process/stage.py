@@ -7,12 +7,11 @@ import time
 
 from hands import Hands
 from pixels import Pixels
-from program import Program
+from program import UNTIL_SHOWN, Program
 
 from board import Board
 from desktop import Desktop
 
-UNTIL_SHOWN = 2
 # A window manager looks at a click before the window gets it, but not at a key: one that is pressed
 # at once overtakes the click.
 UNTIL_CLICKED = 0.5
