@@ -1,6 +1,5 @@
 #include <QApplication>
 #include <QLocale>
-#include <QLoggingCategory>
 
 #include "MainWindow/ApplicationStyle.hpp"
 #include "MainWindow/BusActivation.hpp"
@@ -11,6 +10,7 @@
 #include "MainWindow/SessionBus.hpp"
 #include "MainWindow/SessionManagement.hpp"
 #include "MainWindow/SilentServices.hpp"
+#include "MainWindow/ToolkitMessages.hpp"
 #include "MainWindow/UnixSignals.hpp"
 #include "Session/ApplicationID.hpp"
 #include "Session/OneGame.hpp"
@@ -23,13 +23,13 @@ int main(int, char* argv[]) {
     if (oneGame.place() == OneGame::Place::second) {
         return 0;
     }
+    keepToolkitQuiet();
     leaveMissingSessionBusAlone();
     leaveSilentSessionBusAlone();
     leaveSilentInputMethodAlone();
+    leaveSilentSessionManagerAlone();
     // The program takes no command line; only its own name reaches the toolkit.
     int count = 1;
-    // The toolkit would tell the player, for one, which fonts lack which scripts.
-    QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
     QApplication application(count, argv);
     outliveSessionManager();
     SilentServices silentServices;

@@ -3,6 +3,7 @@
 import contextlib
 import os
 import pathlib
+import platform
 import signal
 import socket
 import subprocess
@@ -117,6 +118,11 @@ def test_it_starts_while_the_session_bus_hangs(desktop, launch):
 
 def test_it_starts_while_the_input_method_says_nothing(launch, silent_input_method):
     plays(launch(**silent_input_method))
+
+
+def test_it_starts_while_the_session_manager_says_nothing(launch, silent_address):
+    path = silent_address.removeprefix("unix:path=")
+    plays(launch(SESSION_MANAGER=f"unix/{platform.node()}:{path}"))
 
 
 def test_it_plays_on_when_the_session_bus_hangs(desktop, game):

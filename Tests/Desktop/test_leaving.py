@@ -41,6 +41,14 @@ def test_in_the_middle_of_a_run_it_ends_with_status_0_and_the_best_stored(game, 
     assert home.preferences()["best-Classic"] >= 10
 
 
+def test_signals_one_after_another_to_its_very_end_end_it_with_status_0(game):
+    """Terminals and service managers send more than one."""
+    while game.process.poll() is None:
+        for number in (signal.SIGHUP, signal.SIGTERM, signal.SIGINT):
+            game.process.send_signal(number)
+    assert game.exit_status() == 0
+
+
 @asking_the_window
 def test_while_a_name_is_awaited_it_ends_with_status_0(game, leave):
     game.start_run()

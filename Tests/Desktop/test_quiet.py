@@ -16,6 +16,25 @@ def nowhere(home):
     }
 
 
+@pytest.mark.parametrize("variable, value", [
+    ("LANG", "xx"),
+    ("WAYLAND_DISPLAY", "wayland-of-before"),
+    ("XDG_RUNTIME_DIR", "/dev/null/runtime"),
+    ("SESSION_MANAGER", "local/elsewhere:@/tmp/.ICE-unix/1"),
+])
+def test_an_odd_environment_is_no_reason_to_print(launch, home, variable, value):
+    game = launch(**{variable: value})
+    eventually(lambda: shows_card(game), "the start card is there")
+    game.press("space")
+    eventually(lambda: "best-Classic" in home.preferences(), "the first fruit counts")
+    eventually(lambda: not moves(game), "the run has ended")
+    game.type("Pip")
+    game.press("Return")
+    eventually(home.high_scores, "the run is saved")
+    game.press("ctrl+q")
+    assert game.exit_status() == 0
+
+
 @pytest.mark.parametrize("missing", [
     ["no sound server"],
     ["no session bus"],

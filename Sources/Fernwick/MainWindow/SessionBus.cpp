@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "Garden/PortalSwitch.hpp"
+#include "MainWindow/Greeting.hpp"
 #include "Session/LocalSocket.hpp"
 
 namespace {
@@ -43,25 +44,9 @@ std::optional<QByteArray> socketName(const QByteArray& address) {
     return std::nullopt;
 }
 
-enum class Call { answered, unanswered, nobody };
-
-/// Says the first words of every program on a bus, and leaves at the first of the answer: the bus
-/// tells nobody of such a caller.
-Call call(const QByteArray& name, std::chrono::milliseconds patience) {
-    constexpr std::string_view greeting("\0AUTH\r\n", 7);
-    const timeval atMost{patience.count() / 1000, patience.count() % 1000 * 1000};
-    const LocalAddress address(name);
-    const FileDescriptor socket = localSocket(SOCK_STREAM);
-    waitAtMost(socket, SO_SNDTIMEO, atMost);
-    waitAtMost(socket, SO_RCVTIMEO, atMost);
-    if (::connect(socket.number(), address.get(), address.size()) != 0) {
-        return errno == EAGAIN ? Call::unanswered : Call::nobody;
-    }
-    ::send(socket.number(), greeting.data(), greeting.size(), MSG_NOSIGNAL);
-    char answer = 0;
-    const ssize_t count = ::recv(socket.number(), &answer, sizeof answer, 0);
-    return count < 0 && errno == EAGAIN ? Call::unanswered : Call::answered;
-}
+/// What every program on a bus says first. Whoever leaves at the first of the answer is told of to
+/// nobody.
+constexpr std::string_view greeting("\0AUTH\r\n", 7);
 
 }  // namespace
 
@@ -71,9 +56,9 @@ bool isSilentBus(const QByteArray& addresses, std::chrono::milliseconds patience
         if (!name || name->size() > LocalAddress::longest) {
             return false;
         }
-        const Call outcome = call(*name, patience);
-        if (outcome != Call::nobody) {
-            return outcome == Call::unanswered;
+        const Answer answer = greet(*name, greeting, patience);
+        if (answer != Answer::nobody) {
+            return answer == Answer::none;
         }
     }
     return false;

@@ -4,9 +4,36 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <QByteArray>
+#include <QList>
+#include <QSysInfo>
+#include <QtGlobal>
+#include <algorithm>
 #include <array>
 
+#include "MainWindow/Greeting.hpp"
+#include "Session/LocalSocket.hpp"
+
 namespace {
+
+constexpr const char* addressesVariable = "SESSION_MANAGER";
+
+/// The name of the socket in an address such as "local/this-machine:@/tmp/.ICE-unix/1234"; empty
+/// in one of another machine, or of another kind.
+QByteArray socketName(const QByteArray& address) {
+    const qsizetype colon = address.indexOf(':');
+    const QByteArray place = address.left(colon);
+    const QByteArray here = QSysInfo::machineHostName().toLocal8Bit();
+    if (colon < 0 || (place != "local/" + here && place != "unix/" + here)) {
+        return {};
+    }
+    QByteArray name = address.mid(colon + 1);
+    if (name.startsWith('@')) {
+        // Lies in no folder.
+        name[0] = '\0';
+    }
+    return name;
+}
 
 // The few names of libICE that are needed. The game does not link it: it is there only where the
 // toolkit has loaded it to speak to a session manager.
@@ -34,6 +61,21 @@ Function find(void* library, const char* name) {
 }
 
 }  // namespace
+
+void leaveSilentSessionManagerAlone(std::chrono::milliseconds patience) {
+    const QList<QByteArray> addresses = qgetenv(addressesVariable).split(',');
+    const auto answers = std::ranges::find_if(addresses, [patience](const QByteArray& address) {
+        const QByteArray name = socketName(address);
+        // Whoever is called speaks first.
+        return !name.isEmpty() && name.size() <= LocalAddress::longest &&
+               greet(name, {}, patience) == Answer::some;
+    });
+    if (answers == addresses.end()) {
+        qunsetenv(addressesVariable);
+    } else {
+        qputenv(addressesVariable, *answers);
+    }
+}
 
 void outliveSessionManager() {
     void* library = ::dlopen("libICE.so.6", RTLD_LAZY | RTLD_NOLOAD);

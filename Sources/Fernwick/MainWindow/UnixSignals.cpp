@@ -46,7 +46,7 @@ UnixSignals::UnixSignals() {
 
 UnixSignals::~UnixSignals() {
     for (const int number : endingSignals) {
-        std::signal(number, SIG_DFL);
+        std::signal(number, SIG_IGN);
     }
     if (readEnd_ >= 0) {
         delete notifier_;

@@ -5,7 +5,8 @@
 class QSocketNotifier;
 
 /// Turns the signals that ask a program to end (SIGTERM, SIGINT, SIGHUP) into an orderly quit of
-/// the event loop, with status 0. One per process.
+/// the event loop, with status 0. One per process; once it is gone, the program is ending, and
+/// these signals no longer disturb it.
 class UnixSignals : public QObject {
     Q_OBJECT
 

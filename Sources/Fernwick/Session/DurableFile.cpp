@@ -88,6 +88,10 @@ bool createFolders(const fs::path& folder) {
     if (folder.empty() || fs::is_directory(folder, error)) {
         return true;
     }
+    if (error == std::errc::filename_too_long) {
+        // Nor could it be made; and its thousands of parents would cost gigabytes.
+        return false;
+    }
     const fs::path parent = folder.parent_path();
     if (parent == folder || !createFolders(parent)) {
         return false;

@@ -11,11 +11,13 @@
 /// that blocks the next start. The empty file itself stays: removing it would race.
 class FileLock {
 public:
-    /// Nothing when another holds the lock for all of `patience` or when `path` cannot be opened.
+    /// Nothing when another holds the lock for all of `patience` or when `path` cannot be opened
+    /// this time. What stands at `path` and can never be opened keeps nobody out, nor us.
     [[nodiscard]] static std::optional<FileLock> acquire(const std::filesystem::path& path,
                                                          std::chrono::milliseconds patience);
 
-    /// False on a file system that knows no locks, where there is nothing to hold.
+    /// False where there is nothing to hold: on a file system that knows no locks, or where what
+    /// stands in the lock's place cannot be opened.
     [[nodiscard]] bool excludesOthers() const { return excludesOthers_; }
 
 private:

@@ -67,6 +67,13 @@ PreferencesFile::PreferencesFile(fs::path path) : path_(std::move(path)) {
     seen_ = stored || reading.state == DurableFile::State::absent;
 }
 
+PreferencesFile::~PreferencesFile() {
+    // The disk may have room again by now.
+    if (!path_.empty() && unsaved_ != PreferencesDocument()) {
+        static_cast<void>(writeUnsaved());
+    }
+}
+
 fs::path PreferencesFile::defaultPath() {
     fs::path folder = environmentPath("XDG_CONFIG_HOME");
     if (folder.empty()) {

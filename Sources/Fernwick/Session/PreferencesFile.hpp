@@ -7,13 +7,17 @@
 
 /// Preferences in one small file, replaced as a whole and durably at every store, so that neither
 /// a crash, a full disk nor a second running program costs anything that was stored before.
-/// What is stored while the file cannot be written is kept and written with the next store.
+/// What is stored while the file cannot be written is kept and written with the next store, or at
+/// the end of the program.
 /// Prints nothing and waits at most a fifth of a second for another process.
 class PreferencesFile final : public Preferences {
 public:
     /// Reads what is stored at `path`, which need not exist. An empty path keeps the settings in
     /// memory only.
     explicit PreferencesFile(std::filesystem::path path);
+    PreferencesFile(const PreferencesFile&) = delete;
+    PreferencesFile& operator=(const PreferencesFile&) = delete;
+    ~PreferencesFile() override;
 
     /// "fernwick/preferences.cbor" in $XDG_CONFIG_HOME or, where that is no absolute path, in
     /// ~/.config; empty for a user without a home.

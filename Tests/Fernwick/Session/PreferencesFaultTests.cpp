@@ -160,6 +160,20 @@ TEST_F(PreferencesFault, aLockFileThatMayNotBeWrittenStillAllowsSaving) {
     EXPECT_TRUE(PreferencesFile(path()).store(u"sound"_s, false));
 }
 
+TEST_F(PreferencesFault, aLockFileThatMayNotBeOpenedStillAllowsSaving) {
+    writeFile(path().native() + ".lock", "");
+    const AsOrdinaryUser ordinary(folder().parent_path());
+    fs::permissions(path().native() + ".lock", fs::perms::none);
+
+    EXPECT_TRUE(PreferencesFile(path()).store(u"sound"_s, false));
+}
+
+TEST_F(PreferencesFault, aLinkToItselfInTheLocksPlaceStillAllowsSaving) {
+    fs::create_symlink("preferences.cbor.lock", path().native() + ".lock");
+
+    EXPECT_TRUE(PreferencesFile(path()).store(u"sound"_s, false));
+}
+
 TEST_F(PreferencesFault, onAFullDiskTheLastGoodFileStaysAndTheNextSaveCatchesUp) {
     PreferencesFile preferences(path());
     ASSERT_TRUE(preferences.store(u"best-Swift"_s, 10));
@@ -178,6 +192,37 @@ TEST_F(PreferencesFault, onAFullDiskTheLastGoodFileStaysAndTheNextSaveCatchesUp)
     EXPECT_EQ(
         settingsIn(path()),
         settingsOf({{u"best-Swift"_s, 20}, {u"player-name"_s, u"Ada"_s}, {u"sound"_s, false}}));
+}
+
+TEST_F(PreferencesFault, whatCouldNotBeSavedIsSavedAtTheEndIfItCanBeByThen) {
+    {
+        PreferencesFile preferences(path());
+        ASSERT_TRUE(preferences.store(u"best-Swift"_s, 10));
+        {
+            const FileSizeLimit full(0);
+            EXPECT_FALSE(preferences.store(u"best-Swift"_s, 20));
+            EXPECT_FALSE(preferences.store(u"sound"_s, false));
+        }
+        EXPECT_EQ(settingsIn(path()), settingsOf({{u"best-Swift"_s, 10}}));
+    }
+
+    EXPECT_EQ(settingsIn(path()), settingsOf({{u"best-Swift"_s, 20}, {u"sound"_s, false}}));
+}
+
+TEST_F(PreferencesFault, anEndWithNothingLeftToSaveWritesNothing) {
+    { const PreferencesFile preferences(path()); }
+
+    EXPECT_FALSE(fs::exists(path()));
+}
+
+TEST_F(PreferencesFault, aFolderDeeperThanAnyPathReachesOnlyCostsTheSave) {
+    // One step for each of its levels, each with the path in hand, would take all memory.
+    std::string deep = folder().native();
+    for (int level = 0; level < 50'000; ++level) {
+        deep += "/x";
+    }
+
+    EXPECT_FALSE(PreferencesFile(deep + "/preferences.cbor").store(u"sound"_s, false));
 }
 
 TEST_F(PreferencesFault, missingFoldersAreMadeAndAnUnmakeableOneOnlyCostsTheSave) {

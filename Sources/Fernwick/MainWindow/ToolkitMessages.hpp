@@ -1,0 +1,6 @@
+#pragma once
+
+/// The toolkit would tell the player which fonts lack which scripts, that a folder of the session
+/// is missing, or which display it tried first. This keeps all to itself but why it cannot go on at
+/// all. Whoever asks for its messages, by variables such as QT_LOGGING_RULES, gets them.
+void keepToolkitQuiet();
