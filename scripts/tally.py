@@ -54,7 +54,8 @@ def main():
     else:
         passed, failed = count_report(arguments.report, arguments.status)
     print(f"{passed} passed, {failed} failed")
-    return 1 if arguments.sum and failed else 0
+    # A sum of nothing is no success.
+    return 1 if arguments.sum and (failed or not passed) else 0
 
 
 if __name__ == "__main__":
