@@ -2,7 +2,6 @@
 #include <QDir>
 #include <QPainter>
 #include <QScreen>
-#include <cmath>
 #include <cstdio>
 
 #include "Gallery/Scenes.hpp"

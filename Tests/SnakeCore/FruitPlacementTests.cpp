@@ -2,7 +2,6 @@
 #include <SnakeCore/Game.hpp>
 
 #include <algorithm>
-#include <cmath>
 #include <functional>
 #include <random>
 #include <unordered_map>

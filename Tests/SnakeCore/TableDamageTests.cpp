@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 #include <SnakeCore/HighScores.hpp>
 
-#include <array>
 #include <string>
 #include <string_view>
 

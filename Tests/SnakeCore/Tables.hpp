@@ -1,7 +1,6 @@
 #pragma once
 
 #include <SnakeCore/HighScores.hpp>
-#include <array>
 #include <string>
 #include <string_view>
 

@@ -13,6 +13,7 @@ class FernwickApp : public QObject {
     Q_OBJECT
 
 public:
+    /// Both references must outlive it.
     FernwickApp(Preferences& preferences, SoundEffects& soundEffects);
 
     /// Shows the window, starts to watch the keys and brings the game to the front.

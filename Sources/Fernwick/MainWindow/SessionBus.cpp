@@ -1,7 +1,6 @@
 #include "MainWindow/SessionBus.hpp"
 
 #include <QList>
-#include <QString>
 #include <QtGlobal>
 #include <optional>
 #include <string_view>

@@ -11,13 +11,12 @@ namespace {
 /// In the smallest window everything has to find its room.
 class Fitting : public LookTest {
 protected:
-    void expectTidyWindow() const { Tidiness::expectTidy(window, {38, 0, 38, 26}); }
+    void expectTidyWindow() const { Tidiness::expectTidyWindow(window); }
 
     void expectTidySheet() {
         session.openScores();
         settle();
-        EXPECT_TRUE(window.rect().contains(placeOf(the<HighScoresView>())));
-        Tidiness::expectTidy(the<HighScoresView>(), {32, 32, 32, 32});
+        Tidiness::expectTidySheet(window);
         session.showingScores = false;
         settle();
     }

@@ -24,18 +24,6 @@ protected:
         settle();
     }
 
-    [[nodiscard]] static QRect placeIn(const QWidget& root, const QWidget& widget) {
-        return {widget.mapTo(&root, QPoint()), widget.size()};
-    }
-
-    /// Where `widget` stands, in points of the window.
-    [[nodiscard]] QRect placeOf(const QWidget& widget) const { return placeIn(window, widget); }
-
-    template <typename T>
-    [[nodiscard]] T& the() const {
-        return *window.findChild<T*>();
-    }
-
     [[nodiscard]] Garden::TrackedLabel& label(const QString& text) const {
         auto* found = Screen::find<Garden::TrackedLabel>(window, text);
         if (found == nullptr) {

@@ -1,7 +1,6 @@
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
-#include <algorithm>
 
 #include "Fernwick/MainWindow/WindowTest.hpp"
 

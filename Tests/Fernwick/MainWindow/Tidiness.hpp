@@ -11,6 +11,7 @@
 #include "Garden/TrackedLabel.hpp"
 #include "MainWindow/Rule.hpp"
 #include "MainWindow/StatusDot.hpp"
+#include "ScoreScreens/HighScoresView.hpp"
 #include "ScoreScreens/NameField.hpp"
 #include "ScoreScreens/ScoreRows.hpp"
 
@@ -61,6 +62,18 @@ inline void expectTidy(const QWidget& root, const QMargins& padding) {
                 << Screen::nameOf(elements[other]).toStdString();
         }
     }
+}
+
+/// The same of the whole window.
+inline void expectTidyWindow(const QWidget& window) {
+    expectTidy(window, {38, 0, 38, 26});
+}
+
+/// The same of the sheet of high scores, which is up and has to lie inside the window.
+inline void expectTidySheet(const QWidget& window) {
+    const auto& sheet = *window.findChild<HighScoresView*>();
+    EXPECT_TRUE(window.rect().contains(QRect(sheet.mapTo(&window, QPoint()), sheet.size())));
+    expectTidy(sheet, {32, 32, 32, 32});
 }
 
 }  // namespace Tidiness

@@ -50,6 +50,19 @@ protected:
         QCoreApplication::processEvents();
     }
 
+    template <typename T>
+    [[nodiscard]] T& the() const {
+        return *window.findChild<T*>();
+    }
+
+    /// Where `widget` stands, in points of `root`.
+    [[nodiscard]] static QRect placeIn(const QWidget& root, const QWidget& widget) {
+        return {widget.mapTo(&root, QPoint()), widget.size()};
+    }
+
+    /// Where `widget` stands, in points of the window.
+    [[nodiscard]] QRect placeOf(const QWidget& widget) const { return placeIn(window, widget); }
+
     [[nodiscard]] bool shows(const QString& text) const { return Screen::shows(window, text); }
 
     [[nodiscard]] QAbstractButton* button(const QString& name) const {

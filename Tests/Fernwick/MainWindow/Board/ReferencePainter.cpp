@@ -4,7 +4,6 @@
 #include <QPainterPath>
 #include <array>
 #include <cmath>
-#include <memory>
 #include <vector>
 
 namespace {

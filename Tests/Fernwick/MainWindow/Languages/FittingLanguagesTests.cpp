@@ -3,7 +3,6 @@
 #include "Garden/Fonts.hpp"
 #include "MainWindow/BoardArea.hpp"
 #include "MainWindow/Overlay.hpp"
-#include "ScoreScreens/HighScoresView.hpp"
 
 namespace {
 
@@ -14,13 +13,12 @@ struct SpeakerOfParameter : ::testing::WithParamInterface<QString>, Speaker {
 /// In the smallest window every language has to find its room.
 class FittingLanguages : public SpeakerOfParameter, public LanguageTest {
 protected:
-    void expectTidyWindow() const { Tidiness::expectTidy(window, {38, 0, 38, 26}); }
+    void expectTidyWindow() const { Tidiness::expectTidyWindow(window); }
 
     void expectTidySheet() {
         session.openScores();
         settle();
-        EXPECT_TRUE(window.rect().contains(placeOf(the<HighScoresView>())));
-        Tidiness::expectTidy(the<HighScoresView>(), {32, 32, 32, 32});
+        Tidiness::expectTidySheet(window);
         session.showingScores = false;
         settle();
     }

@@ -16,16 +16,6 @@ protected:
         settle();
     }
 
-    template <typename T>
-    [[nodiscard]] T& the() const {
-        return *window.findChild<T*>();
-    }
-
-    /// Where `widget` stands, in points of the window.
-    [[nodiscard]] QRect placeOf(const QWidget& widget) const {
-        return {widget.mapTo(&window, QPoint()), widget.size()};
-    }
-
     [[nodiscard]] QImage picture() { return window.grab().toImage(); }
 };
 
