@@ -6,7 +6,7 @@
 
 /// Text by the characters people see (extended grapheme clusters), not by bytes. All functions take
 /// UTF-8, count each broken sequence as a character of its own, and throw `std::length_error` on
-/// texts of 2 GiB and more.
+/// texts of 2 GiB and more and `std::runtime_error` where the library's own data is missing.
 namespace SnakeCore {
 
 /// Calls `visit` with one character after the other until it returns false. `visit` may not use

@@ -18,10 +18,8 @@ namespace {
 constexpr double fontSize = 33;
 constexpr QFont::Weight fontWeight = QFont::Light;
 constexpr int fewestDigits = 3;
-// Digits have no descenders; the font's own line would stand too far off the label above.
-constexpr int lineHeight = 40;
-// How far digits roll, of the line's height. They fade as they go.
-constexpr double rollDistance = 0.75;
+// How far digits roll, in logical pixels. They fade as they go.
+constexpr double rollDistance = 30;
 
 QString digits(qint64 value) {
     return QString::asprintf("%0*lld", fewestDigits, value);
@@ -95,8 +93,7 @@ void RollingDigits::paintEvent(QPaintEvent*) {
     const double baseline = (height() + QFontMetricsF(font()).capHeight()) / 2;
     const auto draw = [&](int fromRight, QChar digit, double shift, double opacity) {
         painter.setPen(withOpacity(mint, opacity));
-        painter.drawText(QPointF(left(fromRight), baseline + shift * rollDistance * lineHeight),
-                         QString(digit));
+        painter.drawText(QPointF(left(fromRight), baseline + shift * rollDistance), QString(digit));
     };
     const bool rolling = roll_.state() == QAbstractAnimation::Running;
     const double progress = roll_.currentValue().toDouble();

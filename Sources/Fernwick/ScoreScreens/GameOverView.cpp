@@ -41,7 +41,8 @@ GameOverView::GameOverView(Session& session, QWidget* parent)
     auto* area = new QHBoxLayout(this);
     area->setContentsMargins(cardPadding, cardPadding, cardPadding, cardPadding);
     area->addStretch();
-    area->addWidget(card, widestCard, Qt::AlignVCenter);
+    // Before either side gets any room, the card gets all that it may take.
+    area->addWidget(card, 1, Qt::AlignVCenter);
     area->addStretch();
     refresh();
 }
