@@ -37,19 +37,11 @@ fs::path followLinks(fs::path path) {
 }
 
 DurableFile::State stateAfterRefusal(int error) {
-    switch (error) {
-        case ENOENT:
-        case ENOTDIR:  // a file where the folder should be
-            return DurableFile::State::absent;
-        case EACCES:
-        case EPERM:
-        case ELOOP:
-        case ENXIO:  // a socket, or a device without a driver
-        case ENODEV:
-            return DurableFile::State::unusable;
-        default:
-            return DurableFile::State::failed;
+    // ENOTDIR: a file where the folder should be.
+    if (error == ENOENT || error == ENOTDIR) {
+        return DurableFile::State::absent;
     }
+    return isLastingRefusal(error) ? DurableFile::State::unusable : DurableFile::State::failed;
 }
 
 bool writeAll(int file, const QByteArray& bytes) {

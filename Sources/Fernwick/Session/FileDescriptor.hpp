@@ -31,6 +31,12 @@ private:
     int number_;
 };
 
+/// Whether the error of a call that did not open a file is one that no later try will be spared: it
+/// is not allowed, or what stands there is a link to itself, a socket or a device without a driver.
+[[nodiscard]] inline bool isLastingRefusal(int error) {
+    return error == EACCES || error == EPERM || error == ELOOP || error == ENXIO || error == ENODEV;
+}
+
 /// Makes a system call again for as long as a signal interrupts it.
 template <typename Call>
 [[nodiscard]] auto uninterrupted(Call call) {

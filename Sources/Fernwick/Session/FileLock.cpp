@@ -5,15 +5,6 @@
 
 #include <thread>
 
-namespace {
-
-/// Of another user who lets nobody in, or no file at all: no later try will open it either.
-bool isUnusable(int error) {
-    return error == EACCES || error == EPERM || error == ELOOP || error == ENXIO || error == ENODEV;
-}
-
-}  // namespace
-
 std::optional<FileLock> FileLock::acquire(const std::filesystem::path& path,
                                           std::chrono::milliseconds patience) {
     // O_NONBLOCK: a pipe that stands in the file's place must not hold us up.
@@ -26,7 +17,8 @@ std::optional<FileLock> FileLock::acquire(const std::filesystem::path& path,
             FileDescriptor(uninterrupted([&] { return ::open(path.c_str(), O_RDONLY | flags); }));
     }
     if (!file.valid()) {
-        return isUnusable(errno) ? std::optional(FileLock(std::move(file), false)) : std::nullopt;
+        return isLastingRefusal(errno) ? std::optional(FileLock(std::move(file), false))
+                                       : std::nullopt;
     }
     // A blocking flock() knows no time limit, so ask, sleep and ask again.
     constexpr std::chrono::milliseconds pause{5};
