@@ -18,6 +18,7 @@ def nowhere(home):
 
 @pytest.mark.parametrize("variable, value", [
     ("LANG", "xx"),
+    ("LC_CTYPE", "UTF-8"),
     ("WAYLAND_DISPLAY", "wayland-of-before"),
     ("XDG_RUNTIME_DIR", "/dev/null/runtime"),
     ("SESSION_MANAGER", "local/elsewhere:@/tmp/.ICE-unix/1"),
