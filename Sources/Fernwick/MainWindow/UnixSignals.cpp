@@ -16,6 +16,16 @@ constexpr std::array endingSignals{SIGTERM, SIGINT, SIGHUP};
 // A signal handler may do next to nothing: it leaves a byte that wakes the event loop.
 volatile std::sig_atomic_t writeEnd = -1;
 
+/// Some programs block signals in what they start, which would leave only a kill to end the game.
+void letThrough() {
+    sigset_t ending{};
+    sigemptyset(&ending);
+    for (const int number : endingSignals) {
+        sigaddset(&ending, number);
+    }
+    pthread_sigmask(SIG_UNBLOCK, &ending, nullptr);
+}
+
 void leaveByte(int) {
     // What it interrupted may be about to ask why its own call failed.
     const int interrupted = errno;
@@ -42,6 +52,7 @@ UnixSignals::UnixSignals() {
     for (const int number : endingSignals) {
         ::sigaction(number, &action, nullptr);
     }
+    letThrough();
 }
 
 UnixSignals::~UnixSignals() {
