@@ -18,6 +18,7 @@
 #include "Session/PulseSoundEffects.hpp"
 
 int main(int, char* argv[]) {
+    endAtOnceOnSignals();
     const std::filesystem::path settings = PreferencesFile::defaultPath();
     OneGame oneGame(settings);
     if (oneGame.place() == OneGame::Place::second) {

@@ -21,26 +21,35 @@ def home(tmp_path):
 
 
 @pytest.fixture
-def launch(desktop, home, tmp_path):
-    """Starts the program and waits until it can be played; it may never print anything.
+def start(desktop, home, tmp_path):
+    """Starts the program, which may never print anything.
 
     What is None is taken out of its environment."""
     games = []
 
-    def launch(**environment):
-        desktop.run("xdotool", "mousemove", *POINTER_AT_REST)
+    def start(**environment):
         environment = (desktop.environment | home.environment
                        | {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"} | environment)
-        game = Game(desktop, tmp_path, {name: value for name, value in environment.items()
-                                        if value is not None})
-        games.append(game)
-        game.wait_until_shown()
-        return game
+        games.append(Game(desktop, tmp_path, {name: value for name, value in environment.items()
+                                              if value is not None}))
+        return games[-1]
 
-    yield launch
+    yield start
     for game in games:
         game.kill()
         assert game.printed() == ""
+
+
+@pytest.fixture
+def launch(desktop, start):
+    """Starts the program as `start` does, and waits until it can be played."""
+    def launch(**environment):
+        desktop.run("xdotool", "mousemove", *POINTER_AT_REST)
+        game = start(**environment)
+        game.wait_until_shown()
+        return game
+
+    return launch
 
 
 @pytest.fixture

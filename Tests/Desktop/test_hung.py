@@ -12,7 +12,7 @@ import sys
 import pytest
 from accessibility import call, connect
 from seen import moves, shows_card
-from waiting import eventually
+from waiting import PATIENCE, eventually
 
 BUS = "org.freedesktop.DBus", "/org/freedesktop/DBus"
 REGISTRY = "org.a11y.atspi.Registry"
@@ -53,13 +53,18 @@ def first_child(process):
 
 
 @pytest.fixture
-def silent_address(home):
+def listener(home):
     """A socket that everybody can reach and that never says a word."""
-    path = f"{home.environment['HOME']}/silent"
     with socket.socket(socket.AF_UNIX) as listener:
-        listener.bind(path)
+        listener.bind(f"{home.environment['HOME']}/silent")
         listener.listen()
-        yield f"unix:path={path}"
+        listener.settimeout(PATIENCE)
+        yield listener
+
+
+@pytest.fixture
+def silent_address(listener):
+    return f"unix:path={listener.getsockname()}"
 
 
 @pytest.fixture
@@ -109,6 +114,15 @@ def hanging_service(desktop):
 
 def test_it_starts_while_whoever_has_the_address_of_the_bus_says_nothing(launch, silent_address):
     plays(launch(DBUS_SESSION_BUS_ADDRESS=silent_address))
+
+
+@pytest.mark.parametrize("number", [signal.SIGTERM, signal.SIGINT, signal.SIGHUP])
+def test_a_signal_ends_it_with_status_0_before_it_has_a_window(
+        start, listener, silent_address, number):
+    game = start(DBUS_SESSION_BUS_ADDRESS=silent_address)
+    listener.accept()
+    game.process.send_signal(number)
+    assert game.exit_status() == 0
 
 
 def test_it_starts_while_the_session_bus_hangs(desktop, launch):

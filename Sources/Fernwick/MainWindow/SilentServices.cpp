@@ -103,7 +103,8 @@ bool assistanceStaysSilent(const QDBusConnection& bus, const QDBusPendingCall& n
 }  // namespace
 
 SilentServices::SilentServices(Milliseconds patience)
-    : found_(std::async(std::launch::async, find, patience)) {}
+    // Where the system has no thread left, they are asked when the answers are needed.
+    : found_(std::async(std::launch::async | std::launch::deferred, find, patience)) {}
 
 void SilentServices::leaveAlone() {
     const Found silent = found_.get();

@@ -34,7 +34,25 @@ void leaveByte(int) {
     errno = interrupted;
 }
 
+void endAtOnce(int) {
+    ::_exit(0);
+}
+
+void answerWith(void (*handler)(int)) {
+    struct sigaction action {};
+    action.sa_handler = handler;
+    action.sa_flags = SA_RESTART;
+    for (const int number : endingSignals) {
+        ::sigaction(number, &action, nullptr);
+    }
+    letThrough();
+}
+
 }  // namespace
+
+void endAtOnceOnSignals() {
+    answerWith(endAtOnce);
+}
 
 UnixSignals::UnixSignals() {
     std::array<int, 2> ends{};
@@ -46,13 +64,7 @@ UnixSignals::UnixSignals() {
     notifier_ = new QSocketNotifier(readEnd_, QSocketNotifier::Read, this);
     connect(notifier_, &QSocketNotifier::activated, QCoreApplication::instance(),
             &QCoreApplication::quit);
-    struct sigaction action {};
-    action.sa_handler = leaveByte;
-    action.sa_flags = SA_RESTART;
-    for (const int number : endingSignals) {
-        ::sigaction(number, &action, nullptr);
-    }
-    letThrough();
+    answerWith(leaveByte);
 }
 
 UnixSignals::~UnixSignals() {
