@@ -1,4 +1,3 @@
-#include <SnakeCore/HighScores.hpp>
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -8,6 +7,7 @@
 
 #include "ReferenceText.hpp"
 #include "Require.hpp"
+#include "SnakeCore/HighScores.hpp"
 
 namespace {
 

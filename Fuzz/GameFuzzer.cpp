@@ -1,4 +1,3 @@
-#include <SnakeCore/Game.hpp>
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -8,6 +7,7 @@
 #include <vector>
 
 #include "Require.hpp"
+#include "SnakeCore/Game.hpp"
 #include "SnakeCore/Playing.hpp"
 
 namespace {

@@ -6,7 +6,7 @@
 #include <optional>
 
 #include "Require.hpp"
-#include "Session/PreferencesDocument.hpp"
+#include "Storage/PreferencesDocument.hpp"
 
 using namespace Qt::StringLiterals;
 using SnakeCore::require;

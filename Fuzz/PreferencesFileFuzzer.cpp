@@ -6,9 +6,9 @@
 #include <iterator>
 #include <string>
 
-#include "Fernwick/Session/TemporaryFolder.hpp"
 #include "Require.hpp"
-#include "Session/PreferencesFile.hpp"
+#include "Storage/PreferencesFile.hpp"
+#include "Support/TemporaryFolder.hpp"
 
 using namespace Qt::StringLiterals;
 using SnakeCore::require;

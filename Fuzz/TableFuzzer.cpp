@@ -1,10 +1,10 @@
-#include <SnakeCore/HighScores.hpp>
 #include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
 
 #include "Require.hpp"
+#include "SnakeCore/HighScores.hpp"
 
 namespace {
 

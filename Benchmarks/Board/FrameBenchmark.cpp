@@ -4,10 +4,10 @@
 #include <algorithm>
 
 #include "Board/Screens.hpp"
-#include "Fernwick/MainWindow/Board/Games.hpp"
-#include "Fernwick/MainWindow/Board/ReferencePainter.hpp"
-#include "MainWindow/Board/BoardPicture.hpp"
-#include "MainWindow/Board/IdlePicture.hpp"
+#include "Fernwick/Painting/Games.hpp"
+#include "Fernwick/Painting/ReferencePainter.hpp"
+#include "Painting/Board/BoardPicture.hpp"
+#include "Painting/Board/IdlePicture.hpp"
 
 namespace {
 

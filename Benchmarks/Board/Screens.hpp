@@ -1,7 +1,7 @@
 #pragma once
 
-#include "MainWindow/Board/BoardGeometry.hpp"
-#include "MainWindow/Board/PixelGrid.hpp"
+#include "Painting/Board/BoardGeometry.hpp"
+#include "Painting/Board/PixelGrid.hpp"
 
 /// The boards of a full-screen game.
 namespace Screens {

@@ -1,15 +1,15 @@
 #include <benchmark/benchmark.h>
 
 #include "Board/Screens.hpp"
-#include "Fernwick/MainWindow/Board/Games.hpp"
-#include "MainWindow/Board/Backdrop.hpp"
-#include "MainWindow/Board/BandGradient.hpp"
-#include "MainWindow/Board/BandMask.hpp"
-#include "MainWindow/Board/Dots.hpp"
-#include "MainWindow/Board/Eyes.hpp"
-#include "MainWindow/Board/FrameEdge.hpp"
-#include "MainWindow/Board/Fruit.hpp"
-#include "MainWindow/Board/GlowField.hpp"
+#include "Fernwick/Painting/Games.hpp"
+#include "Painting/Board/BandGradient.hpp"
+#include "Painting/Board/BandMask.hpp"
+#include "Painting/Board/Dots.hpp"
+#include "Painting/Board/Eyes.hpp"
+#include "Painting/Board/Fruit.hpp"
+#include "Painting/Board/GlowField.hpp"
+#include "Painting/Ground/Backdrop.hpp"
+#include "Painting/Ground/FrameEdge.hpp"
 
 namespace {
 

@@ -6,13 +6,13 @@
 #include <cstdlib>
 #include <iostream>
 
-#include "Fernwick/MainWindow/Board/Games.hpp"
-#include "MainWindow/ApplicationStyle.hpp"
-#include "MainWindow/FernwickApp.hpp"
-#include "MainWindow/SessionBus.hpp"
+#include "App/ApplicationStyle.hpp"
+#include "App/FernwickApp.hpp"
+#include "Desktop/SessionBus.hpp"
+#include "Fernwick/Painting/Games.hpp"
 #include "Session/KeyCode.hpp"
-#include "Session/PreferencesFile.hpp"
-#include "Session/PulseSoundEffects.hpp"
+#include "Sound/PulseSoundEffects.hpp"
+#include "Storage/PreferencesFile.hpp"
 
 namespace {
 

@@ -1,11 +1,11 @@
 #include <benchmark/benchmark.h>
-#include <SnakeCore/Game.hpp>
-#include <SnakeCore/Occupancy.hpp>
 
 #include <cstdint>
 #include <limits>
 #include <random>
 
+#include "SnakeCore/Game.hpp"
+#include "SnakeCore/Occupancy.hpp"
 #include "SnakeCore/Playing.hpp"
 
 namespace SnakeCore {

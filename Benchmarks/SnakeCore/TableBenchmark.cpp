@@ -1,5 +1,4 @@
 #include <benchmark/benchmark.h>
-#include <SnakeCore/HighScores.hpp>
 
 #include <array>
 #include <cstdint>
@@ -9,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "SnakeCore/HighScores.hpp"
 #include "SnakeCore/PeakMemory.hpp"
 
 namespace SnakeCore {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "SnakeCore/Checked.hpp"
+#include "SnakeCore/Detail/Checked.hpp"
 
 namespace SnakeCore {
 namespace {
@@ -20,8 +20,8 @@ Snake startingSnake(std::int64_t width, std::int64_t height) {
 }  // namespace
 
 Game::Game(std::int64_t width, std::int64_t height)
-    : width_(atLeast(width, leastWidth)),
-      height_(atLeast(height, leastHeight)),
+    : width_(requireAtLeast(width, leastWidth)),
+      height_(requireAtLeast(height, leastHeight)),
       taken_(width, height),
       snake_(startingSnake(width, height)),
       food_{std::min(snake_.front().x + firstFruitDistance, width - 1), snake_.front().y} {

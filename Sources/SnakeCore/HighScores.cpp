@@ -7,10 +7,10 @@
 #include <functional>
 #include <utility>
 
+#include "SnakeCore/Detail/TableReader.hpp"
+#include "SnakeCore/Detail/TableWriter.hpp"
+#include "SnakeCore/Detail/Utf8.hpp"
 #include "SnakeCore/Graphemes.hpp"
-#include "SnakeCore/TableReader.hpp"
-#include "SnakeCore/TableWriter.hpp"
-#include "SnakeCore/Utf8.hpp"
 
 namespace SnakeCore {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <bit>
 
-#include "SnakeCore/Checked.hpp"
+#include "SnakeCore/Detail/Checked.hpp"
 
 namespace SnakeCore {
 

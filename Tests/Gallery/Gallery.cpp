@@ -4,13 +4,13 @@
 #include <QScreen>
 #include <cstdio>
 
+#include "App/ApplicationStyle.hpp"
+#include "App/Language.hpp"
 #include "Gallery/Scenes.hpp"
-#include "MainWindow/ApplicationStyle.hpp"
-#include "MainWindow/GameWindow.hpp"
-#include "MainWindow/Language.hpp"
-#include "Session/PreferencesFile.hpp"
 #include "Session/Session.hpp"
 #include "Session/SoundEffects.hpp"
+#include "Storage/PreferencesFile.hpp"
+#include "Window/GameWindow.hpp"
 
 // Renders every scene at one size into a folder, with a contact sheet of all of them.
 

@@ -1,13 +1,13 @@
 #include "Gallery/Scenes.hpp"
 
-#include <SnakeCore/Game.hpp>
-#include <SnakeCore/HighScores.hpp>
 #include <algorithm>
 #include <array>
 #include <random>
 
-#include "Fernwick/Session/GardenCycle.hpp"
 #include "Session/Session.hpp"
+#include "SnakeCore/Game.hpp"
+#include "SnakeCore/HighScores.hpp"
+#include "Support/ClosedWalk.hpp"
 
 namespace {
 

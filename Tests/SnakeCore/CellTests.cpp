@@ -1,9 +1,9 @@
-#include "SnakeCore/Cell.hpp"
-
 #include <gtest/gtest.h>
 
 #include <limits>
 #include <unordered_set>
+
+#include "SnakeCore/Cell.hpp"
 
 namespace SnakeCore {
 namespace {

@@ -1,11 +1,12 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
-#include <SnakeCore/Graphemes.hpp>
-#include <SnakeCore/HighScores.hpp>
 
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "SnakeCore/Graphemes.hpp"
+#include "SnakeCore/HighScores.hpp"
 
 namespace SnakeCore {
 namespace {

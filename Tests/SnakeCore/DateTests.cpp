@@ -1,7 +1,8 @@
 #include <gtest/gtest.h>
-#include <SnakeCore/Date.hpp>
 
 #include <ctime>
+
+#include "SnakeCore/Date.hpp"
 
 namespace SnakeCore {
 namespace {

@@ -1,10 +1,9 @@
-#include "SnakeCore/Direction.hpp"
-
 #include <gtest/gtest.h>
 
 #include <set>
 #include <utility>
 
+#include "SnakeCore/Direction.hpp"
 #include "SnakeCore/Playing.hpp"
 
 namespace SnakeCore {

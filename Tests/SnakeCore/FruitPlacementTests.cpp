@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
-#include <SnakeCore/Game.hpp>
 
 #include <algorithm>
 #include <functional>
 #include <random>
 #include <unordered_map>
 
+#include "SnakeCore/Game.hpp"
 #include "SnakeCore/Playing.hpp"
 
 namespace SnakeCore {

@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
-#include <SnakeCore/Game.hpp>
 
 #include <algorithm>
 #include <cstdlib>
 #include <limits>
 #include <random>
 
+#include "SnakeCore/Game.hpp"
 #include "SnakeCore/Playing.hpp"
 #include "SnakeCore/ReferenceGame.hpp"
 

@@ -1,8 +1,9 @@
 #include <gtest/gtest.h>
-#include <SnakeCore/Checked.hpp>
-#include <SnakeCore/Game.hpp>
 
 #include <limits>
+
+#include "SnakeCore/Detail/Checked.hpp"
+#include "SnakeCore/Game.hpp"
 
 namespace SnakeCore {
 namespace {

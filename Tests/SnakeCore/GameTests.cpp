@@ -1,5 +1,3 @@
-#include "SnakeCore/Game.hpp"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -7,6 +5,7 @@
 #include <random>
 #include <vector>
 
+#include "SnakeCore/Game.hpp"
 #include "SnakeCore/Playing.hpp"
 
 namespace SnakeCore {

@@ -1,7 +1,6 @@
-#include "SnakeCore/Game.hpp"
-
 #include <gtest/gtest.h>
 
+#include "SnakeCore/Game.hpp"
 #include "SnakeCore/Playing.hpp"
 
 namespace SnakeCore {

@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
-#include <SnakeCore/HighScores.hpp>
 
 #include <concepts>
 #include <string>
 #include <type_traits>
 
+#include "SnakeCore/HighScores.hpp"
 #include "SnakeCore/Tables.hpp"
 
 namespace SnakeCore {

@@ -1,12 +1,12 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
-#include <SnakeCore/HighScores.hpp>
 
 #include <algorithm>
 #include <string>
 #include <tuple>
 #include <vector>
 
+#include "SnakeCore/HighScores.hpp"
 #include "SnakeCore/Tables.hpp"
 
 namespace SnakeCore {

@@ -1,8 +1,9 @@
 #pragma once
 
-#include <SnakeCore/Game.hpp>
 #include <array>
 #include <vector>
+
+#include "SnakeCore/Game.hpp"
 
 namespace SnakeCore {
 

@@ -1,10 +1,11 @@
 #pragma once
 
-#include <SnakeCore/Game.hpp>
 #include <algorithm>
 #include <deque>
 #include <random>
 #include <vector>
+
+#include "SnakeCore/Game.hpp"
 
 namespace SnakeCore {
 

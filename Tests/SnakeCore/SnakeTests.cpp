@@ -1,6 +1,4 @@
 #include <gtest/gtest.h>
-#include <SnakeCore/Game.hpp>
-#include <SnakeCore/Snake.hpp>
 
 #include <algorithm>
 #include <concepts>
@@ -9,6 +7,9 @@
 #include <random>
 #include <ranges>
 #include <type_traits>
+
+#include "SnakeCore/Game.hpp"
+#include "SnakeCore/Snake.hpp"
 
 namespace SnakeCore {
 namespace {

@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
-#include <SnakeCore/HighScores.hpp>
 
 #include <string>
 #include <string_view>
 
+#include "SnakeCore/HighScores.hpp"
 #include "SnakeCore/Tables.hpp"
 
 namespace SnakeCore {

@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
-#include <SnakeCore/HighScores.hpp>
 
 #include <limits>
 #include <string>
 
+#include "SnakeCore/HighScores.hpp"
 #include "SnakeCore/Tables.hpp"
 
 namespace SnakeCore {

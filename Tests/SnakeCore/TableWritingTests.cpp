@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
-#include <SnakeCore/HighScores.hpp>
 
 #include <bit>
 #include <cmath>
@@ -10,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "SnakeCore/HighScores.hpp"
 #include "SnakeCore/Tables.hpp"
 
 namespace SnakeCore {

@@ -1,8 +1,9 @@
 #pragma once
 
-#include <SnakeCore/HighScores.hpp>
 #include <string>
 #include <string_view>
+
+#include "SnakeCore/HighScores.hpp"
 
 namespace SnakeCore {
 

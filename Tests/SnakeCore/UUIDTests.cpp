@@ -1,9 +1,10 @@
 #include <gtest/gtest.h>
-#include <SnakeCore/UUID.hpp>
 
 #include <set>
 #include <string>
 #include <string_view>
+
+#include "SnakeCore/UUID.hpp"
 
 namespace SnakeCore {
 namespace {

@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
-#include <SnakeCore/Game.hpp>
 
 #include <algorithm>
 #include <random>
 #include <unordered_set>
 
+#include "SnakeCore/Game.hpp"
 #include "SnakeCore/Playing.hpp"
 
 namespace SnakeCore {

@@ -1,8 +1,5 @@
 #pragma once
 
-#include <SnakeCore/Game.hpp>
-#include <SnakeCore/HighScores.hpp>
-
 #include <QString>
 #include <cstdint>
 #include <memory>
@@ -10,6 +7,8 @@
 #include "Session/ObservableObject.hpp"
 #include "Session/Pace.hpp"
 #include "Session/Published.hpp"
+#include "SnakeCore/Game.hpp"
+#include "SnakeCore/HighScores.hpp"
 
 class KeyMonitor;
 class Preferences;

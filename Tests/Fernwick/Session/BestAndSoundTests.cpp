@@ -1,5 +1,5 @@
-#include "Fernwick/Session/GardenCycle.hpp"
 #include "Fernwick/Session/SessionTest.hpp"
+#include "Support/ClosedWalk.hpp"
 
 namespace {
 

@@ -5,11 +5,11 @@
 #include <QTimer>
 #include <vector>
 
-#include "Fernwick/Session/TemporaryFolder.hpp"
 #include "Session/KeyCode.hpp"
-#include "Session/PreferencesFile.hpp"
 #include "Session/Session.hpp"
 #include "Session/SoundEffects.hpp"
+#include "Storage/PreferencesFile.hpp"
+#include "Support/TemporaryFolder.hpp"
 
 /// Remembers what was played, in order.
 class HeardSounds : public SoundEffects {

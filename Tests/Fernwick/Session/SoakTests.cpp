@@ -7,10 +7,10 @@
 #include <set>
 #include <utility>
 
-#include "Fernwick/Session/EnvironmentNumber.hpp"
-#include "Fernwick/Session/GardenCycle.hpp"
 #include "Fernwick/Session/SessionModel.hpp"
 #include "Fernwick/Session/SessionTest.hpp"
+#include "Support/ClosedWalk.hpp"
+#include "Support/EnvironmentNumber.hpp"
 
 using SnakeCore::Direction;
 

@@ -129,7 +129,7 @@
     </message>
 </context>
 <context>
-    <name>MenuBand</name>
+    <name>TitleBand</name>
     <message>
         <source>Maximise</source>
         <extracomment>Help for the marks of the window, as the desktops of the language say it.</extracomment>

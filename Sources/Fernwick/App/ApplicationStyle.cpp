@@ -1,0 +1,83 @@
+#include "App/ApplicationStyle.hpp"
+
+#include <QApplication>
+#include <QIconEngine>
+#include <QPalette>
+#include <QProxyStyle>
+#include <QToolTip>
+
+#include "Garden/Look/Fonts.hpp"
+#include "Garden/Look/Palette.hpp"
+
+namespace {
+
+constexpr double fontSize = 13;
+constexpr double toolTipFontSize = 12;
+constexpr double disabledOpacity = 0.45;
+
+constexpr auto ourStyle = "Fusion";
+
+/// One of the style's own icons, loaded when it is to be seen. The first one loads the toolkit's
+/// picture formats, which nothing else here needs.
+class LateIcon : public QIconEngine {
+public:
+    explicit LateIcon(QStyle::StandardPixmap which) : which_(which) {}
+
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode,
+               QIcon::State state) override {
+        icon().paint(painter, rect, Qt::AlignCenter, mode, state);
+    }
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        return icon().pixmap(size, mode, state);
+    }
+    [[nodiscard]] QIconEngine* clone() const override { return new LateIcon(which_); }
+
+private:
+    [[nodiscard]] QIcon icon() const { return QProxyStyle(ourStyle).standardIcon(which_); }
+
+    QStyle::StandardPixmap which_;
+};
+
+class GardenStyle : public QProxyStyle {
+public:
+    GardenStyle() : QProxyStyle(ourStyle) {}
+
+    [[nodiscard]] QIcon standardIcon(StandardPixmap which, const QStyleOption* option,
+                                     const QWidget* widget) const override {
+        // Every menu bar asks for it in advance, for the case that its titles find no room.
+        return which == SP_ToolBarHorizontalExtensionButton
+                   ? QIcon(new LateIcon(which))
+                   : QProxyStyle::standardIcon(which, option, widget);
+    }
+};
+
+QPalette gardenPalette() {
+    QPalette colours(Garden::primaryText, Garden::night);
+    colours.setColor(QPalette::Base, Garden::soil);
+    colours.setColor(QPalette::Text, Garden::primaryText);
+    colours.setColor(QPalette::ToolTipBase, Garden::soil);
+    colours.setColor(QPalette::ToolTipText, Garden::primaryText);
+    colours.setColor(QPalette::Highlight, Garden::mint);
+    colours.setColor(QPalette::HighlightedText, Garden::ink);
+    const QColor disabled = Garden::withOpacity(Garden::muted, disabledOpacity);
+    for (const QPalette::ColorRole role :
+         {QPalette::Text, QPalette::WindowText, QPalette::ButtonText}) {
+        colours.setColor(QPalette::Disabled, role, disabled);
+    }
+    return colours;
+}
+
+}  // namespace
+
+void applyGardenStyle() {
+    // One style everywhere: a desktop's own would bring its light controls into the night.
+    QApplication::setStyle(new GardenStyle);
+    const QPalette colours = gardenPalette();
+    QApplication::setPalette(colours);
+    QApplication::setFont(Garden::sans(fontSize, QFont::Normal));
+    // A caret that stands still, like all else that waits: a blinking one would wake the processor
+    // for as long as a name is asked for.
+    QApplication::setCursorFlashTime(0);
+    QToolTip::setPalette(colours);
+    QToolTip::setFont(Garden::sans(toolTipFontSize, QFont::Normal));
+}

@@ -1,0 +1,36 @@
+#include "App/FernwickApp.hpp"
+
+#include <QGuiApplication>
+
+#include "Session/MainThread.hpp"
+
+FernwickApp::FernwickApp(Preferences& preferences, SoundEffects& soundEffects)
+    : session_(preferences, soundEffects), window_(session_) {
+    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
+            &FernwickApp::applicationStateChanged);
+}
+
+void FernwickApp::show() {
+    session_.installKeys();
+    window_.show();
+    window_.raise();
+    window_.activateWindow();
+}
+
+void FernwickApp::bringForward(const QByteArray& activationToken) {
+    if (!activationToken.isEmpty()) {
+        // Where the toolkit looks for it when a window is to be activated under Wayland.
+        qputenv("XDG_ACTIVATION_TOKEN", activationToken);
+    }
+    window_.setWindowState(window_.windowState() & ~Qt::WindowMinimized);
+    window_.show();
+    window_.raise();
+    window_.activateWindow();
+}
+
+void FernwickApp::applicationStateChanged(Qt::ApplicationState state) {
+    assertMainThread();
+    if (state != Qt::ApplicationActive && session_.running) {
+        session_.pause();
+    }
+}

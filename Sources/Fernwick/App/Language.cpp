@@ -1,0 +1,71 @@
+#include "App/Language.hpp"
+
+#include <QDir>
+#include <QGuiApplication>
+#include <QLocale>
+
+namespace {
+
+const QString catalogueFolder = QStringLiteral(":/translations");
+const QString catalogueStem = QStringLiteral("fernwick_");
+
+// What the game shows of the toolkit's own texts: the menu of the name field, the keys that stand
+// in menus, and what is said of buttons. The toolkit looks them up under these contexts.
+[[maybe_unused]] constexpr const char* toolkitTexts[] = {
+    //: The menu of a text field, worded as the desktops of the language do.
+    QT_TRANSLATE_NOOP("QLineEdit", "&Undo"),
+    QT_TRANSLATE_NOOP("QLineEdit", "&Redo"),
+    QT_TRANSLATE_NOOP("QLineEdit", "Cu&t"),
+    QT_TRANSLATE_NOOP("QLineEdit", "&Copy"),
+    QT_TRANSLATE_NOOP("QLineEdit", "&Paste"),
+    QT_TRANSLATE_NOOP("QLineEdit", "Delete"),
+    QT_TRANSLATE_NOOP("QLineEdit", "Select All"),
+    //: Keys, as they are written on the keyboards of the language.
+    QT_TRANSLATE_NOOP("QShortcut", "Ctrl"),
+    QT_TRANSLATE_NOOP("QShortcut", "Shift"),
+    QT_TRANSLATE_NOOP("QShortcut", "Meta"),
+    //: What can be done with a button, and what that means; read aloud.
+    QT_TRANSLATE_NOOP("QAccessibleActionInterface", "Press"),
+    QT_TRANSLATE_NOOP("QAccessibleActionInterface", "Triggers the action"),
+};
+
+// Another country's way of writing is understood; another script is not.
+bool understands(const QLocale& reader, const QLocale& text) {
+    return reader.language() == text.language() && reader.script() == text.script();
+}
+
+}  // namespace
+
+QStringList Language::translated() {
+    QStringList names;
+    for (const QString& file : QDir(catalogueFolder).entryList()) {
+        names.append(file.section(u'.', 0, 0).mid(catalogueStem.size()));
+    }
+    return names;
+}
+
+QString Language::bestFor(const QStringList& wanted) {
+    const QStringList known = translated();
+    for (const QString& name : wanted) {
+        const QLocale reader(name);
+        if (reader.language() == QLocale::English) {
+            return {};
+        }
+        for (const QString& catalogue : known) {
+            if (understands(reader, QLocale(catalogue))) {
+                return catalogue;
+            }
+        }
+    }
+    return {};
+}
+
+Language::Language(const QString& name) {
+    if (!name.isEmpty() && texts_.load(catalogueStem + name, catalogueFolder)) {
+        QCoreApplication::installTranslator(&texts_);
+    }
+    const QLocale locale(name.isEmpty() ? QStringLiteral("en") : name);
+    // The fonts look here for the letters they are to go with.
+    QLocale::setDefault(locale);
+    QGuiApplication::setLayoutDirection(locale.textDirection());
+}

@@ -1,0 +1,62 @@
+#include "Garden/Widgets/ChoiceButton.hpp"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+#include "Garden/Look/Contrast.hpp"
+#include "Garden/Look/Fonts.hpp"
+#include "Garden/Look/Palette.hpp"
+#include "Garden/Look/RoundedShape.hpp"
+
+namespace Garden {
+
+namespace {
+
+constexpr double fontSize = 12;
+constexpr QFont::Weight fontWeight = QFont::Medium;
+constexpr int horizontalPadding = 17;
+constexpr int verticalPadding = 9;
+constexpr double currentOpacity = 0.16;
+constexpr double hoverOpacity = 0.05;
+
+}  // namespace
+
+ChoiceButton::ChoiceButton(const QString& text, QWidget* parent) : QuietButton(parent) {
+    setText(text);
+    setFont(sans(fontSize, fontWeight));
+    setCheckable(true);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+QSize ChoiceButton::sizeHint() const {
+    return paddedTextSize(horizontalPadding, verticalPadding);
+}
+
+void ChoiceButton::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Left || event->key() == Qt::Key_Right) {
+        const bool forward = (event->key() == Qt::Key_Right) != isRightToLeft();
+        Q_EMIT steppedOff(forward ? 1 : -1);
+    } else {
+        QuietButton::keyPressEvent(event);
+    }
+}
+
+void ChoiceButton::nextCheckState() {}
+
+void ChoiceButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF shape = rect();
+    if (isChecked()) {
+        painter.fillPath(continuousCapsule(shape), withOpacity(mint, currentOpacity));
+    } else if (hovered()) {
+        painter.fillPath(continuousCapsule(shape), withOpacity(mint, hoverOpacity));
+    }
+    painter.setPen(legible(isChecked() ? mint : muted));
+    painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
+    constexpr double inset = FocusRing::width / 2;
+    focusRing().paint(painter, continuousCapsule(shape.adjusted(inset, inset, -inset, -inset)),
+                      mint);
+}
+
+}  // namespace Garden

@@ -1,0 +1,67 @@
+#include "Garden/Widgets/ChoiceGroup.hpp"
+
+#include <QHBoxLayout>
+#include <QPainter>
+
+#include "Garden/Look/Palette.hpp"
+#include "Garden/Look/RoundedShape.hpp"
+#include "Garden/Widgets/Accessibility.hpp"
+#include "Garden/Widgets/ChoiceButton.hpp"
+
+namespace Garden {
+
+namespace {
+
+constexpr int groupPadding = 4;
+constexpr double groupRadius = 15;
+constexpr double groupOpacity = 0.035;
+
+}  // namespace
+
+ChoiceGroup::ChoiceGroup(const QStringList& choices, const QString& accessibleName, QWidget* parent)
+    : QWidget(parent) {
+    installAccessibility();
+    setAccessibleName(accessibleName);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(groupPadding, groupPadding, groupPadding, groupPadding);
+    row->setSpacing(0);
+    for (int index = 0; index < choices.size(); ++index) {
+        auto* button = new ChoiceButton(choices[index], this);
+        connect(button, &ChoiceButton::clicked, this, [this, index] { Q_EMIT chosen(index); });
+        connect(button, &ChoiceButton::steppedOff, this,
+                [this, index](int step) { chooseNeighbour(index, step); });
+        row->addWidget(button);
+        buttons_.append(button);
+    }
+}
+
+void ChoiceGroup::setCurrent(int index) {
+    current_ = index;
+    for (int each = 0; each < buttons_.size(); ++each) {
+        buttons_[each]->setChecked(each == index);
+    }
+}
+
+void ChoiceGroup::setChoicesEnabled(bool enabled) {
+    for (ChoiceButton* button : buttons_) {
+        button->setEnabled(enabled);
+    }
+}
+
+void ChoiceGroup::chooseNeighbour(int index, int step) {
+    const int neighbour = index + step;
+    if (neighbour >= 0 && neighbour < buttons_.size()) {
+        buttons_[neighbour]->setFocus(step > 0 ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+        buttons_[neighbour]->click();
+    }
+}
+
+void ChoiceGroup::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(continuousRoundedRect(rect(), groupRadius),
+                     withOpacity(Qt::white, groupOpacity));
+}
+
+}  // namespace Garden

@@ -1,0 +1,53 @@
+#include "Garden/Widgets/IconButton.hpp"
+
+#include <QPainter>
+
+#include "Garden/Look/Palette.hpp"
+#include "Garden/Look/RoundedShape.hpp"
+
+namespace Garden {
+
+namespace {
+
+constexpr int side = 26;
+constexpr double symbolSize = 16;
+constexpr double plateRadius = 7;
+constexpr double plateOpacity = 0.05;
+
+}  // namespace
+
+IconButton::IconButton(Icon icon, const QString& helpText, QWidget* parent)
+    : QuietButton(parent), icon_(icon) {
+    setFixedSize(side, side);
+    setToolTip(helpText);
+    setAccessibleName(helpText);
+}
+
+void IconButton::setIcon(Icon icon) {
+    if (icon != icon_) {
+        icon_ = icon;
+        update();
+    }
+}
+
+QSize IconButton::sizeHint() const {
+    return {side, side};
+}
+
+void IconButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF whole = rect();
+    if (hovered()) {
+        painter.fillPath(continuousRoundedRect(whole, plateRadius),
+                         withOpacity(Qt::white, plateOpacity));
+    }
+    constexpr double margin = (side - symbolSize) / 2;
+    paintIcon(painter, icon_, whole.adjusted(margin, margin, -margin, -margin), quietColour());
+    constexpr double inset = FocusRing::width / 2;
+    focusRing().paint(
+        painter, continuousRoundedRect(whole.adjusted(inset, inset, -inset, -inset), plateRadius),
+        mint);
+}
+
+}  // namespace Garden

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "Garden/Look/Icons.hpp"
+#include "Garden/Widgets/QuietButton.hpp"
+
+namespace Garden {
+
+/// A symbol to press, in `muted`, 26 × 26 logical pixels. Its help text is its tooltip and its
+/// accessible name.
+class IconButton : public QuietButton {
+    Q_OBJECT
+
+public:
+    IconButton(Icon icon, const QString& helpText, QWidget* parent = nullptr);
+
+    [[nodiscard]] Icon icon() const { return icon_; }
+    void setIcon(Icon icon);
+
+    [[nodiscard]] QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    Icon icon_;
+};
+
+}  // namespace Garden

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QColor>
+#include <QWidget>
+
+#include "Garden/Look/Icons.hpp"
+
+namespace Garden {
+
+/// One symbol in one colour, `size` logical pixels square. Decoration: silent to assistive tools.
+class IconView : public QWidget {
+    Q_OBJECT
+
+public:
+    IconView(Icon icon, double size, const QColor& colour, QWidget* parent = nullptr);
+
+    [[nodiscard]] Icon icon() const { return icon_; }
+    void setIcon(Icon icon);
+    [[nodiscard]] QColor colour() const { return colour_; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    Icon icon_;
+    double size_;
+    QColor colour_;
+};
+
+}  // namespace Garden

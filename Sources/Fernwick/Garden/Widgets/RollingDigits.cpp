@@ -1,0 +1,113 @@
+#include "Garden/Widgets/RollingDigits.hpp"
+
+#include <QAccessible>
+#include <QFontMetricsF>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+
+#include "Garden/Look/Fonts.hpp"
+#include "Garden/Look/Motion.hpp"
+#include "Garden/Look/Palette.hpp"
+#include "Garden/Widgets/Accessibility.hpp"
+
+namespace Garden {
+
+namespace {
+
+constexpr double fontSize = 33;
+constexpr QFont::Weight fontWeight = QFont::Light;
+constexpr int fewestDigits = 3;
+// How far digits roll, in logical pixels. They fade as they go.
+constexpr double rollDistance = 30;
+
+QString digits(qint64 value) {
+    return QString::asprintf("%0*lld", fewestDigits, value);
+}
+
+QChar digitAt(const QString& text, int fromRight) {
+    const auto index = text.size() - 1 - fromRight;
+    return index >= 0 ? text[index] : QChar(u' ');
+}
+
+}  // namespace
+
+RollingDigits::RollingDigits(Qt::Alignment alignment, QWidget* parent)
+    : QWidget(parent), alignment_(alignment), roll_(this) {
+    installAccessibility();
+    setFont(mono(fontSize, fontWeight));
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    roll_.setStartValue(0.0);
+    roll_.setEndValue(1.0);
+    roll_.setDuration(digitRollDuration);
+    roll_.setEasingCurve(QEasingCurve::OutCubic);
+    connect(&roll_, &QVariantAnimation::valueChanged, this, [this] { update(); });
+    // The desktop answers later; asked now, it has answered before the first digit changes.
+    static_cast<void>(reducedMotion());
+}
+
+void RollingDigits::setValue(qint64 value) {
+    const bool first = shown_.isEmpty();
+    if (!first && value == value_) {
+        return;
+    }
+    value_ = value;
+    roll_.stop();
+    previous_ = shown_;
+    shown_ = digits(value);
+    if (previous_.size() != shown_.size()) {
+        updateGeometry();
+    }
+    if (!first && isVisible() && !reducedMotion()) {
+        roll_.start();
+    }
+    update();
+    announce();
+}
+
+void RollingDigits::announce() {
+    QAccessibleEvent name(this, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&name);
+    QAccessibleValueChangeEvent changed(this, QVariant(value_));
+    QAccessible::updateAccessibility(&changed);
+}
+
+QSize RollingDigits::sizeHint() const {
+    const QFontMetricsF metrics(font());
+    const auto count = std::max<qsizetype>(shown_.size(), fewestDigits);
+    return {
+        static_cast<int>(std::ceil(metrics.horizontalAdvance(u'0') * static_cast<double>(count))),
+        static_cast<int>(std::ceil(metrics.height()))};
+}
+
+double RollingDigits::left(int fromRight) const {
+    const double cell = QFontMetricsF(font()).horizontalAdvance(u'0');
+    const double needed = cell * static_cast<double>(shown_.size());
+    const bool staysAtRight = alignment_.testFlag(Qt::AlignRight) != isRightToLeft();
+    const double right = staysAtRight ? width() : needed;
+    return right - cell * (fromRight + 1);
+}
+
+void RollingDigits::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const double baseline = (height() + QFontMetricsF(font()).capHeight()) / 2;
+    const auto draw = [&](int fromRight, QChar digit, double shift, double opacity) {
+        painter.setPen(withOpacity(mint, opacity));
+        painter.drawText(QPointF(left(fromRight), baseline + shift * rollDistance), QString(digit));
+    };
+    const bool rolling = roll_.state() == QAbstractAnimation::Running;
+    const double progress = roll_.currentValue().toDouble();
+    for (int fromRight = 0; fromRight < shown_.size(); ++fromRight) {
+        const QChar now = digitAt(shown_, fromRight);
+        const QChar before = digitAt(previous_, fromRight);
+        if (rolling && now != before) {
+            // The old digit goes faster than the new one comes, so that the two never smear.
+            draw(fromRight, before, -progress, (1 - progress) * (1 - progress));
+            draw(fromRight, now, 1 - progress, progress);
+        } else {
+            draw(fromRight, now, 0, 1);
+        }
+    }
+}
+
+}  // namespace Garden

@@ -1,0 +1,79 @@
+#include "Painting/Ground/FrameShape.hpp"
+
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+
+#include "Garden/Look/RoundedShape.hpp"
+
+namespace {
+
+// In points.
+constexpr double cornerRadius = 22;
+constexpr double strokeWidth = 1;
+/// How far a corner reaches along its edges, in radii; its curvature runs out slowly.
+constexpr double cornerReach = 1.6;
+
+template <typename Paint>
+QImage paintedShare(const QRect& area, Paint paint) {
+    QImage share(area.size(), QImage::Format_Alpha8);
+    share.fill(0);
+    QPainter painter(&share);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(-area.topLeft());
+    paint(painter);
+    return share;
+}
+
+}  // namespace
+
+FrameShape::FrameShape(const QRectF& frame, double scale)
+    : frame_(frame),
+      scale_(scale),
+      path_(Garden::continuousRoundedRect(frame, cornerRadius * scale)) {}
+
+std::vector<QRect> FrameShape::edges() const {
+    const QRect all = bounds();
+    const int corner = static_cast<int>(std::ceil(cornerReach * cornerRadius * scale_));
+    const int thickness = static_cast<int>(std::ceil(strokeWidth * scale_)) + 2;
+    const QSize size(std::min(corner, all.width() / 2), std::min(corner, all.height() / 2));
+    // Where each of the three columns and rows of pieces begins, and where the last one ends.
+    const int columns[] = {all.left(), all.left() + size.width(),
+                           all.left() + all.width() - size.width(), all.left() + all.width()};
+    const int rows[] = {all.top(), all.top() + size.height(),
+                        all.top() + all.height() - size.height(), all.top() + all.height()};
+    std::vector<QRect> pieces;
+    for (int row = 0; row < 3; ++row) {
+        for (int column = 0; column < 3; ++column) {
+            QRect piece(QPoint(columns[column], rows[row]),
+                        QPoint(columns[column + 1] - 1, rows[row + 1] - 1));
+            if (row == 1 && column != 1) {
+                piece.setWidth(std::min(piece.width(), thickness));
+                piece.moveLeft(column == 0 ? all.left() : columns[3] - piece.width());
+            } else if (column == 1 && row != 1) {
+                piece.setHeight(std::min(piece.height(), thickness));
+                piece.moveTop(row == 0 ? all.top() : rows[3] - piece.height());
+            }
+            if ((row != 1 || column != 1) && !piece.isEmpty()) {
+                pieces.push_back(piece);
+            }
+        }
+    }
+    return pieces;
+}
+
+QRect FrameShape::bounds() const {
+    const double outside = strokeWidth / 2 * scale_;
+    return frame_.adjusted(-outside, -outside, outside, outside).toAlignedRect();
+}
+
+QImage FrameShape::fill(const QRect& area) const {
+    return paintedShare(area, [&](QPainter& painter) { painter.fillPath(path_, Qt::black); });
+}
+
+QImage FrameShape::stroke(const QRect& area) const {
+    return paintedShare(area, [&](QPainter& painter) {
+        painter.setPen(QPen(Qt::black, strokeWidth * scale_));
+        painter.drawPath(path_);
+    });
+}

@@ -1,0 +1,55 @@
+#include "Screens/Main/ContentView.hpp"
+
+#include <QPaintEvent>
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include "Screens/Main/BoardArea.hpp"
+#include "Screens/Main/ControlRow.hpp"
+#include "Screens/Main/HeaderRow.hpp"
+#include "Screens/Main/HintRow.hpp"
+#include "Screens/Main/WidgetPixels.hpp"
+#include "Screens/Scores/SheetLayer.hpp"
+#include "Window/TitleBand.hpp"
+
+namespace {
+
+constexpr int rowSpacing = 23;
+constexpr int sidePadding = 38;
+constexpr int topPadding = TitleBand::height;
+constexpr int bottomPadding = 26;
+
+}  // namespace
+
+ContentView::ContentView(Session& session, QWidget* parent)
+    : QWidget(parent), boardArea_(new BoardArea(session, backdrop_)) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    // In the order of sight, which is the order of Tab too.
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(sidePadding, topPadding, sidePadding, bottomPadding);
+    column->setSpacing(rowSpacing);
+    column->addWidget(new HeaderRow(session));
+    column->addWidget(new ControlRow(session));
+    column->addWidget(boardArea_, 1);
+    column->addWidget(new HintRow(session));
+    sheetLayer_ = new SheetLayer(session, this);
+}
+
+void ContentView::paintEvent(QPaintEvent* event) {
+    backdrop_.fit(size(), devicePixelRatioF(), boardArea_->frame().translated(boardArea_->pos()));
+    QPainter painter(this);
+    const WidgetPixels pixels(painter, *this);
+    for (const QRect& part : event->region()) {
+        const QRect area = pixels.of(part);
+        painter.setClipRect(area);
+        backdrop_.paint(painter, area);
+    }
+    if (!hasAppeared_) {
+        hasAppeared_ = true;
+        Q_EMIT appeared();
+    }
+}
+
+void ContentView::resizeEvent(QResizeEvent*) {
+    sheetLayer_->setGeometry(rect());
+}

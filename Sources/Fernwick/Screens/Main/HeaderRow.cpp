@@ -1,0 +1,84 @@
+#include "Screens/Main/HeaderRow.hpp"
+
+#include <QHBoxLayout>
+
+#include "Garden/Look/Fonts.hpp"
+#include "Garden/Look/Palette.hpp"
+#include "Garden/Widgets/IconView.hpp"
+#include "Garden/Widgets/RollingDigits.hpp"
+#include "Garden/Widgets/Rule.hpp"
+#include "Garden/Widgets/TrackedLabel.hpp"
+#include "Session/Session.hpp"
+
+namespace {
+
+constexpr double wordmarkSize = 14;
+constexpr double wordmarkTracking = 6;
+constexpr int wordmarkSpacing = 9;
+constexpr double taglineSize = 27;
+constexpr double taglineOpacity = 0.9;
+constexpr int titleBlockSpacing = 7;
+constexpr double labelSize = 9;
+constexpr double labelTracking = 2;
+constexpr int tileSpacing = 7;
+constexpr int rulePadding = 12;
+
+}  // namespace
+
+HeaderRow::HeaderRow(Session& session, QWidget* parent)
+    : QWidget(parent),
+      session_(session),
+      score_(new Garden::RollingDigits(Qt::AlignLeft, this)),
+      best_(new Garden::RollingDigits(Qt::AlignRight, this)),
+      observer_(session, [this] { refresh(); }) {
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    row->addLayout(titleBlock());
+    row->addStretch();
+    //: A tiny label above a number; so is the next. In capitals where the script has them.
+    row->addLayout(scoreTile(tr("SCORE"), score_, Qt::AlignLeft));
+    row->addSpacing(rulePadding);
+    row->addWidget(new Rule, 0, Qt::AlignVCenter);
+    row->addSpacing(rulePadding);
+    row->addLayout(scoreTile(tr("PERSONAL BEST"), best_, Qt::AlignRight));
+    refresh();
+}
+
+QBoxLayout* HeaderRow::titleBlock() {
+    auto* wordmark = new QHBoxLayout;
+    wordmark->setSpacing(wordmarkSpacing);
+    wordmark->addWidget(new Garden::IconView(Garden::Icon::leafFilled, wordmarkSize, Garden::mint));
+    wordmark->addWidget(new Garden::TrackedLabel(
+        //: The name of the game as its wordmark. Stays as it is in every language.
+        tr("FERNWICK"), Garden::sans(wordmarkSize, QFont::DemiBold, wordmarkTracking),
+        Garden::primaryText));
+    wordmark->addStretch();
+
+    auto* block = new QVBoxLayout;
+    block->setSpacing(titleBlockSpacing);
+    block->addLayout(wordmark);
+    //: The line under the wordmark: of the garden, and of whoever plays in it.
+    block->addWidget(new Garden::TrackedLabel(tr("A little room to grow."),
+                                              Garden::serif(taglineSize, QFont::Light),
+                                              Garden::withOpacity(Qt::white, taglineOpacity)));
+    return block;
+}
+
+QBoxLayout* HeaderRow::scoreTile(const QString& label, Garden::RollingDigits* value,
+                                 Qt::Alignment alignment) {
+    value->setAccessibleName(label);
+    auto* tile = new QVBoxLayout;
+    tile->setSpacing(tileSpacing);
+    tile->addWidget(
+        new Garden::TrackedLabel(label, Garden::sans(labelSize, QFont::Medium, labelTracking),
+                                 Garden::muted),
+        0, alignment);
+    tile->addWidget(value, 0, alignment);
+    return tile;
+}
+
+void HeaderRow::refresh() {
+    score_->setValue(session_.game->score());
+    best_->setValue(session_.best);
+}

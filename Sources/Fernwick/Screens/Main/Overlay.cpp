@@ -1,0 +1,90 @@
+#include "Screens/Main/Overlay.hpp"
+
+#include <QVBoxLayout>
+
+#include "Garden/Look/Fonts.hpp"
+#include "Garden/Look/NumberText.hpp"
+#include "Garden/Look/Palette.hpp"
+#include "Garden/Widgets/IconView.hpp"
+#include "Garden/Widgets/OverlayButton.hpp"
+#include "Garden/Widgets/TrackedLabel.hpp"
+#include "Session/Session.hpp"
+
+namespace {
+
+constexpr int padding = 25;
+constexpr int spacing = 12;
+constexpr double symbolSize = 30;
+constexpr double titleSize = 35;
+constexpr double lineSize = 13;
+constexpr double lineOpacity = 0.55;
+constexpr int spaceAboveButton = 13;
+constexpr double hintSize = 8;
+constexpr double hintTracking = 2.5;
+constexpr int spaceAboveHint = 2;
+
+}  // namespace
+
+Overlay::Overlay(Session& session, QWidget* parent)
+    : QWidget(parent),
+      session_(session),
+      symbol_(new Garden::IconView(Garden::Icon::leaf, symbolSize, Garden::mint)),
+      title_(new Garden::TrackedLabel({}, Garden::serif(titleSize, QFont::Normal),
+                                      Garden::primaryText)),
+      line_(new Garden::TrackedLabel({}, Garden::sans(lineSize, QFont::Normal),
+                                     Garden::withOpacity(Qt::white, lineOpacity))),
+      button_(new Garden::OverlayButton({})),
+      observer_(session, [this] { refresh(); }) {
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(padding, padding, padding, padding);
+    column->setSpacing(spacing);
+    column->addStretch();
+    column->addWidget(symbol_, 0, Qt::AlignHCenter);
+    column->addWidget(title_, 0, Qt::AlignHCenter);
+    column->addWidget(line_, 0, Qt::AlignHCenter);
+    column->addSpacing(spaceAboveButton);
+    column->addWidget(button_, 0, Qt::AlignHCenter);
+    column->addSpacing(spaceAboveHint);
+    column->addWidget(
+        new Garden::TrackedLabel(
+            //: The space bar.
+            tr("PRESS SPACE"), Garden::sans(hintSize, QFont::Medium, hintTracking), Garden::muted),
+        0, Qt::AlignHCenter);
+    column->addStretch();
+    connect(button_, &QAbstractButton::clicked, this, &Overlay::press);
+    refresh();
+}
+
+void Overlay::refresh() {
+    if (session_.game->ended()) {
+        symbol_->setIcon(Garden::Icon::arrowClockwise);
+        //: Headlines of an ended run: the snake fills the whole board; it struck something.
+        title_->setText(session_.game->won() ? tr("Fully grown.")
+                                             : tr("A good place to begin again."));
+        line_->setText(Garden::withNumber(
+            //: %lld is the score; it has to stay.
+            tr("You gathered %lld points. Let's grow a little further."), session_.game->score()));
+        //: A button; so are "Keep growing" and "Let's grow". An arrow follows the words.
+        button_->setText(tr("Grow again"));
+    } else if (session_.started) {
+        symbol_->setIcon(Garden::Icon::moon);
+        //: The headline of the pause.
+        title_->setText(tr("No rush."));
+        line_->setText(tr("Your garden will be here when you're ready."));
+        button_->setText(tr("Keep growing"));
+    } else {
+        symbol_->setIcon(Garden::Icon::leaf);
+        //: The headline before the first run.
+        title_->setText(tr("Find your flow."));
+        line_->setText(tr("Gather the fruit. Grow a little longer. Stay curious."));
+        button_->setText(tr("Let's grow"));
+    }
+}
+
+void Overlay::press() {
+    if (session_.started && !session_.game->ended()) {
+        session_.pause();
+    } else {
+        session_.start();
+    }
+}

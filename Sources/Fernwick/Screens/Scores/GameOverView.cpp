@@ -1,0 +1,72 @@
+#include "Screens/Scores/GameOverView.hpp"
+
+#include "Garden/Look/Fonts.hpp"
+#include "Garden/Look/NumberText.hpp"
+#include "Garden/Look/Palette.hpp"
+#include "Garden/Widgets/Focus.hpp"
+#include "Garden/Widgets/TrackedLabel.hpp"
+#include "Screens/Scores/CardLayout.hpp"
+#include "Screens/Scores/NameEntry.hpp"
+#include "Screens/Scores/SavedBoard.hpp"
+#include "Session/Session.hpp"
+
+namespace {
+
+constexpr double headlineSize = 34;
+constexpr double resultSize = 11;
+constexpr double resultTracking = 2;
+constexpr int widestCard = 400;
+constexpr int cardPadding = 24;
+
+}  // namespace
+
+GameOverView::GameOverView(Session& session, QWidget* parent)
+    : QWidget(parent),
+      session_(session),
+      headline_(new Garden::TrackedLabel({}, Garden::serif(headlineSize, QFont::Normal),
+                                         Garden::primaryText)),
+      result_(new Garden::TrackedLabel({}, Garden::sans(resultSize, QFont::Medium, resultTracking),
+                                       Garden::mint)),
+      nameEntry_(new NameEntry(session)),
+      savedBoard_(new SavedBoard(session)),
+      observer_(session, [this] { refresh(); }) {
+    auto* card = new QWidget(this);
+    card->setMaximumWidth(widestCard);
+    QVBoxLayout* column = cardColumn(*card);
+    column->addWidget(headline_, 0, Qt::AlignHCenter);
+    column->addWidget(result_, 0, Qt::AlignHCenter);
+    column->addWidget(nameEntry_);
+    column->addWidget(savedBoard_);
+
+    auto* area = new QHBoxLayout(this);
+    area->setContentsMargins(cardPadding, cardPadding, cardPadding, cardPadding);
+    area->addStretch();
+    // Before either side gets any room, the card gets all that it may take.
+    area->addWidget(card, 1, Qt::AlignVCenter);
+    area->addStretch();
+    refresh();
+}
+
+void GameOverView::refresh() {
+    if (!session_.game->ended()) {
+        return;
+    }
+    //: Headlines of an ended run: the snake fills the whole board; it struck something.
+    headline_->setText(session_.game->won() ? tr("Fully grown.") : tr("Game over."));
+    //: %lld is the score, %@ the name of the speed; both have to stay. Two spaces round the dot.
+    result_->setText(Garden::withNumber(tr("%lld POINTS  ·  %@"), session_.game->score())
+                         .replace(QStringLiteral("%@"), displayName(session_.runPace())));
+    if (session_.awaitingName) {
+        savedBoard_->clear();
+        savedBoard_->hide();
+        nameEntry_->refresh();
+        nameEntry_->show();
+    } else {
+        // The keys are the game's again: no button may hold the Space that starts the next run.
+        Garden::releaseFocus(*nameEntry_);
+        nameEntry_->hide();
+        // Shown first: what changes on it is then read out.
+        savedBoard_->show();
+        savedBoard_->refresh();
+    }
+}

@@ -1,0 +1,96 @@
+#include "Screens/Scores/HighScoresView.hpp"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <QVBoxLayout>
+
+#include "Garden/Look/Fonts.hpp"
+#include "Garden/Look/Palette.hpp"
+#include "Garden/Look/RoundedShape.hpp"
+#include "Garden/Widgets/ChoiceGroup.hpp"
+#include "Garden/Widgets/GardenButton.hpp"
+#include "Garden/Widgets/IconView.hpp"
+#include "Garden/Widgets/TrackedLabel.hpp"
+#include "Screens/Scores/Accessibility.hpp"
+#include "Screens/Scores/ScoreRows.hpp"
+#include "Session/Session.hpp"
+
+namespace {
+
+constexpr int sheetWidth = 440;
+constexpr int padding = 32;
+constexpr int spacing = 20;
+constexpr double emblemSize = 28;
+constexpr double titleSize = 30;
+constexpr double subtitleSize = 12;
+constexpr int boardHeight = 330;
+constexpr double cornerRadius = 22;
+constexpr double edgeOpacity = 0.16;
+
+}  // namespace
+
+HighScoresView::HighScoresView(Session& session, QWidget* parent)
+    : QWidget(parent),
+      session_(session),
+      //: Read aloud for the choice between the speeds.
+      speed_(new Garden::ChoiceGroup(paceNames(), tr("Speed"))),
+      rows_(new ScoreRows),
+      observer_(session, [this] { refresh(); }) {
+    installScoreAccessibility();
+    setFixedWidth(sheetWidth);
+    setAccessibleName(tr("The high scores."));
+    rows_->setFixedHeight(boardHeight);
+    auto* done = new Garden::GardenButton(tr("Done"));
+
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(padding, padding, padding, padding);
+    column->setSpacing(spacing);
+    column->addWidget(new Garden::IconView(Garden::Icon::trophy, emblemSize, Garden::mint), 0,
+                      Qt::AlignHCenter);
+    column->addWidget(
+        new Garden::TrackedLabel(tr("The high scores."), Garden::serif(titleSize, QFont::Normal),
+                                 Garden::primaryText),
+        0, Qt::AlignHCenter);
+    column->addWidget(
+        //: "Mac" means the player's own computer, of whatever make.
+        new Garden::TrackedLabel(tr("Top 10 for each speed · saved on this Mac"),
+                                 Garden::sans(subtitleSize, QFont::Normal), Garden::muted),
+        0, Qt::AlignHCenter);
+    column->addWidget(speed_, 0, Qt::AlignHCenter);
+    column->addWidget(rows_);
+    column->addWidget(done, 0, Qt::AlignHCenter);
+
+    connect(speed_, &Garden::ChoiceGroup::chosen, this, [this](int index) {
+        session_.scorePace = allPaces.at(static_cast<std::size_t>(index));
+    });
+    connect(done, &QAbstractButton::clicked, this, &HighScoresView::close);
+    refresh();
+}
+
+void HighScoresView::refresh() {
+    speed_->setCurrent(static_cast<int>(session_.scorePace.get()));
+    rows_->setEntries(session_.scores->leaders(rawValue(session_.scorePace)));
+}
+
+void HighScoresView::close() {
+    session_.showingScores = false;
+}
+
+void HighScoresView::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Cancel)) {
+        close();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void HighScoresView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    constexpr double inset = 0.5;
+    painter.fillPath(Garden::continuousRoundedRect(rect(), cornerRadius), Garden::night);
+    painter.strokePath(Garden::continuousRoundedRect(
+                           QRectF(rect()).adjusted(inset, inset, -inset, -inset), cornerRadius),
+                       QPen(Garden::withOpacity(Garden::mint, edgeOpacity), 1));
+}

@@ -1,0 +1,89 @@
+#include "Screens/Scores/NameEntry.hpp"
+
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "Garden/Look/Fonts.hpp"
+#include "Garden/Look/Palette.hpp"
+#include "Garden/Widgets/GardenButton.hpp"
+#include "Garden/Widgets/PlainButton.hpp"
+#include "Garden/Widgets/TrackedLabel.hpp"
+#include "Screens/Scores/CardLayout.hpp"
+#include "Screens/Scores/NameField.hpp"
+#include "Session/Session.hpp"
+#include "SnakeCore/Graphemes.hpp"
+#include "SnakeCore/HighScores.hpp"
+
+namespace {
+
+constexpr double promptSize = 14;
+constexpr double hintSize = 10;
+constexpr double skipSize = 12;
+
+QString firstCharacters(const QString& text) {
+    const std::string utf8 = text.toStdString();
+    const std::string_view kept =
+        SnakeCore::firstCharacters(utf8, SnakeCore::HighScores::longestName);
+    return kept.size() == utf8.size()
+               ? text
+               : QString::fromUtf8(kept.data(), static_cast<qsizetype>(kept.size()));
+}
+
+}  // namespace
+
+NameEntry::NameEntry(Session& session, QWidget* parent)
+    : QWidget(parent),
+      session_(session),
+      field_(new NameField(this)),
+      save_(new Garden::GardenButton(tr("Save score"), this)) {
+    //: Shown in the empty field.
+    field_->setPlaceholderText(tr("Your name"));
+    field_->setAccessibleName(tr("Player name"));
+    auto* skip =
+        new Garden::PlainButton(tr("Skip saving"), Garden::sans(skipSize, QFont::Normal), this);
+
+    QVBoxLayout* column = cardColumn(*this);
+    column->addWidget(
+        new Garden::TrackedLabel(tr("Leave your name in the garden."),
+                                 Garden::sans(promptSize, QFont::Normal), Garden::muted),
+        0, Qt::AlignHCenter);
+    column->addWidget(field_);
+    column->addWidget(
+        //: "Mac" means the player's own computer, of whatever make.
+        new Garden::TrackedLabel(tr("Up to 24 characters · saved on this Mac"),
+                                 Garden::sans(hintSize, QFont::Normal), Garden::muted),
+        0, Qt::AlignHCenter);
+    column->addWidget(save_, 0, Qt::AlignHCenter);
+    column->addWidget(skip, 0, Qt::AlignHCenter);
+
+    connect(field_, &QLineEdit::textChanged, this, &NameEntry::nameEdited);
+    connect(field_, &QLineEdit::returnPressed, &session_, &Session::saveScore);
+    connect(save_, &QAbstractButton::clicked, &session_, &Session::saveScore);
+    connect(skip, &QAbstractButton::clicked, &session_, &Session::skipSaving);
+    refresh();
+}
+
+void NameEntry::nameEdited(const QString& text) {
+    const QString kept = firstCharacters(text);
+    if (kept != text) {
+        const int cursor = field_->cursorPosition();
+        const QSignalBlocker quiet(field_);
+        field_->setText(kept);
+        field_->setCursorPosition(std::min(cursor, static_cast<int>(kept.size())));
+    }
+    session_.playerName = kept;
+}
+
+void NameEntry::refresh() {
+    if (field_->text() != session_.playerName.get()) {
+        const QSignalBlocker quiet(field_);
+        field_->setText(session_.playerName);
+    }
+    const std::string name = session_.playerName->toStdString();
+    save_->setEnabled(!SnakeCore::HighScores::cleanName(name).empty());
+}
+
+void NameEntry::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    field_->setFocus(Qt::OtherFocusReason);
+}

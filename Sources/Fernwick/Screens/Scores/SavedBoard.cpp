@@ -1,0 +1,51 @@
+#include "Screens/Scores/SavedBoard.hpp"
+
+#include <optional>
+
+#include "Garden/Look/Fonts.hpp"
+#include "Garden/Look/Palette.hpp"
+#include "Garden/Widgets/GardenButton.hpp"
+#include "Garden/Widgets/TrackedLabel.hpp"
+#include "Screens/Scores/CardLayout.hpp"
+#include "Screens/Scores/ScoreRows.hpp"
+#include "Session/Session.hpp"
+
+namespace {
+
+constexpr double titleSize = 12;
+constexpr int boardHeight = 150;
+constexpr double hintSize = 9;
+constexpr double hintTracking = 2;
+
+}  // namespace
+
+SavedBoard::SavedBoard(Session& session, QWidget* parent)
+    : QWidget(parent),
+      session_(session),
+      title_(new Garden::TrackedLabel({}, Garden::sans(titleSize, QFont::Normal), Garden::muted,
+                                      this)),
+      rows_(new ScoreRows(this)) {
+    rows_->setFixedHeight(boardHeight);
+    auto* replay = new Garden::GardenButton(tr("Play again"), this);
+    connect(replay, &QAbstractButton::clicked, &session_, &Session::start);
+
+    QVBoxLayout* column = cardColumn(*this);
+    column->addWidget(title_, 0, Qt::AlignHCenter);
+    column->addWidget(rows_);
+    column->addWidget(replay, 0, Qt::AlignHCenter);
+    //: The space bar.
+    column->addWidget(new Garden::TrackedLabel(tr("SPACE TO PLAY AGAIN"),
+                                               Garden::sans(hintSize, QFont::Normal, hintTracking),
+                                               Garden::muted),
+                      0, Qt::AlignHCenter);
+}
+
+void SavedBoard::clear() {
+    title_->setText({});
+}
+
+void SavedBoard::refresh() {
+    title_->setText(session_.savedRun ? tr("Score saved · Top 10") : tr("Top 10"));
+    rows_->setEntries(session_.scores->leaders(rawValue(session_.runPace())),
+                      session_.savedRun ? std::optional(session_.runID()) : std::nullopt);
+}

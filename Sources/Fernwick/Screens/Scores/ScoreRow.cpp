@@ -1,0 +1,111 @@
+#include "Screens/Scores/ScoreRow.hpp"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QPainterPath>
+#include <algorithm>
+
+#include "Garden/Look/Contrast.hpp"
+#include "Garden/Look/Fonts.hpp"
+#include "Garden/Look/Palette.hpp"
+#include "Garden/Look/RoundedShape.hpp"
+
+namespace {
+
+constexpr double fontSize = 14;
+constexpr double elementSpacing = 14;
+constexpr double rankWidth = 25;
+constexpr double horizontalPadding = 14;
+constexpr double verticalPadding = 10;
+constexpr double cornerRadius = 9;
+constexpr double plateOpacity = 0.025;
+constexpr double highlightOpacity = 0.12;
+
+QFont rowFont() {
+    return Garden::sans(fontSize, QFont::Medium);
+}
+
+// The font's digits differ in width; in cells of the widest one, numbers line up below each other.
+double digitCell(const QFontMetricsF& metrics) {
+    double widest = 0;
+    for (char16_t digit = u'0'; digit <= u'9'; ++digit) {
+        widest = std::max(widest, metrics.horizontalAdvance(QChar(digit)));
+    }
+    return widest;
+}
+
+void drawDigits(QPainter& painter, const QRectF& line, const QString& digits) {
+    const double cell = digitCell(QFontMetricsF(painter.font()));
+    QRectF place(line.left(), line.top(), cell, line.height());
+    for (const QChar digit : digits) {
+        painter.drawText(place, Qt::AlignCenter | Qt::TextDontClip, QString(digit));
+        place.translate(cell, 0);
+    }
+}
+
+}  // namespace
+
+ScoreRow::ScoreRow(QWidget* parent) : QWidget(parent) {
+    setFont(rowFont());
+}
+
+void ScoreRow::show(std::int64_t rank, const SnakeCore::HighScore& entry, bool highlighted) {
+    const QString rankText = QStringLiteral("%1").arg(rank, 2, 10, QLatin1Char('0'));
+    const QString name = QString::fromStdString(entry.name);
+    const QString score = QString::number(entry.score);
+    if (rankText == rank_ && name == name_ && score == score_ && highlighted == highlighted_) {
+        return;
+    }
+    rank_ = rankText;
+    name_ = name;
+    score_ = score;
+    highlighted_ = highlighted;
+    setAccessibleName(QStringLiteral("%1 %2 %3").arg(rank_, name_, score_));
+    update();
+}
+
+QSize ScoreRow::sizeHint() const {
+    const int height = fontMetrics().height() + static_cast<int>(2 * verticalPadding);
+    return {static_cast<int>(2 * horizontalPadding + rankWidth), height};
+}
+
+QRectF ScoreRow::asRead(const QRectF& place) const {
+    QRectF mirrored = place;
+    mirrored.moveRight(width() - place.left());
+    return isRightToLeft() ? mirrored : place;
+}
+
+void ScoreRow::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(Garden::continuousRoundedRect(rect(), cornerRadius),
+                     highlighted_ ? Garden::withOpacity(Garden::mint, highlightOpacity)
+                                  : Garden::withOpacity(Qt::white, plateOpacity));
+
+    const QFontMetricsF metrics(font());
+    const QRectF line = QRectF(rect()).adjusted(horizontalPadding, verticalPadding,
+                                                -horizontalPadding, -verticalPadding);
+    const double cell = digitCell(metrics);
+
+    QRectF rank = line;
+    rank.setWidth(static_cast<double>(rank_.size()) * cell);
+    rank.moveLeft(line.left() + (rankWidth - rank.width()) / 2);
+    painter.setPen(Garden::legible(Garden::muted));
+    drawDigits(painter, asRead(rank), rank_);
+
+    QRectF score = line;
+    score.setLeft(line.right() - static_cast<double>(score_.size()) * cell);
+    painter.setPen(Garden::mint);
+    drawDigits(painter, asRead(score), score_);
+
+    QRectF name = line;
+    name.setLeft(line.left() + rankWidth + elementSpacing);
+    name.setRight(score.left() - elementSpacing);
+    painter.setPen(Garden::primaryText);
+    const int begin = isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
+    // A name reads in the direction of its own letters, whatever those around it do.
+    painter.setLayoutDirection(name_.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+    painter.drawText(asRead(name),
+                     begin | Qt::AlignAbsolute | Qt::AlignVCenter | Qt::TextSingleLine,
+                     metrics.elidedText(name_, Qt::ElideRight, name.width()));
+}

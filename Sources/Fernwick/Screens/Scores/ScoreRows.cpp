@@ -1,0 +1,152 @@
+#include "Screens/Scores/ScoreRows.hpp"
+
+#include <QFocusEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <QStyle>
+#include <QVBoxLayout>
+
+#include "Garden/Look/Fonts.hpp"
+#include "Garden/Look/Palette.hpp"
+#include "Garden/Look/RoundedShape.hpp"
+#include "Garden/Look/StyleSheet.hpp"
+#include "Garden/Widgets/TrackedLabel.hpp"
+#include "Screens/Scores/Accessibility.hpp"
+#include "Screens/Scores/ScoreRow.hpp"
+
+namespace {
+
+constexpr double emptyTextSize = 13;
+constexpr int emptyTextPadding = 28;
+constexpr int rowSpacing = 4;
+constexpr int scrollBarWidth = 10;
+constexpr int scrollHandleWidth = 4;
+constexpr int scrollHandleMargin = (scrollBarWidth - scrollHandleWidth) / 2;
+constexpr int shortestScrollHandle = 24;
+constexpr double scrollHandleOpacity = 0.4;
+constexpr double ringRadius = 9;
+
+QString scrollBarStyle() {
+    return QStringLiteral(
+               "QScrollBar:vertical { background: transparent; width: %1px; border: none; }"
+               "QScrollBar::handle:vertical { background: %2; border-radius: %3px;"
+               " margin: %4px; min-height: %5px; }"
+               "QScrollBar::add-line, QScrollBar::sub-line { height: 0; }"
+               "QScrollBar::add-page, QScrollBar::sub-page { background: none; }")
+        .arg(scrollBarWidth)
+        .arg(Garden::css(Garden::withOpacity(Garden::muted, scrollHandleOpacity)))
+        .arg(scrollHandleWidth / 2)
+        .arg(scrollHandleMargin)
+        .arg(shortestScrollHandle);
+}
+
+}  // namespace
+
+ScoreRows::ScoreRows(QWidget* parent)
+    : QWidget(parent),
+      empty_(new Garden::TrackedLabel(tr("A fresh start. Be the first on the board."),
+                                      Garden::sans(emptyTextSize, QFont::Normal), Garden::muted)),
+      scrollArea_(new QScrollArea),
+      indicator_(new QScrollBar(Qt::Vertical, scrollArea_)),
+      column_(nullptr) {
+    installScoreAccessibility();
+    auto* list = new QWidget;
+    column_ = new QVBoxLayout(list);
+    column_->setContentsMargins(0, 0, 0, 0);
+    column_->setSpacing(rowSpacing);
+    column_->addStretch();
+    scrollArea_->setWidget(list);
+    scrollArea_->setWidgetResizable(true);
+    scrollArea_->setFrameShape(QFrame::NoFrame);
+    scrollArea_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scrollArea_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    //: Read aloud for the list of scores.
+    scrollArea_->setAccessibleName(tr("Scores"));
+    scrollArea_->installEventFilter(this);
+    scrollArea_->viewport()->setAutoFillBackground(false);
+    list->setAutoFillBackground(false);
+
+    auto* forms = new QVBoxLayout(this);
+    forms->setContentsMargins(0, 0, 0, 0);
+    forms->addWidget(empty_, 0, Qt::AlignCenter);
+    forms->addWidget(scrollArea_);
+    empty_->setContentsMargins(0, emptyTextPadding, 0, emptyTextPadding);
+    showIndicator();
+}
+
+void ScoreRows::showIndicator() {
+    const QScrollBar* scrolling = scrollArea_->verticalScrollBar();
+    indicator_->setStyleSheet(scrollBarStyle());
+    indicator_->raise();
+    connect(scrolling, &QScrollBar::rangeChanged, this, &ScoreRows::followRange);
+    connect(scrolling, &QScrollBar::valueChanged, indicator_, &QScrollBar::setValue);
+    connect(indicator_, &QScrollBar::valueChanged, scrolling, &QScrollBar::setValue);
+    followRange(scrolling->minimum(), scrolling->maximum());
+}
+
+void ScoreRows::followRange(int lowest, int highest) {
+    const bool scrolls = highest > lowest;
+    indicator_->setRange(lowest, highest);
+    indicator_->setPageStep(scrollArea_->viewport()->height());
+    indicator_->setVisible(scrolls);
+    // A stop for the keyboard only while it has something to move.
+    scrollArea_->setFocusPolicy(scrolls ? Qt::TabFocus : Qt::NoFocus);
+}
+
+bool ScoreRows::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusIn) {
+        focusRing_.focusIn(static_cast<QFocusEvent*>(event)->reason());
+        update();
+    } else if (event->type() == QEvent::FocusOut) {
+        focusRing_.focusOut(static_cast<QFocusEvent*>(event)->reason());
+        update();
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void ScoreRows::resizeEvent(QResizeEvent*) {
+    const QRect atTheEnd(width() - scrollBarWidth, 0, scrollBarWidth, height());
+    indicator_->setGeometry(QStyle::visualRect(layoutDirection(), rect(), atTheEnd));
+}
+
+void ScoreRows::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    constexpr double inset = Garden::FocusRing::width / 2;
+    focusRing_.paint(painter,
+                     Garden::continuousRoundedRect(
+                         QRectF(rect()).adjusted(inset, inset, -inset, -inset), ringRadius),
+                     Garden::mint);
+}
+
+void ScoreRows::setRowCount(std::size_t count) {
+    const auto wanted = static_cast<qsizetype>(count);
+    while (rows_.size() > wanted) {
+        delete rows_.takeLast();
+    }
+    while (rows_.size() < wanted) {
+        auto* row = new ScoreRow;
+        // Before the stretch that keeps a short list at the top.
+        column_->insertWidget(column_->count() - 1, row);
+        rows_.append(row);
+    }
+}
+
+void ScoreRows::setEntries(const std::vector<SnakeCore::HighScore>& entries,
+                           const std::optional<SnakeCore::UUID>& highlighted) {
+    empty_->setVisible(entries.empty());
+    scrollArea_->setVisible(!entries.empty());
+    setRowCount(entries.size());
+    ScoreRow* pickedOut = nullptr;
+    for (std::size_t index = 0; index < entries.size(); ++index) {
+        const bool isPickedOut = highlighted == entries[index].id;
+        ScoreRow* row = rows_[static_cast<qsizetype>(index)];
+        row->show(static_cast<std::int64_t>(index) + 1, entries[index], isPickedOut);
+        pickedOut = isPickedOut ? row : pickedOut;
+    }
+    if (pickedOut != nullptr) {
+        // Once the rows have been laid out.
+        QMetaObject::invokeMethod(
+            pickedOut, [this, pickedOut] { scrollArea_->ensureWidgetVisible(pickedOut, 0, 0); },
+            Qt::QueuedConnection);
+    }
+}

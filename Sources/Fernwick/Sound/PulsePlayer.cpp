@@ -1,0 +1,213 @@
+#include "Sound/PulsePlayer.hpp"
+
+#include <QByteArray>
+#include <memory>
+#include <utility>
+
+#include "Sound/PulseLibrary.hpp"
+#include "Sound/SoundWave.hpp"
+
+namespace {
+
+using Proplist = std::unique_ptr<pa_proplist, decltype(PulseLibrary::proplist_free)>;
+
+/// Beyond this, sound and picture fall apart.
+constexpr std::chrono::milliseconds patience{150};
+
+bool isLate(PulsePlayer::Clock::time_point since) {
+    return PulsePlayer::Clock::now() - since > patience;
+}
+
+std::size_t sizeOf(const std::vector<std::int16_t>& wave) {
+    return wave.size() * sizeof wave.front();
+}
+
+/// Under which the server keeps the effect.
+const char* nameOf(SoundEffect effect) {
+    return effect == SoundEffect::pop ? "fernwick-pop" : "fernwick-tink";
+}
+
+const char* titleOf(SoundEffect effect) {
+    return effect == SoundEffect::pop ? "Pop" : "Tink";
+}
+
+/// What mixers and the server's own rules know us by.
+Proplist clientProperties(const QByteArray& id) {
+    Proplist list(pulse().proplist_new(), pulse().proplist_free);
+    pulse().proplist_sets(list.get(), PA_PROP_APPLICATION_NAME, "Fernwick");
+    pulse().proplist_sets(list.get(), PA_PROP_APPLICATION_ID, id.constData());
+    pulse().proplist_sets(list.get(), PA_PROP_APPLICATION_ICON_NAME, id.constData());
+    return list;
+}
+
+Proplist sampleProperties(SoundEffect effect) {
+    Proplist list(pulse().proplist_new(), pulse().proplist_free);
+    pulse().proplist_sets(list.get(), PA_PROP_MEDIA_NAME, titleOf(effect));
+    pulse().proplist_sets(list.get(), PA_PROP_MEDIA_ROLE, "game");
+    return list;
+}
+
+}  // namespace
+
+PulsePlayer::PulsePlayer(pa_mainloop_api& loop, QByteArray applicationID)
+    : loop_(loop),
+      applicationID_(std::move(applicationID)),
+      samples_{Sample{.player = this, .effect = SoundEffect::pop},
+               Sample{.player = this, .effect = SoundEffect::tink}} {}
+
+void PulsePlayer::prepare() {
+    if (context_ == nullptr) {
+        connect();
+    } else if (pulse().context_get_state(context_) == PA_CONTEXT_READY) {
+        uploadMissing();
+    }
+}
+
+void PulsePlayer::play(SoundEffect effect, Clock::time_point asked) {
+    if (isLate(asked)) {
+        return;
+    }
+    std::erase_if(waiting_, [](const Waiting& waiting) { return isLate(waiting.asked); });
+    waiting_.push_back({effect, asked});
+    prepare();
+    startWaiting();
+}
+
+void PulsePlayer::connect() {
+    context_ =
+        pulse().context_new_with_proplist(&loop_, nullptr, clientProperties(applicationID_).get());
+    if (context_ == nullptr) {
+        return;
+    }
+    pulse().context_set_state_callback(context_, contextChanged, this);
+    // A game has no business starting sound servers; a failure may come back at once, through
+    // the callback as well.
+    const bool begun =
+        pulse().context_connect(context_, nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) >= 0;
+    if (!begun) {
+        disconnect();
+    }
+}
+
+void PulsePlayer::disconnect() {
+    for (Sample& sample : samples_) {
+        releaseUpload(sample);
+        sample.ready = false;
+    }
+    waiting_.clear();
+    unanswered_ = 0;
+    if (pa_context* context = std::exchange(context_, nullptr)) {
+        pulse().context_set_state_callback(context, nullptr, nullptr);
+        pulse().context_disconnect(context);
+        pulse().context_unref(context);
+    }
+}
+
+void PulsePlayer::contextChanged(pa_context* context, void* player) {
+    auto& self = *static_cast<PulsePlayer*>(player);
+    const pa_context_state_t state = pulse().context_get_state(context);
+    if (state == PA_CONTEXT_READY) {
+        self.uploadMissing();
+    } else if (!PA_CONTEXT_IS_GOOD(state)) {
+        self.disconnect();
+    }
+}
+
+void PulsePlayer::uploadMissing() {
+    for (Sample& sample : samples_) {
+        if (!sample.ready && sample.upload == nullptr) {
+            upload(sample);
+        }
+    }
+}
+
+void PulsePlayer::upload(Sample& sample) {
+    constexpr pa_sample_spec format{
+        .format = PA_SAMPLE_S16NE, .rate = soundWaveRate, .channels = 1};
+    sample.wave = soundWave(sample.effect);
+    sample.upload = pulse().stream_new_with_proplist(
+        context_, nameOf(sample.effect), &format, nullptr, sampleProperties(sample.effect).get());
+    if (sample.upload == nullptr) {
+        return;
+    }
+    pulse().stream_set_state_callback(sample.upload, uploadChanged, &sample);
+    if (pulse().stream_connect_upload(sample.upload, sizeOf(sample.wave)) < 0) {
+        releaseUpload(sample);
+    }
+}
+
+void PulsePlayer::uploadChanged(pa_stream* stream, void* data) {
+    auto& sample = *static_cast<Sample*>(data);
+    const pa_stream_state_t state = pulse().stream_get_state(stream);
+    if (state == PA_STREAM_READY) {
+        const bool handedOver =
+            pulse().stream_write(stream, sample.wave.data(), sizeOf(sample.wave), nullptr, 0,
+                                 PA_SEEK_RELATIVE) >= 0 &&
+            pulse().stream_finish_upload(stream) >= 0;
+        if (!handedOver) {
+            sample.player->releaseUpload(sample);
+        }
+    } else if (!PA_STREAM_IS_GOOD(state) && state != PA_STREAM_UNCONNECTED) {
+        sample.player->releaseUpload(sample);
+        sample.ready = state == PA_STREAM_TERMINATED;
+        sample.player->startWaiting();
+    }
+}
+
+void PulsePlayer::releaseUpload(Sample& sample) {
+    sample.wave = {};
+    if (pa_stream* stream = std::exchange(sample.upload, nullptr)) {
+        pulse().stream_set_state_callback(stream, nullptr, nullptr);
+        pulse().stream_unref(stream);
+    }
+}
+
+void PulsePlayer::startWaiting() {
+    for (const Waiting& waiting : std::exchange(waiting_, {})) {
+        if (isLate(waiting.asked)) {
+            continue;
+        }
+        if (sampleOf(waiting.effect).ready) {
+            start(waiting.effect);
+        } else {
+            waiting_.push_back(waiting);
+        }
+    }
+}
+
+void PulsePlayer::start(SoundEffect effect) {
+    // A server that does not answer would play all of these in one heap when it comes back.
+    if (unanswered_ > 0 && isLate(lastAnswer_)) {
+        return;
+    }
+    pa_operation* operation = pulse().context_play_sample(context_, nameOf(effect), nullptr,
+                                                          PA_VOLUME_INVALID, playAnswered, this);
+    if (operation == nullptr) {
+        return;
+    }
+    pulse().operation_unref(operation);
+    if (unanswered_++ == 0) {
+        lastAnswer_ = Clock::now();
+    }
+}
+
+void PulsePlayer::playAnswered(pa_context* context, int success, void* player) {
+    auto& self = *static_cast<PulsePlayer*>(player);
+    --self.unanswered_;
+    self.lastAnswer_ = Clock::now();
+    if (success != 0) {
+        return;
+    }
+    if (pulse().context_errno(context) == PA_ERR_TIMEOUT) {
+        self.disconnect();
+        return;
+    }
+    // The server may have dropped the effects: it gets them again before the next one.
+    for (Sample& sample : self.samples_) {
+        sample.ready = false;
+    }
+}
+
+PulsePlayer::Sample& PulsePlayer::sampleOf(SoundEffect effect) {
+    return samples_[effect == SoundEffect::pop ? 0 : 1];
+}

@@ -1,0 +1,112 @@
+#include "Sound/SoundWave.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <complex>
+#include <limits>
+#include <numbers>
+#include <span>
+
+namespace {
+
+/// One decaying tone. It may begin above its frequency and sink to it, as the note of a struck
+/// hollow body does. Times are in seconds until a part of 1/e is left.
+struct Partial {
+    float frequency;  ///< Hz
+    float level;      ///< relative to the other partials
+    float decay;
+    float rise = 0;  ///< how far above it begins, as a part of the frequency
+    float sink = 1;
+};
+
+struct Recipe {
+    std::span<const Partial> partials;
+    float duration;  ///< seconds
+    float attack;    ///< seconds from silence to full level; longer is softer
+    float peak;      ///< of full scale
+};
+
+/// A fingertip on a small wooden box: a low note that drops at once, the ring of the wood above it
+/// and the short knock of the touch.
+constexpr Partial popPartials[]{
+    {.frequency = 392, .level = 1.0F, .decay = 0.030F, .rise = 0.55F, .sink = 0.012F},
+    {.frequency = 1046, .level = 0.28F, .decay = 0.014F, .rise = 0.20F, .sink = 0.008F},
+    {.frequency = 2350, .level = 0.10F, .decay = 0.005F},
+};
+
+/// A fingernail on a thin glass: the uneven overtones of a rim, the higher the shorter. The two
+/// close notes at the bottom beat slowly, as no glass is quite round.
+constexpr Partial tinkPartials[]{
+    {.frequency = 2093, .level = 1.0F, .decay = 0.130F},
+    {.frequency = 2098, .level = 0.2F, .decay = 0.130F},
+    {.frequency = 4856, .level = 0.45F, .decay = 0.070F},
+    {.frequency = 8895, .level = 0.16F, .decay = 0.028F},
+};
+
+constexpr Recipe pop{.partials = popPartials, .duration = 0.16F, .attack = 0.0020F, .peak = 0.40F};
+constexpr Recipe tink{
+    .partials = tinkPartials, .duration = 0.60F, .attack = 0.0012F, .peak = 0.32F};
+
+constexpr float secondsPerSample = 1.0F / static_cast<float>(soundWaveRate);
+
+/// Adds one partial: a number that each sample turns and shrinks a little, far cheaper than a sine
+/// a sample. It starts without an imaginary part, so the tone begins in silence by itself.
+void add(const Partial& partial, std::span<float> wave) {
+    constexpr float turn = 2 * std::numbers::pi_v<float>;
+    constexpr std::size_t steadySamples = 16;  // no ear hears the pitch sink in steps this small
+    const float decayPerSample = std::exp(-secondsPerSample / partial.decay);
+    const float sinkPerStep =
+        std::exp(-secondsPerSample * static_cast<float>(steadySamples) / partial.sink);
+    std::complex<float> tone(partial.level);
+    std::complex<float> step;
+    float rise = partial.rise;
+    for (std::size_t i = 0; i < wave.size(); ++i) {
+        if (i % steadySamples == 0) {
+            const float angle = turn * partial.frequency * (1 + rise) * secondsPerSample;
+            step = std::polar(decayPerSample, angle);
+            rise *= sinkPerStep;
+        }
+        wave[i] += tone.imag();
+        tone *= step;
+    }
+}
+
+/// Half a cosine from 0 to 1, whose ends have no edge that would be heard as a click.
+float fade(float part) {
+    return 0.5F - 0.5F * std::cos(std::numbers::pi_v<float> * std::clamp(part, 0.0F, 1.0F));
+}
+
+void shapeEnds(std::span<float> wave, float attack) {
+    constexpr float release = 0.25F;  // of the whole, long after the partials have faded
+    const auto attackSamples = static_cast<std::size_t>(attack / secondsPerSample);
+    const auto releaseSamples = wave.size() / static_cast<std::size_t>(1 / release);
+    for (std::size_t i = 0; i < attackSamples; ++i) {
+        wave[i] *= fade(static_cast<float>(i) / static_cast<float>(attackSamples));
+    }
+    for (std::size_t i = 0; i < releaseSamples; ++i) {
+        wave[wave.size() - 1 - i] *=
+            fade(static_cast<float>(i) / static_cast<float>(releaseSamples));
+    }
+}
+
+}  // namespace
+
+std::vector<std::int16_t> soundWave(SoundEffect effect) {
+    const Recipe& recipe = effect == SoundEffect::pop ? pop : tink;
+    std::vector<float> wave(static_cast<std::size_t>(recipe.duration / secondsPerSample));
+    for (const Partial& partial : recipe.partials) {
+        add(partial, wave);
+    }
+    shapeEnds(wave, recipe.attack);
+
+    float loudest = 0;
+    for (const float sample : wave) {
+        loudest = std::max(loudest, std::abs(sample));
+    }
+    const float scale = recipe.peak * std::numeric_limits<std::int16_t>::max() / loudest;
+    std::vector<std::int16_t> samples(wave.size());
+    std::transform(wave.begin(), wave.end(), samples.begin(), [scale](float sample) {
+        return static_cast<std::int16_t>(std::lround(sample * scale));
+    });
+    return samples;
+}

@@ -1,0 +1,83 @@
+#include "Storage/PreferencesDocument.hpp"
+
+#include <QCborStreamReader>
+#include <QCborStreamWriter>
+
+namespace {
+
+constexpr std::size_t maximumKeys = 4096;
+constexpr int maximumDepth = 512;
+
+/// Moves past one whole item and returns its bytes; nothing when it is malformed or too deep.
+std::optional<QByteArray> takeItem(QCborStreamReader& reader, const QByteArray& bytes) {
+    const qint64 start = reader.currentOffset();
+    while (reader.isTag()) {
+        reader.next();
+    }
+    if (!reader.next(maximumDepth) || reader.lastError() != QCborError::NoError) {
+        return std::nullopt;
+    }
+    return bytes.mid(start, reader.currentOffset() - start);
+}
+
+/// One text can be encoded in several ways; under one of them it is found again.
+QByteArray plainKey(const QByteArray& key) {
+    const QCborValue value = QCborValue::fromCbor(key);
+    return value.isString() ? value.toCbor() : key;
+}
+
+QByteArray encodedKey(const QString& key) {
+    return QCborValue(key).toCbor();
+}
+
+}  // namespace
+
+std::optional<PreferencesDocument> PreferencesDocument::read(const QByteArray& bytes) {
+    QCborStreamReader reader(bytes);
+    if (bytes.size() > maximumSize || !reader.isMap() || !reader.enterContainer()) {
+        return std::nullopt;
+    }
+    PreferencesDocument document;
+    while (reader.lastError() == QCborError::NoError && reader.hasNext()) {
+        const auto key = takeItem(reader, bytes);
+        const auto value = key ? takeItem(reader, bytes) : std::nullopt;
+        if (!value || !document.entries_.emplace(plainKey(*key), *value).second ||
+            document.entries_.size() > maximumKeys) {
+            return std::nullopt;
+        }
+    }
+    const bool whole = reader.lastError() == QCborError::NoError && reader.leaveContainer() &&
+                       reader.currentOffset() == bytes.size();
+    return whole ? std::optional(document) : std::nullopt;
+}
+
+QByteArray PreferencesDocument::encoded() const {
+    QByteArray bytes;
+    // The writer only makes the map's head: it cannot copy items that are encoded already.
+    QCborStreamWriter(&bytes).startMap(entries_.size());
+    for (const auto& [key, value] : entries_) {
+        bytes.append(key).append(value);
+    }
+    return bytes;
+}
+
+QCborValue PreferencesDocument::value(const QString& key) const {
+    const auto entry = entries_.find(encodedKey(key));
+    if (entry == entries_.end()) {
+        return {};
+    }
+    // No setting is a list, and taking a hostile one apart could cost a gigabyte.
+    const QCborStreamReader reader(entry->second);
+    const bool single = !reader.isContainer() && !reader.isTag();
+    return single ? QCborValue::fromCbor(entry->second) : QCborValue();
+}
+
+void PreferencesDocument::insert(const QString& key, const QCborValue& value) {
+    entries_.insert_or_assign(encodedKey(key), value.toCbor());
+}
+
+void PreferencesDocument::insert(const PreferencesDocument& newer) {
+    for (const auto& [key, value] : newer.entries_) {
+        entries_.insert_or_assign(key, value);
+    }
+}

@@ -1,0 +1,63 @@
+#include "Window/MenuCommands.hpp"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QKeySequence>
+#include <QMenu>
+#include <QMenuBar>
+#include <utility>
+
+#include "Session/MainThread.hpp"
+#include "Session/Session.hpp"
+#include "Window/FullScreen.hpp"
+
+MenuCommands::MenuCommands(Session& session, QMenuBar& bar, QWidget& window)
+    : QObject(&window),
+      session_(session),
+      window_(window),
+      observer_(session, [this] { refresh(); }) {
+    //: Titles of menus; they and their items are worded as the desktops of the language do.
+    fillFileMenu(*bar.addMenu(tr("File")));
+    fillGameMenu(*bar.addMenu(tr("Game")));
+    refresh();
+}
+
+QAction* MenuCommands::add(QMenu& menu, const QString& title, const QList<QKeySequence>& shortcuts,
+                           std::function<void()> action) {
+    QAction* item = menu.addAction(title);
+    item->setShortcuts(shortcuts);
+    // Known to the window too, so that the shortcut lives on while the bar is hidden.
+    window_.addAction(item);
+    connect(item, &QAction::triggered, this, [action = std::move(action)] {
+        assertMainThread();
+        action();
+    });
+    return item;
+}
+
+void MenuCommands::fillFileMenu(QMenu& menu) {
+    newGame_ = add(menu, tr("New Game"), {QKeySequence(Qt::CTRL | Qt::Key_N)},
+                   [this] { session_.start(); });
+    menu.addSeparator();
+    add(menu, tr("Quit"), {QKeySequence(Qt::CTRL | Qt::Key_Q)}, [] { QCoreApplication::quit(); });
+}
+
+void MenuCommands::fillGameMenu(QMenu& menu) {
+    add(menu, tr("Toggle Full Screen"),
+        {QKeySequence(Qt::CTRL | Qt::META | Qt::Key_F), QKeySequence(Qt::Key_F11)},
+        toggleFullScreen);
+    menu.addSeparator();
+    add(menu, tr("High Scores"), {QKeySequence(Qt::CTRL | Qt::Key_L)},
+        [this] { session_.openScores(); });
+    pause_ =
+        add(menu, tr("Resume"), {QKeySequence(Qt::CTRL | Qt::Key_P)}, [this] { session_.pause(); });
+    soundEffects_ = add(menu, tr("Sound Effects"), {},
+                        [this] { session_.switchSound(soundEffects_->isChecked()); });
+    soundEffects_->setCheckable(true);
+}
+
+void MenuCommands::refresh() {
+    newGame_->setEnabled(!session_.awaitingName && !session_.showingScores);
+    pause_->setText(session_.running ? tr("Pause") : tr("Resume"));
+    soundEffects_->setChecked(session_.sound);
+}

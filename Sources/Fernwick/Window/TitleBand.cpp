@@ -1,0 +1,147 @@
+#include "Window/TitleBand.hpp"
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QWindow>
+
+#include "Garden/Widgets/IconButton.hpp"
+#include "Window/MenuStyle.hpp"
+
+namespace {
+
+constexpr int leftMargin = 38;
+constexpr int rightMargin = 38;
+constexpr int markSpacing = 8;
+
+}  // namespace
+
+TitleBand::TitleBand(QWidget* window) : QWidget(window), menuBar_(new QMenuBar(this)) {
+    styleMenuBar(*menuBar_);
+    auto* row = new QHBoxLayout(this);
+    // The first title's letters, not its plate, begin where the rows below begin.
+    QMargins margins(leftMargin - menuItemPadding - menuItemSpacing, 0, rightMargin, 0);
+    if (isRightToLeft()) {
+        margins = {margins.right(), 0, margins.left(), 0};
+    }
+    row->setContentsMargins(margins);
+    row->setSpacing(markSpacing);
+    row->addWidget(menuBar_, 0, Qt::AlignVCenter);
+    row->addStretch();
+    //: Help for the marks of the window, as the desktops of the language say it.
+    maximize_ = new Garden::IconButton(Garden::Icon::windowMaximize, tr("Maximise"));
+    addMark(*row, new Garden::IconButton(Garden::Icon::windowMinimize, tr("Minimise")),
+            &TitleBand::minimize);
+    addMark(*row, maximize_, &TitleBand::toggleMaximized);
+    addMark(*row, new Garden::IconButton(Garden::Icon::windowClose, tr("Close")),
+            &TitleBand::close);
+}
+
+void TitleBand::addMark(QHBoxLayout& row, Garden::IconButton* mark, void (TitleBand::*action)()) {
+    row.addWidget(mark, 0, Qt::AlignVCenter);
+    marks_.append(mark);
+    connect(mark, &QAbstractButton::clicked, this, action);
+}
+
+void TitleBand::minimize() {
+    window()->showMinimized();
+}
+
+void TitleBand::toggleMaximized() {
+    window()->setWindowState(window()->windowState() ^ Qt::WindowMaximized);
+}
+
+void TitleBand::close() {
+    window()->close();
+}
+
+void TitleBand::watchWindow() {
+    window()->installEventFilter(this);
+    window()->windowHandle()->installEventFilter(this);
+    for (const QAction* menu : menuBar_->actions()) {
+        connect(menu->menu(), &QMenu::aboutToHide, this, &TitleBand::concealUnlessUsed,
+                Qt::QueuedConnection);
+    }
+    followWindowState();
+}
+
+bool TitleBand::eventFilter(QObject* watched, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::WindowStateChange:
+            followWindowState();
+            break;
+        case QEvent::MouseMove:
+            if (watched->isWindowType()) {
+                followPointer(static_cast<QMouseEvent*>(event)->position().toPoint().y());
+            }
+            break;
+        case QEvent::MouseButtonPress:
+            altAlone_ = false;
+            break;
+        case QEvent::KeyPress:
+        case QEvent::KeyRelease:
+            if (watched->isWindowType() && followKeys(static_cast<QKeyEvent&>(*event))) {
+                return true;
+            }
+            break;
+        default:
+            break;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void TitleBand::followWindowState() {
+    const bool fullScreen = window()->isFullScreen();
+    for (Garden::IconButton* mark : marks_) {
+        mark->setVisible(!fullScreen);
+    }
+    maximize_->setIcon(window()->isMaximized() ? Garden::Icon::windowRestore
+                                               : Garden::Icon::windowMaximize);
+    menuBar_->setVisible(!fullScreen);
+}
+
+void TitleBand::followPointer(int y) {
+    pointerInBand_ = y < height;
+    if (y <= 0) {
+        reveal();
+    } else {
+        concealUnlessUsed();
+    }
+}
+
+bool TitleBand::followKeys(const QKeyEvent& event) {
+    const bool isAlt = event.key() == Qt::Key_Alt;
+    if (event.type() == QEvent::KeyPress) {
+        altAlone_ = isAlt;
+        if (event.key() == Qt::Key_F10 && event.modifiers() == Qt::NoModifier) {
+            openFirstMenu();
+            return true;
+        }
+        return false;
+    }
+    // While it is to be seen, the menu bar answers Alt by itself.
+    if (isAlt && altAlone_ && menuBar_->isHidden()) {
+        openFirstMenu();
+        return true;
+    }
+    return false;
+}
+
+void TitleBand::reveal() {
+    menuBar_->show();
+}
+
+void TitleBand::concealUnlessUsed() {
+    if (window()->isFullScreen() && !pointerInBand_ &&
+        QApplication::activePopupWidget() == nullptr) {
+        menuBar_->hide();
+    }
+}
+
+void TitleBand::openFirstMenu() {
+    reveal();
+    menuBar_->setActiveAction(menuBar_->actions().constFirst());
+}

@@ -1,0 +1,114 @@
+#include "Window/WindowChrome.hpp"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QWidget>
+#include <QWindow>
+
+namespace {
+
+// Wide enough to hit, narrow enough to stay inside the window's empty margins.
+constexpr int gripWidth = 6;
+
+Qt::CursorShape cursorFor(Qt::Edges edges) {
+    if (edges == (Qt::LeftEdge | Qt::TopEdge) || edges == (Qt::RightEdge | Qt::BottomEdge)) {
+        return Qt::SizeFDiagCursor;
+    }
+    if (edges == (Qt::RightEdge | Qt::TopEdge) || edges == (Qt::LeftEdge | Qt::BottomEdge)) {
+        return Qt::SizeBDiagCursor;
+    }
+    return (edges & (Qt::LeftEdge | Qt::RightEdge)) != 0 ? Qt::SizeHorCursor : Qt::SizeVerCursor;
+}
+
+}  // namespace
+
+WindowChrome::WindowChrome(QWidget& window, int bandHeight)
+    : QObject(&window), window_(window), handle_(window.windowHandle()), bandHeight_(bandHeight) {
+    // Watched at the window's handle: it sees the pointer before any child takes the event.
+    handle_->installEventFilter(this);
+}
+
+Qt::Edges WindowChrome::edgesAt(const QPoint& position) const {
+    if (window_.isFullScreen() || window_.isMaximized()) {
+        return {};
+    }
+    Qt::Edges edges;
+    edges.setFlag(Qt::LeftEdge, position.x() < gripWidth);
+    edges.setFlag(Qt::RightEdge, position.x() >= window_.width() - gripWidth);
+    edges.setFlag(Qt::TopEdge, position.y() < gripWidth);
+    edges.setFlag(Qt::BottomEdge, position.y() >= window_.height() - gripWidth);
+    return edges;
+}
+
+bool WindowChrome::isBand(const QPoint& position) const {
+    if (window_.isFullScreen() || position.y() >= bandHeight_) {
+        return false;
+    }
+    const QWidget* child = window_.childAt(position);
+    return qobject_cast<const QAbstractButton*>(child) == nullptr &&
+           qobject_cast<const QMenuBar*>(child) == nullptr;
+}
+
+void WindowChrome::showCursorFor(const QPoint& position) {
+    const Qt::Edges edges = edgesAt(position);
+    if (edges == hovered_) {
+        return;
+    }
+    hovered_ = edges;
+    if (edges == Qt::Edges()) {
+        window_.unsetCursor();
+    } else {
+        window_.setCursor(cursorFor(edges));
+    }
+}
+
+bool WindowChrome::press(const QMouseEvent& event) {
+    const QPoint position = event.position().toPoint();
+    const bool takesHold =
+        event.button() == Qt::LeftButton && (edgesAt(position) != Qt::Edges() || isBand(position));
+    held_ = takesHold ? std::optional(position) : std::nullopt;
+    return takesHold;
+}
+
+// The window manager takes over only once the pointer is dragged: it never hears of the release of
+// a mere click, and would hold on to the window.
+bool WindowChrome::drag(const QMouseEvent& event) {
+    const QPoint position = event.position().toPoint();
+    if (!held_ || !event.buttons().testFlag(Qt::LeftButton) ||
+        (position - *held_).manhattanLength() < QApplication::startDragDistance()) {
+        return false;
+    }
+    const Qt::Edges edges = edgesAt(*held_);
+    held_.reset();
+    return edges != Qt::Edges() ? handle_->startSystemResize(edges) : handle_->startSystemMove();
+}
+
+bool WindowChrome::eventFilter(QObject* watched, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::MouseMove:
+            if (drag(static_cast<QMouseEvent&>(*event))) {
+                return true;
+            }
+            showCursorFor(static_cast<QMouseEvent*>(event)->position().toPoint());
+            break;
+        case QEvent::MouseButtonPress:
+            if (press(static_cast<QMouseEvent&>(*event))) {
+                return true;
+            }
+            break;
+        case QEvent::MouseButtonRelease:
+            held_.reset();
+            break;
+        case QEvent::MouseButtonDblClick:
+            if (isBand(static_cast<QMouseEvent*>(event)->position().toPoint())) {
+                window_.setWindowState(window_.windowState() ^ Qt::WindowMaximized);
+                return true;
+            }
+            break;
+        default:
+            break;
+    }
+    return QObject::eventFilter(watched, event);
+}

@@ -1,0 +1,77 @@
+#include <gtest/gtest.h>
+
+#include <QGuiApplication>
+#include <QKeyEvent>
+
+#include "App/FernwickApp.hpp"
+#include "Fernwick/Session/SessionState.hpp"
+#include "Fernwick/Session/SessionTest.hpp"
+
+namespace {
+
+class Application : public ::testing::Test {
+protected:
+    static void changeState(Qt::ApplicationState state) {
+        Q_EMIT qGuiApp->applicationStateChanged(state);
+    }
+
+    TemporaryFolder folder;
+    PreferencesFile preferences{folder.path() / "preferences.cbor"};
+    HeardSounds sounds;
+    FernwickApp fernwick{preferences, sounds};
+    Session& session{fernwick.session()};
+};
+
+}  // namespace
+
+TEST_F(Application, pausesAMovingSnakeWhenItIsLeftAndLeavesItPaused) {
+    for (const Qt::ApplicationState left :
+         {Qt::ApplicationInactive, Qt::ApplicationHidden, Qt::ApplicationSuspended}) {
+        session.start();
+
+        changeState(left);
+        EXPECT_EQ(stateOf(session), SessionState::paused);
+        changeState(Qt::ApplicationActive);
+        EXPECT_EQ(stateOf(session), SessionState::paused);
+    }
+}
+
+TEST_F(Application, changesNothingElseWhenItIsLeft) {
+    changeState(Qt::ApplicationInactive);
+    EXPECT_EQ(stateOf(session), SessionState::fresh);
+
+    session.start();
+    session.pause();
+    changeState(Qt::ApplicationInactive);
+    EXPECT_EQ(stateOf(session), SessionState::paused);
+
+    session.start();
+    while (session.running) {
+        QMetaObject::invokeMethod(session.findChild<QTimer*>(), "timeout");
+    }
+    changeState(Qt::ApplicationInactive);
+    EXPECT_EQ(stateOf(session), SessionState::awaitingName);
+}
+
+TEST_F(Application, showsItsWindowAndTakesTheKeys) {
+    fernwick.show();
+    QCoreApplication::processEvents();
+
+    EXPECT_TRUE(fernwick.window().isVisible());
+    QKeyEvent space(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier);
+    QCoreApplication::sendEvent(&fernwick.window(), &space);
+    EXPECT_TRUE(session.running);
+}
+
+TEST_F(Application, comesForwardFromBeingMinimised) {
+    fernwick.show();
+    fernwick.window().showMinimized();
+    QCoreApplication::processEvents();
+    ASSERT_TRUE(fernwick.window().isMinimized());
+
+    fernwick.bringForward({});
+    QCoreApplication::processEvents();
+
+    EXPECT_FALSE(fernwick.window().isMinimized());
+    EXPECT_TRUE(fernwick.window().isVisible());
+}

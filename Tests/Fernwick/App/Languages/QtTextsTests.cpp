@@ -1,0 +1,69 @@
+#include <QAccessible>
+#include <QMenu>
+#include <QMenuBar>
+#include <memory>
+
+#include "Fernwick/App/Languages/LanguageTest.hpp"
+#include "Screens/Scores/NameField.hpp"
+
+namespace {
+
+/// The titles of the menu that a right click on a text field opens; in German, their keys too.
+QStringList titlesOfFieldMenu() {
+    NameField field;
+    field.setText("Ada");
+    const std::unique_ptr<QMenu> menu(field.createStandardContextMenu());
+    QStringList titles;
+    for (const QAction* action : menu->actions()) {
+        if (!action->isSeparator()) {
+            titles.append(action->text());
+        }
+    }
+    return titles;
+}
+
+class ToolkitTexts : public ::testing::TestWithParam<QString> {};
+
+INSTANTIATE_TEST_SUITE_P(Languages, ToolkitTexts, ::testing::ValuesIn(everyLanguage()),
+                         nameOfLanguage);
+
+}  // namespace
+
+TEST_P(ToolkitTexts, leaveNoEnglishInTheMenuOfTheNameField) {
+    const auto titles = [] {
+        QStringList all = titlesOfFieldMenu();
+        for (QString& title : all) {
+            title = title.section(u'\t', 0, 0);
+        }
+        return all;
+    };
+    const QStringList english = titles();
+    ASSERT_EQ(english.size(), 7);
+    const Language language(GetParam());
+
+    const QStringList translated = titles();
+
+    ASSERT_EQ(translated.size(), english.size());
+    for (const QString& title : translated) {
+        EXPECT_FALSE(english.contains(title)) << title.toStdString();
+    }
+}
+
+TEST_P(ToolkitTexts, leaveNoEnglishInWhatIsSaidOfAButton) {
+    const QString english = QAccessibleActionInterface::tr("Press");
+    const Language language(GetParam());
+    const QString press = QAccessibleActionInterface::pressAction();
+
+    const QString translated = QAccessibleActionInterface::tr(press.toUtf8().constData());
+
+    EXPECT_NE(translated, english);
+}
+
+TEST(ToolkitTextsInGerman, nameKeysAsGermanKeyboardsDo) {
+    const Language german("de");
+
+    EXPECT_EQ(QKeySequence(Qt::CTRL | Qt::Key_N).toString(QKeySequence::NativeText), "Strg+N");
+    EXPECT_EQ(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z).toString(QKeySequence::NativeText),
+              "Strg+Umschalt+Z");
+    EXPECT_TRUE(titlesOfFieldMenu().first().endsWith("\tStrg+Z"));
+}

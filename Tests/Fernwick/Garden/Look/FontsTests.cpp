@@ -1,0 +1,84 @@
+#include <gtest/gtest.h>
+
+#include <QFontMetricsF>
+#include <QRawFont>
+#include <QResource>
+
+#include "Garden/Look/Fonts.hpp"
+
+namespace {
+
+std::string cutOf(const QFont& font) {
+    const QRawFont raw = QRawFont::fromFont(font);
+    return (raw.familyName() + u'/' + raw.styleName() + u'/' + QString::number(raw.weight()))
+        .toStdString();
+}
+
+// The drawn font's own tables are those of the carried file, not of a namesake on this desktop.
+void expectDrawnFrom(const char* file, const QFont& font) {
+    const QByteArray data =
+        QResource(QStringLiteral(":/fonts/") + QLatin1String(file)).uncompressedData();
+    ASSERT_FALSE(data.isEmpty()) << file;
+    const QRawFont carried(data, font.pixelSize());
+    const QRawFont drawn = QRawFont::fromFont(font);
+    EXPECT_EQ(carried.fontTable("name"), drawn.fontTable("name")) << file;
+    EXPECT_EQ(carried.fontTable("head"), drawn.fontTable("head")) << file;
+}
+
+}  // namespace
+
+TEST(Fonts, drawTheCutThatIsAskedFor) {
+    EXPECT_EQ(cutOf(Garden::sans(13, QFont::Normal)), "Inter/Regular/400");
+    EXPECT_EQ(cutOf(Garden::sans(13, QFont::Medium)), "Inter/Medium/500");
+    EXPECT_EQ(cutOf(Garden::sans(13, QFont::DemiBold)), "Inter/Semi Bold/600");
+    EXPECT_EQ(cutOf(Garden::serif(27, QFont::Light)), "ElstobD/Light/300");
+    EXPECT_EQ(cutOf(Garden::serif(35, QFont::Normal)), "ElstobD/Regular/400");
+    EXPECT_EQ(cutOf(Garden::mono(33, QFont::Light)), "JetBrains Mono/Light/300");
+    EXPECT_EQ(cutOf(Garden::mono(11, QFont::Normal)), "JetBrains Mono/Regular/400");
+}
+
+TEST(Fonts, areCarriedInsideTheProgram) {
+    expectDrawnFrom("Inter-Regular.otf", Garden::sans(12, QFont::Normal));
+    expectDrawnFrom("Inter-Medium.otf", Garden::sans(12, QFont::Medium));
+    expectDrawnFrom("Inter-SemiBold.otf", Garden::sans(12, QFont::DemiBold));
+    expectDrawnFrom("ElstobD-Light.otf", Garden::serif(27, QFont::Light));
+    expectDrawnFrom("ElstobD-Regular.otf", Garden::serif(27, QFont::Normal));
+    expectDrawnFrom("JetBrainsMono-Light.ttf", Garden::mono(33, QFont::Light));
+    expectDrawnFrom("JetBrainsMono-Regular.ttf", Garden::mono(33, QFont::Normal));
+}
+
+TEST(Fonts, haveTheSizeInPixelsAndNoHinting) {
+    for (const QFont& font : {Garden::sans(9, QFont::Medium), Garden::serif(9, QFont::Light),
+                              Garden::mono(9, QFont::Normal)}) {
+        EXPECT_EQ(font.pixelSize(), 9);
+        EXPECT_EQ(font.hintingPreference(), QFont::PreferNoHinting);
+    }
+}
+
+TEST(Fonts, trackTheSansByLogicalPixels) {
+    const QString word = QStringLiteral("GROW");
+    const double plain = QFontMetricsF(Garden::sans(9, QFont::Medium)).horizontalAdvance(word);
+    const double tracked = QFontMetricsF(Garden::sans(9, QFont::Medium, 2)).horizontalAdvance(word);
+
+    EXPECT_NEAR(tracked - plain, 2.0 * static_cast<double>(word.size()), 0.5);
+}
+
+TEST(Fonts, keepLettersTogetherThatJoinEachOther) {
+    const QFont spaced = Garden::sans(14, QFont::Medium, 2);
+    for (const char* text : {"النقاط", "अंक", "10 نقاط"}) {
+        EXPECT_EQ(Garden::fittedTo(QString::fromUtf8(text), spaced).letterSpacing(), 0) << text;
+    }
+    for (const char* text : {"FERNWICK", "РАХУНОК", "スコア", ""}) {
+        EXPECT_EQ(Garden::fittedTo(QString::fromUtf8(text), spaced).letterSpacing(), 2) << text;
+    }
+}
+
+TEST(Fonts, keepLettersOfManyStrokesLegible) {
+    const QFont small = Garden::sans(8, QFont::Medium);
+    for (const char* text : {"النقاط", "अंक", "スコア", "得分", "점수"}) {
+        EXPECT_EQ(Garden::fittedTo(QString::fromUtf8(text), small).pixelSize(), 11) << text;
+    }
+    EXPECT_EQ(Garden::fittedTo(QStringLiteral("SCORE"), small).pixelSize(), 8);
+    const QFont large = Garden::sans(27, QFont::Normal);
+    EXPECT_EQ(Garden::fittedTo(QStringLiteral("得分"), large).pixelSize(), 27);
+}

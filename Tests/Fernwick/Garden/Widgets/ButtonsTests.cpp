@@ -1,0 +1,240 @@
+#include <gtest/gtest.h>
+
+#include <QFontMetricsF>
+#include <QSignalSpy>
+#include <QTest>
+#include <memory>
+#include <vector>
+
+#include "Garden/Look/Fonts.hpp"
+#include "Garden/Look/Palette.hpp"
+#include "Garden/Widgets/GardenButton.hpp"
+#include "Garden/Widgets/IconButton.hpp"
+#include "Garden/Widgets/OverlayButton.hpp"
+#include "Garden/Widgets/PlainButton.hpp"
+#include "Support/Picture.hpp"
+
+namespace {
+
+// A place inside a button's fill and clear of its text.
+QColor fillOf(QWidget& button) {
+    return picture(button).pixelColor(12, button.height() / 2);
+}
+
+std::vector<std::unique_ptr<QAbstractButton>> oneOfEach() {
+    std::vector<std::unique_ptr<QAbstractButton>> buttons;
+    buttons.push_back(std::make_unique<Garden::GardenButton>(QStringLiteral("Done")));
+    buttons.push_back(std::make_unique<Garden::OverlayButton>(QStringLiteral("Let's grow")));
+    buttons.push_back(std::make_unique<Garden::PlainButton>(QStringLiteral("Skip saving"),
+                                                            Garden::sans(12, QFont::Normal)));
+    buttons.push_back(
+        std::make_unique<Garden::IconButton>(Garden::Icon::trophy, QStringLiteral("High scores")));
+    return buttons;
+}
+
+}  // namespace
+
+TEST(GardenButton, changesOnlyTheOpacityOfItsFill) {
+    Garden::GardenButton button(QStringLiteral("Save score"));
+    EXPECT_TRUE(alike(fillOf(button), Garden::mint));
+
+    button.setDown(true);
+    EXPECT_TRUE(alike(fillOf(button), onBlack(Garden::withOpacity(Garden::mint, 0.7))));
+
+    button.setDown(false);
+    EXPECT_TRUE(alike(fillOf(button), Garden::mint));
+}
+
+TEST(GardenButton, looksDisabledEvenWhenPressed) {
+    Garden::GardenButton button(QStringLiteral("Save score"));
+    button.setDown(true);
+    button.setEnabled(false);
+
+    EXPECT_TRUE(alike(fillOf(button), onBlack(Garden::withOpacity(Garden::mint, 0.3))));
+}
+
+TEST(GardenButton, isDisabledByItsContainer) {
+    QWidget container;
+    auto* button = new Garden::GardenButton(QStringLiteral("Save score"), &container);
+
+    container.setEnabled(false);
+
+    EXPECT_TRUE(alike(fillOf(*button), onBlack(Garden::withOpacity(Garden::mint, 0.3))));
+}
+
+TEST(GardenButton, writesInInkInEveryState) {
+    Garden::GardenButton button(QStringLiteral("Save score"));
+    const int enabled = countOf(picture(button, 2), Garden::ink);
+    EXPECT_GT(enabled, 50);
+
+    button.setDown(true);
+    EXPECT_GE(countOf(picture(button, 2), Garden::ink), enabled);
+
+    button.setEnabled(false);
+    EXPECT_GE(countOf(picture(button, 2), Garden::ink), enabled);
+}
+
+TEST(GardenButton, growsWithItsText) {
+    const QFontMetricsF metrics(Garden::sans(13, QFont::DemiBold));
+    for (const QString& text : {QStringLiteral("OK"), QStringLiteral("A much longer text")}) {
+        const Garden::GardenButton button(text);
+        EXPECT_EQ(button.sizeHint(),
+                  QSize(qCeil(metrics.horizontalAdvance(text)) + 60, qCeil(metrics.height()) + 26));
+    }
+}
+
+TEST(GardenButton, hasRoundEnds) {
+    Garden::GardenButton button(QStringLiteral("Done"));
+    const QImage image = picture(button);
+
+    EXPECT_EQ(image.pixelColor(0, 0), QColor(Qt::black));
+    EXPECT_EQ(image.pixelColor(image.width() - 1, image.height() - 1), QColor(Qt::black));
+    EXPECT_GT(image.pixelColor(0, image.height() / 2).green(), 100);
+}
+
+TEST(OverlayButton, pairsATextWithAnArrowInInk) {
+    Garden::OverlayButton button(QStringLiteral("Let's grow"));
+    const QFontMetricsF metrics(button.font());
+    const int textWidth = qCeil(metrics.horizontalAdvance(button.text()));
+    EXPECT_EQ(button.sizeHint().height(), qCeil(metrics.height()) + 30);
+    EXPECT_GT(button.sizeHint().width(), textWidth + 50);
+
+    const QImage image = picture(button, 2);
+    EXPECT_TRUE(alike(image.pixelColor(20, image.height() / 2), Garden::mint));
+    const QRect rightOfText(2 * (25 + textWidth), 0, image.width() - 2 * (25 + textWidth),
+                            image.height());
+    EXPECT_GT(countOf(image.copy(rightOfText), Garden::ink), 20);
+}
+
+TEST(OverlayButton, pointsTheWayThatIsRead) {
+    constexpr int padding = 25;
+    constexpr int arrow = 13;
+    Garden::OverlayButton button(QStringLiteral("oooo"));
+    const QImage leftToRight = picture(button);
+    button.setLayoutDirection(Qt::RightToLeft);
+    const QImage rightToLeft = picture(button);
+
+    const int height = button.height();
+    const QImage atTheEnd = leftToRight.copy(button.width() - padding - arrow, 0, arrow, height);
+    EXPECT_EQ(rightToLeft.copy(padding, 0, arrow, height), atTheEnd.mirrored(true, false));
+    EXPECT_NE(rightToLeft, leftToRight);
+}
+
+TEST(OverlayButton, takesTheWidthOfANewText) {
+    Garden::OverlayButton button({});
+    const int before = button.sizeHint().width();
+
+    button.setText(QStringLiteral("Keep growing"));
+
+    EXPECT_GT(button.sizeHint().width(), before + 40);
+}
+
+TEST(PlainButton, isItsTextInMuted) {
+    Garden::PlainButton button(QStringLiteral("Skip saving"), Garden::sans(12, QFont::Normal));
+    const QImage image = picture(button, 4);
+
+    EXPECT_GT(countOf(image, Garden::muted), 50);
+    EXPECT_EQ(image.pixelColor(2, 2), QColor(Qt::black));
+}
+
+TEST(IconButton, is26LogicalPixelsSquareAndMuted) {
+    Garden::IconButton button(Garden::Icon::pause, QStringLiteral("Pause or resume"));
+
+    EXPECT_EQ(button.size(), QSize(26, 26));
+    EXPECT_EQ(button.sizeHint(), QSize(26, 26));
+    EXPECT_GT(countOf(picture(button, 2), Garden::muted), 20);
+}
+
+TEST(IconButton, explainsItself) {
+    const Garden::IconButton button(Garden::Icon::trophy, QStringLiteral("High scores"));
+
+    EXPECT_EQ(button.toolTip(), QStringLiteral("High scores"));
+    EXPECT_EQ(button.accessibleName(), QStringLiteral("High scores"));
+}
+
+TEST(IconButton, isDimmedWhileDisabled) {
+    Garden::IconButton button(Garden::Icon::play, QStringLiteral("Pause or resume"));
+    button.setEnabled(false);
+
+    const QImage image = picture(button, 2);
+    EXPECT_EQ(countOf(image, Garden::muted), 0);
+    EXPECT_FALSE(inkOf(image).isEmpty());
+}
+
+TEST(IconButton, showsAnotherSymbolWhenTold) {
+    Garden::IconButton button(Garden::Icon::play, QStringLiteral("Pause or resume"));
+    const QImage play = picture(button, 2);
+
+    button.setIcon(Garden::Icon::pause);
+
+    EXPECT_NE(picture(button, 2), play);
+}
+
+TEST(EveryButton, isReachedByTabAndNotByClick) {
+    for (const auto& button : oneOfEach()) {
+        EXPECT_EQ(button->focusPolicy(), Qt::TabFocus);
+    }
+}
+
+TEST(EveryButton, isPressedByReturnEnterAndSpaceOnceEach) {
+    for (const auto& button : oneOfEach()) {
+        button->show();
+        const QSignalSpy clicks(button.get(), &QAbstractButton::clicked);
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+            QTest::keyClick(button.get(), key);
+        }
+        EXPECT_EQ(clicks.count(), 3);
+    }
+}
+
+TEST(EveryButton, ignoresAHeldReturn) {
+    for (const auto& button : oneOfEach()) {
+        button->show();
+        const QSignalSpy clicks(button.get(), &QAbstractButton::clicked);
+        QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, {}, true);
+        QApplication::sendEvent(button.get(), &repeated);
+        EXPECT_EQ(clicks.count(), 0);
+    }
+}
+
+TEST(EveryButton, isPressedByTheMouseAndNotWhileDisabled) {
+    for (const auto& button : oneOfEach()) {
+        button->show();
+        const QSignalSpy clicks(button.get(), &QAbstractButton::clicked);
+        QTest::mouseClick(button.get(), Qt::LeftButton);
+        EXPECT_EQ(clicks.count(), 1);
+
+        button->setEnabled(false);
+        QTest::mouseClick(button.get(), Qt::LeftButton);
+        QTest::keyClick(button.get(), Qt::Key_Return);
+        EXPECT_EQ(clicks.count(), 1);
+    }
+}
+
+TEST(EveryButton, offersAPointingHandWhileItCanBePressed) {
+    for (const auto& button : oneOfEach()) {
+        EXPECT_EQ(button->cursor().shape(), Qt::PointingHandCursor);
+        button->setEnabled(false);
+        EXPECT_EQ(button->cursor().shape(), Qt::ArrowCursor);
+        button->setEnabled(true);
+        EXPECT_EQ(button->cursor().shape(), Qt::PointingHandCursor);
+    }
+}
+
+TEST(EveryButton, showsAFocusRingOnlyToTheKeyboard) {
+    for (const auto& button : oneOfEach()) {
+        const QImage resting = picture(*button, 2);
+
+        QFocusEvent byCode(QEvent::FocusIn, Qt::OtherFocusReason);
+        QApplication::sendEvent(button.get(), &byCode);
+        EXPECT_EQ(picture(*button, 2), resting);
+
+        QFocusEvent byTab(QEvent::FocusIn, Qt::TabFocusReason);
+        QApplication::sendEvent(button.get(), &byTab);
+        EXPECT_NE(picture(*button, 2), resting);
+
+        QFocusEvent away(QEvent::FocusOut, Qt::TabFocusReason);
+        QApplication::sendEvent(button.get(), &away);
+        EXPECT_EQ(picture(*button, 2), resting);
+    }
+}

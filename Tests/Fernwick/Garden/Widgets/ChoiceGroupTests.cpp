@@ -1,0 +1,169 @@
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QFontMetricsF>
+#include <QSignalSpy>
+#include <QTest>
+
+#include "Garden/Look/Fonts.hpp"
+#include "Garden/Look/Palette.hpp"
+#include "Garden/Widgets/ChoiceGroup.hpp"
+#include "Support/Picture.hpp"
+
+namespace {
+
+class ChoiceGroup : public testing::Test {
+protected:
+    ChoiceGroup() { group.setCurrent(1); }
+
+    QAbstractButton* choice(int index) { return group.findChildren<QAbstractButton*>().at(index); }
+
+    int chosenIndex(const QSignalSpy& chosen) { return chosen.last().first().toInt(); }
+
+    Garden::ChoiceGroup group{
+        {QStringLiteral("Gentle"), QStringLiteral("Classic"), QStringLiteral("Swift")},
+        QStringLiteral("Speed")};
+};
+
+}  // namespace
+
+TEST_F(ChoiceGroup, padsEveryWordAndTheWhole) {
+    const QFontMetricsF metrics(Garden::sans(12, QFont::Medium));
+    int width = 0;
+    for (int index = 0; index < 3; ++index) {
+        width += qCeil(metrics.horizontalAdvance(choice(index)->text())) + 2 * 17;
+    }
+
+    EXPECT_EQ(group.sizeHint(), QSize(width + 2 * 4, qCeil(metrics.height()) + 2 * 9 + 2 * 4));
+}
+
+TEST_F(ChoiceGroup, checksTheCurrentChoiceAlone) {
+    EXPECT_EQ(group.current(), 1);
+    EXPECT_FALSE(choice(0)->isChecked());
+    EXPECT_TRUE(choice(1)->isChecked());
+    EXPECT_FALSE(choice(2)->isChecked());
+
+    group.setCurrent(2);
+
+    EXPECT_EQ(group.current(), 2);
+    EXPECT_FALSE(choice(1)->isChecked());
+    EXPECT_TRUE(choice(2)->isChecked());
+}
+
+TEST_F(ChoiceGroup, writesTheCurrentChoiceInMintAndTheOthersInMuted) {
+    const QImage image = picture(group, 4);
+    const auto part = [&](int index) {
+        const QRect place = choice(index)->geometry();
+        return image.copy(QRect(place.topLeft() * 4, place.size() * 4));
+    };
+
+    EXPECT_GT(countOf(part(1), Garden::mint), 50);
+    EXPECT_EQ(countOf(part(1), Garden::muted), 0);
+    for (const int other : {0, 2}) {
+        EXPECT_GT(countOf(part(other), Garden::muted), 50);
+        EXPECT_EQ(countOf(part(other), Garden::mint), 0);
+    }
+}
+
+TEST_F(ChoiceGroup, laysAMintCapsuleOnAFaintPlate) {
+    const QImage image = picture(group);
+    const QColor plate = onBlack(Garden::withOpacity(Qt::white, 0.035));
+    EXPECT_TRUE(alike(image.pixelColor(2, group.height() / 2), plate));
+    EXPECT_EQ(image.pixelColor(0, 0), QColor(Qt::black));
+
+    QImage expected(1, 1, QImage::Format_ARGB32_Premultiplied);
+    expected.fill(plate);
+    QPainter(&expected).fillRect(expected.rect(), Garden::withOpacity(Garden::mint, 0.16));
+    EXPECT_TRUE(
+        alike(image.pixelColor(choice(1)->x() + 8, group.height() / 2), expected.pixelColor(0, 0)));
+}
+
+TEST_F(ChoiceGroup, asksForThePressedChoiceAndLeavesTheAnswerToItsOwner) {
+    group.show();
+    const QSignalSpy chosen(&group, &Garden::ChoiceGroup::chosen);
+
+    QTest::mouseClick(choice(2), Qt::LeftButton);
+
+    ASSERT_EQ(chosen.count(), 1);
+    EXPECT_EQ(chosenIndex(chosen), 2);
+    EXPECT_EQ(group.current(), 1);
+    EXPECT_TRUE(choice(1)->isChecked());
+    EXPECT_FALSE(choice(2)->isChecked());
+}
+
+TEST_F(ChoiceGroup, asksAgainForTheCurrentChoiceAndKeepsItChecked) {
+    group.show();
+    const QSignalSpy chosen(&group, &Garden::ChoiceGroup::chosen);
+
+    QTest::mouseClick(choice(1), Qt::LeftButton);
+
+    ASSERT_EQ(chosen.count(), 1);
+    EXPECT_EQ(chosenIndex(chosen), 1);
+    EXPECT_TRUE(choice(1)->isChecked());
+}
+
+TEST_F(ChoiceGroup, staysSilentWhenItsOwnerSetsTheChoice) {
+    const QSignalSpy chosen(&group, &Garden::ChoiceGroup::chosen);
+
+    group.setCurrent(0);
+
+    EXPECT_EQ(chosen.count(), 0);
+}
+
+TEST_F(ChoiceGroup, movesWithTheArrowsAndStopsAtTheEnds) {
+    group.show();
+    QApplication::setActiveWindow(&group);
+    const QSignalSpy chosen(&group, &Garden::ChoiceGroup::chosen);
+    choice(1)->setFocus(Qt::TabFocusReason);
+
+    QTest::keyClick(choice(1), Qt::Key_Right);
+    ASSERT_EQ(chosen.count(), 1);
+    EXPECT_EQ(chosenIndex(chosen), 2);
+    EXPECT_TRUE(choice(2)->hasFocus());
+
+    QTest::keyClick(choice(2), Qt::Key_Right);
+    EXPECT_EQ(chosen.count(), 1);
+    EXPECT_TRUE(choice(2)->hasFocus());
+
+    QTest::keyClick(choice(2), Qt::Key_Left);
+    EXPECT_EQ(chosenIndex(chosen), 1);
+    EXPECT_TRUE(choice(1)->hasFocus());
+}
+
+TEST_F(ChoiceGroup, isPressedByReturn) {
+    group.show();
+    const QSignalSpy chosen(&group, &Garden::ChoiceGroup::chosen);
+
+    QTest::keyClick(choice(0), Qt::Key_Return);
+
+    ASSERT_EQ(chosen.count(), 1);
+    EXPECT_EQ(chosenIndex(chosen), 0);
+}
+
+TEST_F(ChoiceGroup, takesNoPressesWhileItsChoicesAreDisabled) {
+    group.show();
+    const QSignalSpy chosen(&group, &Garden::ChoiceGroup::chosen);
+    group.setChoicesEnabled(false);
+
+    QTest::mouseClick(choice(2), Qt::LeftButton);
+    QTest::keyClick(choice(2), Qt::Key_Return);
+    EXPECT_EQ(chosen.count(), 0);
+
+    group.setChoicesEnabled(true);
+    QTest::mouseClick(choice(2), Qt::LeftButton);
+    EXPECT_EQ(chosen.count(), 1);
+}
+
+TEST_F(ChoiceGroup, keepsItsLookWhileDisabled) {
+    const QImage enabled = picture(group, 2);
+
+    group.setChoicesEnabled(false);
+
+    EXPECT_EQ(picture(group, 2), enabled);
+}
+
+TEST_F(ChoiceGroup, isReachedByTabChoiceByChoice) {
+    for (int index = 0; index < 3; ++index) {
+        EXPECT_EQ(choice(index)->focusPolicy(), Qt::TabFocus);
+    }
+}

@@ -1,0 +1,149 @@
+#include <gtest/gtest.h>
+
+#include <QFontMetricsF>
+#include <QTest>
+
+#include "Garden/Look/Fonts.hpp"
+#include "Garden/Look/Motion.hpp"
+#include "Garden/Look/Palette.hpp"
+#include "Garden/Widgets/RollingDigits.hpp"
+#include "Support/Picture.hpp"
+#include "Support/StillStyle.hpp"
+#include "Support/Wakeups.hpp"
+
+namespace {
+
+constexpr int settled = 2 * Garden::digitRollDuration;
+
+QImage atRest(qint64 value, Qt::Alignment alignment = Qt::AlignLeft) {
+    Garden::RollingDigits digits(alignment);
+    digits.setValue(value);
+    return picture(digits);
+}
+
+class ShownDigits : public testing::Test {
+protected:
+    ShownDigits() {
+        digits.setValue(240);
+        digits.show();
+        QTest::qWait(50);
+    }
+
+    Garden::RollingDigits digits{Qt::AlignLeft};
+};
+
+}  // namespace
+
+TEST(RollingDigits, showsAtLeastThreeDigits) {
+    const double cell =
+        QFontMetricsF(Garden::mono(33, QFont::Light)).horizontalAdvance(QLatin1Char('0'));
+    const auto width = [](qint64 value) {
+        Garden::RollingDigits digits(Qt::AlignLeft);
+        digits.setValue(value);
+        return digits.sizeHint().width();
+    };
+
+    EXPECT_EQ(width(0), qCeil(3 * cell));
+    EXPECT_EQ(width(999), qCeil(3 * cell));
+    EXPECT_EQ(width(1234), qCeil(4 * cell));
+}
+
+TEST(RollingDigits, padsWithNoughtsInMint) {
+    Garden::RollingDigits digits(Qt::AlignLeft);
+    digits.setValue(7);
+    const QImage image = picture(digits);
+    EXPECT_GT(countOf(picture(digits, 4), Garden::mint), 100);
+
+    const int third = image.width() / 3;
+    const QImage nought = atRest(0);
+    const QRect firstTwo(0, 0, 2 * third, image.height());
+    EXPECT_EQ(image.copy(firstTwo), nought.copy(firstTwo));
+    EXPECT_NE(image, nought);
+}
+
+TEST(RollingDigits, keepsItsSideWhenGivenMoreRoom) {
+    Garden::RollingDigits left(Qt::AlignLeft);
+    Garden::RollingDigits right(Qt::AlignRight);
+    for (Garden::RollingDigits* digits : {&left, &right}) {
+        digits->setValue(88);
+        digits->resize(300, digits->sizeHint().height());
+    }
+
+    EXPECT_LT(inkOf(picture(left)).left(), 6);
+    EXPECT_GT(inkOf(picture(right)).right(), 300 - 6);
+}
+
+TEST(RollingDigits, keepsTheOtherSideAmongLinesReadFromRightToLeft) {
+    Garden::RollingDigits digits(Qt::AlignLeft);
+    digits.setLayoutDirection(Qt::RightToLeft);
+    digits.setValue(888);
+    digits.resize(2 * digits.sizeHint().width(), digits.sizeHint().height());
+
+    EXPECT_GE(inkOf(picture(digits)).left(), digits.width() / 2);
+}
+
+TEST(RollingDigits, showsTheFirstValueAtOnce) {
+    Garden::RollingDigits digits(Qt::AlignLeft);
+    digits.show();
+
+    digits.setValue(240);
+
+    EXPECT_EQ(picture(digits), atRest(240));
+}
+
+TEST_F(ShownDigits, rollOnlyTheDigitThatChanges) {
+    digits.setValue(250);
+    QTest::qWait(Garden::digitRollDuration / 3);
+    const QImage rolling = picture(digits);
+
+    EXPECT_NE(rolling, atRest(240));
+    EXPECT_NE(rolling, atRest(250));
+    const int third = rolling.width() / 3;
+    for (const int unchanged : {0, 2}) {
+        const QRect cell(unchanged * third + 2, 0, third - 4, rolling.height());
+        EXPECT_EQ(rolling.copy(cell), atRest(250).copy(cell)) << unchanged;
+    }
+}
+
+TEST_F(ShownDigits, comeToRestOnTheNewValue) {
+    digits.setValue(250);
+    QTest::qWait(settled);
+
+    EXPECT_EQ(picture(digits), atRest(250));
+}
+
+TEST_F(ShownDigits, comeToRestOnTheLastOfManyValues) {
+    for (const qint64 value : {250, 260, 270}) {
+        digits.setValue(value);
+        QTest::qWait(20);
+    }
+    QTest::qWait(settled);
+
+    EXPECT_EQ(digits.value(), 270);
+    EXPECT_EQ(picture(digits), atRest(270));
+}
+
+TEST_F(ShownDigits, wakeTheProcessorOnlyWhileTheyRoll) {
+    EXPECT_LE(wakeups(200), idleWakeups);
+
+    digits.setValue(250);
+    EXPECT_GT(wakeups(200), idleWakeups);
+
+    QTest::qWait(settled);
+    EXPECT_LE(wakeups(200), idleWakeups);
+}
+
+TEST_F(ShownDigits, changeInPlaceUnderReducedMotion) {
+    const StillStyle still;
+
+    digits.setValue(250);
+
+    EXPECT_EQ(picture(digits), atRest(250));
+    EXPECT_LE(wakeups(200), idleWakeups);
+}
+
+TEST_F(ShownDigits, stayAtRestWhenTheValueIsTheSame) {
+    digits.setValue(240);
+
+    EXPECT_LE(wakeups(200), idleWakeups);
+}

@@ -1,0 +1,183 @@
+#include <gtest/gtest.h>
+
+#include "Fernwick/Painting/Games.hpp"
+#include "Fernwick/Painting/Grids.hpp"
+#include "Fernwick/Painting/PictureDifference.hpp"
+#include "Fernwick/Painting/ReferencePainter.hpp"
+#include "Painting/Board/BoardPicture.hpp"
+#include "Painting/Board/IdlePicture.hpp"
+
+namespace {
+
+using SnakeCore::Direction;
+using SnakeCore::Game;
+
+// The limits that the picture is held to.
+constexpr double largestMean = 1;
+constexpr int largestStep = 24;
+
+constexpr double cell = 13.37;
+
+QImage paintedAfresh(const Game& game, const PixelGrid& grid) {
+    BoardPicture picture(grid);
+    picture.show(game);
+    return picture.image();
+}
+
+void expectLikeReference(const QImage& actual, const QImage& expected) {
+    const PictureDifference apart = difference(actual, expected);
+    EXPECT_LE(apart.mean, largestMean) << apart;
+    EXPECT_LE(apart.largest, largestStep) << apart;
+}
+
+struct Sight {
+    std::size_t length;
+    double scale;
+};
+
+class BoardPictureOf : public testing::TestWithParam<Sight> {};
+
+TEST_P(BoardPictureOf, aSnakeLooksAsPaintedTheStraightforwardWay) {
+    const Game game = Games::ofLength(GetParam().length);
+    const PixelGrid grid = Grids::usual(cell, GetParam().scale);
+
+    expectLikeReference(paintedAfresh(game, grid), ReferencePainter::paint(game, grid));
+}
+
+INSTANTIATE_TEST_SUITE_P(LengthsAndScales, BoardPictureOf,
+                         testing::Values(Sight{4, 1}, Sight{4, 1.25}, Sight{4, 1.5}, Sight{4, 2},
+                                         Sight{4, 3}, Sight{9, 2}, Sight{60, 1}, Sight{60, 1.5},
+                                         Sight{60, 2}, Sight{160, 1.25}, Sight{400, 1},
+                                         Sight{400, 2}, Sight{615, 1.5}, Sight{616, 1},
+                                         Sight{616, 2}),
+                         [](const auto& sight) {
+                             return "length" + std::to_string(sight.param.length) + "scale" +
+                                    std::to_string(static_cast<int>(sight.param.scale * 100));
+                         });
+
+TEST(BoardPicture, everyDirectionLooksAsPaintedTheStraightforwardWay) {
+    for (const Direction direction :
+         {Direction::up, Direction::down, Direction::left, Direction::right}) {
+        const Game game = Games::going(direction);
+        const PixelGrid grid = Grids::usual(20, 1);
+
+        expectLikeReference(paintedAfresh(game, grid), ReferencePainter::paint(game, grid));
+    }
+}
+
+TEST(BoardPicture, restsBlurredAndDimmedAsPaintedTheStraightforwardWay) {
+    for (const double scale : {1.0, 1.5, 2.0}) {
+        const Game game = Games::ofLength(60);
+        const PixelGrid grid = Grids::usual(cell, scale);
+
+        const QImage resting = idlePicture(paintedAfresh(game, grid), 5 * scale);
+
+        expectLikeReference(resting, ReferencePainter::paintIdle(game, grid));
+    }
+}
+
+QRegion differingPixels(const QImage& left, const QImage& right) {
+    QRegion region;
+    for (int y = 0; y < left.height(); ++y) {
+        for (int x = 0; x < left.width(); ++x) {
+            if (left.pixel(x, y) != right.pixel(x, y)) {
+                region += QRect(x, y, 1, 1);
+            }
+        }
+    }
+    return region;
+}
+
+TEST(BoardPicture, keptUpToDateIsThePicturePaintedAfresh) {
+    const PixelGrid grid = Grids::usual(9.3, 1);
+    BoardPicture picture(grid);
+    Game game(28, 22);
+    std::mt19937 generator(3);
+    for (int step = 0; step < 150; ++step) {
+        game.turn(Games::onTour(game));
+        game.step(generator);
+        picture.show(game);
+    }
+
+    EXPECT_EQ(picture.image(), paintedAfresh(game, grid));
+}
+
+TEST(BoardPicture, whatItReportsAsChangedHoldsEveryPixelThatDid) {
+    const PixelGrid grid = Grids::usual(16.4, 1);
+    BoardPicture picture(grid);
+    const Game fresh(28, 22);
+    Game turned = fresh;
+    turned.turn(Direction::up);
+    turned.step();
+    Game atFruit = fresh;
+    for (int i = 0; i < 4; ++i) {
+        atFruit.step();
+    }
+    picture.show(fresh);
+    for (const Game& game : {turned, atFruit, Games::ofLength(200), turned, fresh}) {
+        const QImage before = picture.image();
+        const QRegion reported = picture.show(game);
+
+        EXPECT_TRUE((differingPixels(before, picture.image()) - reported).isEmpty());
+        EXPECT_EQ(picture.image(), paintedAfresh(game, grid));
+    }
+}
+
+TEST(BoardPicture, isTheSameWhateverTheAreasItIsPaintedBy) {
+    const Game game = Games::ofLength(200);
+    const PixelGrid grid = Grids::usual(13.37, 1);
+    BoardPicture picture(grid);
+    picture.show(game);
+    QImage inPieces(grid.size, QImage::Format_RGB32);
+    QPainter painter(&inPieces);
+    for (int y = 0; y < grid.size.height(); y += 45) {
+        for (int x = 0; x < grid.size.width(); x += 71) {
+            picture.paint(painter, QRect(x, y, 71, 45) & inPieces.rect());
+        }
+    }
+    painter.end();
+
+    EXPECT_EQ(inPieces, picture.image());
+}
+
+TEST(BoardPicture, aTurnIntoAWallMovesTheEyesAlone) {
+    Game game(28, 22);
+    game.turn(Direction::up);
+    for (int i = 0; i < 11; ++i) {
+        game.step();
+    }
+    game.turn(Direction::left);
+    for (int i = 0; i < 14; ++i) {
+        game.step();
+    }
+    ASSERT_EQ(game.snake().front(), (SnakeCore::Cell{0, 0}));
+    const PixelGrid grid = Grids::usual(18, 1);
+    BoardPicture picture(grid);
+    picture.show(game);
+    const QImage before = picture.image();
+    game.turn(Direction::up);
+
+    game.step();
+    picture.show(game);
+
+    ASSERT_TRUE(game.ended());
+    EXPECT_EQ(picture.image(), paintedAfresh(game, grid));
+    const QRegion changed = differingPixels(before, picture.image());
+    EXPECT_FALSE(changed.isEmpty());
+    EXPECT_TRUE((changed - grid.tiles({0, 0, 1, 1})).isEmpty());
+}
+
+TEST(BoardPicture, aStepOfAShortSnakeLeavesMostOfTheBoardAlone) {
+    const PixelGrid grid = Grids::usual(18, 1);
+    BoardPicture picture(grid);
+    Game game(28, 22);
+    picture.show(game);
+
+    game.step();
+    const QRect changed = picture.show(game).boundingRect();
+
+    EXPECT_LE(changed.width() * changed.height(), grid.size.width() * grid.size.height() / 10);
+    EXPECT_TRUE(picture.show(game).isEmpty());
+}
+
+}  // namespace

@@ -1,0 +1,131 @@
+#include "Fernwick/Window/LookTest.hpp"
+#include "Fernwick/Window/Tidiness.hpp"
+#include "Screens/Main/HeaderRow.hpp"
+#include "Screens/Scores/HighScoresView.hpp"
+#include "Screens/Scores/NameField.hpp"
+#include "Screens/Scores/ScoreRow.hpp"
+#include "Screens/Scores/ScoreRows.hpp"
+
+namespace {
+
+/// In the smallest window everything has to find its room.
+class Fitting : public LookTest {
+protected:
+    void expectTidyWindow() const { Tidiness::expectTidyWindow(window); }
+
+    void expectTidySheet() {
+        session.openScores();
+        settle();
+        Tidiness::expectTidySheet(window);
+        session.showingScores = false;
+        settle();
+    }
+
+    void fillTableWithLongNames() {
+        fillTable({{QString(24, u'W'), 1234567},
+                   {QStringLiteral("🌿").repeated(24), 987654},
+                   {QStringLiteral("مريم بنت محمد العجلية الاسطرلابية").left(24), 54321},
+                   {QStringLiteral("Z̸͠o̴͝e̵͘").repeated(8), 1240},
+                   {QStringLiteral("ﷺ").repeated(24), 640},
+                   {QStringLiteral("👨‍👩‍👧‍👦").repeated(24), 90},
+                   {QStringLiteral("A"), 8},
+                   {QStringLiteral("B"), 7},
+                   {QStringLiteral("C"), 6},
+                   {QStringLiteral("D"), 0}});
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Look, Fitting, ::testing::Values(QSize(820, 760)), nameOfSize);
+
+}  // namespace
+
+TEST_P(Fitting, everythingFitsBeforeAndDuringARun) {
+    expectTidyWindow();
+    startRun();
+    expectTidyWindow();
+    pauseRun();
+    expectTidyWindow();
+}
+
+TEST_P(Fitting, everythingFitsAfterARun) {
+    endRunAwaitingName();
+    expectTidyWindow();
+    skipRun();
+    expectTidyWindow();
+    saveRunAs(QString(24, u'W'));
+    expectTidyWindow();
+}
+
+TEST_P(Fitting, everythingFitsUnderAFullTableOfLongNames) {
+    fillTableWithLongNames();
+    expectTidySheet();
+    skipRun();
+    expectTidyWindow();
+}
+
+TEST_P(Fitting, theSheetFitsWithAnEmptyTable) {
+    expectTidySheet();
+}
+
+TEST_P(Fitting, rowsAreAsWideAsTheirBoardWhateverTheNames) {
+    fillTableWithLongNames();
+    session.openScores();
+    settle();
+
+    const auto& rows = *the<HighScoresView>().findChild<ScoreRows*>();
+    const QList<ScoreRow*> shown = rows.findChildren<ScoreRow*>();
+    ASSERT_EQ(shown.size(), 10);
+    for (const ScoreRow* row : shown) {
+        EXPECT_EQ(placeIn(rows, *row).x(), 0);
+        EXPECT_EQ(row->width(), rows.width());
+        EXPECT_EQ(row->height(), shown.front()->height());
+    }
+}
+
+TEST_P(Fitting, scoresOfOneToSevenDigitsKeepTheTilesApartAndTheRightEdgeStill) {
+    auto& score = *window.findChildren<Garden::RollingDigits*>().front();
+    const int right = window.width() - 38;
+    for (const std::int64_t value : {7, 42, 123, 1234, 12345, 123456, 1234567}) {
+        SCOPED_TRACE(value);
+        score.setValue(value);
+        session.best = value;
+        settle();
+
+        expectTidyWindow();
+        const QList<Garden::RollingDigits*> both = window.findChildren<Garden::RollingDigits*>();
+        EXPECT_EQ(Look::rightOf(placeOf(*both.back())), right);
+        EXPECT_EQ(the<HeaderRow>().width(), window.width() - 2 * 38);
+    }
+}
+
+TEST_P(Fitting, anotherDigitMovesNothingBelowTheHeader) {
+    const QRectF board = boardFrame();
+    const QRect hint = placeOf(label("or WASD to move"));
+
+    session.best = 1234567;
+    settle();
+
+    EXPECT_EQ(boardFrame(), board);
+    EXPECT_EQ(placeOf(label("or WASD to move")), hint);
+}
+
+TEST_P(Fitting, aNameTooLongForItsFieldStaysInsideThePadding) {
+    endRunAwaitingName();
+    const QRect field = placeOf(the<NameField>());
+    const QRect left(field.topLeft() + QPoint(2, 2), QSize(10, field.height() - 4));
+    const QRect right = left.translated(field.width() - 14, 0);
+    const auto paddingOf = [&](const QImage& seen) {
+        const auto scale = static_cast<int>(seen.devicePixelRatio());
+        return std::pair(seen.copy(QRect(left.topLeft() * scale, left.size() * scale)),
+                         seen.copy(QRect(right.topLeft() * scale, right.size() * scale)));
+    };
+    const auto empty = paddingOf(picture());
+
+    for (const QString& name :
+         {QString(24, u'W'), QStringLiteral("🌿").repeated(24), QString(24, u'م')}) {
+        session.playerName = name;
+        settle();
+        EXPECT_EQ(placeOf(the<NameField>()), field);
+        EXPECT_EQ(paddingOf(picture()), empty) << name.toStdString();
+    }
+}

@@ -1,0 +1,219 @@
+#include <QTest>
+#include <QWindow>
+
+#include "Fernwick/Window/WindowTest.hpp"
+#include "Screens/Scores/NameField.hpp"
+
+namespace {
+
+class GameOverCard : public WindowTest {
+protected:
+    [[nodiscard]] NameField& field() const { return *window.findChild<NameField*>(); }
+
+    [[nodiscard]] QString resultLine(const QString& pace) const {
+        return QStringLiteral("%1 POINTS  ·  %2").arg(session.game->score()).arg(pace);
+    }
+
+    void type(const QString& text) {
+        QTest::keyClicks(&field(), text);
+        settle();
+    }
+};
+
+}  // namespace
+
+TEST_F(GameOverCard, tellsHowTheRunEndedAndWhatItScored) {
+    session.pace = Pace::swift;
+    endRunAwaitingName();
+
+    EXPECT_TRUE(shows("Game over."));
+    EXPECT_TRUE(shows(resultLine("Swift")));
+}
+
+TEST_F(GameOverCard, asksForAName) {
+    endRunAwaitingName();
+
+    EXPECT_TRUE(shows("Leave your name in the garden."));
+    EXPECT_TRUE(shows("Player name"));
+    EXPECT_EQ(field().placeholderText(), "Your name");
+    EXPECT_TRUE(shows("Up to 24 characters · saved on this Mac"));
+    EXPECT_TRUE(shows("Save score"));
+    EXPECT_TRUE(canPress("Skip saving"));
+    EXPECT_FALSE(shows("Play again"));
+}
+
+TEST_F(GameOverCard, putsTheFocusIntoTheFieldAtOnce) {
+    endRunAwaitingName();
+
+    EXPECT_TRUE(field().hasFocus());
+}
+
+TEST_F(GameOverCard, takesLettersSpaceAndRAsPartOfTheName) {
+    endRunAwaitingName();
+
+    type("war r W");
+
+    EXPECT_EQ(session.playerName, "war r W");
+    EXPECT_TRUE(session.awaitingName);
+}
+
+TEST_F(GameOverCard, takesALetterThatComesInTheTurnThatEndsTheRun) {
+    startAndEndRun();
+
+    QTest::keyClick(window.windowHandle(), Qt::Key_W);
+
+    EXPECT_EQ(session.playerName, "w");
+}
+
+TEST_F(GameOverCard, savesOnlyANameThatIsMoreThanBlanks) {
+    endRunAwaitingName();
+    EXPECT_FALSE(canPress("Save score"));
+
+    type("   ");
+    EXPECT_FALSE(canPress("Save score"));
+    EXPECT_TRUE(canPress("Skip saving"));
+
+    type("a");
+    EXPECT_TRUE(canPress("Save score"));
+}
+
+TEST_F(GameOverCard, staysUpWhenReturnFindsNoName) {
+    endRunAwaitingName();
+    type("  ");
+
+    QTest::keyClick(&field(), Qt::Key_Return);
+    settle();
+
+    EXPECT_TRUE(session.awaitingName);
+    EXPECT_TRUE(shows("Leave your name in the garden."));
+    EXPECT_EQ(field().text(), "  ");
+    EXPECT_TRUE(field().hasFocus());
+}
+
+TEST_F(GameOverCard, savesByReturn) {
+    endRunAwaitingName();
+    type("Ada");
+
+    QTest::keyClick(&field(), Qt::Key_Return);
+    settle();
+
+    EXPECT_TRUE(session.savedRun);
+    EXPECT_EQ(onDisk().text("player-name"), "Ada");
+    EXPECT_FALSE(session.running);
+}
+
+TEST_F(GameOverCard, savesByTheButton) {
+    endRunAwaitingName();
+    type("Ada");
+
+    press("Save score");
+
+    EXPECT_TRUE(session.savedRun);
+}
+
+TEST_F(GameOverCard, keepsNoMoreThan24Characters) {
+    endRunAwaitingName();
+
+    type(QString(25, u'x'));
+
+    EXPECT_EQ(field().text(), QString(24, u'x'));
+    EXPECT_EQ(session.playerName, QString(24, u'x'));
+}
+
+TEST_F(GameOverCard, countsWhatThePlayerSeesAsOneCharacterAsOne) {
+    endRunAwaitingName();
+    const QString family = QStringLiteral("👨‍👩‍👧‍👦");
+
+    field().insert(family.repeated(24));
+    settle();
+    EXPECT_EQ(field().text(), family.repeated(24));
+
+    field().insert(QStringLiteral("x"));
+    settle();
+    EXPECT_EQ(field().text(), family.repeated(24));
+}
+
+TEST_F(GameOverCard, cutsALongerPaste) {
+    endRunAwaitingName();
+
+    field().insert(QString(300, u'ä'));
+    settle();
+
+    EXPECT_EQ(field().text(), QString(24, u'ä'));
+}
+
+TEST_F(GameOverCard, offersTheLastNameAgain) {
+    saveRunAs("  Ada   Lovelace ");
+
+    session.start();
+    endRun();
+    settle();
+
+    EXPECT_EQ(field().text(), "Ada Lovelace");
+    EXPECT_TRUE(canPress("Save score"));
+    EXPECT_TRUE(field().hasFocus());
+}
+
+TEST_F(GameOverCard, showsTheBoardWithTheSavedRun) {
+    saveRunAs("Ada");
+
+    EXPECT_TRUE(shows("Score saved · Top 10"));
+    EXPECT_TRUE(shows(QStringLiteral("01 Ada %1").arg(session.game->score())));
+    EXPECT_TRUE(canPress("Play again"));
+    EXPECT_TRUE(shows("SPACE TO PLAY AGAIN"));
+    EXPECT_FALSE(shows("Save score"));
+}
+
+TEST_F(GameOverCard, showsThePlainBoardAfterSkipping) {
+    endRunAwaitingName();
+    type("Ada");
+
+    press("Skip saving");
+
+    EXPECT_TRUE(shows("Top 10"));
+    EXPECT_FALSE(shows("Score saved · Top 10"));
+    EXPECT_TRUE(shows("A fresh start. Be the first on the board."));
+    EXPECT_TRUE(session.scores->entries().empty());
+}
+
+TEST_F(GameOverCard, showsTheBoardOfTheRunsPaceEvenWhenAnotherIsChosen) {
+    session.pace = Pace::swift;
+    saveRunAs("Ada");
+
+    press("Gentle");
+
+    EXPECT_TRUE(shows(resultLine("Swift")));
+    EXPECT_TRUE(shows(QStringLiteral("01 Ada %1").arg(session.game->score())));
+}
+
+TEST_F(GameOverCard, playsAgainByTheButton) {
+    saveRunAs("Ada");
+
+    press("Play again");
+
+    EXPECT_TRUE(session.running);
+    EXPECT_FALSE(shows("Game over."));
+}
+
+TEST_F(GameOverCard, playsAgainBySpaceRightAfterASave) {
+    endRunAwaitingName();
+    type("Ada");
+    QTest::keyClick(&field(), Qt::Key_Return);
+    settle();
+
+    QTest::keyClick(&window, Qt::Key_Space);
+
+    EXPECT_TRUE(session.running);
+}
+
+TEST_F(GameOverCard, playsAgainBySpaceRightAfterSkippingByKeyboard) {
+    endRunAwaitingName();
+    button("Skip saving")->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(button("Skip saving"), Qt::Key_Return);
+    settle();
+    ASSERT_FALSE(session.awaitingName);
+
+    QTest::keyClick(&window, Qt::Key_Space);
+
+    EXPECT_TRUE(session.running);
+}

@@ -1,0 +1,248 @@
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+#include "Storage/PreferencesFile.hpp"
+#include "Support/AsOrdinaryUser.hpp"
+#include "Support/FileContent.hpp"
+#include "Support/TemporaryFolder.hpp"
+
+namespace fs = std::filesystem;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class PreferencesFault : public testing::Test {
+protected:
+    PreferencesFault() { fs::create_directories(folder()); }
+
+    [[nodiscard]] fs::path folder() const { return folder_.path() / "fernwick"; }
+    [[nodiscard]] fs::path path() const { return folder() / "preferences.cbor"; }
+    [[nodiscard]] fs::path aside() const { return folder() / "preferences.cbor.unreadable-1"; }
+
+private:
+    TemporaryFolder folder_;
+};
+
+const Settings soundOff = settingsOf({{u"sound"_s, false}});
+
+/// Every write to a file beyond `size` bytes fails while it lives, as on a full disk.
+class FileSizeLimit {
+public:
+    explicit FileSizeLimit(rlim_t size) {
+        ::getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit limited{size, before_.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limited);
+    }
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+    ~FileSizeLimit() { ::setrlimit(RLIMIT_FSIZE, &before_); }
+
+private:
+    rlimit before_{};
+};
+
+}  // namespace
+
+class UnreadableContent : public PreferencesFault,
+                          public testing::WithParamInterface<QByteArray> {};
+
+TEST_P(UnreadableContent, countsAsNoSettingsAndIsKeptBesideTheNewFile) {
+    writeFile(path(), GetParam());
+    PreferencesFile preferences(path());
+    EXPECT_EQ(preferences.boolean(u"sound"_s), std::nullopt);
+    EXPECT_EQ(readFile(path()), GetParam());
+
+    EXPECT_TRUE(preferences.store(u"sound"_s, false));
+
+    EXPECT_EQ(settingsIn(path()), soundOff);
+    EXPECT_EQ(readFile(aside()), GetParam());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    PreferencesFault, UnreadableContent,
+    testing::Values(QByteArray(""), QByteArray("[General]\nsound=false\n"),
+                    QByteArray::fromHex("a165736f756e64f400"),  // a byte after the end
+                    QByteArray::fromHex("a165736f756e64"),      // a key without its value
+                    QByteArray::fromHex("a265736f756e64f4"),    // one entry of two
+                    QByteArray::fromHex("bf65736f756e64f4"),    // no end mark
+                    QByteArray::fromHex("a265736f756e64f465736f756e64f5"),  // one key twice
+                    QByteArray::fromHex("8165736f756e64"),                  // a list
+                    QByteArray::fromHex("a161ff5b7fffffffffffffff"),  // a length beyond all memory
+                    QByteArray("\xa1\x61x", 3) + QByteArray(100000, '\x81')));  // endlessly deep
+
+TEST_F(PreferencesFault, aFileTooLargeToBeSettingsIsKeptBesideTheNewOne) {
+    writeFile(path(), "");
+    fs::resize_file(path(), 10'000'000'000);
+
+    EXPECT_TRUE(PreferencesFile(path()).store(u"sound"_s, false));
+
+    EXPECT_EQ(settingsIn(path()), soundOff);
+    EXPECT_EQ(fs::file_size(aside()), 10'000'000'000u);
+}
+
+TEST_F(PreferencesFault, whatWasSetAsideBeforeIsNeverOverwritten) {
+    for (const char* content : {"first", "second", "third"}) {
+        writeFile(path(), content);
+        EXPECT_TRUE(PreferencesFile(path()).store(u"sound"_s, false));
+    }
+
+    EXPECT_EQ(readFile(aside()), "first");
+    EXPECT_EQ(readFile(folder() / "preferences.cbor.unreadable-2"), "second");
+    EXPECT_EQ(readFile(folder() / "preferences.cbor.unreadable-3"), "third");
+}
+
+TEST_F(PreferencesFault, aFolderInTheFilesPlaceIsMovedAside) {
+    writeFile(path() / "inside", "kept");
+
+    EXPECT_TRUE(PreferencesFile(path()).store(u"sound"_s, false));
+
+    EXPECT_EQ(settingsIn(path()), soundOff);
+    EXPECT_EQ(readFile(aside() / "inside"), "kept");
+}
+
+TEST_F(PreferencesFault, aPipeInTheFilesPlaceHoldsNothingUp) {
+    ASSERT_EQ(::mkfifo(path().c_str(), 0600), 0);
+
+    EXPECT_TRUE(PreferencesFile(path()).store(u"sound"_s, false));
+
+    EXPECT_EQ(settingsIn(path()), soundOff);
+    EXPECT_TRUE(fs::is_fifo(aside()));
+}
+
+TEST_F(PreferencesFault, aFileThatMayNotBeReadIsKeptBesideTheNewOne) {
+    writeFile(path(), "secret");
+    const AsOrdinaryUser ordinary(folder().parent_path());
+    fs::permissions(path(), fs::perms::none);
+
+    EXPECT_TRUE(PreferencesFile(path()).store(u"sound"_s, false));
+
+    EXPECT_EQ(settingsIn(path()), soundOff);
+    fs::permissions(aside(), fs::perms::owner_read);
+    EXPECT_EQ(readFile(aside()), "secret");
+}
+
+TEST_F(PreferencesFault, aFileThatCouldNotBeReadAtTheStartIsKeptEvenIfItCanBeReadLater) {
+    const QByteArray old = QCborValue(QCborMap{{u"best-Swift"_s, 900}}).toCbor();
+    writeFile(path(), old);
+    const AsOrdinaryUser ordinary(folder().parent_path());
+    fs::permissions(path(), fs::perms::none);
+    PreferencesFile preferences(path());
+    fs::permissions(path(), fs::perms::owner_read);
+
+    EXPECT_TRUE(preferences.store(u"best-Swift"_s, 10));
+
+    EXPECT_EQ(preferences.integer(u"best-Swift"_s), 10);
+    EXPECT_EQ(readFile(aside()), old);
+}
+
+TEST_F(PreferencesFault, inAFolderThatMayNotBeWrittenTheLastGoodFileStays) {
+    ASSERT_TRUE(PreferencesFile(path()).store(u"sound"_s, true));
+    const QByteArray before = readFile(path());
+    const AsOrdinaryUser ordinary(folder().parent_path());
+    fs::permissions(folder(), fs::perms::owner_read | fs::perms::owner_exec);
+    PreferencesFile preferences(path());
+
+    EXPECT_FALSE(preferences.store(u"sound"_s, false));
+
+    EXPECT_EQ(preferences.boolean(u"sound"_s), false);
+    EXPECT_EQ(readFile(path()), before);
+    fs::permissions(folder(), fs::perms::owner_all);
+    EXPECT_TRUE(preferences.store(u"best-Swift"_s, 10));
+    EXPECT_EQ(settingsIn(path()), settingsOf({{u"sound"_s, false}, {u"best-Swift"_s, 10}}));
+}
+
+TEST_F(PreferencesFault, aLockFileThatMayNotBeWrittenStillAllowsSaving) {
+    writeFile(path().native() + ".lock", "");
+    const AsOrdinaryUser ordinary(folder().parent_path());
+    fs::permissions(path().native() + ".lock", fs::perms::owner_read);
+
+    EXPECT_TRUE(PreferencesFile(path()).store(u"sound"_s, false));
+}
+
+TEST_F(PreferencesFault, aLockFileThatMayNotBeOpenedStillAllowsSaving) {
+    writeFile(path().native() + ".lock", "");
+    const AsOrdinaryUser ordinary(folder().parent_path());
+    fs::permissions(path().native() + ".lock", fs::perms::none);
+
+    EXPECT_TRUE(PreferencesFile(path()).store(u"sound"_s, false));
+}
+
+TEST_F(PreferencesFault, aLinkToItselfInTheLocksPlaceStillAllowsSaving) {
+    fs::create_symlink("preferences.cbor.lock", path().native() + ".lock");
+
+    EXPECT_TRUE(PreferencesFile(path()).store(u"sound"_s, false));
+}
+
+TEST_F(PreferencesFault, onAFullDiskTheLastGoodFileStaysAndTheNextSaveCatchesUp) {
+    PreferencesFile preferences(path());
+    ASSERT_TRUE(preferences.store(u"best-Swift"_s, 10));
+    const QByteArray before = readFile(path());
+    {
+        const FileSizeLimit full(static_cast<rlim_t>(before.size() - 1));
+        EXPECT_FALSE(preferences.store(u"best-Swift"_s, 20));
+        EXPECT_FALSE(preferences.store(u"player-name"_s, u"Ada"_s));
+    }
+    EXPECT_EQ(preferences.text(u"player-name"_s), u"Ada"_s);
+    EXPECT_EQ(readFile(path()), before);
+    EXPECT_EQ(namesIn(folder(), "preferences.cbor.new-").size(), 0u);
+
+    EXPECT_TRUE(preferences.store(u"sound"_s, false));
+
+    EXPECT_EQ(
+        settingsIn(path()),
+        settingsOf({{u"best-Swift"_s, 20}, {u"player-name"_s, u"Ada"_s}, {u"sound"_s, false}}));
+}
+
+TEST_F(PreferencesFault, whatCouldNotBeSavedIsSavedAtTheEndIfItCanBeByThen) {
+    {
+        PreferencesFile preferences(path());
+        ASSERT_TRUE(preferences.store(u"best-Swift"_s, 10));
+        {
+            const FileSizeLimit full(0);
+            EXPECT_FALSE(preferences.store(u"best-Swift"_s, 20));
+            EXPECT_FALSE(preferences.store(u"sound"_s, false));
+        }
+        EXPECT_EQ(settingsIn(path()), settingsOf({{u"best-Swift"_s, 10}}));
+    }
+
+    EXPECT_EQ(settingsIn(path()), settingsOf({{u"best-Swift"_s, 20}, {u"sound"_s, false}}));
+}
+
+TEST_F(PreferencesFault, anEndWithNothingLeftToSaveWritesNothing) {
+    { const PreferencesFile preferences(path()); }
+
+    EXPECT_FALSE(fs::exists(path()));
+}
+
+TEST_F(PreferencesFault, aFolderDeeperThanAnyPathReachesOnlyCostsTheSave) {
+    // One step for each of its levels, each with the path in hand, would take all memory.
+    std::string deep = folder().native();
+    for (int level = 0; level < 50'000; ++level) {
+        deep += "/x";
+    }
+
+    EXPECT_FALSE(PreferencesFile(deep + "/preferences.cbor").store(u"sound"_s, false));
+}
+
+TEST_F(PreferencesFault, missingFoldersAreMadeAndAnUnmakeableOneOnlyCostsTheSave) {
+    EXPECT_TRUE(PreferencesFile(folder() / "a/b/c/preferences.cbor").store(u"sound"_s, false));
+    writeFile(folder() / "plain", "a file");
+    PreferencesFile preferences(folder() / "plain/fernwick/preferences.cbor");
+
+    EXPECT_FALSE(preferences.store(u"sound"_s, false));
+
+    EXPECT_EQ(preferences.boolean(u"sound"_s), false);
+    EXPECT_EQ(settingsIn(folder() / "a/b/c/preferences.cbor"), soundOff);
+    EXPECT_EQ(readFile(folder() / "plain"), "a file");
+}
+
+TEST_F(PreferencesFault, aDeletedFileIsWrittenAnewWithEverythingKnown) {
+    PreferencesFile preferences(path());
+    ASSERT_TRUE(preferences.store(u"best-Swift"_s, 10));
+    fs::remove_all(folder());
+
+    EXPECT_TRUE(preferences.store(u"sound"_s, false));
+
+    EXPECT_EQ(settingsIn(path()), settingsOf({{u"best-Swift"_s, 10}, {u"sound"_s, false}}));
+}

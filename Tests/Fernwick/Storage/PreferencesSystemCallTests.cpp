@@ -1,0 +1,195 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+
+#include "Fernwick/Storage/SystemCalls.hpp"
+#include "Storage/PreferencesFile.hpp"
+#include "Support/FileContent.hpp"
+#include "Support/ForkedProcess.hpp"
+#include "Support/TemporaryFolder.hpp"
+
+namespace fs = std::filesystem;
+using namespace Qt::StringLiterals;
+using SystemCalls::Fate;
+
+namespace {
+
+const QString table = u"table"_s;
+const QByteArray oldTable(70000, 'o');
+const QByteArray newTable(90000, 'n');
+
+/// A disk on which the old table is stored.
+class Disk {
+public:
+    Disk() { EXPECT_TRUE(PreferencesFile(path()).store(table, oldTable)); }
+
+    [[nodiscard]] fs::path folder() const { return folder_.path() / "fernwick"; }
+    [[nodiscard]] fs::path path() const { return folder() / "preferences.cbor"; }
+    [[nodiscard]] QByteArray stored() const {
+        return PreferencesFile(path()).bytes(table).value_or("neither");
+    }
+    [[nodiscard]] bool isTidy() const { return namesIn(folder(), "preferences.cbor.new-").empty(); }
+
+private:
+    TemporaryFolder folder_;
+};
+
+struct Outcome {
+    bool stored;
+    std::vector<std::string> calls;
+};
+
+Outcome storeNew(PreferencesFile& preferences, const SystemCalls::Plan& plan) {
+    SystemCalls::watch(plan);
+    const bool stored = preferences.store(table, newTable);
+    return {stored, SystemCalls::unwatch()};
+}
+
+std::vector<std::string> callsOfAStore() {
+    const Disk disk;
+    PreferencesFile preferences(disk.path());
+    return storeNew(preferences, {}).calls;
+}
+
+class PreferencesSystemCall : public testing::TestWithParam<int> {};
+
+}  // namespace
+
+TEST(PreferencesSystemCalls, theContentIsOnTheDiskBeforeItTakesItsNameAndTheNameAfter) {
+    std::vector<std::string> calls = callsOfAStore();
+    std::erase_if(calls, [](const std::string& call) {
+        return call != "mkostemp" && call != "write" && call != "fsync" && call != "rename";
+    });
+
+    EXPECT_EQ(calls, (std::vector<std::string>{"mkostemp", "write", "fsync", "rename", "fsync"}));
+}
+
+TEST_P(PreferencesSystemCall, thatFailsLeavesTheOldContentOrTheNewAndTheNextSaveCatchesUp) {
+    const std::size_t count = callsOfAStore().size();
+    ASSERT_GT(count, 10u);
+    for (std::size_t call = 0; call < count; ++call) {
+        const Disk disk;
+        PreferencesFile preferences(disk.path());
+
+        const auto [stored, calls] =
+            storeNew(preferences, {.call = call, .fate = Fate::fails, .error = GetParam()});
+
+        SCOPED_TRACE(calls[call] + ", call " + std::to_string(call));
+        EXPECT_EQ(preferences.bytes(table), newTable);
+        EXPECT_TRUE(disk.stored() == newTable || (!stored && disk.stored() == oldTable));
+        EXPECT_TRUE(disk.isTidy());
+        EXPECT_TRUE(preferences.store(u"sound"_s, false));
+        EXPECT_EQ(disk.stored(), newTable);
+        EXPECT_TRUE(disk.isTidy());
+    }
+}
+
+TEST_P(PreferencesSystemCall, thatKeepsFailingLeavesTheOldContentOrTheNew) {
+    const std::size_t count = callsOfAStore().size();
+    for (std::size_t call = 0; call < count; ++call) {
+        const Disk disk;
+        PreferencesFile preferences(disk.path());
+
+        const auto [stored, calls] = storeNew(
+            preferences, {.call = call, .fate = Fate::fails, .error = GetParam(), .lasts = true});
+
+        SCOPED_TRACE(calls[call] + ", call " + std::to_string(call));
+        EXPECT_TRUE(disk.stored() == newTable || (!stored && disk.stored() == oldTable));
+        EXPECT_TRUE(preferences.store(u"sound"_s, false));
+        EXPECT_EQ(disk.stored(), newTable);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(PreferencesSystemCalls, PreferencesSystemCall,
+                         testing::Values(ENOSPC, EDQUOT, EIO, EACCES, EROFS, EMFILE),
+                         [](const auto& instance) {
+                             return std::string(::strerrorname_np(instance.param));
+                         });
+
+TEST(PreferencesSystemCalls, anInterruptedCallIsMadeAgain) {
+    const std::size_t count = callsOfAStore().size();
+    for (std::size_t call = 0; call < count; ++call) {
+        const Disk disk;
+        PreferencesFile preferences(disk.path());
+
+        const auto [stored, calls] =
+            storeNew(preferences, {.call = call, .fate = Fate::fails, .error = EINTR});
+
+        EXPECT_TRUE(stored) << calls[call] << ", call " << call;
+        EXPECT_EQ(disk.stored(), newTable);
+    }
+}
+
+TEST(PreferencesSystemCalls, whatAShortWriteLeavesOutIsWrittenNext) {
+    const Disk disk;
+    PreferencesFile preferences(disk.path());
+    const std::vector<std::string> calls = callsOfAStore();
+    const auto write = std::find(calls.begin(), calls.end(), "write") - calls.begin();
+
+    const auto [stored, callsMade] =
+        storeNew(preferences,
+                 {.call = static_cast<std::size_t>(write), .fate = Fate::isShort, .lasts = true});
+
+    EXPECT_TRUE(stored);
+    EXPECT_EQ(disk.stored(), newTable);
+    EXPECT_GT(std::count(callsMade.begin(), callsMade.end(), "write"), 5);
+}
+
+TEST(PreferencesSystemCalls, aFileSystemWithoutLocksIsWrittenAllTheSame) {
+    const std::vector<std::string> calls = callsOfAStore();
+    const auto flock = std::find(calls.begin(), calls.end(), "flock") - calls.begin();
+    for (const int error : {ENOLCK, ENOSYS, EOPNOTSUPP}) {
+        const Disk disk;
+        PreferencesFile preferences(disk.path());
+
+        EXPECT_TRUE(
+            storeNew(preferences,
+                     {.call = static_cast<std::size_t>(flock), .fate = Fate::fails, .error = error})
+                .stored);
+        EXPECT_EQ(disk.stored(), newTable);
+    }
+}
+
+TEST(PreferencesSystemCalls, aProgramThatEndsAtAnyCallLeavesTheOldContentOrTheNew) {
+    const std::size_t count = callsOfAStore().size();
+    bool renamed = false;
+    for (std::size_t call = 0; call < count; ++call) {
+        for (const Fate fate : {Fate::endsUs, Fate::endsAfter}) {
+            const Disk disk;
+            ForkedProcess game([&](const auto&) {
+                PreferencesFile preferences(disk.path());
+                static_cast<void>(storeNew(preferences, {.call = call, .fate = fate}));
+            });
+            EXPECT_EQ(game.wait(), 1);
+
+            const QByteArray stored = disk.stored();
+
+            renamed = renamed || stored == newTable;
+            EXPECT_EQ(stored, renamed ? newTable : oldTable) << "at call " << call;
+            EXPECT_TRUE(disk.isTidy());
+        }
+    }
+    EXPECT_TRUE(renamed);
+}
+
+TEST(PreferencesSystemCalls, anUnreadableFileIsKeptWhicheverCallFails) {
+    for (std::size_t call = 0;; ++call) {
+        const Disk disk;
+        writeFile(disk.path(), "unreadable");
+        PreferencesFile preferences(disk.path());
+
+        const auto [stored, calls] =
+            storeNew(preferences, {.call = call, .fate = Fate::fails, .error = ENOSPC});
+
+        if (call >= calls.size()) {
+            break;
+        }
+        SCOPED_TRACE(calls[call] + ", call " + std::to_string(call));
+        EXPECT_TRUE(preferences.store(table, newTable));
+        EXPECT_EQ(disk.stored(), newTable);
+        EXPECT_EQ(readFile(disk.path().native() + ".unreadable-1"), "unreadable");
+        EXPECT_EQ(namesIn(disk.folder(), "preferences.cbor.unreadable").size(), 1u);
+    }
+}
