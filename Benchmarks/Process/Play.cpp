@@ -8,9 +8,8 @@
 
 #include "App/ApplicationStyle.hpp"
 #include "App/FernwickApp.hpp"
-#include "Desktop/SessionBus.hpp"
+#include "Desktop/Environment.hpp"
 #include "Fernwick/Painting/Games.hpp"
-#include "Session/KeyCode.hpp"
 #include "Sound/PulseSoundEffects.hpp"
 #include "Storage/PreferencesFile.hpp"
 
@@ -33,20 +32,6 @@ std::chrono::duration<double> processorTime() {
     return seconds(usage.ru_utime) + seconds(usage.ru_stime);
 }
 
-std::uint16_t keyOf(Direction direction) {
-    switch (direction) {
-        case Direction::up:
-            return KeyCode::upArrow;
-        case Direction::down:
-            return KeyCode::downArrow;
-        case Direction::left:
-            return KeyCode::leftArrow;
-        case Direction::right:
-            return KeyCode::rightArrow;
-    }
-    return KeyCode::other;
-}
-
 /// Plays the program's own session on a tour of the board and says what that cost.
 class Player : public QObject {
 public:
@@ -57,22 +42,31 @@ public:
 
 private:
     void play() {
-        connect(&session_, &Session::objectWillChange, this, &Player::steer, Qt::QueuedConnection);
-        session_.pace = pace_;
-        session_.loadBest();
+        session_.choosePace(pace_);
         session_.start();
-        // The one thing a player could not do: the snake is this long from the start.
-        session_.game = Games::ofLength(cells);
+        growSnake();
+        connect(&session_, &Session::changed, this, &Player::steer, Qt::QueuedConnection);
         QTimer::singleShot(untilMeasured, this, &Player::beginMeasuring);
     }
 
+    /// Plays the start of the run without waiting for the timer.
+    void growSnake() {
+        auto* timer = session_.findChild<QTimer*>();
+        while (session_.game().snake().size() < cells) {
+            turn();
+            QMetaObject::invokeMethod(timer, "timeout");
+        }
+    }
+
+    void turn() { session_.key(static_cast<GameKey>(Games::onTour(session_.game()))); }
+
     void steer() {
-        const SnakeCore::Cell head = session_.game->snake().front();
+        const SnakeCore::Cell head = session_.game().snake().front();
         // A turn announces a change too.
         if (head != head_) {
             head_ = head;
             ++steps_;
-            session_.key(keyOf(Games::onTour(session_.game)));
+            turn();
         }
     }
 
@@ -87,8 +81,8 @@ private:
         const std::chrono::duration<double> used = processorTime() - used_;
         const std::chrono::duration<double> passed = std::chrono::steady_clock::now() - began_;
         std::cout << "{\"used\": " << used.count() << ", \"passed\": " << passed.count()
-                  << ", \"steps\": " << steps_ << ", \"cells\": " << session_.game->snake().size()
-                  << ", \"running\": " << (session_.running ? "true" : "false") << "}\n";
+                  << ", \"steps\": " << steps_ << ", \"cells\": " << session_.game().snake().size()
+                  << ", \"running\": " << (session_.running() ? "true" : "false") << "}\n";
         QCoreApplication::quit();
     }
 
@@ -111,11 +105,11 @@ int main(int argc, char* argv[]) {
         std::cerr << "usage: Play Gentle|Classic|Swift SECONDS\n";
         return EXIT_FAILURE;
     }
-    leaveMissingSessionBusAlone();
+    Desktop::prepareEnvironment();
     QApplication application(argc, argv);
     applyGardenStyle();
     PreferencesFile preferences(PreferencesFile::defaultPath());
-    PulseSoundEffects soundEffects;
+    PulseSoundEffects soundEffects("org.fernwick.fernwick");
     FernwickApp fernwick(preferences, soundEffects);
     QObject::connect(&fernwick.window(), &GameWindow::appeared, &fernwick,
                      [&soundEffects] { soundEffects.prepare(); });

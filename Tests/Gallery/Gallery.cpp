@@ -27,7 +27,8 @@ public:
 QImage render(const Scene& scene, const QSize& size, bool fullScreen) {
     PreferencesFile inMemory{std::filesystem::path()};
     Silence silence;
-    Session session(inMemory, silence);
+    scene.store(inMemory);
+    Session session(inMemory, silence, [&](SnakeCore::Game& game) { game = scene.game(); });
     scene.arrange(session);
     GameWindow window(session);
     window.show();

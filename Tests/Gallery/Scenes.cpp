@@ -1,9 +1,11 @@
 #include "Gallery/Scenes.hpp"
 
+#include <QTimer>
 #include <algorithm>
 #include <array>
 #include <random>
 
+#include "Session/Preferences.hpp"
 #include "Session/Session.hpp"
 #include "SnakeCore/Game.hpp"
 #include "SnakeCore/HighScores.hpp"
@@ -88,8 +90,8 @@ Game patientlyGrownTo(std::int64_t score) {
     return game;
 }
 
-// A full table for the classic pace, with names that test the rows, and one entry for the swift.
-void fillTable(Session& session) {
+// A full table of the classic pace, with names that test the rows, and one entry of the swift.
+void storeFullTable(Preferences& preferences) {
     const std::array<std::pair<const char*, std::int64_t>, 10> saved{{
         {"Ada Lovelace", 1240},
         {"WWWWWWWWWWWWWWWWWWWWWWWW", 980},
@@ -102,69 +104,92 @@ void fillTable(Session& session) {
         {"Emmy", 120},
         {"Émilie", 90},
     }};
-    session.scores.mutate([&](SnakeCore::HighScores& table) {
-        for (const auto& [name, score] : saved) {
-            table.record(SnakeCore::UUID::random(), name, score, "Classic", SnakeCore::Date{0});
-        }
-        table.record(SnakeCore::UUID::random(), "Mary", 300, "Swift", SnakeCore::Date{0});
-    });
+    SnakeCore::HighScores table;
+    for (const auto& [name, score] : saved) {
+        table.record(SnakeCore::UUID::random(), name, score, "Classic", SnakeCore::Date{0});
+    }
+    table.record(SnakeCore::UUID::random(), "Mary", 300, "Swift", SnakeCore::Date{0});
+    preferences.store(QStringLiteral("high-scores-v1"), QByteArray::fromStdString(table.encoded()));
 }
 
-void run(Session& session, Game game) {
-    constexpr std::int64_t earlierBest = 1240;
-    session.best = std::max(earlierBest, game.score());
-    session.game = std::move(game);
-    session.started = true;
-    session.running = !session.game->ended();
-    session.awaitingName = session.game->ended();
+void storeNothing(Preferences&) {}
+
+void storeBest(Preferences& preferences) {
+    constexpr int best = 1240;
+    preferences.store(bestKey(Pace::classic), best);
 }
 
-void takeABreath(Session& session) {
-    run(session, grownTo(220));
-    session.running = false;
+void storeBestAndTable(Preferences& preferences) {
+    storeBest(preferences);
+    storeFullTable(preferences);
 }
 
-void end(Session& session, const QString& name) {
-    fillTable(session);
-    run(session, endedAt(260));
-    session.playerName = name;
+Game freshGame() {
+    return {Session::columns, Session::rows};
 }
 
-void save(Session& session) {
-    end(session, QStringLiteral("Rosalind"));
-    session.saveScore();
+Game pausedGame() {
+    return grownTo(220);
 }
 
-void openSheet(Session& session, Pace pace) {
-    fillTable(session);
-    session.openScores();
-    session.scorePace = pace;
+Game endedGame() {
+    return endedAt(260);
+}
+
+// Starts a run and lets one tick pass, which takes it to the scene's game.
+void run(Session& session) {
+    session.start();
+    QMetaObject::invokeMethod(session.findChild<QTimer*>(), "timeout");
+}
+
+Scene sheet(const char* name, Pace pace) {
+    return {QString::fromLatin1(name), storeFullTable, freshGame, [pace](Session& session) {
+                session.openScores();
+                session.chooseScorePace(pace);
+            }};
+}
+
+Scene nameEntry(const char* name, const char* playerName) {
+    return {QString::fromLatin1(name), storeBestAndTable, endedGame,
+            [playerName](Session& session) {
+                run(session);
+                session.editName(QString::fromLatin1(playerName));
+            }};
 }
 
 }  // namespace
 
 std::vector<Scene> galleryScenes() {
     return {
-        {"fresh", [](Session&) {}},
-        {"running", [](Session& session) { run(session, grownTo(220)); }},
-        {"running-long", [](Session& session) { run(session, patientlyGrownTo(2400)); }},
-        {"paused", takeABreath},
-        {"ended", [](Session& session) { end(session, QStringLiteral("Rosalind")); }},
-        {"ended-empty-name", [](Session& session) { end(session, QStringLiteral("   ")); }},
-        {"saved", save},
-        {"skipped",
+        {"fresh", storeNothing, freshGame, [](Session&) {}},
+        {"running", storeBest, pausedGame, run},
+        {"running-long", storeBest, [] { return patientlyGrownTo(2400); }, run},
+        {"paused", storeBest, pausedGame,
          [](Session& session) {
-             end(session, {});
+             run(session);
+             session.pause();
+         }},
+        nameEntry("ended", "Rosalind"),
+        nameEntry("ended-empty-name", "   "),
+        {"saved", storeBestAndTable, endedGame,
+         [](Session& session) {
+             run(session);
+             session.editName(QStringLiteral("Rosalind"));
+             session.saveScore();
+         }},
+        {"skipped", storeBestAndTable, endedGame,
+         [](Session& session) {
+             run(session);
              session.skipSaving();
          }},
-        {"won", [](Session& session) { run(session, patientlyGrownTo(6120)); }},
-        {"sheet-gentle-empty", [](Session& session) { openSheet(session, Pace::gentle); }},
-        {"sheet-classic-full", [](Session& session) { openSheet(session, Pace::classic); }},
-        {"sheet-swift", [](Session& session) { openSheet(session, Pace::swift); }},
-        {"sound-off",
+        {"won", storeBest, [] { return patientlyGrownTo(6120); }, run},
+        sheet("sheet-gentle-empty", Pace::gentle),
+        sheet("sheet-classic-full", Pace::classic),
+        sheet("sheet-swift", Pace::swift),
+        {"sound-off", storeBest, [] { return grownTo(40); },
          [](Session& session) {
-             session.switchSound(false);
-             run(session, grownTo(40));
+             session.setSound(false);
+             run(session);
          }},
     };
 }

@@ -1,9 +1,8 @@
 #pragma once
 
-#include <cstdint>
 #include <optional>
 
-#include "Session/KeyCode.hpp"
+#include "Session/GameKey.hpp"
 #include "SnakeCore/Game.hpp"
 
 /// A way through every cell of the board and back to its beginning, on which no snake ever meets
@@ -24,7 +23,7 @@
 
 /// The key that keeps the snake on the cycle, or none while it heads the right way already. A
 /// fresh snake heads against the cycle and is led down into the next row first.
-[[nodiscard]] inline std::optional<std::uint16_t> turnAlongCycle(const SnakeCore::Game& game) {
+[[nodiscard]] inline std::optional<GameKey> turnAlongCycle(const SnakeCore::Game& game) {
     using enum SnakeCore::Direction;
     SnakeCore::Direction next = alongCycle(game);
     if (next == game.direction()) {
@@ -33,15 +32,5 @@
     if (opposite(next, game.direction())) {
         next = down;
     }
-    switch (next) {
-        case up:
-            return KeyCode::upArrow;
-        case down:
-            return KeyCode::downArrow;
-        case left:
-            return KeyCode::leftArrow;
-        case right:
-            return KeyCode::rightArrow;
-    }
-    return std::nullopt;
+    return static_cast<GameKey>(next);
 }

@@ -5,13 +5,12 @@
 #include "Session/MainThread.hpp"
 
 FernwickApp::FernwickApp(Preferences& preferences, SoundEffects& soundEffects)
-    : session_(preferences, soundEffects), window_(session_) {
+    : session_(preferences, soundEffects), keyMonitor_(session_), window_(session_) {
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
             &FernwickApp::applicationStateChanged);
 }
 
 void FernwickApp::show() {
-    session_.installKeys();
     window_.show();
     window_.raise();
     window_.activateWindow();
@@ -30,7 +29,7 @@ void FernwickApp::bringForward(const QByteArray& activationToken) {
 
 void FernwickApp::applicationStateChanged(Qt::ApplicationState state) {
     assertMainThread();
-    if (state != Qt::ApplicationActive && session_.running) {
+    if (state != Qt::ApplicationActive && session_.running()) {
         session_.pause();
     }
 }

@@ -2,6 +2,7 @@
 
 #include <QObject>
 
+#include "Session/KeyMonitor.hpp"
 #include "Session/Session.hpp"
 #include "Window/GameWindow.hpp"
 
@@ -29,5 +30,6 @@ private:
     void applicationStateChanged(Qt::ApplicationState state);
 
     Session session_;
+    KeyMonitor keyMonitor_;
     GameWindow window_;
 };

@@ -3,9 +3,8 @@
 #include <QTimer>
 #include <exception>
 #include <string>
+#include <utility>
 
-#include "Session/KeyCode.hpp"
-#include "Session/KeyMonitor.hpp"
 #include "Session/MainThread.hpp"
 #include "Session/Preferences.hpp"
 #include "Session/SoundEffects.hpp"
@@ -16,10 +15,6 @@ const QString highScoresKey = QStringLiteral("high-scores-v1");
 const QString playerNameKey = QStringLiteral("player-name");
 const QString soundKey = QStringLiteral("sound");
 
-SnakeCore::Game freshGame() {
-    return {Session::columns, Session::rows};
-}
-
 SnakeCore::HighScores storedScores(const Preferences& preferences) {
     const std::optional<QByteArray> bytes = preferences.bytes(highScoresKey);
     return bytes ? SnakeCore::HighScores(std::string_view(bytes->constData(),
@@ -29,103 +24,120 @@ SnakeCore::HighScores storedScores(const Preferences& preferences) {
 
 }  // namespace
 
-Session::Session(Preferences& preferences, SoundEffects& soundEffects)
-    : game(*this, freshGame()),
-      running(*this, false),
-      started(*this, false),
-      pace(*this, Pace::classic),
-      best(*this, 0),
-      sound(*this, preferences.boolean(soundKey).value_or(true)),
-      scores(*this, storedScores(preferences)),
-      playerName(*this, preferences.text(playerNameKey).value_or(QString())),
-      awaitingName(*this, false),
-      showingScores(*this, false),
-      scorePace(*this, Pace::classic),
-      savedRun(*this, false),
-      preferences_(preferences),
+Session::Session(Preferences& preferences, SoundEffects& soundEffects, Step step)
+    : preferences_(preferences),
       soundEffects_(soundEffects),
-      runID_(SnakeCore::UUID::random()) {
-    loadBest();
-}
+      step_(std::move(step)),
+      game_(columns, rows),
+      best_(preferences.integer(bestKey(pace_))),
+      sound_(preferences.boolean(soundKey).value_or(true)),
+      scores_(storedScores(preferences)),
+      playerName_(preferences.text(playerNameKey).value_or(QString())),
+      runID_(SnakeCore::UUID::random()) {}
 
 Session::~Session() = default;
 
-void Session::loadBest() {
-    best = preferences_.integer(bestKey(pace));
-}
-
-void Session::switchSound(bool on) {
-    if (sound == on) {
-        return;
-    }
-    sound = on;
-    preferences_.store(soundKey, on);
-}
-
-void Session::saveScore() {
-    if (!awaitingName) {
-        return;
-    }
-    const std::string name = playerName->toStdString();
-    const bool recorded = scores.mutate([&](SnakeCore::HighScores& table) {
-        return table.record(runID_, name, game->score(), rawValue(runPace_),
-                            SnakeCore::Date::now());
-    });
-    if (!recorded) {
-        return;
-    }
-    try {
-        preferences_.store(highScoresKey, QByteArray::fromStdString(scores->encoded()));
-    } catch (const std::exception&) {
-        // The table in memory stays ahead of the stored one until the next save that succeeds.
-    }
-    playerName = QString::fromStdString(SnakeCore::HighScores::cleanName(name));
-    preferences_.store(playerNameKey, playerName.get());
-    savedRun = true;
-    awaitingName = false;
-}
-
-void Session::skipSaving() {
-    awaitingName = false;
-}
-
 void Session::start() {
-    if (awaitingName || showingScores) {
+    if (awaitingName() || showingScores_) {
         return;
     }
     runID_ = SnakeCore::UUID::random();
-    runPace_ = pace;
-    savedRun = false;
-    game = freshGame();
-    started = true;
-    running = true;
+    runPace_ = pace_;
+    game_ = SnakeCore::Game(columns, rows);
+    phase_ = Phase::running;
     schedule();
+    Q_EMIT changed();
 }
 
 void Session::pause() {
-    if (!started || game->ended() || showingScores) {
+    if (inRun() && !showingScores_) {
+        togglePause();
+        Q_EMIT changed();
+    }
+}
+
+void Session::togglePause() {
+    if (running()) {
+        phase_ = Phase::paused;
+        stopTimer();
+    } else {
+        phase_ = Phase::running;
+        schedule();
+    }
+}
+
+void Session::choosePace(Pace pace) {
+    pace_ = pace;
+    best_ = preferences_.integer(bestKey(pace));
+    Q_EMIT changed();
+}
+
+void Session::editName(const QString& name) {
+    if (name != playerName_) {
+        playerName_ = name;
+        Q_EMIT changed();
+    }
+}
+
+void Session::saveScore() {
+    const std::string name = playerName_.toStdString();
+    if (!awaitingName() ||
+        !scores_.record(runID_, name, game_.score(), rawValue(runPace_), SnakeCore::Date::now())) {
         return;
     }
-    running = !running;
-    if (running) {
-        schedule();
-    } else {
-        stopTimer();
+    try {
+        preferences_.store(highScoresKey, QByteArray::fromStdString(scores_.encoded()));
+    } catch (const std::exception&) {
+        // The table in memory stays ahead of the stored one until the next save that succeeds.
+    }
+    playerName_ = QString::fromStdString(SnakeCore::HighScores::cleanName(name));
+    preferences_.store(playerNameKey, playerName_);
+    phase_ = Phase::saved;
+    Q_EMIT changed();
+}
+
+void Session::skipSaving() {
+    if (awaitingName()) {
+        phase_ = Phase::skipped;
+        Q_EMIT changed();
     }
 }
 
 void Session::openScores() {
-    if (running) {
-        pause();
+    if (running()) {
+        togglePause();
     }
-    scorePace = pace.get();
-    showingScores = true;
+    scorePace_ = pace_;
+    showingScores_ = true;
+    Q_EMIT changed();
+}
+
+void Session::closeScores() {
+    if (showingScores_) {
+        showingScores_ = false;
+        Q_EMIT changed();
+    }
+}
+
+void Session::chooseScorePace(Pace pace) {
+    if (pace != scorePace_) {
+        scorePace_ = pace;
+        Q_EMIT changed();
+    }
+}
+
+void Session::setSound(bool on) {
+    if (on != sound_) {
+        sound_ = on;
+        preferences_.store(soundKey, on);
+        Q_EMIT changed();
+    }
 }
 
 void Session::schedule() {
     timer_ = std::make_unique<QTimer>(this);
     timer_->setTimerType(Qt::PreciseTimer);
-    timer_->setInterval(tickInterval(pace));
+    timer_->setInterval(tickInterval(pace_));
     connect(timer_.get(), &QTimer::timeout, this, [this] {
         assertMainThread();
         tick();
@@ -140,81 +152,67 @@ void Session::stopTimer() {
 }
 
 void Session::tick() {
-    if (!running) {
+    if (!running()) {
         return;
     }
-    const std::int64_t before = game->score();
-    game.mutate([](SnakeCore::Game& run) { run.step(); });
-    if (game->score() > before) {
+    const std::int64_t before = game_.score();
+    step_(game_);
+    if (game_.score() > before) {
         play(SoundEffect::pop);
-        if (best < game->score()) {
-            best = game->score();
-            preferences_.store(bestKey(pace), QCborValue(qint64{best}));
+        if (best_ < game_.score()) {
+            best_ = game_.score();
+            preferences_.store(bestKey(pace_), QCborValue(qint64{best_}));
         }
     }
-    if (game->ended()) {
-        awaitingName = true;
-        running = false;
+    if (game_.ended()) {
+        phase_ = Phase::awaitingName;
         stopTimer();
         play(SoundEffect::tink);
     }
+    Q_EMIT changed();
 }
 
 void Session::play(SoundEffect effect) {
-    if (sound) {
+    if (sound_) {
         soundEffects_.play(effect);
     }
 }
 
 void Session::turn(SnakeCore::Direction direction) {
-    if (running) {
-        game.mutate([direction](SnakeCore::Game& run) { run.turn(direction); });
+    if (running()) {
+        game_.turn(direction);
+        Q_EMIT changed();
     }
 }
 
-void Session::installKeys() {
-    if (!monitor_) {
-        monitor_ = std::make_unique<KeyMonitor>(*this);
-    }
-}
-
-bool Session::key(std::uint16_t code) {
-    if (awaitingName || showingScores) {
+bool Session::key(GameKey key) {
+    if (awaitingName() || showingScores_) {
         return false;
     }
-    switch (code) {
-        case KeyCode::upArrow:
-        case KeyCode::w:
+    switch (key) {
+        case GameKey::up:
             turn(SnakeCore::Direction::up);
-            return true;
-        case KeyCode::downArrow:
-        case KeyCode::s:
+            break;
+        case GameKey::down:
             turn(SnakeCore::Direction::down);
-            return true;
-        case KeyCode::leftArrow:
-        case KeyCode::a:
+            break;
+        case GameKey::left:
             turn(SnakeCore::Direction::left);
-            return true;
-        case KeyCode::rightArrow:
-        case KeyCode::d:
+            break;
+        case GameKey::right:
             turn(SnakeCore::Direction::right);
-            return true;
-        case KeyCode::space:
-            if (!started || game->ended()) {
-                start();
-            } else {
+            break;
+        case GameKey::space:
+            inRun() ? pause() : start();
+            break;
+        case GameKey::escape:
+            if (running()) {
                 pause();
             }
-            return true;
-        case KeyCode::escape:
-            if (running) {
-                pause();
-            }
-            return true;
-        case KeyCode::r:
+            break;
+        case GameKey::restart:
             start();
-            return true;
-        default:
-            return false;
+            break;
     }
+    return true;
 }

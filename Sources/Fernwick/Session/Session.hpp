@@ -1,100 +1,128 @@
 #pragma once
 
+#include <QObject>
 #include <QString>
 #include <cstdint>
+#include <functional>
 #include <memory>
 
-#include "Session/ObservableObject.hpp"
+#include "Session/GameKey.hpp"
 #include "Session/Pace.hpp"
-#include "Session/Published.hpp"
 #include "SnakeCore/Game.hpp"
 #include "SnakeCore/HighScores.hpp"
 
-class KeyMonitor;
 class Preferences;
 class QTimer;
 class SoundEffects;
 enum class SoundEffect;
 
-/// The one controller: owns the current run, drives it from a timer, takes the keyboard, plays the
-/// sounds and keeps the settings. Views read the published properties and call the operations.
-///
-/// Main thread only. A property never has a side effect; operations do everything else.
-class Session : public ObservableObject {
+/// The one controller: owns the current run, advances it on a timer, takes the game's keys, plays
+/// the sounds and keeps the settings. Views read the getters, call the operations and refresh on
+/// `changed()`. Main thread only.
+class Session : public QObject {
     Q_OBJECT
 
 public:
+    /// The size of the board, in cells.
     static constexpr std::int64_t columns = 28;
     static constexpr std::int64_t rows = 22;
 
-    /// Reads every stored setting. Neither timer nor key monitor runs yet. Both references must
-    /// outlive the session.
-    Session(Preferences& preferences, SoundEffects& soundEffects);
+    enum class Phase {
+        fresh,         ///< no run has been started since launch
+        running,       ///< the timer advances the run
+        paused,        ///< the run can be resumed
+        awaitingName,  ///< the run has ended and its score can be saved
+        saved,         ///< the run has ended and its score is saved
+        skipped,       ///< the run has ended and its score was not saved
+    };
+
+    /// Moves a game on by one step.
+    using Step = std::function<void(SnakeCore::Game&)>;
+
+    /// Reads every stored setting and starts nothing. The references must outlive the session.
+    /// `step` is what a tick does to the game; tests and the gallery pass their own, so that the
+    /// fruit grows where they want it.
+    Session(
+        Preferences& preferences, SoundEffects& soundEffects,
+        Step step = [](SnakeCore::Game& game) { game.step(); });
     ~Session() override;
 
-    /// The current run; before the first start a fresh one that waits.
-    Published<SnakeCore::Game> game;
-    /// The timer is advancing the run.
-    Published<bool> running;
-    /// A run has been started since launch; never false again.
-    Published<bool> started;
-    /// The chosen pace. Whoever sets it calls `loadBest()` right after.
-    Published<Pace> pace;
-    /// The personal best of `pace`, in points.
-    Published<std::int64_t> best;
-    /// The sound switch as stored; changed through `switchSound()`.
-    Published<bool> sound;
-    Published<SnakeCore::HighScores> scores;
-    /// The name offered in the name field.
-    Published<QString> playerName;
-    /// A finished run waits for a name.
-    Published<bool> awaitingName;
-    /// The sheet of high scores is up; no run starts, moves or resumes meanwhile.
-    Published<bool> showingScores;
-    /// The pace whose table the sheet shows.
-    Published<Pace> scorePace;
-    /// The score of the current run has been saved.
-    Published<bool> savedRun;
+    [[nodiscard]] Phase phase() const { return phase_; }
+    [[nodiscard]] bool started() const { return phase_ != Phase::fresh; }
+    [[nodiscard]] bool running() const { return phase_ == Phase::running; }
+    [[nodiscard]] bool awaitingName() const { return phase_ == Phase::awaitingName; }
+    [[nodiscard]] bool savedRun() const { return phase_ == Phase::saved; }
+    /// A run is running or paused.
+    [[nodiscard]] bool inRun() const { return running() || phase_ == Phase::paused; }
 
+    /// The current run; before the first start, a fresh one.
+    [[nodiscard]] const SnakeCore::Game& game() const { return game_; }
+    /// The chosen pace.
+    [[nodiscard]] Pace pace() const { return pace_; }
+    /// The personal best of `pace()`, in points.
+    [[nodiscard]] std::int64_t best() const { return best_; }
+    /// Whether sound effects are on.
+    [[nodiscard]] bool sound() const { return sound_; }
+    [[nodiscard]] const SnakeCore::HighScores& scores() const { return scores_; }
+    /// The text of the name field.
+    [[nodiscard]] const QString& playerName() const { return playerName_; }
+    /// Whether the high-scores sheet is up. No run starts or resumes meanwhile.
+    [[nodiscard]] bool showingScores() const { return showingScores_; }
+    /// The pace whose table the sheet shows.
+    [[nodiscard]] Pace scorePace() const { return scorePace_; }
     /// The identity of the current run and of its entry in the table.
     [[nodiscard]] const SnakeCore::UUID& runID() const { return runID_; }
-    /// The pace the current run was started with; its score is saved under this one even when
-    /// `pace` has changed since.
+    /// The pace the current run was started with. Its score is saved under this pace, even when
+    /// `pace()` has changed since.
     [[nodiscard]] Pace runPace() const { return runPace_; }
 
-    /// Sets `best` to the stored best of `pace`.
-    void loadBest();
-    /// Sets `sound` and stores it.
-    void switchSound(bool on);
-    /// Records the finished run under `playerName` and stores the table. Does nothing unless a
-    /// name is awaited and is more than white space.
-    void saveScore();
-    /// Leaves the finished run out of the table.
-    void skipSaving();
     /// Begins a new run, also in the middle of one. Refused while a name is awaited or the sheet
     /// is up.
     void start();
-    /// Toggles between running and paused. Refused before the first run, after the end of one and
-    /// while the sheet is up.
+    /// Toggles between running and paused. Refused outside of a run and while the sheet is up.
     void pause();
-    /// Pauses a running run and shows the sheet, on the table of `pace`.
+    /// Sets `pace()` and loads its best. A running timer keeps its interval until the next resume.
+    void choosePace(Pace pace);
+    void editName(const QString& name);
+    /// Records the finished run under `playerName()` and stores the table and the name. Refused
+    /// unless a name is awaited and is more than white space.
+    void saveScore();
+    /// Leaves the finished run out of the table. Refused unless a name is awaited.
+    void skipSaving();
+    /// Pauses a running run and shows the sheet on the table of `pace()`.
     void openScores();
-    /// Watches the application's key presses from now on; a second call changes nothing.
-    void installKeys();
-    /// Handles the key at a physical position (see KeyCode). True when the press is to be consumed.
-    bool key(std::uint16_t code);
+    void closeScores();
+    void chooseScorePace(Pace pace);
+    /// Sets and stores the sound switch.
+    void setSound(bool on);
+    /// Handles a key press. True when it is to be consumed.
+    bool key(GameKey key);
+
+Q_SIGNALS:
+    /// What a getter returns has changed; emitted once, at the end of the operation.
+    void changed();
 
 private:
     void schedule();
     void stopTimer();
     void tick();
+    void togglePause();
     void turn(SnakeCore::Direction direction);
     void play(SoundEffect effect);
 
     Preferences& preferences_;
     SoundEffects& soundEffects_;
+    Step step_;
+    Phase phase_ = Phase::fresh;
+    SnakeCore::Game game_;
+    Pace pace_ = Pace::classic;
+    std::int64_t best_;
+    bool sound_;
+    SnakeCore::HighScores scores_;
+    QString playerName_;
+    bool showingScores_ = false;
+    Pace scorePace_ = Pace::classic;
     SnakeCore::UUID runID_;
     Pace runPace_ = Pace::classic;
     std::unique_ptr<QTimer> timer_;
-    std::unique_ptr<KeyMonitor> monitor_;
 };

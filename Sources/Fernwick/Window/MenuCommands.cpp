@@ -12,13 +12,11 @@
 #include "Window/FullScreen.hpp"
 
 MenuCommands::MenuCommands(Session& session, QMenuBar& bar, QWidget& window)
-    : QObject(&window),
-      session_(session),
-      window_(window),
-      observer_(session, [this] { refresh(); }) {
+    : QObject(&window), session_(session), window_(window) {
     //: Titles of menus; they and their items are worded as the desktops of the language do.
     fillFileMenu(*bar.addMenu(tr("File")));
     fillGameMenu(*bar.addMenu(tr("Game")));
+    connect(&session_, &Session::changed, this, &MenuCommands::refresh);
     refresh();
 }
 
@@ -52,12 +50,12 @@ void MenuCommands::fillGameMenu(QMenu& menu) {
     pause_ =
         add(menu, tr("Resume"), {QKeySequence(Qt::CTRL | Qt::Key_P)}, [this] { session_.pause(); });
     soundEffects_ = add(menu, tr("Sound Effects"), {},
-                        [this] { session_.switchSound(soundEffects_->isChecked()); });
+                        [this] { session_.setSound(soundEffects_->isChecked()); });
     soundEffects_->setCheckable(true);
 }
 
 void MenuCommands::refresh() {
-    newGame_->setEnabled(!session_.awaitingName && !session_.showingScores);
-    pause_->setText(session_.running ? tr("Pause") : tr("Resume"));
-    soundEffects_->setChecked(session_.sound);
+    newGame_->setEnabled(!session_.awaitingName() && !session_.showingScores());
+    pause_->setText(session_.running() ? tr("Pause") : tr("Resume"));
+    soundEffects_->setChecked(session_.sound());
 }

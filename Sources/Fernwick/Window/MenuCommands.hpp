@@ -4,8 +4,6 @@
 #include <QObject>
 #include <functional>
 
-#include "Session/ChangeObserver.hpp"
-
 class QAction;
 class QKeySequence;
 class QMenu;
@@ -34,5 +32,4 @@ private:
     QAction* newGame_ = nullptr;
     QAction* pause_ = nullptr;
     QAction* soundEffects_ = nullptr;
-    ChangeObserver observer_;
 };

@@ -4,7 +4,6 @@
 #include <QKeyEvent>
 
 #include "App/FernwickApp.hpp"
-#include "Fernwick/Session/SessionState.hpp"
 #include "Fernwick/Session/SessionTest.hpp"
 
 namespace {
@@ -30,27 +29,27 @@ TEST_F(Application, pausesAMovingSnakeWhenItIsLeftAndLeavesItPaused) {
         session.start();
 
         changeState(left);
-        EXPECT_EQ(stateOf(session), SessionState::paused);
+        EXPECT_EQ(session.phase(), Session::Phase::paused);
         changeState(Qt::ApplicationActive);
-        EXPECT_EQ(stateOf(session), SessionState::paused);
+        EXPECT_EQ(session.phase(), Session::Phase::paused);
     }
 }
 
 TEST_F(Application, changesNothingElseWhenItIsLeft) {
     changeState(Qt::ApplicationInactive);
-    EXPECT_EQ(stateOf(session), SessionState::fresh);
+    EXPECT_EQ(session.phase(), Session::Phase::fresh);
 
     session.start();
     session.pause();
     changeState(Qt::ApplicationInactive);
-    EXPECT_EQ(stateOf(session), SessionState::paused);
+    EXPECT_EQ(session.phase(), Session::Phase::paused);
 
     session.start();
-    while (session.running) {
+    while (session.running()) {
         QMetaObject::invokeMethod(session.findChild<QTimer*>(), "timeout");
     }
     changeState(Qt::ApplicationInactive);
-    EXPECT_EQ(stateOf(session), SessionState::awaitingName);
+    EXPECT_EQ(session.phase(), Session::Phase::awaitingName);
 }
 
 TEST_F(Application, showsItsWindowAndTakesTheKeys) {
@@ -60,7 +59,7 @@ TEST_F(Application, showsItsWindowAndTakesTheKeys) {
     EXPECT_TRUE(fernwick.window().isVisible());
     QKeyEvent space(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier);
     QCoreApplication::sendEvent(&fernwick.window(), &space);
-    EXPECT_TRUE(session.running);
+    EXPECT_TRUE(session.running());
 }
 
 TEST_F(Application, comesForwardFromBeingMinimised) {

@@ -12,59 +12,58 @@ using Sounds = std::vector<SoundEffect>;
 TEST_F(Gathering, popsAndRaisesTheBestAtOnce) {
     session.start();
 
-    gatherFirstFruit();
+    eatFirstFruit();
 
-    EXPECT_EQ(session.game->score(), 10);
+    EXPECT_EQ(session.game().score(), 10);
     EXPECT_EQ(sounds.heard, Sounds{SoundEffect::pop});
-    EXPECT_EQ(session.best, 10);
-    EXPECT_TRUE(session.running);
+    EXPECT_EQ(session.best(), 10);
+    EXPECT_TRUE(session.running());
     EXPECT_EQ(onDisk().integer("best-Classic"), 10);
 }
 
 TEST_F(Gathering, isSilentWithTheSoundOff) {
-    session.switchSound(false);
+    session.setSound(false);
     session.start();
 
-    gatherFirstFruit();
+    eatFirstFruit();
     endRun();
 
-    EXPECT_TRUE(session.game->ended());
+    EXPECT_TRUE(session.game().ended());
     EXPECT_TRUE(sounds.heard.empty());
-    EXPECT_EQ(onDisk().integer("best-Classic"), session.game->score());
+    EXPECT_EQ(onDisk().integer("best-Classic"), session.game().score());
 }
 
 TEST_F(Gathering, leavesAHigherBestAlone) {
     preferences.store("best-Classic", 400);
-    session.loadBest();
+    session.choosePace(session.pace());
     session.start();
 
-    gatherFirstFruit();
+    eatFirstFruit();
 
-    EXPECT_EQ(session.best, 400);
+    EXPECT_EQ(session.best(), 400);
     EXPECT_EQ(onDisk().integer("best-Classic"), 400);
 }
 
 TEST_F(Gathering, leavesABestOfTheSameScoreAlone) {
     preferences.store("best-Classic", 10);
-    session.loadBest();
+    session.choosePace(session.pace());
     const auto written = std::filesystem::last_write_time(settingsPath());
     session.start();
 
-    gatherFirstFruit();
+    eatFirstFruit();
 
-    EXPECT_EQ(session.best, 10);
+    EXPECT_EQ(session.best(), 10);
     EXPECT_EQ(std::filesystem::last_write_time(settingsPath()), written);
 }
 
 TEST_F(Gathering, comparesTheBestUnderThePaceChosenMeanwhile) {
     preferences.store("best-Swift", 5);
     session.start();
-    session.pace = Pace::swift;
-    session.loadBest();
+    session.choosePace(Pace::swift);
 
-    gatherFirstFruit();
+    eatFirstFruit();
 
-    EXPECT_EQ(session.best, 10);
+    EXPECT_EQ(session.best(), 10);
     EXPECT_EQ(onDisk().integer("best-Swift"), 10);
     EXPECT_EQ(onDisk().integer("best-Classic"), 0);
     EXPECT_EQ(session.runPace(), Pace::classic);
@@ -80,10 +79,10 @@ TEST_F(Gathering, makesNoSoundOnATickThatOnlyMoves) {
 
 TEST_F(Gathering, endsWithATink) {
     session.start();
-    gatherFirstFruit();
+    eatFirstFruit();
     sounds.heard.clear();
 
-    while (session.running) {
+    while (session.running()) {
         sounds.heard.clear();
         fireTimer();
     }
@@ -93,19 +92,19 @@ TEST_F(Gathering, endsWithATink) {
 
 TEST_F(Gathering, allTheGardenHoldsWinsWithBothSoundsInTheLastTick) {
     session.start();
-    while (session.running) {
+    while (session.running()) {
         sounds.heard.clear();
-        if (const auto next = turnAlongCycle(session.game)) {
+        if (const auto next = turnAlongCycle(session.game())) {
             session.key(*next);
         }
         fireTimer();
     }
 
-    EXPECT_TRUE(session.game->won());
-    EXPECT_EQ(session.game->score(), 6120);
-    EXPECT_EQ(session.game->snake().size(), 616U);
+    EXPECT_TRUE(session.game().won());
+    EXPECT_EQ(session.game().score(), 6120);
+    EXPECT_EQ(session.game().snake().size(), 616U);
     EXPECT_EQ(sounds.heard, (Sounds{SoundEffect::pop, SoundEffect::tink}));
-    EXPECT_TRUE(session.awaitingName);
-    EXPECT_EQ(session.best, 6120);
+    EXPECT_TRUE(session.awaitingName());
+    EXPECT_EQ(session.best(), 6120);
     EXPECT_EQ(onDisk().integer("best-Classic"), 6120);
 }

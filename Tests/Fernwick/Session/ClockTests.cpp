@@ -16,7 +16,7 @@ class Clock : public SessionTest {
 protected:
     /// How far the snake has come; every fresh one begins in the same column.
     [[nodiscard]] std::int64_t cellsGone() const {
-        return session.game->snake()[0].x - SnakeCore::Game(28, 22).snake()[0].x;
+        return session.game().snake()[0].x - SnakeCore::Game(28, 22).snake()[0].x;
     }
 
     void waitForCell(std::int64_t cells) const {
@@ -28,9 +28,9 @@ protected:
     /// Plays straight up into the wall, past the fruit.
     void saveARunAs(const char* name) {
         session.start();
-        session.key(KeyCode::upArrow);
+        session.key(GameKey::up);
         endRun();
-        session.playerName = QString::fromLatin1(name);
+        session.editName(QString::fromLatin1(name));
         session.saveScore();
     }
 };
@@ -38,7 +38,7 @@ protected:
 }  // namespace
 
 TEST_F(Clock, aStallCostsOneLateTickAndNoBurst) {
-    session.pace = Pace::gentle;
+    session.choosePace(Pace::gentle);
     session.start();
     waitForCell(1);
 
@@ -55,7 +55,7 @@ TEST_F(Clock, aStallCostsOneLateTickAndNoBurst) {
 
 TEST_F(Clock, setBackOrForwardDoesNotChangeThePaceOfARun) {
     for (const auto jump : {-24h, 24h}) {
-        session.pace = Pace::swift;
+        session.choosePace(Pace::swift);
         session.start();
         waitForCell(1);
         const auto began = steady_clock::now();
@@ -74,12 +74,12 @@ TEST_F(Clock, setBackBetweenTwoRunsKeepsBothAndRanksByTheDatesTheyBear) {
     const WallClock moved(-24h);
     saveARunAs("Ben");
 
-    const auto& entries = session.scores->entries();
+    const auto& entries = session.scores().entries();
     ASSERT_EQ(entries.size(), 2U);
     EXPECT_EQ(entries[0].name, "Ada");
     EXPECT_EQ(entries[1].name, "Ben");
     EXPECT_LT(entries[1].date, entries[0].date);
-    const auto leaders = session.scores->leaders("Classic");
+    const auto leaders = session.scores().leaders("Classic");
     EXPECT_EQ(leaders.front().name, "Ben");
     EXPECT_EQ(leaders.back().name, "Ada");
 }

@@ -3,11 +3,12 @@
 #include <vector>
 
 #include "Fernwick/Session/SessionTest.hpp"
+#include "Session/KeyMonitor.hpp"
 
 namespace {
 
-/// The focused control: what the monitor lets through.
-class Control : public QObject {
+/// The focused widget: records the key presses that reach it.
+class FocusedWidget : public QObject {
 public:
     std::vector<int> received;
 
@@ -22,34 +23,33 @@ public:
 
 class KeyPress : public SessionTest {
 protected:
-    KeyPress() { session.installKeys(); }
-
     void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, quint32 scanCode = 0) {
         QKeyEvent event(QEvent::KeyPress, key, modifiers, scanCode, 0, 0);
         QCoreApplication::sendEvent(&control, &event);
     }
 
-    Control control;
+    FocusedWidget control;
+    KeyMonitor monitor{session};
 };
 
 constexpr quint32 scanCodeOfW = 25;
 
 }  // namespace
 
-TEST_F(KeyPress, theGameKnowsIsSwallowed) {
+TEST_F(KeyPress, ofTheGameIsConsumed) {
     press(Qt::Key_Space);
 
-    EXPECT_TRUE(session.running);
+    EXPECT_TRUE(session.running());
     EXPECT_TRUE(control.received.empty());
 }
 
-TEST_F(KeyPress, theGameDoesNotKnowPassesOn) {
+TEST_F(KeyPress, ofNoGameKeyReachesTheFocusedWidget) {
     press(Qt::Key_Return);
 
     EXPECT_EQ(control.received, std::vector<int>{Qt::Key_Return});
 }
 
-TEST_F(KeyPress, withCtrlAltOrMetaHeldPassesOn) {
+TEST_F(KeyPress, withCtrlAltOrMetaHeldReachesTheFocusedWidget) {
     for (const Qt::KeyboardModifier held :
          {Qt::ControlModifier, Qt::AltModifier, Qt::MetaModifier}) {
         control.received.clear();
@@ -57,45 +57,45 @@ TEST_F(KeyPress, withCtrlAltOrMetaHeldPassesOn) {
         press(Qt::Key_R, held | Qt::ShiftModifier);
 
         EXPECT_EQ(control.received, (std::vector<int>{Qt::Key_Space, Qt::Key_R}));
-        EXPECT_FALSE(session.started);
+        EXPECT_FALSE(session.started());
     }
 }
 
-TEST_F(KeyPress, ofAShiftedLetterIsThePlainKey) {
+TEST_F(KeyPress, withShiftHeldStillTurnsTheSnake) {
     session.start();
 
     press(Qt::Key_W, Qt::ShiftModifier, scanCodeOfW);
     fireTimer();
 
-    EXPECT_EQ(session.game->direction(), SnakeCore::Direction::up);
+    EXPECT_EQ(session.game().direction(), SnakeCore::Direction::up);
 }
 
-TEST_F(KeyPress, ofAnArrowMarkedAsKeypadIsThePlainArrow) {
+TEST_F(KeyPress, ofAnArrowWithTheKeypadModifierTurnsTheSnake) {
     session.start();
 
     press(Qt::Key_Up, Qt::KeypadModifier);
     fireTimer();
 
-    EXPECT_EQ(session.game->direction(), SnakeCore::Direction::up);
+    EXPECT_EQ(session.game().direction(), SnakeCore::Direction::up);
 }
 
-TEST_F(KeyPress, goesByThePositionAndNotByTheLetter) {
+TEST_F(KeyPress, countsByThePositionRatherThanTheLetter) {
     session.start();
 
     press(Qt::Key_Z, Qt::NoModifier, scanCodeOfW);
     fireTimer();
 
-    EXPECT_EQ(session.game->direction(), SnakeCore::Direction::up);
+    EXPECT_EQ(session.game().direction(), SnakeCore::Direction::up);
     EXPECT_TRUE(control.received.empty());
 }
 
-TEST_F(KeyPress, ofAKnownLetterAtAnotherPositionPassesOn) {
+TEST_F(KeyPress, ofAGameLetterAtAnotherPositionReachesTheFocusedWidget) {
     press(Qt::Key_W, Qt::NoModifier, 52);
 
     EXPECT_EQ(control.received, std::vector<int>{Qt::Key_W});
 }
 
-TEST_F(KeyPress, passesOnWhileANameIsAwaited) {
+TEST_F(KeyPress, reachesTheFocusedWidgetWhileANameIsAwaited) {
     startAndEndRun();
 
     for (const int key : {Qt::Key_W, Qt::Key_Space, Qt::Key_R, Qt::Key_Escape}) {
@@ -103,62 +103,47 @@ TEST_F(KeyPress, passesOnWhileANameIsAwaited) {
     }
 
     EXPECT_EQ(control.received.size(), 4U);
-    EXPECT_TRUE(session.awaitingName);
+    EXPECT_TRUE(session.awaitingName());
 }
 
-TEST_F(KeyPress, isHandledOnceHoweverOftenTheMonitorIsInstalled) {
-    session.installKeys();
-    session.start();
-
-    press(Qt::Key_Space);
-
-    EXPECT_FALSE(session.running);
-}
-
-TEST_F(KeyPress, isAllThatCountsAndNotTheRelease) {
+TEST_F(KeyPress, countsAndItsReleaseDoesNot) {
     QKeyEvent release(QEvent::KeyRelease, Qt::Key_Space, Qt::NoModifier);
     QCoreApplication::sendEvent(&control, &release);
 
-    EXPECT_FALSE(session.started);
+    EXPECT_FALSE(session.started());
 }
 
-TEST_F(KeyPress, byAutoRepeatCountsToo) {
+TEST_F(KeyPress, fromAutoRepeatCountsToo) {
     QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, QString(), true);
     QCoreApplication::sendEvent(&control, &repeat);
 
-    EXPECT_TRUE(session.running);
+    EXPECT_TRUE(session.running());
 }
 
-TEST(PhysicalKey, isFoundForEveryPositionOfTheGame) {
-    const std::vector<std::pair<quint32, std::uint16_t>> positions{
-        {111, KeyCode::upArrow},    {116, KeyCode::downArrow}, {113, KeyCode::leftArrow},
-        {114, KeyCode::rightArrow}, {25, KeyCode::w},          {38, KeyCode::a},
-        {39, KeyCode::s},           {40, KeyCode::d},          {65, KeyCode::space},
-        {9, KeyCode::escape},       {27, KeyCode::r},          {36, KeyCode::returnKey},
-        {54, KeyCode::other},
+TEST(GameKeyOfAPress, isFoundByTheScanCode) {
+    const std::vector<std::pair<quint32, std::optional<GameKey>>> positions{
+        {111, GameKey::up},   {25, GameKey::up},    {116, GameKey::down},   {39, GameKey::down},
+        {113, GameKey::left}, {38, GameKey::left},  {114, GameKey::right},  {40, GameKey::right},
+        {65, GameKey::space}, {9, GameKey::escape}, {27, GameKey::restart}, {36, std::nullopt},
+        {54, std::nullopt},
     };
-    for (const auto& [scanCode, code] : positions) {
+    for (const auto& [scanCode, key] : positions) {
         const QKeyEvent event(QEvent::KeyPress, 0, Qt::NoModifier, scanCode, 0, 0);
-        EXPECT_EQ(physicalKey(event), code) << scanCode;
+        EXPECT_EQ(gameKey(event), key) << scanCode;
     }
 }
 
-TEST(PhysicalKey, ofAnEventWithoutAPositionFollowsTheLetter) {
-    const std::vector<std::pair<Qt::Key, std::uint16_t>> letters{
-        {Qt::Key_Up, KeyCode::upArrow},
-        {Qt::Key_Down, KeyCode::downArrow},
-        {Qt::Key_Left, KeyCode::leftArrow},
-        {Qt::Key_Right, KeyCode::rightArrow},
-        {Qt::Key_W, KeyCode::w},
-        {Qt::Key_A, KeyCode::a},
-        {Qt::Key_S, KeyCode::s},
-        {Qt::Key_D, KeyCode::d},
-        {Qt::Key_Space, KeyCode::space},
-        {Qt::Key_Escape, KeyCode::escape},
-        {Qt::Key_R, KeyCode::r},
-        {Qt::Key_Q, KeyCode::other},
+TEST(GameKeyOfAPress, isFoundByTheLetterWithoutAScanCode) {
+    const std::vector<std::pair<Qt::Key, std::optional<GameKey>>> letters{
+        {Qt::Key_Up, GameKey::up},       {Qt::Key_W, GameKey::up},
+        {Qt::Key_Down, GameKey::down},   {Qt::Key_S, GameKey::down},
+        {Qt::Key_Left, GameKey::left},   {Qt::Key_A, GameKey::left},
+        {Qt::Key_Right, GameKey::right}, {Qt::Key_D, GameKey::right},
+        {Qt::Key_Space, GameKey::space}, {Qt::Key_Escape, GameKey::escape},
+        {Qt::Key_R, GameKey::restart},   {Qt::Key_Q, std::nullopt},
+        {Qt::Key_Return, std::nullopt},
     };
-    for (const auto& [letter, code] : letters) {
-        EXPECT_EQ(physicalKey(QKeyEvent(QEvent::KeyPress, letter, Qt::NoModifier)), code) << letter;
+    for (const auto& [letter, key] : letters) {
+        EXPECT_EQ(gameKey(QKeyEvent(QEvent::KeyPress, letter, Qt::NoModifier)), key) << letter;
     }
 }

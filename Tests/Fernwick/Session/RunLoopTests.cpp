@@ -1,7 +1,5 @@
-#include <QSignalSpy>
 #include <QTest>
 
-#include "Fernwick/Session/SessionState.hpp"
 #include "Fernwick/Session/SessionTest.hpp"
 
 using std::chrono_literals::operator""ms;
@@ -14,21 +12,21 @@ class RunLoop : public SessionTest {};
 
 TEST_F(RunLoop, startsAFreshRunOfTheChosenPace) {
     const SnakeCore::UUID before = session.runID();
-    session.pace = Pace::gentle;
+    session.choosePace(Pace::gentle);
 
     session.start();
 
-    EXPECT_EQ(stateOf(session), SessionState::running);
-    EXPECT_EQ(session.game, SnakeCore::Game(28, 22));
+    EXPECT_EQ(session.phase(), Session::Phase::running);
+    EXPECT_EQ(session.game(), SnakeCore::Game(28, 22));
     EXPECT_NE(session.runID(), before);
     EXPECT_EQ(session.runPace(), Pace::gentle);
-    EXPECT_FALSE(session.savedRun);
+    EXPECT_FALSE(session.savedRun());
     EXPECT_TRUE(timerRuns());
 }
 
 TEST_F(RunLoop, ticksAtTheIntervalOfThePace) {
     for (const Pace pace : allPaces) {
-        session.pace = pace;
+        session.choosePace(pace);
         session.start();
 
         EXPECT_EQ(timer()->intervalAsDuration(), tickInterval(pace));
@@ -38,11 +36,11 @@ TEST_F(RunLoop, ticksAtTheIntervalOfThePace) {
 }
 
 TEST_F(RunLoop, advancesByItselfInRealTime) {
-    session.pace = Pace::swift;
+    session.choosePace(Pace::swift);
     session.start();
 
-    EXPECT_TRUE(QTest::qWaitFor([&] { return session.game->snake()[0].x >= 16; }));
-    EXPECT_EQ(stateOf(session), SessionState::running);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return session.game().snake()[0].x >= 16; }));
+    EXPECT_EQ(session.phase(), Session::Phase::running);
 }
 
 TEST_F(RunLoop, movesTheSnakeOneCellATick) {
@@ -50,17 +48,8 @@ TEST_F(RunLoop, movesTheSnakeOneCellATick) {
 
     fireTimer();
 
-    EXPECT_EQ(session.game->snake()[0], (SnakeCore::Cell{15, 11}));
-    EXPECT_EQ(stateOf(session), SessionState::running);
-}
-
-TEST_F(RunLoop, announcesEachTick) {
-    session.start();
-    const QSignalSpy announced(&session, &ObservableObject::objectWillChange);
-
-    fireTimer();
-
-    EXPECT_EQ(announced.count(), 1);
+    EXPECT_EQ(session.game().snake()[0], (SnakeCore::Cell{15, 11}));
+    EXPECT_EQ(session.phase(), Session::Phase::running);
 }
 
 TEST_F(RunLoop, replacesARunningRunWhenStartedAgain) {
@@ -71,7 +60,7 @@ TEST_F(RunLoop, replacesARunningRunWhenStartedAgain) {
 
     session.start();
 
-    EXPECT_EQ(session.game, SnakeCore::Game(28, 22));
+    EXPECT_EQ(session.game(), SnakeCore::Game(28, 22));
     EXPECT_NE(session.runID(), first);
     EXPECT_TRUE(firstTimer.isNull());
     EXPECT_EQ(session.findChildren<QTimer*>().size(), 1);
@@ -85,21 +74,21 @@ TEST_F(RunLoop, startsOverFromAPausedRun) {
 
     session.start();
 
-    EXPECT_EQ(stateOf(session), SessionState::running);
-    EXPECT_EQ(session.game, SnakeCore::Game(28, 22));
+    EXPECT_EQ(session.phase(), Session::Phase::running);
+    EXPECT_EQ(session.game(), SnakeCore::Game(28, 22));
 }
 
 TEST_F(RunLoop, startsOverAfterASavedRun) {
     startAndEndRun();
-    session.playerName = QStringLiteral("Ada");
+    session.editName(QStringLiteral("Ada"));
     session.saveScore();
     const SnakeCore::UUID saved = session.runID();
 
     session.start();
 
-    EXPECT_EQ(stateOf(session), SessionState::running);
+    EXPECT_EQ(session.phase(), Session::Phase::running);
     EXPECT_NE(session.runID(), saved);
-    EXPECT_FALSE(session.savedRun);
+    EXPECT_FALSE(session.savedRun());
 }
 
 TEST_F(RunLoop, startsOverAfterASkippedRun) {
@@ -108,7 +97,7 @@ TEST_F(RunLoop, startsOverAfterASkippedRun) {
 
     session.start();
 
-    EXPECT_EQ(stateOf(session), SessionState::running);
+    EXPECT_EQ(session.phase(), Session::Phase::running);
 }
 
 TEST_F(RunLoop, refusesToStartWhileANameIsAwaited) {
@@ -117,9 +106,9 @@ TEST_F(RunLoop, refusesToStartWhileANameIsAwaited) {
 
     session.start();
 
-    EXPECT_EQ(stateOf(session), SessionState::awaitingName);
+    EXPECT_EQ(session.phase(), Session::Phase::awaitingName);
     EXPECT_EQ(session.runID(), ended);
-    EXPECT_TRUE(session.game->ended());
+    EXPECT_TRUE(session.game().ended());
 }
 
 TEST_F(RunLoop, refusesToStartWhileTheSheetIsUp) {
@@ -128,7 +117,7 @@ TEST_F(RunLoop, refusesToStartWhileTheSheetIsUp) {
 
     session.start();
 
-    EXPECT_EQ(stateOf(session), SessionState::fresh);
+    EXPECT_EQ(session.phase(), Session::Phase::fresh);
     EXPECT_EQ(session.runID(), before);
     EXPECT_EQ(timer(), nullptr);
 }
@@ -138,7 +127,7 @@ TEST_F(RunLoop, pausesAndStopsTheTimer) {
 
     session.pause();
 
-    EXPECT_EQ(stateOf(session), SessionState::paused);
+    EXPECT_EQ(session.phase(), Session::Phase::paused);
     EXPECT_FALSE(timerRuns());
 }
 
@@ -146,11 +135,11 @@ TEST_F(RunLoop, resumesWithANewTimerOfThePaceOfThatMoment) {
     session.start();
     const QPointer<QTimer> firstTimer = timer();
     session.pause();
-    session.pace = Pace::swift;
+    session.choosePace(Pace::swift);
 
     session.pause();
 
-    EXPECT_EQ(stateOf(session), SessionState::running);
+    EXPECT_EQ(session.phase(), Session::Phase::running);
     EXPECT_TRUE(firstTimer.isNull());
     EXPECT_EQ(timer()->intervalAsDuration(), 85ms);
 }
@@ -158,7 +147,7 @@ TEST_F(RunLoop, resumesWithANewTimerOfThePaceOfThatMoment) {
 TEST_F(RunLoop, keepsTheRunningTimersIntervalWhenThePaceChanges) {
     session.start();
 
-    session.pace = Pace::swift;
+    session.choosePace(Pace::swift);
 
     EXPECT_EQ(timer()->intervalAsDuration(), 130ms);
 }
@@ -166,23 +155,23 @@ TEST_F(RunLoop, keepsTheRunningTimersIntervalWhenThePaceChanges) {
 TEST_F(RunLoop, doesNotPauseBeforeTheFirstRun) {
     session.pause();
 
-    EXPECT_EQ(stateOf(session), SessionState::fresh);
+    EXPECT_EQ(session.phase(), Session::Phase::fresh);
 }
 
 TEST_F(RunLoop, doesNotPauseAnEndedRun) {
     startAndEndRun();
     session.pause();
-    EXPECT_EQ(stateOf(session), SessionState::awaitingName);
+    EXPECT_EQ(session.phase(), Session::Phase::awaitingName);
 
     session.skipSaving();
     session.pause();
-    EXPECT_EQ(stateOf(session), SessionState::skipped);
+    EXPECT_EQ(session.phase(), Session::Phase::skipped);
 
     startAndEndRun();
-    session.playerName = QStringLiteral("Ada");
+    session.editName(QStringLiteral("Ada"));
     session.saveScore();
     session.pause();
-    EXPECT_EQ(stateOf(session), SessionState::saved);
+    EXPECT_EQ(session.phase(), Session::Phase::saved);
     EXPECT_FALSE(timerRuns());
 }
 
@@ -192,7 +181,7 @@ TEST_F(RunLoop, doesNotResumeWhileTheSheetIsUp) {
 
     session.pause();
 
-    EXPECT_EQ(stateOf(session), SessionState::paused);
+    EXPECT_EQ(session.phase(), Session::Phase::paused);
     EXPECT_FALSE(timerRuns());
 }
 
@@ -202,50 +191,50 @@ TEST_F(RunLoop, ignoresAFiringAfterAPause) {
 
     fireTimer();
 
-    EXPECT_EQ(session.game, SnakeCore::Game(28, 22));
+    EXPECT_EQ(session.game(), SnakeCore::Game(28, 22));
 }
 
 TEST_F(RunLoop, ignoresAFiringAfterTheEnd) {
     startAndEndRun();
-    const SnakeCore::Game ended = session.game;
+    const SnakeCore::Game ended = session.game();
     sounds.heard.clear();
 
     fireTimer();
 
-    EXPECT_EQ(session.game, ended);
+    EXPECT_EQ(session.game(), ended);
     EXPECT_TRUE(sounds.heard.empty());
 }
 
 TEST_F(RunLoop, endsIntoNameEntry) {
     startAndEndRun();
 
-    EXPECT_EQ(stateOf(session), SessionState::awaitingName);
+    EXPECT_EQ(session.phase(), Session::Phase::awaitingName);
     EXPECT_FALSE(timerRuns());
 }
 
 TEST_F(RunLoop, awaitsANameForAScoreOfZeroToo) {
     session.start();
-    session.key(KeyCode::upArrow);
+    session.key(GameKey::up);
     endRun();
 
-    EXPECT_EQ(session.game->score(), 0);
-    EXPECT_EQ(stateOf(session), SessionState::awaitingName);
+    EXPECT_EQ(session.game().score(), 0);
+    EXPECT_EQ(session.phase(), Session::Phase::awaitingName);
     EXPECT_FALSE(std::filesystem::exists(settingsPath()));
 }
 
 TEST_F(RunLoop, opensTheSheetOnTheChosenPaceFromAnyState) {
-    session.pace = Pace::gentle;
+    session.choosePace(Pace::gentle);
     session.openScores();
-    EXPECT_TRUE(session.showingScores);
-    EXPECT_EQ(session.scorePace, Pace::gentle);
-    EXPECT_EQ(stateOf(session), SessionState::fresh);
-    session.showingScores = false;
+    EXPECT_TRUE(session.showingScores());
+    EXPECT_EQ(session.scorePace(), Pace::gentle);
+    EXPECT_EQ(session.phase(), Session::Phase::fresh);
+    session.closeScores();
 
     startAndEndRun();
-    session.pace = Pace::swift;
+    session.choosePace(Pace::swift);
     session.openScores();
-    EXPECT_EQ(session.scorePace, Pace::swift);
-    EXPECT_EQ(stateOf(session), SessionState::awaitingName);
+    EXPECT_EQ(session.scorePace(), Pace::swift);
+    EXPECT_EQ(session.phase(), Session::Phase::awaitingName);
 }
 
 TEST_F(RunLoop, pausesARunningRunForTheSheet) {
@@ -253,9 +242,9 @@ TEST_F(RunLoop, pausesARunningRunForTheSheet) {
 
     session.openScores();
 
-    EXPECT_EQ(stateOf(session), SessionState::paused);
-    EXPECT_TRUE(session.showingScores);
-    EXPECT_EQ(session.scorePace, session.pace.get());
+    EXPECT_EQ(session.phase(), Session::Phase::paused);
+    EXPECT_TRUE(session.showingScores());
+    EXPECT_EQ(session.scorePace(), session.pace());
     EXPECT_FALSE(timerRuns());
 }
 
@@ -264,9 +253,9 @@ TEST_F(RunLoop, leavesAPausedRunPausedForTheSheetAndAfterIt) {
     session.pause();
 
     session.openScores();
-    session.showingScores = false;
+    session.closeScores();
 
-    EXPECT_EQ(stateOf(session), SessionState::paused);
+    EXPECT_EQ(session.phase(), Session::Phase::paused);
     session.pause();
-    EXPECT_EQ(stateOf(session), SessionState::running);
+    EXPECT_EQ(session.phase(), Session::Phase::running);
 }

@@ -13,35 +13,35 @@ protected:
 }  // namespace
 
 TEST_F(SaveScore, doesNothingWhenNoNameIsAwaited) {
-    session.playerName = QStringLiteral("Ada");
+    session.editName(QStringLiteral("Ada"));
 
     session.saveScore();
 
-    EXPECT_FALSE(session.savedRun);
-    EXPECT_TRUE(session.scores->entries().empty());
+    EXPECT_FALSE(session.savedRun());
+    EXPECT_TRUE(session.scores().entries().empty());
     EXPECT_FALSE(std::filesystem::exists(settingsPath()));
 }
 
 TEST_F(SaveScore, doesNothingWhileARunIsMoving) {
-    session.playerName = QStringLiteral("Ada");
+    session.editName(QStringLiteral("Ada"));
     session.start();
 
     session.saveScore();
 
-    EXPECT_TRUE(session.running);
-    EXPECT_TRUE(session.scores->entries().empty());
+    EXPECT_TRUE(session.running());
+    EXPECT_TRUE(session.scores().entries().empty());
 }
 
 TEST_F(SaveScore, refusesANameOfBlanks) {
     startAndEndRun();
-    session.playerName = QStringLiteral(" \t\u3000 ");
+    session.editName(QStringLiteral(" \t\u3000 "));
 
     session.saveScore();
 
-    EXPECT_TRUE(session.awaitingName);
-    EXPECT_FALSE(session.savedRun);
-    EXPECT_EQ(session.playerName, QStringLiteral(" \t\u3000 "));
-    EXPECT_TRUE(session.scores->entries().empty());
+    EXPECT_TRUE(session.awaitingName());
+    EXPECT_FALSE(session.savedRun());
+    EXPECT_EQ(session.playerName(), QStringLiteral(" \t\u3000 "));
+    EXPECT_TRUE(session.scores().entries().empty());
     EXPECT_FALSE(holdsAnEntry());
 }
 
@@ -50,87 +50,87 @@ TEST_F(SaveScore, refusesAnEmptyName) {
 
     session.saveScore();
 
-    EXPECT_TRUE(session.awaitingName);
-    EXPECT_TRUE(session.scores->entries().empty());
+    EXPECT_TRUE(session.awaitingName());
+    EXPECT_TRUE(session.scores().entries().empty());
 }
 
 TEST_F(SaveScore, recordsTheRunAndStoresTableAndName) {
     startAndEndRun();
-    session.playerName = QStringLiteral("  Ada ");
+    session.editName(QStringLiteral("  Ada "));
 
     session.saveScore();
 
-    EXPECT_TRUE(session.savedRun);
-    EXPECT_FALSE(session.awaitingName);
-    EXPECT_EQ(session.playerName, "Ada");
-    ASSERT_EQ(session.scores->entries().size(), 1U);
-    const SnakeCore::HighScore& entry = session.scores->entries().front();
+    EXPECT_TRUE(session.savedRun());
+    EXPECT_FALSE(session.awaitingName());
+    EXPECT_EQ(session.playerName(), "Ada");
+    ASSERT_EQ(session.scores().entries().size(), 1U);
+    const SnakeCore::HighScore& entry = session.scores().entries().front();
     EXPECT_EQ(entry.id, session.runID());
     EXPECT_EQ(entry.name, "Ada");
-    EXPECT_EQ(entry.score, session.game->score());
+    EXPECT_EQ(entry.score, session.game().score());
     EXPECT_EQ(entry.pace, "Classic");
     EXPECT_EQ(onDisk().text("player-name"), "Ada");
     EXPECT_EQ(onDisk().bytes("high-scores-v1"),
-              QByteArray::fromStdString(session.scores->encoded()));
+              QByteArray::fromStdString(session.scores().encoded()));
 }
 
 TEST_F(SaveScore, datesTheEntryNow) {
     startAndEndRun();
-    session.playerName = QStringLiteral("Ada");
+    session.editName(QStringLiteral("Ada"));
     const SnakeCore::Date before = SnakeCore::Date::now();
 
     session.saveScore();
 
-    EXPECT_GE(session.scores->entries().front().date, before);
-    EXPECT_LE(session.scores->entries().front().date, SnakeCore::Date::now());
+    EXPECT_GE(session.scores().entries().front().date, before);
+    EXPECT_LE(session.scores().entries().front().date, SnakeCore::Date::now());
 }
 
 TEST_F(SaveScore, savesARunOnce) {
     startAndEndRun();
-    session.playerName = QStringLiteral("Ada");
+    session.editName(QStringLiteral("Ada"));
     session.saveScore();
-    session.playerName = QStringLiteral("Grace");
+    session.editName(QStringLiteral("Grace"));
 
     session.saveScore();
 
-    EXPECT_EQ(session.scores->entries().size(), 1U);
-    EXPECT_EQ(session.playerName, "Grace");
+    EXPECT_EQ(session.scores().entries().size(), 1U);
+    EXPECT_EQ(session.playerName(), "Grace");
     EXPECT_EQ(onDisk().text("player-name"), "Ada");
 }
 
 TEST_F(SaveScore, keepsThePaceTheRunWasStartedWith) {
-    session.pace = Pace::swift;
+    session.choosePace(Pace::swift);
     session.start();
-    session.pace = Pace::gentle;
+    session.choosePace(Pace::gentle);
     endRun();
-    session.playerName = QStringLiteral("Ada");
+    session.editName(QStringLiteral("Ada"));
 
     session.saveScore();
 
-    EXPECT_EQ(session.scores->entries().front().pace, "Swift");
+    EXPECT_EQ(session.scores().entries().front().pace, "Swift");
 }
 
 TEST_F(SaveScore, savesAScoreOfZero) {
     session.start();
-    session.key(KeyCode::upArrow);
+    session.key(GameKey::up);
     endRun();
-    ASSERT_EQ(session.game->score(), 0);
-    session.playerName = QStringLiteral("Ada");
+    ASSERT_EQ(session.game().score(), 0);
+    session.editName(QStringLiteral("Ada"));
 
     session.saveScore();
 
-    EXPECT_TRUE(session.savedRun);
-    EXPECT_EQ(session.scores->entries().front().score, 0);
+    EXPECT_TRUE(session.savedRun());
+    EXPECT_EQ(session.scores().entries().front().score, 0);
 }
 
 TEST_F(SaveScore, keepsEarlierEntries) {
     for (const char* name : {"Ada", "Grace", "Ada"}) {
         startAndEndRun();
-        session.playerName = QString::fromUtf8(name);
+        session.editName(QString::fromUtf8(name));
         session.saveScore();
     }
 
-    EXPECT_EQ(session.scores->entries().size(), 3U);
+    EXPECT_EQ(session.scores().entries().size(), 3U);
     EXPECT_EQ(
         SnakeCore::HighScores(onDisk().bytes("high-scores-v1")->toStdString()).entries().size(),
         3U);
@@ -138,13 +138,13 @@ TEST_F(SaveScore, keepsEarlierEntries) {
 
 TEST_F(SaveScore, leavesASkippedRunOut) {
     startAndEndRun();
-    session.playerName = QStringLiteral("Ada");
+    session.editName(QStringLiteral("Ada"));
 
     session.skipSaving();
     session.saveScore();
 
-    EXPECT_FALSE(session.awaitingName);
-    EXPECT_FALSE(session.savedRun);
-    EXPECT_TRUE(session.scores->entries().empty());
+    EXPECT_FALSE(session.awaitingName());
+    EXPECT_FALSE(session.savedRun());
+    EXPECT_TRUE(session.scores().entries().empty());
     EXPECT_FALSE(holdsAnEntry());
 }

@@ -4,15 +4,15 @@
 #include <cstdint>
 #include <vector>
 
-#include "Fernwick/Session/SessionState.hpp"
 #include "Session/Pace.hpp"
+#include "Session/Session.hpp"
 #include "Session/SoundEffects.hpp"
 #include "SnakeCore/ReferenceGame.hpp"
 
 /// What a session must be like after any row of actions, told a second time in the plainest way:
 /// one state, one reference game, and what each action does to them.
 struct SessionModel {
-    SessionState state = SessionState::fresh;
+    Session::Phase state = Session::Phase::fresh;
     bool sheet = false;
     Pace pace = Pace::classic;
     Pace runPace = Pace::classic;
@@ -26,27 +26,27 @@ struct SessionModel {
     [[nodiscard]] std::int64_t& best() { return bests[static_cast<std::size_t>(pace)]; }
 
     [[nodiscard]] bool isLive() const {
-        return state == SessionState::running || state == SessionState::paused;
+        return state == Session::Phase::running || state == Session::Phase::paused;
     }
     /// The speed buttons are greyed in the middle of a run and while a name is awaited.
     [[nodiscard]] bool offersPaces() const {
-        return !isLive() && state != SessionState::awaitingName;
+        return !isLive() && state != Session::Phase::awaitingName;
     }
-    [[nodiscard]] bool takesKeys() const { return state != SessionState::awaitingName && !sheet; }
+    [[nodiscard]] bool takesKeys() const { return state != Session::Phase::awaitingName && !sheet; }
 
     /// A new session over what the last one has stored.
     void launch() {
-        state = SessionState::fresh;
+        state = Session::Phase::fresh;
         sheet = false;
         pace = runPace = scorePace = Pace::classic;
         game = SnakeCore::ReferenceGame(28, 22);
     }
 
     void start() {
-        if (state == SessionState::awaitingName || sheet) {
+        if (state == Session::Phase::awaitingName || sheet) {
             return;
         }
-        state = SessionState::running;
+        state = Session::Phase::running;
         runPace = pace;
         game = SnakeCore::ReferenceGame(28, 22);
     }
@@ -55,12 +55,12 @@ struct SessionModel {
         if (!isLive() || sheet) {
             return;
         }
-        state = state == SessionState::running ? SessionState::paused : SessionState::running;
+        state = state == Session::Phase::running ? Session::Phase::paused : Session::Phase::running;
     }
 
     void leave() {
-        if (state == SessionState::running) {
-            state = SessionState::paused;
+        if (state == Session::Phase::running) {
+            state = Session::Phase::paused;
         }
     }
 
@@ -71,7 +71,7 @@ struct SessionModel {
     }
 
     void turn(SnakeCore::Direction direction) {
-        if (state == SessionState::running && takesKeys()) {
+        if (state == Session::Phase::running && takesKeys()) {
             game.turn(direction);
         }
     }
@@ -100,22 +100,22 @@ struct SessionModel {
     }
 
     void save(bool nameIsBlank) {
-        if (state == SessionState::awaitingName && !nameIsBlank) {
-            state = SessionState::saved;
+        if (state == Session::Phase::awaitingName && !nameIsBlank) {
+            state = Session::Phase::saved;
             ++savedRuns;
         }
     }
 
     void skip() {
-        if (state == SessionState::awaitingName) {
-            state = SessionState::skipped;
+        if (state == Session::Phase::awaitingName) {
+            state = Session::Phase::skipped;
         }
     }
 
     /// `generator` lays the next fruit somewhere; where the session laid it is for the caller.
     template <typename Generator>
     void tick(Generator& generator) {
-        if (state != SessionState::running) {
+        if (state != Session::Phase::running) {
             return;
         }
         const std::int64_t before = game.score;
@@ -125,7 +125,7 @@ struct SessionModel {
             best() = std::max(best(), game.score);
         }
         if (game.ended) {
-            state = SessionState::awaitingName;
+            state = Session::Phase::awaitingName;
             play(SoundEffect::tink);
         }
     }

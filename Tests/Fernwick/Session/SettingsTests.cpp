@@ -19,19 +19,19 @@ protected:
 }  // namespace
 
 TEST_F(Settings, ofAFirstLaunchAreTheDefaults) {
-    EXPECT_EQ(session.pace, Pace::classic);
-    EXPECT_EQ(session.best, 0);
-    EXPECT_TRUE(session.sound);
-    EXPECT_TRUE(session.scores->entries().empty());
-    EXPECT_TRUE(session.playerName->isEmpty());
-    EXPECT_FALSE(session.running);
-    EXPECT_FALSE(session.started);
-    EXPECT_FALSE(session.awaitingName);
-    EXPECT_FALSE(session.showingScores);
-    EXPECT_FALSE(session.savedRun);
-    EXPECT_EQ(session.scorePace, Pace::classic);
+    EXPECT_EQ(session.pace(), Pace::classic);
+    EXPECT_EQ(session.best(), 0);
+    EXPECT_TRUE(session.sound());
+    EXPECT_TRUE(session.scores().entries().empty());
+    EXPECT_TRUE(session.playerName().isEmpty());
+    EXPECT_FALSE(session.running());
+    EXPECT_FALSE(session.started());
+    EXPECT_FALSE(session.awaitingName());
+    EXPECT_FALSE(session.showingScores());
+    EXPECT_FALSE(session.savedRun());
+    EXPECT_EQ(session.scorePace(), Pace::classic);
     EXPECT_EQ(session.runPace(), Pace::classic);
-    EXPECT_EQ(session.game, SnakeCore::Game(28, 22));
+    EXPECT_EQ(session.game(), SnakeCore::Game(28, 22));
     EXPECT_EQ(timer(), nullptr);
 }
 
@@ -44,38 +44,36 @@ TEST_F(Settings, holdABestForEachPace) {
     preferences.store("best-Gentle", 30);
     NextStart next = nextStart();
 
-    EXPECT_EQ(next.session.best, 250);
-    next.session.pace = Pace::gentle;
-    next.session.loadBest();
-    EXPECT_EQ(next.session.best, 30);
-    next.session.pace = Pace::swift;
-    next.session.loadBest();
-    EXPECT_EQ(next.session.best, 0);
+    EXPECT_EQ(next.session.best(), 250);
+    next.session.choosePace(Pace::gentle);
+    EXPECT_EQ(next.session.best(), 30);
+    next.session.choosePace(Pace::swift);
+    EXPECT_EQ(next.session.best(), 0);
 }
 
 TEST_F(Settings, giveABestOfZeroForWhatIsNoNumber) {
     preferences.store("best-Classic", QStringLiteral("250"));
 
-    EXPECT_EQ(nextStart().session.best, 0);
+    EXPECT_EQ(nextStart().session.best(), 0);
 }
 
 TEST_F(Settings, keepTheSoundSwitchedOff) {
-    session.switchSound(false);
+    session.setSound(false);
 
-    EXPECT_FALSE(session.sound);
-    EXPECT_FALSE(nextStart().session.sound);
+    EXPECT_FALSE(session.sound());
+    EXPECT_FALSE(nextStart().session.sound());
 }
 
 TEST_F(Settings, keepTheSoundSwitchedOnAgain) {
-    session.switchSound(false);
-    session.switchSound(true);
+    session.setSound(false);
+    session.setSound(true);
 
-    EXPECT_TRUE(nextStart().session.sound);
+    EXPECT_TRUE(nextStart().session.sound());
     EXPECT_EQ(onDisk().boolean("sound"), true);
 }
 
 TEST_F(Settings, storeNoSoundThatDidNotChange) {
-    session.switchSound(true);
+    session.setSound(true);
 
     EXPECT_FALSE(std::filesystem::exists(settingsPath()));
 }
@@ -86,20 +84,20 @@ TEST_F(Settings, takeASoundThatIsNoBoolForAbsent) {
           QCborValue(QByteArray("\0", 1)), QCborValue(QCborValue::Null)}) {
         preferences.store("sound", stored);
 
-        EXPECT_TRUE(nextStart().session.sound);
+        EXPECT_TRUE(nextStart().session.sound());
     }
 }
 
 TEST_F(Settings, offerTheLastNameAgain) {
     preferences.store("player-name", QStringLiteral("Ada"));
 
-    EXPECT_EQ(nextStart().session.playerName, "Ada");
+    EXPECT_EQ(nextStart().session.playerName(), "Ada");
 }
 
 TEST_F(Settings, takeANameThatIsNoTextForAbsent) {
     preferences.store("player-name", QByteArray("Ada"));
 
-    EXPECT_EQ(nextStart().session.playerName, "");
+    EXPECT_EQ(nextStart().session.playerName(), "");
 }
 
 TEST_F(Settings, giveAnEmptyTableForBytesThatAreNone) {
@@ -107,30 +105,30 @@ TEST_F(Settings, giveAnEmptyTableForBytesThatAreNone) {
                                      QCborValue(QStringLiteral("[]")), QCborValue(7)}) {
         preferences.store("high-scores-v1", stored);
 
-        EXPECT_TRUE(nextStart().session.scores->entries().empty());
+        EXPECT_TRUE(nextStart().session.scores().entries().empty());
     }
 }
 
 TEST_F(Settings, bringASavedRunBackAtTheNextStart) {
     session.start();
-    gatherFirstFruit();
+    eatFirstFruit();
     endRun();
-    session.playerName = QStringLiteral("  Ada   Lovelace ");
+    session.editName(QStringLiteral("  Ada   Lovelace "));
     session.saveScore();
 
     const NextStart next = nextStart();
 
-    ASSERT_EQ(next.session.scores->entries().size(), 1U);
-    EXPECT_EQ(next.session.scores.get(), session.scores.get());
-    EXPECT_EQ(next.session.scores->entries().front().score, session.game->score());
-    EXPECT_EQ(next.session.playerName, "Ada Lovelace");
-    EXPECT_EQ(next.session.best, session.game->score());
-    EXPECT_EQ(next.session.pace, Pace::classic);
+    ASSERT_EQ(next.session.scores().entries().size(), 1U);
+    EXPECT_EQ(next.session.scores(), session.scores());
+    EXPECT_EQ(next.session.scores().entries().front().score, session.game().score());
+    EXPECT_EQ(next.session.playerName(), "Ada Lovelace");
+    EXPECT_EQ(next.session.best(), session.game().score());
+    EXPECT_EQ(next.session.pace(), Pace::classic);
 }
 
 TEST_F(Settings, doNotKeepThePace) {
-    session.pace = Pace::swift;
+    session.choosePace(Pace::swift);
     session.start();
 
-    EXPECT_EQ(nextStart().session.pace, Pace::classic);
+    EXPECT_EQ(nextStart().session.pace(), Pace::classic);
 }

@@ -14,7 +14,7 @@
 /// The window out of full screen, at the size that is the test's parameter.
 class LookTest : public WindowTest, public ::testing::WithParamInterface<QSize> {
 protected:
-    LookTest() { resizeTo(GetParam()); }
+    explicit LookTest(const SavedScores& saved = {}) : WindowTest(saved) { resizeTo(GetParam()); }
 
     void resizeTo(const QSize& size) {
         if (window.isFullScreen()) {
@@ -56,17 +56,6 @@ protected:
     [[nodiscard]] QImage picture() {
         EXPECT_TRUE(QTest::qWaitFor([this] { return isStill(); }));
         return window.grab().toImage();
-    }
-
-    /// Fills the board of the pace that is chosen.
-    void fillTable(const std::vector<std::pair<QString, std::int64_t>>& saved) {
-        session.scores.mutate([&](SnakeCore::HighScores& table) {
-            for (const auto& [name, score] : saved) {
-                table.record(SnakeCore::UUID::random(), name.toStdString(), score,
-                             rawValue(session.pace), SnakeCore::Date{0});
-            }
-        });
-        settle();
     }
 };
 

@@ -27,8 +27,8 @@ protected:
 
     void command(Qt::Key key) { press(key, Qt::ControlModifier); }
 
-    void inEveryState(const std::function<void(SessionState)>& check) {
-        for (const SessionState state : everyState) {
+    void inEveryState(const std::function<void(Session::Phase)>& check) {
+        for (const Session::Phase state : everyState) {
             SCOPED_TRACE(state);
             arriveAt(state);
             check(state);
@@ -100,41 +100,41 @@ INSTANTIATE_TEST_SUITE_P(In, MenuKeys, ::testing::Bool(), [](const auto& fullScr
 }  // namespace
 
 TEST_P(MenuKeys, controlNStartsARunUnlessANameIsAwaited) {
-    inEveryState([this](SessionState state) {
+    inEveryState([this](Session::Phase state) {
         const SnakeCore::UUID before = session.runID();
         command(Qt::Key_N);
-        EXPECT_EQ(session.runID() == before, state == SessionState::awaitingName);
-        EXPECT_EQ(session.running, state != SessionState::awaitingName);
+        EXPECT_EQ(session.runID() == before, state == Session::Phase::awaitingName);
+        EXPECT_EQ(session.running(), state != Session::Phase::awaitingName);
     });
 }
 
 TEST_P(MenuKeys, controlLOpensTheSheetInEveryState) {
-    inEveryState([this](SessionState state) {
+    inEveryState([this](Session::Phase state) {
         command(Qt::Key_L);
-        EXPECT_TRUE(session.showingScores);
-        EXPECT_FALSE(session.running);
-        EXPECT_EQ(session.awaitingName, state == SessionState::awaitingName);
+        EXPECT_TRUE(session.showingScores());
+        EXPECT_FALSE(session.running());
+        EXPECT_EQ(session.awaitingName(), state == Session::Phase::awaitingName);
         press(Qt::Key_Escape);
-        EXPECT_FALSE(session.showingScores);
+        EXPECT_FALSE(session.showingScores());
     });
 }
 
 TEST_P(MenuKeys, controlPPausesAndResumesALiveRunOnly) {
-    inEveryState([this](SessionState state) {
+    inEveryState([this](Session::Phase state) {
         command(Qt::Key_P);
-        EXPECT_EQ(stateOf(session), state == SessionState::running  ? SessionState::paused
-                                    : state == SessionState::paused ? SessionState::running
-                                                                    : state);
+        EXPECT_EQ(session.phase(), state == Session::Phase::running  ? Session::Phase::paused
+                                   : state == Session::Phase::paused ? Session::Phase::running
+                                                                     : state);
     });
 }
 
 TEST_P(MenuKeys, f11AndControlMetaFToggleFullScreenInEveryState) {
-    inEveryState([this](SessionState state) {
+    inEveryState([this](Session::Phase state) {
         press(Qt::Key_F11);
         waitForFullScreen(!GetParam());
         press(Qt::Key_F, Qt::ControlModifier | Qt::MetaModifier);
         waitForFullScreen(GetParam());
-        EXPECT_EQ(stateOf(session), state);
+        EXPECT_EQ(session.phase(), state);
     });
 }
 
@@ -159,8 +159,8 @@ TEST_P(MenuKeys, underTheSheetStartAndResumeNothing) {
     clickOn("New Game");
 
     EXPECT_EQ(session.runID(), run);
-    EXPECT_FALSE(session.running);
-    EXPECT_TRUE(session.showingScores);
+    EXPECT_FALSE(session.running());
+    EXPECT_TRUE(session.showingScores());
 }
 
 TEST_P(MenuKeys, commandsThatAreNoneNeverReachTheGame) {
@@ -175,8 +175,8 @@ TEST_P(MenuKeys, commandsThatAreNoneNeverReachTheGame) {
     fireTimer();
 
     EXPECT_EQ(session.runID(), run);
-    EXPECT_EQ(stateOf(session), SessionState::running);
-    EXPECT_EQ(session.game->direction(), SnakeCore::Direction::right);
+    EXPECT_EQ(session.phase(), Session::Phase::running);
+    EXPECT_EQ(session.game().direction(), SnakeCore::Direction::right);
 }
 
 TEST_P(MenuKeys, theMenusOpenByF10AndCloseByEscape) {
@@ -209,44 +209,44 @@ TEST_P(MenuKeys, anOpenMenuKeepsTheKeysFromTheGame) {
     fireTimer();
 
     EXPECT_EQ(session.runID(), run);
-    EXPECT_EQ(stateOf(session), SessionState::running);
-    EXPECT_EQ(session.game->direction(), SnakeCore::Direction::right);
+    EXPECT_EQ(session.phase(), Session::Phase::running);
+    EXPECT_EQ(session.game().direction(), SnakeCore::Direction::right);
 }
 
 TEST_P(MenuKeys, everyItemIsChosenByTheKeyboard) {
     choose("New Game");
-    EXPECT_EQ(stateOf(session), SessionState::running);
+    EXPECT_EQ(session.phase(), Session::Phase::running);
     choose("Pause");
-    EXPECT_EQ(stateOf(session), SessionState::paused);
+    EXPECT_EQ(session.phase(), Session::Phase::paused);
     choose("Resume");
-    EXPECT_EQ(stateOf(session), SessionState::running);
+    EXPECT_EQ(session.phase(), Session::Phase::running);
     choose("Sound Effects");
-    EXPECT_FALSE(session.sound);
+    EXPECT_FALSE(session.sound());
     choose("Sound Effects");
-    EXPECT_TRUE(session.sound);
+    EXPECT_TRUE(session.sound());
     choose("Toggle Full Screen");
     waitForFullScreen(!GetParam());
     choose("High Scores");
-    EXPECT_TRUE(session.showingScores);
+    EXPECT_TRUE(session.showingScores());
 }
 
 TEST_P(MenuKeys, everyItemIsChosenByAClick) {
     clickOn("New Game");
-    EXPECT_EQ(stateOf(session), SessionState::running);
+    EXPECT_EQ(session.phase(), Session::Phase::running);
     clickOn("Pause");
-    EXPECT_EQ(stateOf(session), SessionState::paused);
+    EXPECT_EQ(session.phase(), Session::Phase::paused);
     clickOn("Resume");
-    EXPECT_EQ(stateOf(session), SessionState::running);
+    EXPECT_EQ(session.phase(), Session::Phase::running);
     clickOn("Sound Effects");
-    EXPECT_FALSE(session.sound);
+    EXPECT_FALSE(session.sound());
     clickOn("Toggle Full Screen");
     waitForFullScreen(!GetParam());
     clickOn("High Scores");
-    EXPECT_TRUE(session.showingScores);
+    EXPECT_TRUE(session.showingScores());
 }
 
 TEST_P(MenuKeys, newGameIsRefusedInTheMenuWhileANameIsAwaited) {
-    arriveAt(SessionState::awaitingName);
+    arriveAt(Session::Phase::awaitingName);
     const SnakeCore::UUID run = session.runID();
 
     EXPECT_FALSE(walkTo("New Game"));
@@ -255,5 +255,5 @@ TEST_P(MenuKeys, newGameIsRefusedInTheMenuWhileANameIsAwaited) {
     clickOn("New Game");
 
     EXPECT_EQ(session.runID(), run);
-    EXPECT_EQ(stateOf(session), SessionState::awaitingName);
+    EXPECT_EQ(session.phase(), Session::Phase::awaitingName);
 }

@@ -127,7 +127,7 @@ TEST_F(Menus, whileTheSheetIsUp) {
     EXPECT_FALSE(canChoose("New Game"));
     expectTheUnconditionalItems();
 
-    session.showingScores = false;
+    session.closeScores();
     settle();
     EXPECT_TRUE(canChoose("New Game"));
 }
@@ -139,7 +139,7 @@ TEST_F(Menus, startANewGame) {
 
     choose("New Game");
 
-    EXPECT_TRUE(session.running);
+    EXPECT_TRUE(session.running());
     EXPECT_NE(session.runID(), before);
 }
 
@@ -147,21 +147,21 @@ TEST_F(Menus, pauseAndResume) {
     startRun();
 
     choose("Pause");
-    EXPECT_FALSE(session.running);
+    EXPECT_FALSE(session.running());
     choose("Resume");
-    EXPECT_TRUE(session.running);
+    EXPECT_TRUE(session.running());
 }
 
 TEST_F(Menus, resumeNothingBeforeTheFirstRun) {
     choose("Resume");
 
-    EXPECT_FALSE(session.started);
+    EXPECT_FALSE(session.started());
 }
 
 TEST_F(Menus, openTheSheet) {
     choose("High Scores");
 
-    EXPECT_TRUE(session.showingScores);
+    EXPECT_TRUE(session.showingScores());
 }
 
 TEST_F(Menus, openTheSheetWhileANameIsAwaited) {
@@ -169,8 +169,8 @@ TEST_F(Menus, openTheSheetWhileANameIsAwaited) {
 
     choose("High Scores");
 
-    EXPECT_TRUE(session.showingScores);
-    EXPECT_TRUE(session.awaitingName);
+    EXPECT_TRUE(session.showingScores());
+    EXPECT_TRUE(session.awaitingName());
 }
 
 TEST_F(Menus, switchTheSoundOffAndOn) {
@@ -178,16 +178,16 @@ TEST_F(Menus, switchTheSoundOffAndOn) {
     EXPECT_TRUE(item("Sound Effects")->isChecked());
 
     choose("Sound Effects");
-    EXPECT_FALSE(session.sound);
+    EXPECT_FALSE(session.sound());
     EXPECT_EQ(onDisk().boolean("sound"), false);
 
     choose("Sound Effects");
-    EXPECT_TRUE(session.sound);
+    EXPECT_TRUE(session.sound());
     EXPECT_EQ(onDisk().boolean("sound"), true);
 }
 
 TEST_F(Menus, followTheSoundSwitchedElsewhere) {
-    session.switchSound(false);
+    session.setSound(false);
     settle();
 
     EXPECT_FALSE(item("Sound Effects")->isChecked());

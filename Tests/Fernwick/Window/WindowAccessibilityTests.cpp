@@ -29,7 +29,7 @@ TEST_F(WindowAccessibility, theSheetIsAModalDialogWithAName) {
     EXPECT_EQ(sheet.text(QAccessible::Name), "The high scores.");
     EXPECT_FALSE(sheet.state().invisible);
 
-    session.showingScores = false;
+    session.closeScores();
     settle();
     EXPECT_TRUE(sheet.state().invisible);
 }
@@ -39,7 +39,7 @@ TEST_F(WindowAccessibility, theFocusGoesIntoTheDialogAndBack) {
     openSheet();
     EXPECT_TRUE(accessible(*window.findChild<HighScoresView*>()).state().focused);
 
-    session.showingScores = false;
+    session.closeScores();
     settle();
     EXPECT_TRUE(accessible(*window.findChild<NameField*>()).state().focused);
 }
@@ -50,5 +50,5 @@ TEST_F(WindowAccessibility, theScoresAreAListOfRows) {
     EXPECT_EQ(accessible(*window.findChild<ScoreRows*>()).role(), QAccessible::List);
     auto& row = accessible(*window.findChild<ScoreRow*>());
     EXPECT_EQ(row.role(), QAccessible::ListItem);
-    EXPECT_EQ(row.text(QAccessible::Name), QStringLiteral("01 Ada %1").arg(session.game->score()));
+    EXPECT_EQ(row.text(QAccessible::Name), QStringLiteral("01 Ada %1").arg(session.game().score()));
 }

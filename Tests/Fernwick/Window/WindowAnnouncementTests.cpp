@@ -40,7 +40,7 @@ protected:
     }
 
     void save() {
-        session.playerName = QStringLiteral("Ada");
+        session.editName(QStringLiteral("Ada"));
         session.saveScore();
         settle();
     }

@@ -103,13 +103,13 @@ TEST_P(WindowMarks, endTheProgram) {
 }
 
 TEST_P(WindowMarks, workInEveryState) {
-    for (const SessionState state : everyState) {
+    for (const Session::Phase state : everyState) {
         SCOPED_TRACE(state);
         arriveAt(state);
         work("Maximise");
         EXPECT_TRUE(becomes(Qt::WindowMaximized, true));
         work("Maximise");
         EXPECT_TRUE(becomes(Qt::WindowMaximized, false));
-        EXPECT_EQ(stateOf(session), state);
+        EXPECT_EQ(session.phase(), state);
     }
 }

@@ -7,21 +7,20 @@
 #include <algorithm>
 #include <array>
 
-#include "Fernwick/Session/SessionState.hpp"
 #include "Fernwick/Session/SessionTest.hpp"
+#include "Session/KeyMonitor.hpp"
 #include "Support/Screen.hpp"
 #include "Window/GameWindow.hpp"
 
 /// Every state that a game can be in.
-inline constexpr std::array everyState{SessionState::fresh,   SessionState::running,
-                                       SessionState::paused,  SessionState::awaitingName,
-                                       SessionState::skipped, SessionState::saved};
+inline constexpr std::array everyState{Session::Phase::fresh,   Session::Phase::running,
+                                       Session::Phase::paused,  Session::Phase::awaitingName,
+                                       Session::Phase::skipped, Session::Phase::saved};
 
 /// The whole window around a session whose time passes only when a test lets it.
 class WindowTest : public SessionTest {
 protected:
-    WindowTest() {
-        session.installKeys();
+    explicit WindowTest(const SavedScores& saved = {}) : SessionTest(saved) {
         window.show();
         settle();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
@@ -79,6 +78,13 @@ protected:
         settle();
     }
 
+    /// Gives the current pace a personal best.
+    void setBest(std::int64_t best) {
+        preferences.store("best-Classic", QCborValue(qint64{best}));
+        session.choosePace(Pace::classic);
+        settle();
+    }
+
     void startRun() {
         session.start();
         settle();
@@ -97,8 +103,7 @@ protected:
 
     void saveRunAs(const QString& name) {
         startAndEndRun();
-        session.playerName = name;
-        session.saveScore();
+        saveScoreAs(name);
         settle();
     }
 
@@ -117,29 +122,29 @@ protected:
 
     /// Brings the game into `state`. Nothing leads back to a fresh game, and a run that awaits a
     /// name has to be saved or skipped before another.
-    void arriveAt(SessionState state) {
+    void arriveAt(Session::Phase state) {
         switch (state) {
-            case SessionState::running:
+            case Session::Phase::running:
                 startRun();
                 break;
-            case SessionState::paused:
+            case Session::Phase::paused:
                 pauseRun();
                 break;
-            case SessionState::awaitingName:
+            case Session::Phase::awaitingName:
                 endRunAwaitingName();
                 break;
-            case SessionState::saved:
+            case Session::Phase::saved:
                 saveRunAs("Ada");
                 break;
-            case SessionState::skipped:
+            case Session::Phase::skipped:
                 skipRun();
                 break;
-            case SessionState::fresh:
-            case SessionState::impossible:
+            case Session::Phase::fresh:
                 break;
         }
-        ASSERT_EQ(stateOf(session), state);
+        ASSERT_EQ(session.phase(), state);
     }
 
+    KeyMonitor keyMonitor{session};
     GameWindow window{session};
 };

@@ -25,8 +25,8 @@ BoardArea::BoardArea(Session& session, Backdrop& backdrop, QWidget* parent)
       session_(session),
       board_(new Board(backdrop, this)),
       overlay_(new Overlay(session, this)),
-      gameOver_(new GameOverView(session, this)),
-      observer_(session, [this] { refresh(); }) {
+      gameOver_(new GameOverView(session, this)) {
+    connect(&session_, &Session::changed, this, &BoardArea::refresh);
     refresh();
 }
 
@@ -35,9 +35,9 @@ QRectF BoardArea::frame() const {
 }
 
 void BoardArea::refresh() {
-    const bool ended = session_.game->ended();
-    const bool idle = !session_.running;
-    board_->setGame(session_.game);
+    const bool ended = session_.game().ended();
+    const bool idle = !session_.running();
+    board_->setGame(session_.game());
     board_->setIdle(idle);
     board_->setScrim(!idle ? 0 : ended ? GameOverView::scrimOpacity : Overlay::scrimOpacity);
     showCard(*overlay_, idle && !ended);

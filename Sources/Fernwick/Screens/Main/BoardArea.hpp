@@ -2,8 +2,6 @@
 
 #include <QWidget>
 
-#include "Session/ChangeObserver.hpp"
-
 class Backdrop;
 class Board;
 class GameOverView;
@@ -31,5 +29,4 @@ private:
     Board* board_;
     Overlay* overlay_;
     GameOverView* gameOver_;
-    ChangeObserver observer_;
 };

@@ -23,8 +23,7 @@ ControlRow::ControlRow(Session& session, QWidget* parent)
       speeds_(new Garden::ChoiceGroup(paceNames(), tr("Speed"))),
       dot_(new StatusDot),
       status_(new Garden::TrackedLabel({}, Garden::sans(statusSize, QFont::Medium, statusTracking),
-                                       Garden::muted)),
-      observer_(session, [this] { refresh(); }) {
+                                       Garden::muted)) {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(statusSpacing);
@@ -33,31 +32,30 @@ ControlRow::ControlRow(Session& session, QWidget* parent)
     row->addWidget(dot_);
     row->addWidget(status_);
     connect(speeds_, &Garden::ChoiceGroup::chosen, this, &ControlRow::choose);
+    connect(&session_, &Session::changed, this, &ControlRow::refresh);
     refresh();
 }
 
 void ControlRow::choose(int index) {
-    session_.pace = allPaces.at(static_cast<std::size_t>(index));
-    session_.loadBest();
+    session_.choosePace(allPaces.at(static_cast<std::size_t>(index)));
 }
 
 QString ControlRow::statusWord() const {
-    if (session_.running) {
+    if (session_.running()) {
         //: What the game is doing, in tiny capitals: a run is going on.
         return tr("IN THE FLOW");
     }
-    if (session_.game->ended()) {
+    if (session_.game().ended()) {
         //: The run is over.
         return tr("ANOTHER CHANCE TO GROW");
     }
     //: The run is paused; and: no run has been started yet, of a classic game in a new garden.
-    return session_.started ? tr("TAKE A BREATH") : tr("THE CLASSIC, REPLANTED");
+    return session_.started() ? tr("TAKE A BREATH") : tr("THE CLASSIC, REPLANTED");
 }
 
 void ControlRow::refresh() {
-    const bool inRun = session_.started && !session_.game->ended();
-    speeds_->setCurrent(static_cast<int>(session_.pace.get()));
-    speeds_->setChoicesEnabled(!inRun && !session_.awaitingName);
-    dot_->setColour(session_.running ? Garden::mint : Garden::muted);
+    speeds_->setCurrent(static_cast<int>(session_.pace()));
+    speeds_->setChoicesEnabled(!session_.inRun() && !session_.awaitingName());
+    dot_->setColour(session_.running() ? Garden::mint : Garden::muted);
     status_->setText(statusWord());
 }

@@ -2,8 +2,6 @@
 
 #include <QWidget>
 
-#include "Session/ChangeObserver.hpp"
-
 class Session;
 class StatusDot;
 
@@ -28,5 +26,4 @@ private:
     Garden::ChoiceGroup* speeds_;
     StatusDot* dot_;
     Garden::TrackedLabel* status_;
-    ChangeObserver observer_;
 };

@@ -29,8 +29,7 @@ HeaderRow::HeaderRow(Session& session, QWidget* parent)
     : QWidget(parent),
       session_(session),
       score_(new Garden::RollingDigits(Qt::AlignLeft, this)),
-      best_(new Garden::RollingDigits(Qt::AlignRight, this)),
-      observer_(session, [this] { refresh(); }) {
+      best_(new Garden::RollingDigits(Qt::AlignRight, this)) {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
@@ -42,6 +41,7 @@ HeaderRow::HeaderRow(Session& session, QWidget* parent)
     row->addWidget(new Rule, 0, Qt::AlignVCenter);
     row->addSpacing(rulePadding);
     row->addLayout(scoreTile(tr("PERSONAL BEST"), best_, Qt::AlignRight));
+    connect(&session_, &Session::changed, this, &HeaderRow::refresh);
     refresh();
 }
 
@@ -79,6 +79,6 @@ QBoxLayout* HeaderRow::scoreTile(const QString& label, Garden::RollingDigits* va
 }
 
 void HeaderRow::refresh() {
-    score_->setValue(session_.game->score());
-    best_->setValue(session_.best);
+    score_->setValue(session_.game().score());
+    best_->setValue(session_.best());
 }

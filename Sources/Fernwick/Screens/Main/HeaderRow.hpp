@@ -2,8 +2,6 @@
 
 #include <QWidget>
 
-#include "Session/ChangeObserver.hpp"
-
 class QBoxLayout;
 class Session;
 
@@ -28,5 +26,4 @@ private:
     Session& session_;
     Garden::RollingDigits* score_;
     Garden::RollingDigits* best_;
-    ChangeObserver observer_;
 };

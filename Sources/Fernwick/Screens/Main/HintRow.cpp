@@ -29,8 +29,7 @@ HintRow::HintRow(Session& session, QWidget* parent)
       session_(session),
       scores_(new Garden::IconButton(Garden::Icon::trophy, tr("High scores"))),
       sound_(new Garden::IconButton(Garden::Icon::speakerWaves, tr("Toggle sound effects"))),
-      pause_(new Garden::IconButton(Garden::Icon::play, tr("Pause or resume"))),
-      observer_(session, [this] { refresh(); }) {
+      pause_(new Garden::IconButton(Garden::Icon::play, tr("Pause or resume"))) {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(hintSpacing);
@@ -56,14 +55,15 @@ HintRow::HintRow(Session& session, QWidget* parent)
 
     connect(scores_, &QAbstractButton::clicked, &session_, &Session::openScores);
     connect(sound_, &QAbstractButton::clicked, &session_,
-            [this] { session_.switchSound(!session_.sound); });
+            [this] { session_.setSound(!session_.sound()); });
     connect(pause_, &QAbstractButton::clicked, &session_, &Session::pause);
+    connect(&session_, &Session::changed, this, &HintRow::refresh);
     refresh();
 }
 
 void HintRow::refresh() {
-    sound_->setIcon(session_.sound ? Garden::Icon::speakerWaves : Garden::Icon::speakerSlash);
-    sound_->setChecked(session_.sound);
-    pause_->setIcon(session_.running ? Garden::Icon::pause : Garden::Icon::play);
-    pause_->setEnabled(session_.started && !session_.game->ended());
+    sound_->setIcon(session_.sound() ? Garden::Icon::speakerWaves : Garden::Icon::speakerSlash);
+    sound_->setChecked(session_.sound());
+    pause_->setIcon(session_.running() ? Garden::Icon::pause : Garden::Icon::play);
+    pause_->setEnabled(session_.inRun());
 }

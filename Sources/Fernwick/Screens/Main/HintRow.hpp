@@ -2,8 +2,6 @@
 
 #include <QWidget>
 
-#include "Session/ChangeObserver.hpp"
-
 class Session;
 
 namespace Garden {
@@ -24,5 +22,4 @@ private:
     Garden::IconButton* scores_;
     Garden::IconButton* sound_;
     Garden::IconButton* pause_;
-    ChangeObserver observer_;
 };

@@ -33,8 +33,7 @@ Overlay::Overlay(Session& session, QWidget* parent)
                                       Garden::primaryText)),
       line_(new Garden::TrackedLabel({}, Garden::sans(lineSize, QFont::Normal),
                                      Garden::withOpacity(Qt::white, lineOpacity))),
-      button_(new Garden::OverlayButton({})),
-      observer_(session, [this] { refresh(); }) {
+      button_(new Garden::OverlayButton({})) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(padding, padding, padding, padding);
     column->setSpacing(spacing);
@@ -52,21 +51,22 @@ Overlay::Overlay(Session& session, QWidget* parent)
         0, Qt::AlignHCenter);
     column->addStretch();
     connect(button_, &QAbstractButton::clicked, this, &Overlay::press);
+    connect(&session_, &Session::changed, this, &Overlay::refresh);
     refresh();
 }
 
 void Overlay::refresh() {
-    if (session_.game->ended()) {
+    if (session_.game().ended()) {
         symbol_->setIcon(Garden::Icon::arrowClockwise);
         //: Headlines of an ended run: the snake fills the whole board; it struck something.
-        title_->setText(session_.game->won() ? tr("Fully grown.")
-                                             : tr("A good place to begin again."));
+        title_->setText(session_.game().won() ? tr("Fully grown.")
+                                              : tr("A good place to begin again."));
         line_->setText(Garden::withNumber(
             //: %lld is the score; it has to stay.
-            tr("You gathered %lld points. Let's grow a little further."), session_.game->score()));
+            tr("You gathered %lld points. Let's grow a little further."), session_.game().score()));
         //: A button; so are "Keep growing" and "Let's grow". An arrow follows the words.
         button_->setText(tr("Grow again"));
-    } else if (session_.started) {
+    } else if (session_.started()) {
         symbol_->setIcon(Garden::Icon::moon);
         //: The headline of the pause.
         title_->setText(tr("No rush."));
@@ -82,9 +82,5 @@ void Overlay::refresh() {
 }
 
 void Overlay::press() {
-    if (session_.started && !session_.game->ended()) {
-        session_.pause();
-    } else {
-        session_.start();
-    }
+    session_.inRun() ? session_.pause() : session_.start();
 }

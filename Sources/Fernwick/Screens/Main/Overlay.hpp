@@ -2,8 +2,6 @@
 
 #include <QWidget>
 
-#include "Session/ChangeObserver.hpp"
-
 class Session;
 
 namespace Garden {
@@ -32,5 +30,4 @@ private:
     Garden::TrackedLabel* title_;
     Garden::TrackedLabel* line_;
     Garden::OverlayButton* button_;
-    ChangeObserver observer_;
 };

@@ -28,8 +28,7 @@ GameOverView::GameOverView(Session& session, QWidget* parent)
       result_(new Garden::TrackedLabel({}, Garden::sans(resultSize, QFont::Medium, resultTracking),
                                        Garden::mint)),
       nameEntry_(new NameEntry(session)),
-      savedBoard_(new SavedBoard(session)),
-      observer_(session, [this] { refresh(); }) {
+      savedBoard_(new SavedBoard(session)) {
     auto* card = new QWidget(this);
     card->setMaximumWidth(widestCard);
     QVBoxLayout* column = cardColumn(*card);
@@ -44,19 +43,20 @@ GameOverView::GameOverView(Session& session, QWidget* parent)
     // Before either side gets any room, the card gets all that it may take.
     area->addWidget(card, 1, Qt::AlignVCenter);
     area->addStretch();
+    connect(&session_, &Session::changed, this, &GameOverView::refresh);
     refresh();
 }
 
 void GameOverView::refresh() {
-    if (!session_.game->ended()) {
+    if (!session_.game().ended()) {
         return;
     }
     //: Headlines of an ended run: the snake fills the whole board; it struck something.
-    headline_->setText(session_.game->won() ? tr("Fully grown.") : tr("Game over."));
+    headline_->setText(session_.game().won() ? tr("Fully grown.") : tr("Game over."));
     //: %lld is the score, %@ the name of the speed; both have to stay. Two spaces round the dot.
-    result_->setText(Garden::withNumber(tr("%lld POINTS  ·  %@"), session_.game->score())
+    result_->setText(Garden::withNumber(tr("%lld POINTS  ·  %@"), session_.game().score())
                          .replace(QStringLiteral("%@"), displayName(session_.runPace())));
-    if (session_.awaitingName) {
+    if (session_.awaitingName()) {
         savedBoard_->clear();
         savedBoard_->hide();
         nameEntry_->refresh();

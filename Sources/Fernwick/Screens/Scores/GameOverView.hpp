@@ -2,8 +2,6 @@
 
 #include <QWidget>
 
-#include "Session/ChangeObserver.hpp"
-
 class NameEntry;
 class SavedBoard;
 class Session;
@@ -31,5 +29,4 @@ private:
     Garden::TrackedLabel* result_;
     NameEntry* nameEntry_;
     SavedBoard* savedBoard_;
-    ChangeObserver observer_;
 };

@@ -35,8 +35,7 @@ HighScoresView::HighScoresView(Session& session, QWidget* parent)
       session_(session),
       //: Read aloud for the choice between the speeds.
       speed_(new Garden::ChoiceGroup(paceNames(), tr("Speed"))),
-      rows_(new ScoreRows),
-      observer_(session, [this] { refresh(); }) {
+      rows_(new ScoreRows) {
     installScoreAccessibility();
     setFixedWidth(sheetWidth);
     setAccessibleName(tr("The high scores."));
@@ -62,19 +61,23 @@ HighScoresView::HighScoresView(Session& session, QWidget* parent)
     column->addWidget(done, 0, Qt::AlignHCenter);
 
     connect(speed_, &Garden::ChoiceGroup::chosen, this, [this](int index) {
-        session_.scorePace = allPaces.at(static_cast<std::size_t>(index));
+        session_.chooseScorePace(allPaces.at(static_cast<std::size_t>(index)));
     });
     connect(done, &QAbstractButton::clicked, this, &HighScoresView::close);
+    connect(&session_, &Session::changed, this, &HighScoresView::refresh);
     refresh();
 }
 
 void HighScoresView::refresh() {
-    speed_->setCurrent(static_cast<int>(session_.scorePace.get()));
-    rows_->setEntries(session_.scores->leaders(rawValue(session_.scorePace)));
+    if (!session_.showingScores()) {
+        return;
+    }
+    speed_->setCurrent(static_cast<int>(session_.scorePace()));
+    rows_->setEntries(session_.scores().leaders(rawValue(session_.scorePace())));
 }
 
 void HighScoresView::close() {
-    session_.showingScores = false;
+    session_.closeScores();
 }
 
 void HighScoresView::keyPressEvent(QKeyEvent* event) {

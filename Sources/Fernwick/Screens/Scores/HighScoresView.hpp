@@ -2,8 +2,6 @@
 
 #include <QWidget>
 
-#include "Session/ChangeObserver.hpp"
-
 class ScoreRows;
 class Session;
 
@@ -30,5 +28,4 @@ private:
     Session& session_;
     Garden::ChoiceGroup* speed_;
     ScoreRows* rows_;
-    ChangeObserver observer_;
 };

@@ -71,15 +71,15 @@ void NameEntry::nameEdited(const QString& text) {
         field_->setText(kept);
         field_->setCursorPosition(std::min(cursor, static_cast<int>(kept.size())));
     }
-    session_.playerName = kept;
+    session_.editName(kept);
 }
 
 void NameEntry::refresh() {
-    if (field_->text() != session_.playerName.get()) {
+    if (field_->text() != session_.playerName()) {
         const QSignalBlocker quiet(field_);
-        field_->setText(session_.playerName);
+        field_->setText(session_.playerName());
     }
-    const std::string name = session_.playerName->toStdString();
+    const std::string name = session_.playerName().toStdString();
     save_->setEnabled(!SnakeCore::HighScores::cleanName(name).empty());
 }
 

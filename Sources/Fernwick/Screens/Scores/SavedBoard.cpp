@@ -45,7 +45,7 @@ void SavedBoard::clear() {
 }
 
 void SavedBoard::refresh() {
-    title_->setText(session_.savedRun ? tr("Score saved · Top 10") : tr("Top 10"));
-    rows_->setEntries(session_.scores->leaders(rawValue(session_.runPace())),
-                      session_.savedRun ? std::optional(session_.runID()) : std::nullopt);
+    title_->setText(session_.savedRun() ? tr("Score saved · Top 10") : tr("Top 10"));
+    rows_->setEntries(session_.scores().leaders(rawValue(session_.runPace())),
+                      session_.savedRun() ? std::optional(session_.runID()) : std::nullopt);
 }

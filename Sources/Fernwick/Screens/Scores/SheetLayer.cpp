@@ -8,19 +8,17 @@
 #include "Session/Session.hpp"
 
 SheetLayer::SheetLayer(Session& session, QWidget* parent)
-    : QWidget(parent),
-      session_(session),
-      shade_(new SheetShade(parent)),
-      observer_(session, [this] { refresh(); }) {
+    : QWidget(parent), session_(session), shade_(new SheetShade(parent)) {
     hide();
+    connect(&session_, &Session::changed, this, &SheetLayer::refresh);
     refresh();
 }
 
 void SheetLayer::refresh() {
-    if (session_.showingScores == isVisibleTo(parentWidget())) {
+    if (session_.showingScores() == isVisibleTo(parentWidget())) {
         return;
     }
-    if (session_.showingScores) {
+    if (session_.showingScores()) {
         present();
     } else {
         dismiss();

@@ -3,8 +3,6 @@
 #include <QPointer>
 #include <QWidget>
 
-#include "Session/ChangeObserver.hpp"
-
 class HighScoresView;
 class Session;
 class SheetShade;
@@ -32,5 +30,4 @@ private:
     SheetShade* shade_;
     HighScoresView* sheet_ = nullptr;
     QPointer<QWidget> focusBefore_;
-    ChangeObserver observer_;
 };

@@ -19,7 +19,7 @@ protected:
         session.openScores();
         settle();
         Tidiness::expectTidySheet(window);
-        session.showingScores = false;
+        session.closeScores();
         settle();
     }
 };
@@ -30,11 +30,11 @@ INSTANTIATE_TEST_SUITE_P(Languages, FittingLanguages, ::testing::ValuesIn(everyL
 }  // namespace
 
 TEST_P(FittingLanguages, everythingFitsInEveryState) {
-    for (const SessionState state : everyState) {
+    for (const Session::Phase state : everyState) {
         SCOPED_TRACE(state);
         arriveAt(state);
         expectTidyWindow();
-        if (state == SessionState::awaitingName) {
+        if (state == Session::Phase::awaitingName) {
             session.skipSaving();
         }
     }
@@ -55,7 +55,7 @@ TEST_P(FittingLanguages, theSheetFitsWithAndWithoutScores) {
 
 TEST_P(FittingLanguages, theOverlayOfAnEndedRunFitsTheBoard) {
     session.start();
-    gatherFirstFruit();
+    eatFirstFruit();
     endRun();
     Overlay overlay(session);
     overlay.resize(the<BoardArea>().frame().size().toSize());
@@ -79,7 +79,7 @@ TEST_P(FittingLanguages, thePlaceholderOfTheNameFitsItsField) {
 }
 
 TEST_P(FittingLanguages, everyLetterIsInAFontOfThisMachine) {
-    for (const SessionState state : {SessionState::fresh, SessionState::awaitingName}) {
+    for (const Session::Phase state : {Session::Phase::fresh, Session::Phase::awaitingName}) {
         arriveAt(state);
         for (const auto* label : window.findChildren<Garden::TrackedLabel*>()) {
             EXPECT_TRUE(Look::hasEveryLetter(label->text(), label->font()))

@@ -112,8 +112,7 @@ TEST_F(MirroredScreen, endsItsRowsAtTheLeft) {
 
 TEST_F(MirroredScreen, letsABestGrowAwayFromTheEdge) {
     auto& best = *window.findChildren<Garden::RollingDigits*>()[1];
-    session.best = 1234567;
-    settle();
+    setBest(1234567);
 
     EXPECT_EQ(placeOf(best).left(), sidePadding);
     EXPECT_EQ(best.width(), best.sizeHint().width());
@@ -145,12 +144,12 @@ TEST_F(MirroredScreen, turnsTheSnakeTheWayTheKeyPoints) {
     Keyboard::press(window, Qt::Key_Left);
     fireTimer();
 
-    EXPECT_EQ(session.game->direction(), SnakeCore::Direction::left);
+    EXPECT_EQ(session.game().direction(), SnakeCore::Direction::left);
 }
 
 TEST_F(MirroredScreen, movesBetweenSpeedsTheWayTheArrowPoints) {
     session.openScores();
-    session.scorePace = Pace::gentle;
+    session.chooseScorePace(Pace::gentle);
     settle();
     const auto& speeds = *the<HighScoresView>().findChild<Garden::ChoiceGroup*>();
     const auto choices = speeds.findChildren<Garden::ChoiceButton*>();

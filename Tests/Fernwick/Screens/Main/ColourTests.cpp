@@ -26,10 +26,11 @@ constexpr int dithered = 2;
 
 class WindowColours : public LookTest {
 protected:
+    using LookTest::LookTest;
+
     /// A run whose snake has just stepped in `direction`.
     void runTowards(Direction direction) {
-        startRun();
-        Game game = session.game;
+        Game game(Session::columns, Session::rows);
         if (direction == Direction::left) {
             game.turn(Direction::up);
             game.step();
@@ -37,7 +38,7 @@ protected:
         game.turn(direction);
         game.step();
         ASSERT_EQ(game.direction(), direction);
-        session.game = game;
+        startRunAt(game);
         settle();
     }
 
@@ -65,7 +66,13 @@ protected:
     }
 };
 
+class WindowColoursWithASavedScore : public WindowColours {
+protected:
+    WindowColoursWithASavedScore() : WindowColours({{"Grace", 2000}}) {}
+};
+
 INSTANTIATE_TEST_SUITE_P(Look, WindowColours, bothSizes, nameOfSize);
+INSTANTIATE_TEST_SUITE_P(Look, WindowColoursWithASavedScore, bothSizes, nameOfSize);
 
 }  // namespace
 
@@ -104,7 +111,7 @@ TEST_P(WindowColours, dotTheBoardFaintly) {
 TEST_P(WindowColours, paintTheFruitTheTailAndTheHead) {
     startRun();
     const QImage seen = picture();
-    const Game& game = session.game;
+    const Game& game = session.game();
 
     expectColour(colourAt(seen, middleOf(game.food())), fruit, 1);
     expectColour(colourAt(seen, middleOf(game.snake().back())), tail, dithered);
@@ -125,7 +132,7 @@ TEST_P(WindowColours, openTheEyesTowardsWhereTheSnakeGoes) {
         SCOPED_TRACE(static_cast<int>(eyes.direction));
         runTowards(eyes.direction);
         const QImage seen = picture();
-        const QPointF head = middleOf(session.game->snake().front());
+        const QPointF head = middleOf(session.game().snake().front());
         for (const QPointF& eye : {eyes.one, eyes.other}) {
             EXPECT_LT(colourAt(seen, head + cell() * eye).green(), 110);
             EXPECT_GT(colourAt(seen, head - cell() * eye * 1.8).green(), 150);
@@ -165,14 +172,14 @@ TEST_P(WindowColours, writeTheNumbersAndTheRunningDotInMint) {
 
 TEST_P(WindowColours, fillTheMintButtonByItsThreeStates) {
     endRunAwaitingName();
-    session.playerName = QStringLiteral("Ada");
+    session.editName(QStringLiteral("Ada"));
     settle();
     expectColour(seenAt(fillOf("Save score")), Garden::mint, 1);
     const QColor ground = seenAt(fillOf("Save score") - QPointF(30, 0));
 
     QTest::mousePress(button("Save score"), Qt::LeftButton);
     const QColor pressed = seenAt(fillOf("Save score"));
-    session.playerName = QString();
+    session.editName(QString());
     settle();
     QTest::mouseRelease(button("Save score"), Qt::LeftButton, {}, QPoint(-40, 0));
 
@@ -190,8 +197,7 @@ TEST_P(WindowColours, layTheSheetInPlainNight) {
     expectColour(seenAt({sheet.right() - 12, sheet.center().y()}), Garden::night, 0);
 }
 
-TEST_P(WindowColours, layEachRowOnAFaintPlateAndTheSavedOneOnMint) {
-    fillTable({{"Grace", 2000}});
+TEST_P(WindowColoursWithASavedScore, layEachRowOnAFaintPlateAndTheSavedOneOnMint) {
     saveRunAs("Ada");
     const QList<ScoreRow*> rows = window.findChildren<ScoreRow*>();
     ASSERT_EQ(rows.size(), 2);

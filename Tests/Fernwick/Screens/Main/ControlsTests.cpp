@@ -60,86 +60,86 @@ INSTANTIATE_TEST_SUITE_P(By, Controls, ::testing::Values(Means::click, Means::re
 TEST_P(Controls, openTheSheetInEveryState) {
     inEveryState([this](bool, bool) {
         work("High scores");
-        EXPECT_TRUE(session.showingScores);
-        session.showingScores = false;
+        EXPECT_TRUE(session.showingScores());
+        session.closeScores();
         settle();
     });
 }
 
 TEST_P(Controls, switchTheSoundInEveryState) {
     inEveryState([this](bool, bool) {
-        const bool before = session.sound;
+        const bool before = session.sound();
         work("Toggle sound effects");
-        EXPECT_NE(session.sound, before);
+        EXPECT_NE(session.sound(), before);
     });
 }
 
 TEST_P(Controls, pauseAndResumeALiveRunOnly) {
     inEveryState([this](bool live, bool) {
-        const bool before = session.running;
+        const bool before = session.running();
         work("Pause or resume");
-        EXPECT_EQ(session.running != before, live);
+        EXPECT_EQ(session.running() != before, live);
     });
 }
 
 TEST_P(Controls, chooseTheSpeedBetweenRunsOnly) {
     inEveryState([this](bool live, bool awaiting) {
-        session.pace = Pace::classic;
+        session.choosePace(Pace::classic);
         work("Swift");
-        EXPECT_EQ(session.pace == Pace::swift, !live && !awaiting);
+        EXPECT_EQ(session.pace() == Pace::swift, !live && !awaiting);
         work("Gentle");
-        EXPECT_EQ(session.pace == Pace::gentle, !live && !awaiting);
+        EXPECT_EQ(session.pace() == Pace::gentle, !live && !awaiting);
     });
 }
 
 TEST_P(Controls, startTheFirstRunAndGoOnAfterAPause) {
     work("Let's grow");
-    ASSERT_TRUE(session.running);
+    ASSERT_TRUE(session.running());
     const SnakeCore::UUID run = session.runID();
     session.pause();
     settle();
 
     work("Keep growing");
 
-    EXPECT_TRUE(session.running);
+    EXPECT_TRUE(session.running());
     EXPECT_EQ(session.runID(), run);
 }
 
 TEST_P(Controls, saveOnlyAName) {
     endRunAwaitingName();
-    session.playerName = QStringLiteral("   ");
+    session.editName(QStringLiteral("   "));
     settle();
     work("Save score");
-    EXPECT_TRUE(session.awaitingName);
+    EXPECT_TRUE(session.awaitingName());
 
-    session.playerName = QStringLiteral("Ada");
+    session.editName(QStringLiteral("Ada"));
     settle();
     work("Save score");
 
-    EXPECT_TRUE(session.savedRun);
+    EXPECT_TRUE(session.savedRun());
 }
 
 TEST_P(Controls, skipSavingWhateverTheName) {
     for (const QString& name : {QString(), QStringLiteral("Ada")}) {
         endRunAwaitingName();
-        session.playerName = name;
+        session.editName(name);
         settle();
 
         work("Skip saving");
 
-        EXPECT_FALSE(session.awaitingName);
-        EXPECT_FALSE(session.savedRun);
+        EXPECT_FALSE(session.awaitingName());
+        EXPECT_FALSE(session.savedRun());
     }
 }
 
 TEST_P(Controls, playAgainAfterASaveAndAfterASkip) {
     saveRunAs("Ada");
     work("Play again");
-    EXPECT_TRUE(session.running);
+    EXPECT_TRUE(session.running());
 
     skipRun();
     work("Play again");
-    EXPECT_TRUE(session.running);
+    EXPECT_TRUE(session.running());
 }
 
 TEST_P(Controls, switchTheSpeedOfTheSheetAndCloseIt) {
@@ -148,11 +148,11 @@ TEST_P(Controls, switchTheSpeedOfTheSheetAndCloseIt) {
     const auto& sheet = *window.findChild<HighScoresView*>();
 
     workIn(sheet, "Swift");
-    EXPECT_EQ(session.scorePace, Pace::swift);
-    EXPECT_EQ(session.pace, Pace::classic);
+    EXPECT_EQ(session.scorePace(), Pace::swift);
+    EXPECT_EQ(session.pace(), Pace::classic);
     workIn(sheet, "Done");
 
-    EXPECT_FALSE(session.showingScores);
+    EXPECT_FALSE(session.showingScores());
 }
 
 TEST_P(Controls, underTheSheetAreOutOfReach) {
@@ -162,6 +162,6 @@ TEST_P(Controls, underTheSheetAreOutOfReach) {
     work("Toggle sound effects");
     work("High scores");
 
-    EXPECT_TRUE(session.sound);
-    EXPECT_TRUE(session.showingScores);
+    EXPECT_TRUE(session.sound());
+    EXPECT_TRUE(session.showingScores());
 }

@@ -11,31 +11,42 @@ namespace {
 /// In the smallest window everything has to find its room.
 class Fitting : public LookTest {
 protected:
+    using LookTest::LookTest;
+
     void expectTidyWindow() const { Tidiness::expectTidyWindow(window); }
 
     void expectTidySheet() {
         session.openScores();
         settle();
         Tidiness::expectTidySheet(window);
-        session.showingScores = false;
+        session.closeScores();
         settle();
-    }
-
-    void fillTableWithLongNames() {
-        fillTable({{QString(24, u'W'), 1234567},
-                   {QStringLiteral("🌿").repeated(24), 987654},
-                   {QStringLiteral("مريم بنت محمد العجلية الاسطرلابية").left(24), 54321},
-                   {QStringLiteral("Z̸͠o̴͝e̵͘").repeated(8), 1240},
-                   {QStringLiteral("ﷺ").repeated(24), 640},
-                   {QStringLiteral("👨‍👩‍👧‍👦").repeated(24), 90},
-                   {QStringLiteral("A"), 8},
-                   {QStringLiteral("B"), 7},
-                   {QStringLiteral("C"), 6},
-                   {QStringLiteral("D"), 0}});
     }
 };
 
+SavedScores tableOfLongNames() {
+    const auto repeated = [](const char* text, int count) {
+        return QString::fromUtf8(text).repeated(count).toStdString();
+    };
+    return {{std::string(24, 'W'), 1234567},
+            {repeated("🌿", 24), 987654},
+            {QStringLiteral("مريم بنت محمد العجلية الاسطرلابية").left(24).toStdString(), 54321},
+            {repeated("Z̸͠o̴͝e̵͘", 8), 1240},
+            {repeated("ﷺ", 24), 640},
+            {repeated("👨‍👩‍👧‍👦", 24), 90},
+            {"A", 8},
+            {"B", 7},
+            {"C", 6},
+            {"D", 0}};
+}
+
+class FittingLongNames : public Fitting {
+protected:
+    FittingLongNames() : Fitting(tableOfLongNames()) {}
+};
+
 INSTANTIATE_TEST_SUITE_P(Look, Fitting, ::testing::Values(QSize(820, 760)), nameOfSize);
+INSTANTIATE_TEST_SUITE_P(Look, FittingLongNames, ::testing::Values(QSize(820, 760)), nameOfSize);
 
 }  // namespace
 
@@ -56,8 +67,7 @@ TEST_P(Fitting, everythingFitsAfterARun) {
     expectTidyWindow();
 }
 
-TEST_P(Fitting, everythingFitsUnderAFullTableOfLongNames) {
-    fillTableWithLongNames();
+TEST_P(FittingLongNames, everythingFitsUnderAFullTableOfLongNames) {
     expectTidySheet();
     skipRun();
     expectTidyWindow();
@@ -67,8 +77,7 @@ TEST_P(Fitting, theSheetFitsWithAnEmptyTable) {
     expectTidySheet();
 }
 
-TEST_P(Fitting, rowsAreAsWideAsTheirBoardWhateverTheNames) {
-    fillTableWithLongNames();
+TEST_P(FittingLongNames, rowsAreAsWideAsTheirBoardWhateverTheNames) {
     session.openScores();
     settle();
 
@@ -88,8 +97,7 @@ TEST_P(Fitting, scoresOfOneToSevenDigitsKeepTheTilesApartAndTheRightEdgeStill) {
     for (const std::int64_t value : {7, 42, 123, 1234, 12345, 123456, 1234567}) {
         SCOPED_TRACE(value);
         score.setValue(value);
-        session.best = value;
-        settle();
+        setBest(value);
 
         expectTidyWindow();
         const QList<Garden::RollingDigits*> both = window.findChildren<Garden::RollingDigits*>();
@@ -102,8 +110,7 @@ TEST_P(Fitting, anotherDigitMovesNothingBelowTheHeader) {
     const QRectF board = boardFrame();
     const QRect hint = placeOf(label("or WASD to move"));
 
-    session.best = 1234567;
-    settle();
+    setBest(1234567);
 
     EXPECT_EQ(boardFrame(), board);
     EXPECT_EQ(placeOf(label("or WASD to move")), hint);
@@ -123,7 +130,7 @@ TEST_P(Fitting, aNameTooLongForItsFieldStaysInsideThePadding) {
 
     for (const QString& name :
          {QString(24, u'W'), QStringLiteral("🌿").repeated(24), QString(24, u'م')}) {
-        session.playerName = name;
+        session.editName(name);
         settle();
         EXPECT_EQ(placeOf(the<NameField>()), field);
         EXPECT_EQ(paddingOf(picture()), empty) << name.toStdString();

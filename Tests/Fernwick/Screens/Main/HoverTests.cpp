@@ -52,7 +52,7 @@ protected:
 }  // namespace
 
 TEST_F(Hover, everyControlThatCanBePressedAnswersInEveryState) {
-    for (const SessionState state : everyState) {
+    for (const Session::Phase state : everyState) {
         SCOPED_TRACE(state);
         arriveAt(state);
         expectAnswersIn(window);

@@ -17,7 +17,7 @@ const std::vector<Qt::Key> gameKeys{Qt::Key_Up,    Qt::Key_Down,   Qt::Key_Left,
 class Keys : public WindowTest {
 protected:
     /// Calls `check` in `state` with the keyboard on each control that Tab reaches, one by one.
-    void onEveryControl(SessionState state, const std::function<void()>& check) {
+    void onEveryControl(Session::Phase state, const std::function<void()>& check) {
         arriveAt(state);
         leaveFullScreen();
         const QStringList names = Keyboard::namesOf(Keyboard::tabStops(window));
@@ -34,9 +34,9 @@ protected:
 
     /// Expects that no control has taken a press for its own.
     void expectNoControlPressed() const {
-        EXPECT_TRUE(session.sound);
-        EXPECT_FALSE(session.showingScores);
-        EXPECT_EQ(session.pace, Pace::classic);
+        EXPECT_TRUE(session.sound());
+        EXPECT_FALSE(session.showingScores());
+        EXPECT_EQ(session.pace(), Pace::classic);
         EXPECT_TRUE(window.isVisible());
         EXPECT_EQ(window.windowState(), Qt::WindowNoState);
     }
@@ -67,14 +67,14 @@ INSTANTIATE_TEST_SUITE_P(On, KeysBeforeTheFirstRun,
 TEST_P(KeysBeforeTheFirstRun, spaceStartsIt) {
     press(Qt::Key_Space);
 
-    EXPECT_EQ(stateOf(session), SessionState::running);
+    EXPECT_EQ(session.phase(), Session::Phase::running);
     expectNoControlPressed();
 }
 
 TEST_P(KeysBeforeTheFirstRun, rStartsIt) {
     press(Qt::Key_R);
 
-    EXPECT_EQ(stateOf(session), SessionState::running);
+    EXPECT_EQ(session.phase(), Session::Phase::running);
     expectNoControlPressed();
 }
 
@@ -84,38 +84,38 @@ TEST_P(KeysBeforeTheFirstRun, theOthersDoNothing) {
         press(key);
     }
 
-    EXPECT_EQ(stateOf(session), SessionState::fresh);
+    EXPECT_EQ(session.phase(), Session::Phase::fresh);
     EXPECT_EQ(Screen::nameOf(QApplication::focusWidget()), GetParam());
     expectNoControlPressed();
 }
 
 TEST_F(Keys, spaceTakesABreathOnEveryControl) {
-    onEveryControl(SessionState::running, [this] {
+    onEveryControl(Session::Phase::running, [this] {
         press(Qt::Key_Space);
 
-        EXPECT_EQ(stateOf(session), SessionState::paused);
+        EXPECT_EQ(session.phase(), Session::Phase::paused);
         expectNoControlPressed();
     });
 }
 
 TEST_F(Keys, spaceGoesOnWithTheSameRunOnEveryControl) {
-    onEveryControl(SessionState::paused, [this] {
+    onEveryControl(Session::Phase::paused, [this] {
         const SnakeCore::UUID run = session.runID();
         press(Qt::Key_Space);
 
-        EXPECT_EQ(stateOf(session), SessionState::running);
+        EXPECT_EQ(session.phase(), Session::Phase::running);
         EXPECT_EQ(session.runID(), run);
         expectNoControlPressed();
     });
 }
 
 TEST_F(Keys, spacePlaysAgainOnEveryControl) {
-    for (const SessionState settled : {SessionState::saved, SessionState::skipped}) {
+    for (const Session::Phase settled : {Session::Phase::saved, Session::Phase::skipped}) {
         onEveryControl(settled, [this] {
             const SnakeCore::UUID run = session.runID();
             press(Qt::Key_Space);
 
-            EXPECT_EQ(stateOf(session), SessionState::running);
+            EXPECT_EQ(session.phase(), Session::Phase::running);
             EXPECT_NE(session.runID(), run);
             expectNoControlPressed();
         });
@@ -123,13 +123,13 @@ TEST_F(Keys, spacePlaysAgainOnEveryControl) {
 }
 
 TEST_F(Keys, rBeginsAnewOnEveryControl) {
-    for (const SessionState state : {SessionState::running, SessionState::paused,
-                                     SessionState::saved, SessionState::skipped}) {
+    for (const Session::Phase state : {Session::Phase::running, Session::Phase::paused,
+                                       Session::Phase::saved, Session::Phase::skipped}) {
         onEveryControl(state, [this] {
             const SnakeCore::UUID run = session.runID();
             press(Qt::Key_R);
 
-            EXPECT_EQ(stateOf(session), SessionState::running);
+            EXPECT_EQ(session.phase(), Session::Phase::running);
             EXPECT_NE(session.runID(), run);
             expectNoControlPressed();
         });
@@ -137,25 +137,25 @@ TEST_F(Keys, rBeginsAnewOnEveryControl) {
 }
 
 TEST_F(Keys, escapeOnlyPausesOnEveryControl) {
-    onEveryControl(SessionState::running, [this] {
+    onEveryControl(Session::Phase::running, [this] {
         press(Qt::Key_Escape);
-        EXPECT_EQ(stateOf(session), SessionState::paused);
+        EXPECT_EQ(session.phase(), Session::Phase::paused);
 
         press(Qt::Key_Escape);
-        EXPECT_EQ(stateOf(session), SessionState::paused);
+        EXPECT_EQ(session.phase(), Session::Phase::paused);
         expectNoControlPressed();
     });
 }
 
 TEST_F(Keys, arrowsTurnTheSnakeAndMoveNoFocus) {
-    onEveryControl(SessionState::running, [this] {
+    onEveryControl(Session::Phase::running, [this] {
         const QWidget* const focus = QApplication::focusWidget();
         press(Qt::Key_Up);
         fireTimer();
-        EXPECT_EQ(session.game->direction(), SnakeCore::Direction::up);
+        EXPECT_EQ(session.game().direction(), SnakeCore::Direction::up);
         press(Qt::Key_Left);
         fireTimer();
-        EXPECT_EQ(session.game->direction(), SnakeCore::Direction::left);
+        EXPECT_EQ(session.game().direction(), SnakeCore::Direction::left);
 
         EXPECT_EQ(QApplication::focusWidget(), focus);
         expectNoControlPressed();
@@ -163,17 +163,17 @@ TEST_F(Keys, arrowsTurnTheSnakeAndMoveNoFocus) {
 }
 
 TEST_F(Keys, arrowsDoNothingWhereNoSnakeMoves) {
-    for (const SessionState state : {SessionState::paused, SessionState::skipped}) {
+    for (const Session::Phase state : {Session::Phase::paused, Session::Phase::skipped}) {
         onEveryControl(state, [this, state] {
             const QWidget* const focus = QApplication::focusWidget();
-            const SnakeCore::Game before = session.game;
+            const SnakeCore::Game before = session.game();
             for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_Left, Qt::Key_Right,
                                       Qt::Key_W, Qt::Key_A, Qt::Key_S, Qt::Key_D}) {
                 press(key);
             }
 
-            EXPECT_EQ(stateOf(session), state);
-            EXPECT_EQ(session.game, before);
+            EXPECT_EQ(session.phase(), state);
+            EXPECT_EQ(session.game(), before);
             EXPECT_EQ(QApplication::focusWidget(), focus);
             expectNoControlPressed();
         });
@@ -181,52 +181,52 @@ TEST_F(Keys, arrowsDoNothingWhereNoSnakeMoves) {
 }
 
 TEST_F(Keys, returnDoesNothingWhileNoControlHasTheFocus) {
-    for (const SessionState state : {SessionState::running, SessionState::paused,
-                                     SessionState::saved, SessionState::skipped}) {
+    for (const Session::Phase state : {Session::Phase::running, Session::Phase::paused,
+                                       Session::Phase::saved, Session::Phase::skipped}) {
         arriveAt(state);
         window.setFocus();
         for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
             press(key);
         }
-        EXPECT_EQ(stateOf(session), state);
+        EXPECT_EQ(session.phase(), state);
     }
 }
 
 TEST_F(Keys, belongToTheNameFieldWhileANameIsAwaited) {
-    arriveAt(SessionState::awaitingName);
+    arriveAt(Session::Phase::awaitingName);
     for (const Qt::Key key : gameKeys) {
         press(key);
     }
 
-    EXPECT_EQ(stateOf(session), SessionState::awaitingName);
-    EXPECT_EQ(session.playerName, "wasd r");
+    EXPECT_EQ(session.phase(), Session::Phase::awaitingName);
+    EXPECT_EQ(session.playerName(), "wasd r");
     EXPECT_TRUE(window.findChild<NameField*>()->hasFocus());
 }
 
 TEST_F(Keys, startNoRunWhileANameIsAwaitedWhateverHasTheFocus) {
-    onEveryControl(SessionState::awaitingName, [this] {
+    onEveryControl(Session::Phase::awaitingName, [this] {
         const SnakeCore::UUID run = session.runID();
         for (const Qt::Key key : {Qt::Key_R, Qt::Key_Escape, Qt::Key_Up, Qt::Key_A}) {
             press(key);
         }
-        EXPECT_EQ(stateOf(session), SessionState::awaitingName);
+        EXPECT_EQ(session.phase(), Session::Phase::awaitingName);
         EXPECT_EQ(session.runID(), run);
-        session.playerName = QString();
+        session.editName(QString());
         settle();
     });
 }
 
 TEST_F(Keys, spacePressesTheButtonsOfTheForm) {
-    arriveAt(SessionState::awaitingName);
-    session.playerName = QStringLiteral("Ada");
+    arriveAt(Session::Phase::awaitingName);
+    session.editName(QStringLiteral("Ada"));
     settle();
     ASSERT_TRUE(Keyboard::tabTo(window, "Save score"));
     press(Qt::Key_Space);
-    EXPECT_EQ(stateOf(session), SessionState::saved);
+    EXPECT_EQ(session.phase(), Session::Phase::saved);
 
-    arriveAt(SessionState::running);
-    arriveAt(SessionState::awaitingName);
+    arriveAt(Session::Phase::running);
+    arriveAt(Session::Phase::awaitingName);
     ASSERT_TRUE(Keyboard::tabTo(window, "Skip saving"));
     press(Qt::Key_Space);
-    EXPECT_EQ(stateOf(session), SessionState::skipped);
+    EXPECT_EQ(session.phase(), Session::Phase::skipped);
 }

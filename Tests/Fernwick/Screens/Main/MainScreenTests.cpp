@@ -57,7 +57,7 @@ TEST_F(MainScreen, showsTheGameOverCardAfterTheEnd) {
 TEST_F(MainScreen, startsTheFirstRunFromTheCard) {
     press("Let's grow");
 
-    EXPECT_TRUE(session.running);
+    EXPECT_TRUE(session.running());
     EXPECT_TRUE(shows("IN THE FLOW"));
 }
 
@@ -67,7 +67,7 @@ TEST_F(MainScreen, resumesFromTheCard) {
 
     press("Keep growing");
 
-    EXPECT_TRUE(session.running);
+    EXPECT_TRUE(session.running());
     EXPECT_EQ(session.runID(), run);
 }
 
@@ -115,8 +115,8 @@ TEST_F(MainScreen, showsTheBestOfTheSpeedThatIsChosen) {
 
     press("Swift");
 
-    EXPECT_EQ(session.pace, Pace::swift);
-    EXPECT_EQ(session.best, 70);
+    EXPECT_EQ(session.pace(), Pace::swift);
+    EXPECT_EQ(session.best(), 70);
     EXPECT_TRUE(button("Swift")->isChecked());
     EXPECT_FALSE(button("Classic")->isChecked());
 }
@@ -139,18 +139,18 @@ TEST_F(MainScreen, pausesAndResumesByTheButton) {
     startRun();
 
     press("Pause or resume");
-    EXPECT_FALSE(session.running);
+    EXPECT_FALSE(session.running());
     press("Pause or resume");
-    EXPECT_TRUE(session.running);
+    EXPECT_TRUE(session.running());
 }
 
 TEST_F(MainScreen, switchesTheSoundByTheButton) {
     press("Toggle sound effects");
-    EXPECT_FALSE(session.sound);
+    EXPECT_FALSE(session.sound());
     EXPECT_EQ(onDisk().boolean("sound"), false);
 
     press("Toggle sound effects");
-    EXPECT_TRUE(session.sound);
+    EXPECT_TRUE(session.sound());
     EXPECT_EQ(onDisk().boolean("sound"), true);
 }
 
@@ -159,8 +159,8 @@ TEST_F(MainScreen, opensTheSheetByTheButtonAndPauses) {
 
     press("High scores");
 
-    EXPECT_FALSE(session.running);
-    EXPECT_TRUE(session.showingScores);
+    EXPECT_FALSE(session.running());
+    EXPECT_TRUE(session.showingScores());
     EXPECT_TRUE(shows("The high scores."));
 }
 
@@ -168,7 +168,7 @@ TEST_F(MainScreen, readsOutTheBoardWithItsScore) {
     EXPECT_TRUE(shows("Snake board. Score 0. Use arrow keys or W A S D to move."));
 
     session.start();
-    gatherFirstFruit();
+    eatFirstFruit();
     settle();
 
     EXPECT_TRUE(shows("Snake board. Score 10. Use arrow keys or W A S D to move."));

@@ -143,7 +143,7 @@ TEST_P(GameOverCardLook, asksForANameInAColumnOf400With14Between) {
     endRunAwaitingName();
     const std::vector<QRect> column{
         place("Game over."),
-        place(QStringLiteral("%1 POINTS  ·  Classic").arg(session.game->score())),
+        place(QStringLiteral("%1 POINTS  ·  Classic").arg(session.game().score())),
         place("Leave your name in the garden."),
         fieldPlace(),
         place("Up to 24 characters · saved on this Mac"),
@@ -161,7 +161,7 @@ TEST_P(GameOverCardLook, setsItsTexts) {
     endRunAwaitingName();
 
     expectLabel("Game over.", {Look::serif, 34, QFont::Normal}, Garden::primaryText);
-    expectLabel(QStringLiteral("%1 POINTS  ·  Classic").arg(session.game->score()),
+    expectLabel(QStringLiteral("%1 POINTS  ·  Classic").arg(session.game().score()),
                 {Look::sans, 11, QFont::Medium, 2}, mint);
     expectLabel("Leave your name in the garden.", {Look::sans, 14, QFont::Normal}, muted);
     expectLabel("Up to 24 characters · saved on this Mac", {Look::sans, 10, QFont::Normal}, muted);
@@ -173,7 +173,7 @@ TEST_P(GameOverCardLook, setsItsTexts) {
 
 TEST_P(GameOverCardLook, padsTheNameBy14) {
     endRunAwaitingName();
-    session.playerName = QStringLiteral("HHH");
+    session.editName(QStringLiteral("HHH"));
     settle();
     window.setFocus();
     const auto& field = the<NameField>();
@@ -194,7 +194,7 @@ TEST_P(GameOverCardLook, showsTheSavedRunOnABoardOf150) {
     saveRunAs("Ada");
     const std::vector<QRect> column{
         place("Game over."),
-        place(QStringLiteral("%1 POINTS  ·  Classic").arg(session.game->score())),
+        place(QStringLiteral("%1 POINTS  ·  Classic").arg(session.game().score())),
         place("Score saved · Top 10"),
         rows(),
         buttonPlace("Play again"),

@@ -11,7 +11,7 @@ protected:
     [[nodiscard]] NameField& field() const { return *window.findChild<NameField*>(); }
 
     [[nodiscard]] QString resultLine(const QString& pace) const {
-        return QStringLiteral("%1 POINTS  ·  %2").arg(session.game->score()).arg(pace);
+        return QStringLiteral("%1 POINTS  ·  %2").arg(session.game().score()).arg(pace);
     }
 
     void type(const QString& text) {
@@ -23,7 +23,7 @@ protected:
 }  // namespace
 
 TEST_F(GameOverCard, tellsHowTheRunEndedAndWhatItScored) {
-    session.pace = Pace::swift;
+    session.choosePace(Pace::swift);
     endRunAwaitingName();
 
     EXPECT_TRUE(shows("Game over."));
@@ -53,8 +53,8 @@ TEST_F(GameOverCard, takesLettersSpaceAndRAsPartOfTheName) {
 
     type("war r W");
 
-    EXPECT_EQ(session.playerName, "war r W");
-    EXPECT_TRUE(session.awaitingName);
+    EXPECT_EQ(session.playerName(), "war r W");
+    EXPECT_TRUE(session.awaitingName());
 }
 
 TEST_F(GameOverCard, takesALetterThatComesInTheTurnThatEndsTheRun) {
@@ -62,7 +62,7 @@ TEST_F(GameOverCard, takesALetterThatComesInTheTurnThatEndsTheRun) {
 
     QTest::keyClick(window.windowHandle(), Qt::Key_W);
 
-    EXPECT_EQ(session.playerName, "w");
+    EXPECT_EQ(session.playerName(), "w");
 }
 
 TEST_F(GameOverCard, savesOnlyANameThatIsMoreThanBlanks) {
@@ -84,7 +84,7 @@ TEST_F(GameOverCard, staysUpWhenReturnFindsNoName) {
     QTest::keyClick(&field(), Qt::Key_Return);
     settle();
 
-    EXPECT_TRUE(session.awaitingName);
+    EXPECT_TRUE(session.awaitingName());
     EXPECT_TRUE(shows("Leave your name in the garden."));
     EXPECT_EQ(field().text(), "  ");
     EXPECT_TRUE(field().hasFocus());
@@ -97,9 +97,9 @@ TEST_F(GameOverCard, savesByReturn) {
     QTest::keyClick(&field(), Qt::Key_Return);
     settle();
 
-    EXPECT_TRUE(session.savedRun);
+    EXPECT_TRUE(session.savedRun());
     EXPECT_EQ(onDisk().text("player-name"), "Ada");
-    EXPECT_FALSE(session.running);
+    EXPECT_FALSE(session.running());
 }
 
 TEST_F(GameOverCard, savesByTheButton) {
@@ -108,7 +108,7 @@ TEST_F(GameOverCard, savesByTheButton) {
 
     press("Save score");
 
-    EXPECT_TRUE(session.savedRun);
+    EXPECT_TRUE(session.savedRun());
 }
 
 TEST_F(GameOverCard, keepsNoMoreThan24Characters) {
@@ -117,7 +117,7 @@ TEST_F(GameOverCard, keepsNoMoreThan24Characters) {
     type(QString(25, u'x'));
 
     EXPECT_EQ(field().text(), QString(24, u'x'));
-    EXPECT_EQ(session.playerName, QString(24, u'x'));
+    EXPECT_EQ(session.playerName(), QString(24, u'x'));
 }
 
 TEST_F(GameOverCard, countsWhatThePlayerSeesAsOneCharacterAsOne) {
@@ -158,7 +158,7 @@ TEST_F(GameOverCard, showsTheBoardWithTheSavedRun) {
     saveRunAs("Ada");
 
     EXPECT_TRUE(shows("Score saved · Top 10"));
-    EXPECT_TRUE(shows(QStringLiteral("01 Ada %1").arg(session.game->score())));
+    EXPECT_TRUE(shows(QStringLiteral("01 Ada %1").arg(session.game().score())));
     EXPECT_TRUE(canPress("Play again"));
     EXPECT_TRUE(shows("SPACE TO PLAY AGAIN"));
     EXPECT_FALSE(shows("Save score"));
@@ -173,17 +173,17 @@ TEST_F(GameOverCard, showsThePlainBoardAfterSkipping) {
     EXPECT_TRUE(shows("Top 10"));
     EXPECT_FALSE(shows("Score saved · Top 10"));
     EXPECT_TRUE(shows("A fresh start. Be the first on the board."));
-    EXPECT_TRUE(session.scores->entries().empty());
+    EXPECT_TRUE(session.scores().entries().empty());
 }
 
 TEST_F(GameOverCard, showsTheBoardOfTheRunsPaceEvenWhenAnotherIsChosen) {
-    session.pace = Pace::swift;
+    session.choosePace(Pace::swift);
     saveRunAs("Ada");
 
     press("Gentle");
 
     EXPECT_TRUE(shows(resultLine("Swift")));
-    EXPECT_TRUE(shows(QStringLiteral("01 Ada %1").arg(session.game->score())));
+    EXPECT_TRUE(shows(QStringLiteral("01 Ada %1").arg(session.game().score())));
 }
 
 TEST_F(GameOverCard, playsAgainByTheButton) {
@@ -191,7 +191,7 @@ TEST_F(GameOverCard, playsAgainByTheButton) {
 
     press("Play again");
 
-    EXPECT_TRUE(session.running);
+    EXPECT_TRUE(session.running());
     EXPECT_FALSE(shows("Game over."));
 }
 
@@ -203,7 +203,7 @@ TEST_F(GameOverCard, playsAgainBySpaceRightAfterASave) {
 
     QTest::keyClick(&window, Qt::Key_Space);
 
-    EXPECT_TRUE(session.running);
+    EXPECT_TRUE(session.running());
 }
 
 TEST_F(GameOverCard, playsAgainBySpaceRightAfterSkippingByKeyboard) {
@@ -211,9 +211,9 @@ TEST_F(GameOverCard, playsAgainBySpaceRightAfterSkippingByKeyboard) {
     button("Skip saving")->setFocus(Qt::TabFocusReason);
     QTest::keyClick(button("Skip saving"), Qt::Key_Return);
     settle();
-    ASSERT_FALSE(session.awaitingName);
+    ASSERT_FALSE(session.awaitingName());
 
     QTest::keyClick(&window, Qt::Key_Space);
 
-    EXPECT_TRUE(session.running);
+    EXPECT_TRUE(session.running());
 }

@@ -46,7 +46,7 @@ TEST_F(HighScoresSheet, showsItsTexts) {
 }
 
 TEST_F(HighScoresSheet, opensOnTheChosenPace) {
-    session.pace = Pace::swift;
+    session.choosePace(Pace::swift);
 
     open();
 
@@ -56,7 +56,7 @@ TEST_F(HighScoresSheet, opensOnTheChosenPace) {
 
 TEST_F(HighScoresSheet, listsTheLeadersOfOnePace) {
     saveRunAs("Ada");
-    const QString row = QStringLiteral("01 Ada %1").arg(session.game->score());
+    const QString row = QStringLiteral("01 Ada %1").arg(session.game().score());
 
     open();
     EXPECT_TRUE(Screen::shows(*sheet(), row));
@@ -73,8 +73,8 @@ TEST_F(HighScoresSheet, switchesNothingButItsOwnPace) {
     speed("Swift")->click();
     settle();
 
-    EXPECT_EQ(session.scorePace, Pace::swift);
-    EXPECT_EQ(session.pace, Pace::classic);
+    EXPECT_EQ(session.scorePace(), Pace::swift);
+    EXPECT_EQ(session.pace(), Pace::classic);
 }
 
 TEST_F(HighScoresSheet, closesByDone) {
@@ -82,7 +82,7 @@ TEST_F(HighScoresSheet, closesByDone) {
 
     press("Done");
 
-    EXPECT_FALSE(session.showingScores);
+    EXPECT_FALSE(session.showingScores());
     EXPECT_FALSE(isUp());
 }
 
@@ -92,9 +92,9 @@ TEST_F(HighScoresSheet, closesByEscapeAndLeavesTheRunPaused) {
 
     pressKey(Qt::Key_Escape);
 
-    EXPECT_FALSE(session.showingScores);
+    EXPECT_FALSE(session.showingScores());
     EXPECT_FALSE(isUp());
-    EXPECT_FALSE(session.running);
+    EXPECT_FALSE(session.running());
 }
 
 TEST_F(HighScoresSheet, closesByAnEscapeThatComesInTheTurnThatOpensIt) {
@@ -103,21 +103,21 @@ TEST_F(HighScoresSheet, closesByAnEscapeThatComesInTheTurnThatOpensIt) {
     QTest::keyClick(window.windowHandle(), Qt::Key_Escape);
     settle();
 
-    EXPECT_FALSE(session.showingScores);
+    EXPECT_FALSE(session.showingScores());
     EXPECT_FALSE(isUp());
 }
 
 TEST_F(HighScoresSheet, takesEveryKeyFromTheGame) {
     startRun();
     open();
-    const SnakeCore::Game before = session.game;
+    const SnakeCore::Game before = session.game();
 
     for (const Qt::Key key : {Qt::Key_Space, Qt::Key_R, Qt::Key_Up, Qt::Key_A}) {
         pressKey(key);
     }
 
-    EXPECT_EQ(session.game, before);
-    EXPECT_FALSE(session.running);
+    EXPECT_EQ(session.game(), before);
+    EXPECT_FALSE(session.running());
 }
 
 TEST_F(HighScoresSheet, keepsTheKeyboardFocusInside) {
@@ -141,7 +141,7 @@ TEST_F(HighScoresSheet, givesTheFocusBackToTheNameField) {
     pressKey(Qt::Key_Escape);
 
     EXPECT_TRUE(window.findChild<NameField*>()->hasFocus());
-    EXPECT_TRUE(session.awaitingName);
+    EXPECT_TRUE(session.awaitingName());
 }
 
 TEST_F(HighScoresSheet, keepsItsWidthWhateverTheNames) {

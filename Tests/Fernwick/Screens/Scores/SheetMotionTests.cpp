@@ -17,16 +17,6 @@ namespace {
 /// The sheet of high scores while it comes and goes.
 class SheetMotion : public WindowTest {
 protected:
-    void open() {
-        session.openScores();
-        Q_EMIT session.refreshDue();
-    }
-
-    void close() {
-        session.showingScores = false;
-        Q_EMIT session.refreshDue();
-    }
-
     [[nodiscard]] QVariantAnimation& motion() const {
         return *window.findChild<SheetShade*>()->findChild<QVariantAnimation*>();
     }
@@ -39,7 +29,7 @@ protected:
     }
 
     void openAndWait() {
-        open();
+        session.openScores();
         waitUntilStill();
     }
 
@@ -68,7 +58,7 @@ protected:
 
 TEST_F(SheetMotion, comesOutOfWhatLiesBehind) {
     const QImage before = picture();
-    open();
+    session.openScores();
     const QColor behind = plainSheet(before);
     holdHalfway();
     const QColor halfway = plainSheet(picture());
@@ -82,7 +72,7 @@ TEST_F(SheetMotion, comesOutOfWhatLiesBehind) {
 }
 
 TEST_F(SheetMotion, risesALittleAsItComes) {
-    open();
+    session.openScores();
     holdHalfway();
     const QImage halfway = picture();
     motion().resume();
@@ -105,21 +95,21 @@ TEST_F(SheetMotion, risesALittleAsItComes) {
 }
 
 TEST_F(SheetMotion, takesClicksAndKeysBeforeItHasCome) {
-    open();
+    session.openScores();
     holdHalfway();
 
     click(*Screen::button(sheet(), "Swift"));
-    EXPECT_EQ(session.scorePace, Pace::swift);
+    EXPECT_EQ(session.scorePace(), Pace::swift);
     Keyboard::press(window, Qt::Key_Tab);
     EXPECT_TRUE(sheet().isAncestorOf(window.focusWidget()));
     Keyboard::press(window, Qt::Key_Escape);
-    EXPECT_FALSE(session.showingScores);
+    EXPECT_FALSE(session.showingScores());
 }
 
 TEST_F(SheetMotion, beginsToGoAsItStood) {
     openAndWait();
     const QImage up = picture();
-    close();
+    session.closeScores();
     holdHalfway();
     motion().setCurrentTime(motion().duration());
     const QImage leaving = picture();
@@ -136,7 +126,7 @@ TEST_F(SheetMotion, beginsToGoAsItStood) {
 TEST_F(SheetMotion, leavesWhatLiesBehindAsItWas) {
     const QImage before = picture();
     openAndWait();
-    close();
+    session.closeScores();
     holdHalfway();
     EXPECT_NE(picture(), before);
 
@@ -150,28 +140,28 @@ TEST_F(SheetMotion, lingersForTheEyeAloneOnceClosed) {
     pauseRun();
     openAndWait();
     const QColor up = plainSheet(picture());
-    close();
+    session.closeScores();
     holdHalfway();
 
     EXPECT_FALSE(sheet().isVisible());
     EXPECT_NE(plainSheet(picture()), up);
     Keyboard::press(window, Qt::Key_Space);
-    EXPECT_TRUE(session.running);
+    EXPECT_TRUE(session.running());
     Keyboard::press(window, Qt::Key_Escape);
-    EXPECT_FALSE(session.running);
+    EXPECT_FALSE(session.running());
     click(*button("Keep growing"));
-    EXPECT_TRUE(session.running);
+    EXPECT_TRUE(session.running());
 }
 
 TEST_F(SheetMotion, givesTheFocusBackBeforeItHasGone) {
     endRunAwaitingName();
     openAndWait();
-    close();
+    session.closeScores();
     holdHalfway();
 
     EXPECT_TRUE(window.findChild<NameField*>()->hasFocus());
     Keyboard::press(window, Qt::Key_R);
-    EXPECT_EQ(session.playerName, "r");
+    EXPECT_EQ(session.playerName(), "r");
 }
 
 TEST_F(SheetMotion, turnsRoundOnItsWay) {
@@ -179,17 +169,17 @@ TEST_F(SheetMotion, turnsRoundOnItsWay) {
     openAndWait();
     const QImage up = picture();
 
-    close();
+    session.closeScores();
     holdHalfway();
     motion().resume();
-    open();
+    session.openScores();
     EXPECT_TRUE(sheet().isVisible());
     waitUntilStill();
     EXPECT_EQ(picture(), up);
 
-    close();
-    open();
-    close();
+    session.closeScores();
+    session.openScores();
+    session.closeScores();
     waitUntilStill();
     EXPECT_EQ(picture(), before);
 }
@@ -197,7 +187,7 @@ TEST_F(SheetMotion, turnsRoundOnItsWay) {
 TEST_F(SheetMotion, leavesNothingInAWindowThatIsResizedMeanwhile) {
     leaveFullScreen();
     openAndWait();
-    close();
+    session.closeScores();
     holdHalfway();
     motion().resume();
     window.resize(1000, 900);
@@ -211,12 +201,12 @@ TEST_F(SheetMotion, wakesTheProcessorOnlyOnItsWay) {
     settle();
     EXPECT_LE(wakeups(200), idleWakeups);
 
-    open();
+    session.openScores();
     EXPECT_GT(wakeups(200), idleWakeups);
     waitUntilStill();
     EXPECT_LE(wakeups(200), idleWakeups);
 
-    close();
+    session.closeScores();
     EXPECT_GT(wakeups(200), idleWakeups);
     waitUntilStill();
     EXPECT_LE(wakeups(200), idleWakeups);
@@ -227,10 +217,10 @@ TEST_F(SheetMotion, isNoneUnderReducedMotion) {
     settle();
     const QImage before = picture();
 
-    open();
+    session.openScores();
     EXPECT_TRUE(isStill());
     Look::expectColour(plainSheet(picture()), Garden::night, 0);
-    close();
+    session.closeScores();
     EXPECT_TRUE(isStill());
     settle();
 
