@@ -17,8 +17,8 @@ constexpr double disabledOpacity = 0.45;
 
 constexpr auto ourStyle = "Fusion";
 
-/// One of the style's own icons, loaded when it is to be seen. The first one loads the toolkit's
-/// picture formats, which nothing else here needs.
+/// A standard icon of the style, loaded when it is first painted. Loading one initialises Qt's
+/// image format plugins, which nothing else at start-up needs.
 class LateIcon : public QIconEngine {
 public:
     explicit LateIcon(QStyle::StandardPixmap which) : which_(which) {}
@@ -44,7 +44,7 @@ public:
 
     [[nodiscard]] QIcon standardIcon(StandardPixmap which, const QStyleOption* option,
                                      const QWidget* widget) const override {
-        // Every menu bar asks for it in advance, for the case that its titles find no room.
+        // Every QMenuBar asks for this icon when it is made.
         return which == SP_ToolBarHorizontalExtensionButton
                    ? QIcon(new LateIcon(which))
                    : QProxyStyle::standardIcon(which, option, widget);
@@ -70,13 +70,12 @@ QPalette gardenPalette() {
 }  // namespace
 
 void applyGardenStyle() {
-    // One style everywhere: a desktop's own would bring its light controls into the night.
+    // The same style on every desktop: a native one could bring light controls.
     QApplication::setStyle(new GardenStyle);
     const QPalette colours = gardenPalette();
     QApplication::setPalette(colours);
     QApplication::setFont(Garden::sans(fontSize, QFont::Normal));
-    // A caret that stands still, like all else that waits: a blinking one would wake the processor
-    // for as long as a name is asked for.
+    // No blinking caret: it would wake the processor for as long as the name field is up.
     QApplication::setCursorFlashTime(0);
     QToolTip::setPalette(colours);
     QToolTip::setFont(Garden::sans(toolTipFontSize, QFont::Normal));

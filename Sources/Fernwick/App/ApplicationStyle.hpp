@@ -1,5 +1,5 @@
 #pragma once
 
-/// Gives the application its one, dark appearance: style, colours and font of everything that is
-/// not drawn by the garden itself (menus, tool tips, text selection).
+/// Sets the dark style, palette and font of whatever the garden's own widgets do not paint: menus,
+/// tool tips, text selection.
 void applyGardenStyle();

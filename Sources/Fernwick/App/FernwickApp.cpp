@@ -18,7 +18,7 @@ void FernwickApp::show() {
 
 void FernwickApp::bringForward(const QByteArray& activationToken) {
     if (!activationToken.isEmpty()) {
-        // Where the toolkit looks for it when a window is to be activated under Wayland.
+        // Qt 6.4's Wayland plugin takes the token from here when it activates a window.
         qputenv("XDG_ACTIVATION_TOKEN", activationToken);
     }
     window_.setWindowState(window_.windowState() & ~Qt::WindowMinimized);

@@ -9,7 +9,7 @@
 class Preferences;
 class SoundEffects;
 
-/// The application around its one session and its one window, from launch to exit.
+/// The application from launch to exit: owns the session, the key monitor and the window.
 class FernwickApp : public QObject {
     Q_OBJECT
 
@@ -17,10 +17,10 @@ public:
     /// Both references must outlive it.
     FernwickApp(Preferences& preferences, SoundEffects& soundEffects);
 
-    /// Shows the window, starts to watch the keys and brings the game to the front.
+    /// Shows the window and brings it to the front.
     void show();
-    /// Brings the window to the front, also one that is minimised. `activationToken` is what the
-    /// desktop gave whoever asks for it; may be empty.
+    /// Brings the window to the front, also from minimised. `activationToken` is the desktop's
+    /// permission to do so (xdg-activation or startup notification); may be empty.
     void bringForward(const QByteArray& activationToken);
 
     [[nodiscard]] Session& session() { return session_; }

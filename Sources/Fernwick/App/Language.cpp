@@ -9,9 +9,9 @@ namespace {
 const QString catalogueFolder = QStringLiteral(":/translations");
 const QString catalogueStem = QStringLiteral("fernwick_");
 
-// What the game shows of the toolkit's own texts: the menu of the name field, the keys that stand
-// in menus, and what is said of buttons. The toolkit looks them up under these contexts.
-[[maybe_unused]] constexpr const char* toolkitTexts[] = {
+// Qt's own texts that the game shows: the context menu of the name field, key names in menus, and
+// accessible actions of buttons. Qt looks them up under these contexts.
+[[maybe_unused]] constexpr const char* qtTexts[] = {
     //: The menu of a text field, worded as the desktops of the language do.
     QT_TRANSLATE_NOOP("QLineEdit", "&Undo"),
     QT_TRANSLATE_NOOP("QLineEdit", "&Redo"),
@@ -29,7 +29,7 @@ const QString catalogueStem = QStringLiteral("fernwick_");
     QT_TRANSLATE_NOOP("QAccessibleActionInterface", "Triggers the action"),
 };
 
-// Another country's way of writing is understood; another script is not.
+// Readers understand another country's variant of their language, but not another script.
 bool understands(const QLocale& reader, const QLocale& text) {
     return reader.language() == text.language() && reader.script() == text.script();
 }
@@ -65,7 +65,7 @@ Language::Language(const QString& name) {
         QCoreApplication::installTranslator(&texts_);
     }
     const QLocale locale(name.isEmpty() ? QStringLiteral("en") : name);
-    // The fonts look here for the letters they are to go with.
+    // Garden's fonts choose their fallback families by the default locale.
     QLocale::setDefault(locale);
     QGuiApplication::setLayoutDirection(locale.textDirection());
 }

@@ -4,16 +4,16 @@
 #include <QStringList>
 #include <QTranslator>
 
-/// The language that the game speaks while this lives: its texts, and the side that lines and rows
-/// begin at. To be made before the first text is.
+/// Installs a language for the lifetime of the object: the translated texts, the default locale and
+/// the layout direction. Make it before the first widget.
 class Language {
 public:
-    /// The languages the game has a catalogue of, as locale names ("de", "pt_BR"). English, the
-    /// language of the source, has none.
+    /// The locale names of the catalogues ("de", "pt_BR"). English, the language of the sources,
+    /// has none.
     [[nodiscard]] static QStringList translated();
 
-    /// The name of the catalogue that serves `wanted` best: locale names, the dearest first, such
-    /// as those of `QLocale::uiLanguages()`. Empty for English, also when no other is known.
+    /// The catalogue for the first of the `wanted` locale names (as `QLocale::uiLanguages()` lists
+    /// them) that there is one for. Empty for English and when there is none.
     [[nodiscard]] static QString bestFor(const QStringList& wanted);
 
     /// `name` is one of `translated()`, or empty for English.

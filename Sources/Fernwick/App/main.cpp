@@ -1,10 +1,10 @@
 #include <QApplication>
 #include <QLocale>
+#include <cstdlib>
 
 #include "App/ApplicationStyle.hpp"
 #include "App/FernwickApp.hpp"
 #include "App/Language.hpp"
-#include "App/TrimHeap.hpp"
 #include "Desktop/DBusActivation.hpp"
 #include "Desktop/Environment.hpp"
 #include "Desktop/QtMessages.hpp"
@@ -13,11 +13,21 @@
 #include "Sound/PulseSoundEffects.hpp"
 #include "Storage/PreferencesFile.hpp"
 
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
 namespace {
 
-/// The name by which the desktop knows the game: its windows, its place on the session bus, its
-/// sounds, and the files that are installed with it.
+/// Names the desktop entry, the icon, the D-Bus service and the sounds.
 const QString applicationID = QStringLiteral("org.fernwick.fernwick");
+
+/// Returns free heap pages to the OS. Making the window needs several megabytes once.
+void trimHeap() {
+#ifdef __GLIBC__
+    ::malloc_trim(0);
+#endif
+}
 
 }  // namespace
 
@@ -30,7 +40,7 @@ int main(int, char* argv[]) {
     }
     Desktop::prepareEnvironment();
     keepToolkitQuiet();
-    // The program takes no command line; only its own name reaches the toolkit.
+    // There is no command line: Qt gets the program's name only.
     int count = 1;
     QApplication application(count, argv);
     QApplication::setApplicationName(QStringLiteral("fernwick"));

@@ -16,7 +16,7 @@ inline constexpr std::array allPaces{Pace::gentle, Pace::classic, Pace::swift};
 /// The capitalised word that names a pace in the stored scores and settings ("Gentle").
 [[nodiscard]] std::string_view rawValue(Pace pace);
 
-/// The pace of exactly this word; nothing for any other text, also in another case.
+/// The pace with exactly this raw value (case-sensitive), if any.
 [[nodiscard]] std::optional<Pace> paceFromRawValue(std::string_view text);
 
 /// The time between two steps of the snake.
@@ -25,7 +25,7 @@ inline constexpr std::array allPaces{Pace::gentle, Pace::classic, Pace::swift};
 /// The settings key of the personal best of a pace ("best-Gentle").
 [[nodiscard]] QString bestKey(Pace pace);
 
-/// The word that names a pace on the screen, in the player's language.
+/// The translated name of a pace.
 [[nodiscard]] QString displayName(Pace pace);
 
 /// The display names of all paces, in their order.

@@ -6,8 +6,8 @@
 #include <cstdint>
 #include <optional>
 
-/// The player's stored settings: a typed key-value store that outlives the process.
-/// Types are kept apart: text under a key is never read as a Bool, nor a Bool as a number.
+/// The stored settings: a persistent, typed key-value store. A value is read only as the type it
+/// was stored with: text is never read as a Bool, nor a Bool as a number.
 class Preferences {
 public:
     virtual ~Preferences() = default;
@@ -18,9 +18,9 @@ public:
     [[nodiscard]] std::optional<QString> text(const QString& key) const;
     [[nodiscard]] std::optional<QByteArray> bytes(const QString& key) const;
 
-    /// Stores `value` under `key`, leaving every other key as it is. True when the value will be
-    /// found again at the next start; false when it could not be stored, in which case what was
-    /// stored before still stands and reading gives the new value until the process ends.
+    /// Stores `value` under `key` and leaves every other key alone. True when the value is durable.
+    /// False when it could not be stored: the file keeps the old value, and this process reads the
+    /// new one.
     virtual bool store(const QString& key, const QCborValue& value) = 0;
 
 protected:

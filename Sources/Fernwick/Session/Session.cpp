@@ -88,7 +88,7 @@ void Session::saveScore() {
     try {
         preferences_.store(highScoresKey, QByteArray::fromStdString(scores_.encoded()));
     } catch (const std::exception&) {
-        // The table in memory stays ahead of the stored one until the next save that succeeds.
+        // The next save that succeeds stores this entry, too.
     }
     playerName_ = QString::fromStdString(SnakeCore::HighScores::cleanName(name));
     preferences_.store(playerNameKey, playerName_);

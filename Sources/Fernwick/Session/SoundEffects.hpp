@@ -1,14 +1,14 @@
 #pragma once
 
-/// The two sounds of the garden: "Pop" when a fruit is gathered, "Tink" when a run ends.
+/// "Pop" when a fruit is eaten, "Tink" when a run ends.
 enum class SoundEffect { pop, tink };
 
-/// Plays sound effects without ever making the caller wait.
+/// Plays sound effects without blocking.
 class SoundEffects {
 public:
     virtual ~SoundEffects() = default;
 
-    /// Starts `effect` and returns at once; effects may overlap. Where no sound can be played
-    /// nothing happens and nothing is reported.
+    /// Starts `effect` and returns at once; effects may overlap. Does nothing where no sound can be
+    /// played.
     virtual void play(SoundEffect effect) = 0;
 };

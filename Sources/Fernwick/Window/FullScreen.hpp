@@ -1,5 +1,5 @@
 #pragma once
 
-/// Takes the active window to full screen or back; without an active one, the first visible window
-/// that can be a main window; without any, does nothing.
+/// Toggles full screen for the active window, or for the first visible main window when none is
+/// active. Does nothing without either.
 void toggleFullScreen();

@@ -8,6 +8,7 @@
 #include "Garden/Look/Icons.hpp"
 #include "Screens/Main/ContentView.hpp"
 #include "Window/LaunchView.hpp"
+#include "Window/Log.hpp"
 #include "Window/MenuCommands.hpp"
 #include "Window/TitleBand.hpp"
 #include "Window/WindowChrome.hpp"
@@ -17,7 +18,7 @@ namespace {
 constexpr QSize defaultSize(940, 860);
 constexpr QSize smallestSize(820, 760);
 
-// A screen reader follows windows; the toolkit calls one that is a plain widget a mere filler.
+// Qt gives a plain QWidget the role "filler", and screen readers only follow windows.
 QAccessibleInterface* createAccessible(const QString&, QObject* object) {
     auto* window = qobject_cast<GameWindow*>(object);
     return window == nullptr ? nullptr : new QAccessibleWidget(window, QAccessible::Window);
@@ -28,7 +29,7 @@ QAccessibleInterface* createAccessible(const QString&, QObject* object) {
 GameWindow::GameWindow(Session& session)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint),
       band_(new TitleBand(this)),
-      content_(new ContentView(session, this)) {
+      content_(new ContentView(session, TitleBand::height, this)) {
     QAccessible::installFactory(createAccessible);
     setObjectName(QStringLiteral("main"));
     //: The name of the game. Stays as it is in every language.
@@ -39,7 +40,7 @@ GameWindow::GameWindow(Session& session)
     setAttribute(Qt::WA_OpaquePaintEvent);
 
     band_->raise();
-    // Until a player asks for one with Tab, no control holds the keyboard.
+    // No control has the focus until the player presses Tab.
     setFocus();
 
     new LaunchView(this);
@@ -48,7 +49,7 @@ GameWindow::GameWindow(Session& session)
     new WindowChrome(*this, TitleBand::height);
     band_->watchWindow();
     connect(content_, &ContentView::appeared, this, &GameWindow::appeared, Qt::QueuedConnection);
-    // Drawn at eight sizes, which takes longer than a frame.
+    // Rendering its eight sizes takes longer than a frame.
     connect(this, &GameWindow::appeared, this,
             [this] { setWindowIcon(Garden::applicationIcon()); });
 }
@@ -58,16 +59,20 @@ bool GameWindow::coversScreen() const {
 }
 
 void GameWindow::changeEvent(QEvent* event) {
-    // A window that covers a small screen must not outgrow it: a Wayland desktop ends the program
-    // for that.
-    if (event->type() == QEvent::WindowStateChange && coversScreen()) {
-        setMinimumSize(QSize(0, 0));
+    if (event->type() == QEvent::WindowStateChange) {
+        qCDebug(windowLog) << windowState() << size();
+        // On a small screen the minimum size would exceed the size that the compositor asks for,
+        // which is a protocol error in xdg-shell and ends the program.
+        if (coversScreen()) {
+            setMinimumSize(QSize(0, 0));
+        }
     }
     QWidget::changeEvent(event);
 }
 
 void GameWindow::resizeEvent(QResizeEvent* event) {
-    // No sooner: until the desktop has let it go, the window still has the screen's size.
+    qCDebug(windowLog) << "resized from" << event->oldSize() << "to" << event->size();
+    // Not in changeEvent: the window still has the screen's size there.
     if (!coversScreen()) {
         setMinimumSize(smallestSize);
     }

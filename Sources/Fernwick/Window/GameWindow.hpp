@@ -6,7 +6,7 @@ class ContentView;
 class TitleBand;
 class Session;
 
-/// The one window: no title bar, the main screen as its content, the menu band above it.
+/// The main window: frameless, filled by the main screen, with the title band on top of it.
 class GameWindow : public QWidget {
     Q_OBJECT
 
@@ -14,7 +14,7 @@ public:
     explicit GameWindow(Session& session);
 
 Q_SIGNALS:
-    /// The first frame is on its way to the screen; what it did not need can be done now.
+    /// The first frame has been painted. Work that it did not need starts here.
     void appeared();
 
 protected:

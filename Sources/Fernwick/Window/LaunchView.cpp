@@ -7,17 +7,18 @@
 #include <chrono>
 
 #include "Session/MainThread.hpp"
+#include "Window/Log.hpp"
 
 namespace {
 
-/// A frame at the first size would never be seen, and the first one in full screen would wait for
-/// it: nothing is painted until the window has its new size, or the desktop takes too long.
-class PaintsOnceResized : public QObject {
+/// Holds back painting until the window has its full-screen size, or until a timeout: a frame at
+/// the first size would be thrown away and delay the first one that is seen.
+class PaintAfterResize : public QObject {
 public:
-    explicit PaintsOnceResized(QWidget& window) : QObject(&window), window_(window) {
+    explicit PaintAfterResize(QWidget& window) : QObject(&window), window_(window) {
         window.setUpdatesEnabled(false);
         window.installEventFilter(this);
-        QTimer::singleShot(patience, this, &PaintsOnceResized::giveUp);
+        QTimer::singleShot(patience, this, &PaintAfterResize::giveUp);
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
@@ -31,8 +32,9 @@ private:
     static constexpr std::chrono::milliseconds patience{100};
 
     void giveUp() {
+        qCDebug(windowLog) << "no full-screen size after" << patience.count() << "ms";
         paint();
-        // What was to be painted is known already and would not be asked for anew.
+        // The pending update was dropped while updates were disabled.
         window_.repaint();
     }
 
@@ -58,13 +60,14 @@ void LaunchView::showEvent(QShowEvent* event) {
         return;
     }
     configured_ = true;
-    // The wait lets the window finish appearing before it is asked to grow.
+    // Queued, so that the window is shown before it changes its state.
     QMetaObject::invokeMethod(
         QCoreApplication::instance(),
         [window = QPointer<QWidget>(this->window())] {
             assertMainThread();
             if (!window.isNull() && !window->isFullScreen()) {
-                new PaintsOnceResized(*window);
+                qCDebug(windowLog) << "requesting full screen";
+                new PaintAfterResize(*window);
                 window->setWindowState(window->windowState() | Qt::WindowFullScreen);
             }
         },

@@ -2,9 +2,8 @@
 
 #include <QWidget>
 
-/// An invisible view that takes the window it is put into to full screen, once: on the turn of the
-/// event loop after the window is shown, unless it is in full screen by then. A player who leaves
-/// full screen afterwards stays out of it.
+/// An invisible widget that puts its window into full screen once: on the first turn of the event
+/// loop after the window is shown, unless it is in full screen already.
 class LaunchView : public QWidget {
     Q_OBJECT
 

@@ -24,7 +24,7 @@ QAction* MenuCommands::add(QMenu& menu, const QString& title, const QList<QKeySe
                            std::function<void()> action) {
     QAction* item = menu.addAction(title);
     item->setShortcuts(shortcuts);
-    // Known to the window too, so that the shortcut lives on while the bar is hidden.
+    // A hidden menu bar has no shortcuts; the window has them too.
     window_.addAction(item);
     connect(item, &QAction::triggered, this, [action = std::move(action)] {
         assertMainThread();

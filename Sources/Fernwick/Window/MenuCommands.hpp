@@ -11,13 +11,13 @@ class QMenuBar;
 class QWidget;
 class Session;
 
-/// The commands of the File and Game menus: their titles, shortcuts and when each can be chosen.
+/// The actions of the File and Game menus: titles, shortcuts and when each is enabled.
 class MenuCommands : public QObject {
     Q_OBJECT
 
 public:
-    /// Fills `bar`, which must live inside `window`. The shortcuts work whether or not the bar is
-    /// to be seen.
+    /// Adds the menus to `bar`, a child of `window`. The shortcuts work while the bar is hidden,
+    /// too.
     MenuCommands(Session& session, QMenuBar& bar, QWidget& window);
 
 private:

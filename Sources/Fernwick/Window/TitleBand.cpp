@@ -22,7 +22,7 @@ constexpr int markSpacing = 8;
 TitleBand::TitleBand(QWidget* window) : QWidget(window), menuBar_(new QMenuBar(this)) {
     styleMenuBar(*menuBar_);
     auto* row = new QHBoxLayout(this);
-    // The first title's letters, not its plate, begin where the rows below begin.
+    // The first title's text, rather than its hover plate, lines up with the rows below.
     QMargins margins(leftMargin - menuItemPadding - menuItemSpacing, 0, rightMargin, 0);
     if (isRightToLeft()) {
         margins = {margins.right(), 0, margins.left(), 0};
@@ -122,7 +122,7 @@ bool TitleBand::followKeys(const QKeyEvent& event) {
         }
         return false;
     }
-    // While it is to be seen, the menu bar answers Alt by itself.
+    // QMenuBar handles Alt itself while it is visible.
     if (isAlt && altAlone_ && menuBar_->isHidden()) {
         openFirstMenu();
         return true;

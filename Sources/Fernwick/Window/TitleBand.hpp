@@ -11,21 +11,21 @@ namespace Garden {
 class IconButton;
 }
 
-/// The strip at the top of the window: the menu bar at its left, quiet marks to minimise, maximise
-/// and close at its right. In full screen the marks are gone, and the menu bar stays away until
-/// the pointer touches the top edge, or Alt or F10 is pressed.
+/// The strip at the top of the window: the menu bar on the left; minimise, maximise and close
+/// buttons on the right. In full screen the buttons are hidden, and the menu bar appears when the
+/// pointer touches the top edge or the player presses Alt or F10.
 class TitleBand : public QWidget {
     Q_OBJECT
 
 public:
-    /// Also the room the window's content leaves free at the top, in points.
+    /// In points. The main screen leaves this much free at its top.
     static constexpr int height = 46;
 
     explicit TitleBand(QWidget* window);
 
     [[nodiscard]] QMenuBar& menuBar() { return *menuBar_; }
 
-    /// Starts to watch the pointer and the keys; the window must have been created.
+    /// Starts to follow the pointer and the keys. The window must have a native handle.
     void watchWindow();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -45,8 +45,7 @@ private:
     QMenuBar* menuBar_;
     QList<Garden::IconButton*> marks_;
     Garden::IconButton* maximize_ = nullptr;
-    // Alt went down and nothing else has been pressed since.
+    // Alt is down and nothing else has been pressed since.
     bool altAlone_ = false;
-    // The pointer stands in the band, in points from the top of the window.
     bool pointerInBand_ = false;
 };

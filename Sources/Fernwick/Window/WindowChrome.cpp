@@ -9,7 +9,7 @@
 
 namespace {
 
-// Wide enough to hit, narrow enough to stay inside the window's empty margins.
+// In points: easy to hit, and still inside the window's empty margins.
 constexpr int gripWidth = 6;
 
 Qt::CursorShape cursorFor(Qt::Edges edges) {
@@ -26,7 +26,7 @@ Qt::CursorShape cursorFor(Qt::Edges edges) {
 
 WindowChrome::WindowChrome(QWidget& window, int bandHeight)
     : QObject(&window), window_(window), handle_(window.windowHandle()), bandHeight_(bandHeight) {
-    // Watched at the window's handle: it sees the pointer before any child takes the event.
+    // The QWindow gets pointer events before any child widget.
     handle_->installEventFilter(this);
 }
 
@@ -72,8 +72,8 @@ bool WindowChrome::press(const QMouseEvent& event) {
     return takesHold;
 }
 
-// The window manager takes over only once the pointer is dragged: it never hears of the release of
-// a mere click, and would hold on to the window.
+// Starts only once the pointer has moved: after a plain click the window manager would never see
+// the button's release and keep dragging.
 bool WindowChrome::drag(const QMouseEvent& event) {
     const QPoint position = event.position().toPoint();
     if (!held_ || !event.buttons().testFlag(Qt::LeftButton) ||

@@ -9,17 +9,17 @@ class QMouseEvent;
 class QWidget;
 class QWindow;
 
-/// Moves and resizes a window without a title bar: its top band drags it, a double click there
-/// maximises, its edges resize. Does nothing in full screen.
+/// Moves and resizes a frameless window: its top band drags it, a double click there maximises it,
+/// its edges resize it. Does nothing in full screen.
 class WindowChrome : public QObject {
     Q_OBJECT
 
 public:
-    /// `window` must have been created (it has a window handle); `bandHeight` is in points.
+    /// `window` must have a native handle; `bandHeight` is in points.
     WindowChrome(QWidget& window, int bandHeight);
 
-    /// The edges a press at `position` (points, in the window) takes hold of; none in full screen,
-    /// when maximised or away from the edges.
+    /// The edges that a press at `position` (in points, in the window) would resize; none in full
+    /// screen, when maximised, or away from the edges.
     [[nodiscard]] Qt::Edges edgesAt(const QPoint& position) const;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -34,6 +34,6 @@ private:
     QPointer<QWindow> handle_;
     int bandHeight_;
     Qt::Edges hovered_;
-    // Where the band or an edge has been taken hold of, in points.
+    // Where the band or an edge was pressed, in points.
     std::optional<QPoint> held_;
 };

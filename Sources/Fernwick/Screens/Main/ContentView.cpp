@@ -10,21 +10,19 @@
 #include "Screens/Main/HintRow.hpp"
 #include "Screens/Main/WidgetPixels.hpp"
 #include "Screens/Scores/SheetLayer.hpp"
-#include "Window/TitleBand.hpp"
 
 namespace {
 
 constexpr int rowSpacing = 23;
 constexpr int sidePadding = 38;
-constexpr int topPadding = TitleBand::height;
 constexpr int bottomPadding = 26;
 
 }  // namespace
 
-ContentView::ContentView(Session& session, QWidget* parent)
+ContentView::ContentView(Session& session, int topPadding, QWidget* parent)
     : QWidget(parent), boardArea_(new BoardArea(session, backdrop_)) {
     setAttribute(Qt::WA_OpaquePaintEvent);
-    // In the order of sight, which is the order of Tab too.
+    // In visual order, which is the tab order, too.
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(sidePadding, topPadding, sidePadding, bottomPadding);
     column->setSpacing(rowSpacing);

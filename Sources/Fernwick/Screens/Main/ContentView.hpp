@@ -8,13 +8,14 @@ class BoardArea;
 class Session;
 class SheetLayer;
 
-/// The one screen of the application: header, controls, board and hints on the garden's backdrop,
-/// and the sheet of high scores over them. Every element is computed from the session.
+/// The main screen: header, controls, board and hints on the backdrop, with the high-scores sheet
+/// above them.
 class ContentView : public QWidget {
     Q_OBJECT
 
 public:
-    explicit ContentView(Session& session, QWidget* parent = nullptr);
+    /// `topPadding`, in points, is left free above the header.
+    ContentView(Session& session, int topPadding, QWidget* parent);
 
 Q_SIGNALS:
     /// The first frame has been painted.

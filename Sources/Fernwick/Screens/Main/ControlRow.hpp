@@ -10,7 +10,7 @@ class ChoiceGroup;
 class TrackedLabel;
 }  // namespace Garden
 
-/// The row under the header: the speed selector at the left, the status at the right.
+/// The row under the header: the speed selector on the left, the status on the right.
 class ControlRow : public QWidget {
     Q_OBJECT
 

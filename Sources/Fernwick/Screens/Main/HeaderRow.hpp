@@ -9,7 +9,7 @@ namespace Garden {
 class RollingDigits;
 }
 
-/// The top of the main screen: the title block at the left, the two score tiles at the right.
+/// The top of the main screen: the title block on the left, the two score tiles on the right.
 class HeaderRow : public QWidget {
     Q_OBJECT
 
@@ -18,7 +18,7 @@ public:
 
 private:
     QBoxLayout* titleBlock();
-    /// A small label above a value that rolls, whose accessible name is the label.
+    /// A small label above a number, which takes the label as its accessible name.
     QBoxLayout* scoreTile(const QString& label, Garden::RollingDigits* value,
                           Qt::Alignment alignment);
     void refresh();

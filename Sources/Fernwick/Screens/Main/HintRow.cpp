@@ -34,7 +34,7 @@ HintRow::HintRow(Session& session, QWidget* parent)
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(hintSpacing);
     auto* arrows = hint(QStringLiteral("↑ ↓ ← →"), arrowsSize);
-    // They are keys in their own order, not words.
+    // Not mirrored: the arrows stand in their own order.
     arrows->setLayoutDirection(Qt::LeftToRight);
     row->addWidget(arrows);
     //: Follows the four arrows. W A S D are places on the keyboard: name the letters that the
@@ -50,7 +50,7 @@ HintRow::HintRow(Session& session, QWidget* parent)
     buttons->addWidget(sound_);
     buttons->addWidget(pause_);
     row->addLayout(buttons);
-    // Its picture says whether sounds are on; a screen reader is told by the check.
+    // The icon shows whether sounds are on; screen readers need the checked state.
     sound_->setCheckable(true);
 
     connect(scores_, &QAbstractButton::clicked, &session_, &Session::openScores);

@@ -8,7 +8,7 @@ namespace Garden {
 class IconButton;
 }
 
-/// The bottom of the main screen: the key hints at the left, three icon buttons at the right.
+/// The bottom of the main screen: the key hints on the left, three icon buttons on the right.
 class HintRow : public QWidget {
     Q_OBJECT
 

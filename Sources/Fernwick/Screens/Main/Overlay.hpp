@@ -11,12 +11,12 @@ class TrackedLabel;
 }  // namespace Garden
 
 /// The start and pause card over the board: a symbol, a title, a line and one button. It has no
-/// background; whoever shows it dims the board.
+/// background of its own: the board is dimmed by `scrimOpacity`.
 class Overlay : public QWidget {
     Q_OBJECT
 
 public:
-    /// How dark the black over the board is.
+    /// Of the black over the board.
     static constexpr double scrimOpacity = 0.48;
 
     explicit Overlay(Session& session, QWidget* parent = nullptr);

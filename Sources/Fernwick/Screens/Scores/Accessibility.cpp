@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Keeps everything else waiting while it is up.
+/// A modal dialog.
 class AccessibleSheet : public QAccessibleWidget {
 public:
     explicit AccessibleSheet(HighScoresView* sheet)
@@ -37,6 +37,6 @@ QAccessibleInterface* create(const QString&, QObject* object) {
 }  // namespace
 
 void installScoreAccessibility() {
-    // Installing the same factory again is free: Qt keeps each one once.
+    // Qt ignores a factory that is installed already.
     QAccessible::installFactory(create);
 }

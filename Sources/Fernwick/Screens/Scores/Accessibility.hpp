@@ -1,5 +1,5 @@
 #pragma once
 
-/// Tells assistive tools which of the score screens is a dialog and which a list. Each screen calls
-/// it when it is made; only the first call does anything.
+/// Gives the sheet, the list of scores and its rows their accessible roles. Each of them calls this
+/// when it is made; only the first call has an effect.
 void installScoreAccessibility();

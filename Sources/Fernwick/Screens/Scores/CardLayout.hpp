@@ -3,7 +3,7 @@
 #include <QVBoxLayout>
 #include <QWidget>
 
-/// The column of the game-over card and of its two branches: one spacing, no margins of its own.
+/// The column layout of the game-over card and of its two parts: 14 points apart, no margins.
 [[nodiscard]] inline QVBoxLayout* cardColumn(QWidget& owner) {
     constexpr int spacing = 14;
     auto* column = new QVBoxLayout(&owner);

@@ -40,7 +40,7 @@ GameOverView::GameOverView(Session& session, QWidget* parent)
     auto* area = new QHBoxLayout(this);
     area->setContentsMargins(cardPadding, cardPadding, cardPadding, cardPadding);
     area->addStretch();
-    // Before either side gets any room, the card gets all that it may take.
+    // The stretch factor lets the card grow to its maximum width before the margins grow.
     area->addWidget(card, 1, Qt::AlignVCenter);
     area->addStretch();
     connect(&session_, &Session::changed, this, &GameOverView::refresh);
@@ -62,10 +62,10 @@ void GameOverView::refresh() {
         nameEntry_->refresh();
         nameEntry_->show();
     } else {
-        // The keys are the game's again: no button may hold the Space that starts the next run.
+        // Space starts the next run now, so no button may have the focus.
         Garden::releaseFocus(*nameEntry_);
         nameEntry_->hide();
-        // Shown first: what changes on it is then read out.
+        // Shown before it changes: screen readers announce changes of visible widgets only.
         savedBoard_->show();
         savedBoard_->refresh();
     }

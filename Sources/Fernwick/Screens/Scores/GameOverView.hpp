@@ -11,12 +11,13 @@ class TrackedLabel;
 }
 
 /// The card over the board of an ended run: how it ended and what it scored, then the name entry
-/// or the board of the run's pace. It has no background; whoever shows it dims the board.
+/// or, once that is done, the top ten. It has no background of its own: the board is dimmed by
+/// `scrimOpacity`.
 class GameOverView : public QWidget {
     Q_OBJECT
 
 public:
-    /// How dark the black over the board is.
+    /// Of the black over the board.
     static constexpr double scrimOpacity = 0.65;
 
     explicit GameOverView(Session& session, QWidget* parent = nullptr);

@@ -9,8 +9,7 @@ namespace Garden {
 class ChoiceGroup;
 }
 
-/// The sheet of saved scores, one board a pace. It paints its own background; whoever presents it
-/// shows it while the session is showing scores.
+/// The high-scores sheet: the top ten of each pace. `SheetLayer` shows and hides it.
 class HighScoresView : public QWidget {
     Q_OBJECT
 

@@ -9,8 +9,8 @@ namespace Garden {
 class GardenButton;
 }
 
-/// The form of the game-over card while a name is awaited: the name field, "Save score" and
-/// "Skip saving". The field takes the keyboard focus whenever the form appears.
+/// The part of the game-over card that asks for a name: the name field, "Save score" and "Skip
+/// saving". The field takes the keyboard focus whenever it is shown.
 class NameEntry : public QWidget {
     Q_OBJECT
 

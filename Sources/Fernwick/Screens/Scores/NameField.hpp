@@ -2,8 +2,8 @@
 
 #include <QLineEdit>
 
-/// The single-line field for the player's name: no system border, a faint plate with a mint edge.
-/// Its size follows the font and the padding; its width is its container's to set.
+/// The text field for the player's name: a faint plate with a mint edge. Its height follows the
+/// font; the layout sets its width.
 class NameField : public QLineEdit {
     Q_OBJECT
 

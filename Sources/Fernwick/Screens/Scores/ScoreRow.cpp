@@ -25,7 +25,7 @@ QFont rowFont() {
     return Garden::sans(fontSize, QFont::Medium);
 }
 
-// The font's digits differ in width; in cells of the widest one, numbers line up below each other.
+// Inter's digits differ in width. Drawn in cells of the widest one, numbers align in columns.
 double digitCell(const QFontMetricsF& metrics) {
     double widest = 0;
     for (char16_t digit = u'0'; digit <= u'9'; ++digit) {
@@ -103,7 +103,7 @@ void ScoreRow::paintEvent(QPaintEvent*) {
     name.setRight(score.left() - elementSpacing);
     painter.setPen(Garden::primaryText);
     const int begin = isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
-    // A name reads in the direction of its own letters, whatever those around it do.
+    // The name's own letters decide its direction, not the language of the program.
     painter.setLayoutDirection(name_.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     painter.drawText(asRead(name),
                      begin | Qt::AlignAbsolute | Qt::AlignVCenter | Qt::TextSingleLine,

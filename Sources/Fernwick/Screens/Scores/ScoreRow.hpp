@@ -4,7 +4,8 @@
 
 #include "SnakeCore/HighScore.hpp"
 
-/// One line of a ranked list: rank, name, score, on a faint plate or, picked out, a mint one.
+/// One row of a ranked list: rank, name and score on a faint plate, or on a mint one if
+/// highlighted.
 class ScoreRow : public QWidget {
     Q_OBJECT
 
@@ -21,7 +22,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    /// `place`, or its mirror image where lines are read from right to left.
+    /// `place`, mirrored in a right-to-left layout.
     [[nodiscard]] QRectF asRead(const QRectF& place) const;
 
     QString rank_;

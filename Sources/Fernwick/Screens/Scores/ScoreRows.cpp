@@ -89,7 +89,7 @@ void ScoreRows::followRange(int lowest, int highest) {
     indicator_->setRange(lowest, highest);
     indicator_->setPageStep(scrollArea_->viewport()->height());
     indicator_->setVisible(scrolls);
-    // A stop for the keyboard only while it has something to move.
+    // A tab stop only while there is something to scroll.
     scrollArea_->setFocusPolicy(scrolls ? Qt::TabFocus : Qt::NoFocus);
 }
 
@@ -125,7 +125,7 @@ void ScoreRows::setRowCount(std::size_t count) {
     }
     while (rows_.size() < wanted) {
         auto* row = new ScoreRow;
-        // Before the stretch that keeps a short list at the top.
+        // Before the stretch at the end, which keeps a short list at the top.
         column_->insertWidget(column_->count() - 1, row);
         rows_.append(row);
     }
@@ -144,7 +144,7 @@ void ScoreRows::setEntries(const std::vector<SnakeCore::HighScore>& entries,
         pickedOut = isPickedOut ? row : pickedOut;
     }
     if (pickedOut != nullptr) {
-        // Once the rows have been laid out.
+        // Queued: the new rows have no geometry before the layout has run.
         QMetaObject::invokeMethod(
             pickedOut, [this, pickedOut] { scrollArea_->ensureWidgetVisible(pickedOut, 0, 0); },
             Qt::QueuedConnection);

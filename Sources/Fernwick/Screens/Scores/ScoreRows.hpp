@@ -16,16 +16,16 @@ namespace Garden {
 class TrackedLabel;
 }
 
-/// A ranked list of saved scores that scrolls, or one inviting line when there are none. Its
-/// height is its container's to set.
+/// A scrolling list of ranked scores, or a line of text when there are none. The layout sets its
+/// height.
 class ScoreRows : public QWidget {
     Q_OBJECT
 
 public:
     explicit ScoreRows(QWidget* parent = nullptr);
 
-    /// Shows `entries` in their order, the first as rank 1, and picks out the one whose id is
-    /// `highlighted`, scrolling to it.
+    /// Shows `entries` in their order, the first as rank 1; highlights the one with the id
+    /// `highlighted` and scrolls to it.
     void setEntries(const std::vector<SnakeCore::HighScore>& entries,
                     const std::optional<SnakeCore::UUID>& highlighted = std::nullopt);
 
@@ -42,7 +42,7 @@ private:
 
     Garden::TrackedLabel* empty_;
     QScrollArea* scrollArea_;
-    // Lies over the padding of the rows, which keep the whole width.
+    // An overlay over the rows' padding, so that the rows keep the whole width.
     QScrollBar* indicator_;
     Garden::FocusRing focusRing_;
     QVBoxLayout* column_;

@@ -26,24 +26,24 @@ void SheetLayer::refresh() {
 }
 
 void SheetLayer::present() {
-    // Made on first use: nothing of it is needed for the first frame.
+    // Made on first use, so that it does not delay the first frame.
     if (sheet_ == nullptr) {
         sheet_ = new HighScoresView(session_, this);
-        // A click beside its controls keeps the focus inside; Tab has no business with it.
+        // A click beside its controls keeps the focus inside the sheet.
         sheet_->setFocusPolicy(Qt::ClickFocus);
     }
     focusBefore_ = window()->focusWidget();
     placeSheet();
     show();
     raise();
-    shade_->come(*sheet_);
+    shade_->appear(*sheet_);
     sheet_->setFocus(Qt::PopupFocusReason);
 }
 
 void SheetLayer::dismiss() {
     const bool hadFocus = isAncestorOf(window()->focusWidget());
     Garden::releaseFocus(*this);
-    shade_->go(*sheet_);
+    shade_->disappear(*sheet_);
     hide();
     if (hadFocus && !focusBefore_.isNull() && focusBefore_->isVisible()) {
         focusBefore_->setFocus(Qt::PopupFocusReason);
@@ -61,7 +61,7 @@ void SheetLayer::placeSheet() {
 }
 
 bool SheetLayer::focusNextPrevChild(bool next) {
-    // Walks the chain until it meets a control of the sheet again.
+    // Follows the focus chain to the next control inside the sheet.
     QWidget* const start = window()->focusWidget();
     QWidget* candidate = start;
     do {

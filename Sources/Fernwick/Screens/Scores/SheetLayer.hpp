@@ -7,8 +7,8 @@ class HighScoresView;
 class Session;
 class SheetShade;
 
-/// Presents the sheet of high scores over the whole window while the session shows scores: dims
-/// what lies behind, keeps pointer and keyboard focus inside, gives the focus back on closing.
+/// Shows the high-scores sheet as a modal layer while `Session::showingScores()`: dims what is
+/// behind, keeps the pointer and the keyboard focus inside, and restores the focus on closing.
 class SheetLayer : public QWidget {
     Q_OBJECT
 

@@ -10,7 +10,7 @@ namespace {
 
 constexpr double scrimOpacity = 0.48;
 
-// Without the window's ground, which would show in the round corners.
+// Without the window's background, which would show in the rounded corners.
 QPixmap pictureOf(QWidget& sheet) {
     QPixmap picture(sheet.size() * sheet.devicePixelRatioF());
     picture.setDevicePixelRatio(sheet.devicePixelRatioF());
@@ -30,11 +30,11 @@ SheetShade::SheetShade(QWidget* parent) : QWidget(parent), presence_(this) {
     presence_.setDuration(Garden::sheetDuration);
     presence_.setEasingCurve(QEasingCurve::OutCubic);
     connect(&presence_, &QVariantAnimation::valueChanged, this,
-            [this](const QVariant& value) { follow(value.toDouble()); });
-    connect(&presence_, &QVariantAnimation::finished, this, &SheetShade::arrive);
+            [this](const QVariant& value) { setPresence(value.toDouble()); });
+    connect(&presence_, &QVariantAnimation::finished, this, &SheetShade::finish);
 }
 
-void SheetShade::come(QWidget& sheet) {
+void SheetShade::appear(QWidget& sheet) {
     picture_ = {};
     sheet_ = &sheet;
     effect_ = new Garden::RiseEffect;
@@ -44,7 +44,7 @@ void SheetShade::come(QWidget& sheet) {
     run(QAbstractAnimation::Forward);
 }
 
-void SheetShade::go(QWidget& sheet) {
+void SheetShade::disappear(QWidget& sheet) {
     sheet.setGraphicsEffect(nullptr);
     picture_ = pictureOf(sheet);
     picturePlace_ = mapFromGlobal(sheet.mapToGlobal(QPoint()));
@@ -54,7 +54,7 @@ void SheetShade::go(QWidget& sheet) {
 bool SheetShade::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Resize) {
         setGeometry(parentWidget()->rect());
-        // A picture would linger beside the middle.
+        // The snapshot would no longer be centred.
         if (!picture_.isNull()) {
             presence_.setCurrentTime(0);
         }
@@ -65,7 +65,7 @@ bool SheetShade::eventFilter(QObject* watched, QEvent* event) {
 void SheetShade::run(QAbstractAnimation::Direction direction) {
     presence_.setDirection(direction);
     if (window()->isVisible() && !Garden::reducedMotion()) {
-        // One that is under way turns round where it is.
+        // A running animation reverses from its current value.
         if (presence_.state() == QAbstractAnimation::Stopped) {
             presence_.start();
         }
@@ -73,18 +73,18 @@ void SheetShade::run(QAbstractAnimation::Direction direction) {
         presence_.stop();
         presence_.setCurrentTime(direction == QAbstractAnimation::Forward ? presence_.duration()
                                                                           : 0);
-        arrive();
+        finish();
     }
 }
 
-void SheetShade::follow(double presence) {
+void SheetShade::setPresence(double presence) {
     if (effect_ != nullptr) {
         effect_->setPresence(presence);
     }
     update();
 }
 
-void SheetShade::arrive() {
+void SheetShade::finish() {
     if (presence_.direction() == QAbstractAnimation::Forward) {
         if (sheet_ != nullptr) {
             sheet_->setGraphicsEffect(nullptr);

@@ -9,19 +9,19 @@ namespace Garden {
 class RiseEffect;
 }
 
-/// The dark behind a sheet, and the sheet's soft coming and going. All of it is for the eye alone:
-/// a sheet that comes takes pointer and keys at once, and of one that went only a picture lingers,
-/// which takes neither. Under reduced motion both happen at once.
+/// Dims the window behind a sheet and animates the sheet's appearance. Input does not wait for the
+/// animation: a sheet that appears is usable at once, and one that disappears is hidden at once
+/// while a snapshot of it fades. There is no animation under reduced motion.
 class SheetShade : public QWidget {
     Q_OBJECT
 
 public:
     explicit SheetShade(QWidget* parent);
 
-    /// Call when `sheet`, which lies over this, has been shown.
-    void come(QWidget& sheet);
+    /// Call when `sheet`, which is above this widget, has been shown.
+    void appear(QWidget& sheet);
     /// Call when `sheet` is about to be hidden.
-    void go(QWidget& sheet);
+    void disappear(QWidget& sheet);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -30,10 +30,10 @@ protected:
 
 private:
     void run(QAbstractAnimation::Direction direction);
-    void follow(double presence);
-    void arrive();
+    void setPresence(double presence);
+    void finish();
 
-    // From 0, nothing of the sheet to be seen, to 1.
+    // From 0 (invisible) to 1.
     QVariantAnimation presence_;
     QPointer<QWidget> sheet_;
     QPointer<Garden::RiseEffect> effect_;

@@ -1,0 +1,3 @@
+#include "Window/Log.hpp"
+
+Q_LOGGING_CATEGORY(windowLog, "fernwick.window", QtFatalMsg)
