@@ -5,7 +5,6 @@
 #include "Garden/Look/Contrast.hpp"
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/Palette.hpp"
-#include "Garden/Look/StyleSheet.hpp"
 
 namespace {
 

@@ -12,7 +12,7 @@ namespace Garden {
 
 namespace {
 
-// The first is the one that desktops agree on.
+// The standard setting and GNOME's own.
 constexpr std::array<Desktop::PortalSwitch::Setting, 2> settings{{
     {"org.freedesktop.appearance", "contrast",
      [](const QVariant& value) { return value.toUInt() == 1; }},
@@ -20,10 +20,8 @@ constexpr std::array<Desktop::PortalSwitch::Setting, 2> settings{{
      [](const QVariant& value) { return value.toBool(); }},
 }};
 
-constexpr float wayToWhite = 0.5F;
-
-float lifted(float component) {
-    return component + (1 - component) * wayToWhite;
+float halfwayToWhite(float component) {
+    return component + (1 - component) / 2;
 }
 
 }  // namespace
@@ -37,7 +35,7 @@ Contrast& Contrast::shared() {
 }
 
 Contrast::Contrast(QObject* parent) : QObject(parent) {
-    // The first frame does not wait for a connection to the bus.
+    // Queued, so that connecting to the session bus does not delay the first frame.
     QMetaObject::invokeMethod(this, &Contrast::follow, Qt::QueuedConnection);
 }
 
@@ -45,24 +43,22 @@ void Contrast::follow() {
     if (!sessionBusExists()) {
         return;
     }
-    auto* desktop = new Desktop::PortalSwitch(QDBusConnection::sessionBus(), settings, this);
-    connect(desktop, &Desktop::PortalSwitch::changed, this,
-            [this, desktop] { setHigh(desktop->isOn()); });
-}
-
-void Contrast::setHigh(bool high) {
-    high_ = high;
-    Q_EMIT changed();
-    for (QWidget* widget : QApplication::allWidgets()) {
-        widget->update();
-    }
+    auto* setting = new Desktop::PortalSwitch(QDBusConnection::sessionBus(), settings, this);
+    connect(setting, &Desktop::PortalSwitch::changed, this, [this, setting] {
+        high_ = setting->isOn();
+        Q_EMIT changed();
+        for (QWidget* widget : QApplication::allWidgets()) {
+            widget->update();
+        }
+    });
 }
 
 QColor legible(const QColor& colour) {
     if (!Contrast::shared().isHigh()) {
         return colour;
     }
-    return QColor::fromRgbF(lifted(colour.redF()), lifted(colour.greenF()), lifted(colour.blueF()));
+    return QColor::fromRgbF(halfwayToWhite(colour.redF()), halfwayToWhite(colour.greenF()),
+                            halfwayToWhite(colour.blueF()));
 }
 
 }  // namespace Garden

@@ -5,15 +5,15 @@
 
 namespace Garden {
 
-/// Whether the desktop asks programs for high contrast. One for all views, which repaints them when
-/// the desktop changes its mind.
+/// The desktop's high-contrast setting, from the settings portal. A change repaints all widgets.
 class Contrast : public QObject {
     Q_OBJECT
 
 public:
-    /// Follows the desktop from its first use on, and lives as long as the application.
+    /// Created by the first call; lives as long as the application.
     [[nodiscard]] static Contrast& shared();
 
+    /// False until the portal has replied, and where there is none.
     [[nodiscard]] bool isHigh() const { return high_; }
 
 Q_SIGNALS:
@@ -22,13 +22,12 @@ Q_SIGNALS:
 private:
     explicit Contrast(QObject* parent);
     void follow();
-    void setHigh(bool high);
 
     bool high_ = false;
 };
 
-/// The colour to draw quiet text or a symbol in: `colour` itself, or, where the desktop asks for
-/// high contrast, an opaque one half of the way from it to white.
+/// The colour in which to draw secondary text or an icon: `colour`, or, with high contrast, an
+/// opaque colour halfway between it and white.
 [[nodiscard]] QColor legible(const QColor& colour);
 
 }  // namespace Garden

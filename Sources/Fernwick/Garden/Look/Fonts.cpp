@@ -11,15 +11,15 @@ namespace Garden {
 
 namespace {
 
-struct Cut {
+// One font file. The names are read from it, as they vary between distributions. The style name is
+// needed because the same family may also be installed with several styles of one weight.
+struct Face {
     QString family;
     QString style;
 };
 
-// Names are asked of the loaded file: distributions rename and link families freely. The style is
-// named too, because the same family installed on the desktop may hold more cuts of one weight.
-Cut load(const char* file) {
-    // Stored uncompressed, so the font engine reads the program's own pages without a copy.
+Face load(const char* file) {
+    // Stored uncompressed, so FreeType reads the mapped executable without a copy.
     const QByteArray data =
         QResource(QStringLiteral(":/fonts/") + QLatin1String(file)).uncompressedData();
     const int id = QFontDatabase::addApplicationFontFromData(data);
@@ -28,13 +28,13 @@ Cut load(const char* file) {
             QRawFont(data, anySize).styleName()};
 }
 
-// The faces that go best with ours in the scripts ours lack, where the desktop has them.
-QStringList companions(QFont::StyleHint design) {
+// Fallback families that match the embedded fonts, for the script of the language.
+QStringList fallbacks(QFont::StyleHint design) {
     const QString style =
         design == QFont::Serif ? QStringLiteral("Noto Serif") : QStringLiteral("Noto Sans");
-    const auto chinese = [&](const char* country) -> QStringList {
-        // The same letter is drawn otherwise in each country. Without the last one, marks and
-        // strokes would be picked from whatever font has them, also from other scripts' fonts.
+    const auto cjk = [&](const char* country) -> QStringList {
+        // Glyphs of the same character differ by country. WenQuanYi keeps punctuation and strokes
+        // that the first lacks from coming from fonts for other scripts.
         return {style + QStringLiteral(" CJK ") + QLatin1String(country),
                 QStringLiteral("WenQuanYi Zen Hei")};
     };
@@ -45,11 +45,11 @@ QStringList companions(QFont::StyleHint design) {
         case QLocale::Hindi:
             return {style + QStringLiteral(" Devanagari")};
         case QLocale::Japanese:
-            return chinese("JP");
+            return cjk("JP");
         case QLocale::Korean:
-            return chinese("KR");
+            return cjk("KR");
         case QLocale::Chinese:
-            return chinese("SC");
+            return cjk("SC");
         case QLocale::Ukrainian:
             return {style};
         default:
@@ -57,10 +57,10 @@ QStringList companions(QFont::StyleHint design) {
     }
 }
 
-QFont make(const Cut& cut, QFont::StyleHint design, double size, QFont::Weight weight) {
-    QFont font(QStringList(cut.family) + companions(design));
+QFont make(const Face& face, QFont::StyleHint design, double size, QFont::Weight weight) {
+    QFont font(QStringList(face.family) + fallbacks(design));
     font.setStyleHint(design);
-    font.setStyleName(cut.style);
+    font.setStyleName(face.style);
     font.setPixelSize(qRound(size));
     font.setWeight(weight);
     font.setHintingPreference(QFont::PreferNoHinting);
@@ -68,28 +68,28 @@ QFont make(const Cut& cut, QFont::StyleHint design, double size, QFont::Weight w
     return font;
 }
 
-bool joins(QChar::Script script) {
+bool isCursive(QChar::Script script) {
     return script == QChar::Script_Arabic || script == QChar::Script_Devanagari;
 }
 
-bool hasManyStrokes(QChar::Script script) {
-    return joins(script) || script == QChar::Script_Han || script == QChar::Script_Hangul ||
+bool isComplex(QChar::Script script) {
+    return isCursive(script) || script == QChar::Script_Han || script == QChar::Script_Hangul ||
            script == QChar::Script_Hiragana || script == QChar::Script_Katakana;
 }
 
-// In logical pixels.
-constexpr int smallestOfManyStrokes = 11;
+// The smallest legible size of complex glyphs, in points.
+constexpr int smallestComplexSize = 11;
 
 }  // namespace
 
 QFont sans(double size, QFont::Weight weight, double tracking) {
-    static const Cut regular = load("Inter-Regular.otf");
-    static const Cut medium = load("Inter-Medium.otf");
-    static const Cut semiBold = load("Inter-SemiBold.otf");
-    const Cut& cut = weight >= QFont::DemiBold ? semiBold
-                     : weight == QFont::Medium ? medium
-                                               : regular;
-    QFont font = make(cut, QFont::SansSerif, size, weight);
+    static const Face regular = load("Inter-Regular.otf");
+    static const Face medium = load("Inter-Medium.otf");
+    static const Face semiBold = load("Inter-SemiBold.otf");
+    const Face& face = weight >= QFont::DemiBold ? semiBold
+                       : weight == QFont::Medium ? medium
+                                                 : regular;
+    QFont font = make(face, QFont::SansSerif, size, weight);
     if (tracking != 0) {
         font.setLetterSpacing(QFont::AbsoluteSpacing, tracking);
     }
@@ -97,14 +97,14 @@ QFont sans(double size, QFont::Weight weight, double tracking) {
 }
 
 QFont serif(double size, QFont::Weight weight) {
-    static const Cut light = load("ElstobD-Light.otf");
-    static const Cut regular = load("ElstobD-Regular.otf");
+    static const Face light = load("ElstobD-Light.otf");
+    static const Face regular = load("ElstobD-Regular.otf");
     return make(weight <= QFont::Light ? light : regular, QFont::Serif, size, weight);
 }
 
 QFont mono(double size, QFont::Weight weight) {
-    static const Cut light = load("JetBrainsMono-Light.ttf");
-    static const Cut regular = load("JetBrainsMono-Regular.ttf");
+    static const Face light = load("JetBrainsMono-Light.ttf");
+    static const Face regular = load("JetBrainsMono-Regular.ttf");
     return make(weight <= QFont::Light ? light : regular, QFont::Monospace, size, weight);
 }
 
@@ -115,11 +115,11 @@ QFont fittedTo(const QString& text, const QFont& font) {
             letters, [=](char32_t letter) { return property(QChar::script(letter)); });
     };
     QFont fitted = font;
-    if (anyOf(joins)) {
+    if (anyOf(isCursive)) {
         fitted.setLetterSpacing(QFont::AbsoluteSpacing, 0);
     }
-    if (anyOf(hasManyStrokes)) {
-        fitted.setPixelSize(std::max(font.pixelSize(), smallestOfManyStrokes));
+    if (anyOf(isComplex)) {
+        fitted.setPixelSize(std::max(font.pixelSize(), smallestComplexSize));
     }
     return fitted;
 }

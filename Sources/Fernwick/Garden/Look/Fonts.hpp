@@ -2,23 +2,23 @@
 
 #include <QFont>
 
-/// The three faces of the garden, carried inside the program so that it looks alike on every
-/// desktop; letters they lack come from the desktop's own fonts, of a like design. Sizes are
-/// logical pixels, rounded to whole ones.
+/// The three typefaces, embedded in the program so that it looks the same on every desktop.
+/// Characters they lack come from similar fonts of the system. Sizes are in points, rounded to
+/// whole ones.
 namespace Garden {
 
-/// Inter in the cuts Normal, Medium and DemiBold; any other weight is drawn with the nearest.
-/// `tracking` is the extra space after each letter, in logical pixels.
+/// Inter, in Normal, Medium or DemiBold; other weights use the nearest of these. `tracking` is the
+/// letter spacing in points.
 [[nodiscard]] QFont sans(double size, QFont::Weight weight, double tracking = 0);
 
-/// Elstob, Light or Normal.
+/// Elstob, in Light or Normal.
 [[nodiscard]] QFont serif(double size, QFont::Weight weight);
 
-/// JetBrains Mono, Light or Normal.
+/// JetBrains Mono, in Light or Normal.
 [[nodiscard]] QFont mono(double size, QFont::Weight weight);
 
-/// `font` as the script of `text` can bear it: letters that join each other get no extra space
-/// between them, and letters of many strokes are not set too small to be read.
+/// `font` adapted to the scripts in `text`: no letter spacing for cursive scripts, and a minimum
+/// size for scripts with complex glyphs.
 [[nodiscard]] QFont fittedTo(const QString& text, const QFont& font);
 
 }  // namespace Garden

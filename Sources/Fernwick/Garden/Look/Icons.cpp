@@ -7,47 +7,36 @@
 #include <QPixmapCache>
 #include <QSvgRenderer>
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace Garden {
 
 namespace {
 
-// From this many logical pixels a symbol stands alone as an emblem and takes its light cut.
+// The SVG files of the icons, in the order of the enumeration.
+constexpr std::array fileNames{"leaf-filled",
+                               "leaf",
+                               "moon",
+                               "arrow-clockwise",
+                               "arrow-right",
+                               "trophy",
+                               "speaker-waves",
+                               "speaker-slash",
+                               "pause",
+                               "play",
+                               "window-minimize",
+                               "window-maximize",
+                               "window-restore",
+                               "window-close"};
+static_assert(fileNames.size() == static_cast<std::size_t>(Icon::windowClose) + 1);
+
+// From this size in points on, the trophy is an emblem and has thinner strokes.
 constexpr double emblemSize = 22;
 
 QString fileName(Icon icon, double size) {
-    switch (icon) {
-        case Icon::leafFilled:
-            return QStringLiteral("leaf-filled");
-        case Icon::leaf:
-            return QStringLiteral("leaf");
-        case Icon::moon:
-            return QStringLiteral("moon");
-        case Icon::arrowClockwise:
-            return QStringLiteral("arrow-clockwise");
-        case Icon::arrowRight:
-            return QStringLiteral("arrow-right");
-        case Icon::trophy:
-            return size < emblemSize ? QStringLiteral("trophy") : QStringLiteral("trophy-light");
-        case Icon::speakerWaves:
-            return QStringLiteral("speaker-waves");
-        case Icon::speakerSlash:
-            return QStringLiteral("speaker-slash");
-        case Icon::pause:
-            return QStringLiteral("pause");
-        case Icon::play:
-            return QStringLiteral("play");
-        case Icon::windowMinimize:
-            return QStringLiteral("window-minimize");
-        case Icon::windowMaximize:
-            return QStringLiteral("window-maximize");
-        case Icon::windowRestore:
-            return QStringLiteral("window-restore");
-        case Icon::windowClose:
-            return QStringLiteral("window-close");
-    }
-    Q_UNREACHABLE();
+    const bool isEmblem = icon == Icon::trophy && size >= emblemSize;
+    return QLatin1String(isEmblem ? "trophy-light" : fileNames.at(static_cast<std::size_t>(icon)));
 }
 
 QPixmap render(const QString& name, int pixels) {
@@ -59,8 +48,8 @@ QPixmap render(const QString& name, int pixels) {
     return QPixmap::fromImage(image);
 }
 
-// Drawn opaque and tinted afterwards: where two strokes of a half-transparent symbol cross, they
-// must not show.
+// Rendered opaque and tinted afterwards, so that overlapping strokes do not show in a translucent
+// colour.
 QPixmap tinted(const QString& name, int pixels, const QColor& colour) {
     const QString key =
         QStringLiteral("%1 %2 %3").arg(name).arg(pixels).arg(colour.name(QColor::HexArgb));

@@ -8,7 +8,7 @@ class QPainter;
 
 namespace Garden {
 
-/// The symbols of the program, all drawn by one hand on a 24 × 24 grid.
+/// The icons of the user interface, drawn for this program on a 24 × 24 grid.
 enum class Icon {
     leafFilled,
     leaf,
@@ -26,11 +26,11 @@ enum class Icon {
     windowClose,
 };
 
-/// Paints `icon` into `rect` (its whole grid, fitted and centred) in one flat colour, on whole
-/// device pixels. Symbols shown large have a finer cut than the same symbol in a button.
+/// Paints `icon`, scaled to fit and centred in `rect`, in one flat colour and aligned to device
+/// pixels. The trophy has thinner strokes at large sizes.
 void paintIcon(QPainter& painter, Icon icon, const QRectF& rect, const QColor& colour);
 
-/// The program's own icon, at the sizes desktops ask for.
+/// The application icon, in the sizes that desktops use.
 [[nodiscard]] QIcon applicationIcon();
 
 }  // namespace Garden

@@ -1,29 +1,42 @@
 #include "Garden/Look/Motion.hpp"
 
 #include <QApplication>
-#include <QDBusConnection>
 #include <QPointer>
 #include <QStyle>
+#include <array>
 
+#include "Desktop/PortalSwitch.hpp"
 #include "Desktop/SessionBus.hpp"
-#include "Garden/Look/MotionSetting.hpp"
 
 namespace Garden {
 
 namespace {
 
-bool desktopAsksForStillness() {
-    static QPointer<MotionSetting> setting;
-    if (setting == nullptr && sessionBusExists()) {
-        setting = new MotionSetting(QDBusConnection::sessionBus(), qApp);
-    }
-    return setting != nullptr && setting->asksForStillness();
-}
+// GNOME's, KDE's and the standard one.
+constexpr std::array<Desktop::PortalSwitch::Setting, 3> settings{{
+    {"org.gnome.desktop.interface", "enable-animations",
+     [](const QVariant& value) { return value.userType() == QMetaType::Bool && !value.toBool(); }},
+    {"org.kde.kdeglobals.KDE", "AnimationDurationFactor",
+     [](const QVariant& value) {
+         bool isNumber = false;
+         return value.toDouble(&isNumber) == 0 && isNumber;
+     }},
+    {"org.freedesktop.appearance", "reduced-motion",
+     [](const QVariant& value) { return value.toUInt() == 1; }},
+}};
 
 }  // namespace
 
+Desktop::PortalSwitch* reducedMotionSetting(const QDBusConnection& bus, QObject* parent) {
+    return new Desktop::PortalSwitch(bus, settings, parent);
+}
+
 bool reducedMotion() {
-    return desktopAsksForStillness() ||
+    static QPointer<Desktop::PortalSwitch> setting;
+    if (setting == nullptr && sessionBusExists()) {
+        setting = reducedMotionSetting(QDBusConnection::sessionBus(), qApp);
+    }
+    return (setting != nullptr && setting->isOn()) ||
            QApplication::style()->styleHint(QStyle::SH_Widget_Animation_Duration) == 0;
 }
 

@@ -1,14 +1,25 @@
 #pragma once
 
+class QDBusConnection;
+class QObject;
+
+namespace Desktop {
+class PortalSwitch;
+}
+
 namespace Garden {
 
 /// How long a changed digit rolls, in milliseconds.
 inline constexpr int digitRollDuration = 300;
 
-/// How long a sheet takes to come or go, in milliseconds.
+/// How long the sheet takes to open or close, in milliseconds.
 inline constexpr int sheetDuration = 180;
 
-/// Whether the desktop asks programs to keep still. Follows the desktop while the program runs.
+/// Whether the desktop or its style turns animations off. Follows changes while the program runs.
 [[nodiscard]] bool reducedMotion();
+
+/// The desktop's reduced-motion setting in the settings portal on `bus`, as a child of `parent`.
+[[nodiscard]] Desktop::PortalSwitch* reducedMotionSetting(const QDBusConnection& bus,
+                                                          QObject* parent);
 
 }  // namespace Garden

@@ -2,14 +2,15 @@
 
 #include <QPointF>
 #include <algorithm>
+#include <array>
 
 namespace Garden {
 
 namespace {
 
-// All lengths below are in corner radii, measured from the corner's point. Half a corner is one
-// cubic from its edge to the diagonal, given here along the edge (x) and off it (y). Two control
-// points on the edge itself make the curvature grow from zero there: no visible seam.
+// Lengths are in corner radii, measured from the corner of the rectangle. Half a corner is one
+// cubic Bézier curve from an edge to the diagonal: x runs along the edge, y away from it. If both
+// control points lie on the edge, the curvature starts at zero.
 struct HalfCorner {
     double start;
     QPointF nearEdge;
@@ -21,18 +22,18 @@ struct Corner {
     HalfCorner alongY;
 };
 
-// A superellipse of exponent 2.5: it crosses the diagonal at 1 - 2^(-1/2.5), parallel to the other
-// diagonal, and the last number is fitted to a point half way.
+// Exponent 2.5. The superellipse crosses the diagonal at 1 - 2^(-1/2.5), at a right angle; 0.828 is
+// fitted to the point halfway along the curve.
 constexpr double superellipseDiagonal = 0.2421;
 constexpr HalfCorner superellipse{1, {0.828, 0}, {2 * superellipseDiagonal, 0}};
 
-// Half a quarter circle; its diagonal lies at 1 - sqrt(1/2).
+// An eighth of a circle, which crosses the diagonal at 1 - sqrt(1/2).
 constexpr double circleDiagonal = 0.29289;
 constexpr HalfCorner circular{1, {0.7348, 0}, {0.4804, 0.1054}};
-// The same quarter circle, eased into a long edge.
+// The same with the curvature growing from zero along a long edge.
 constexpr HalfCorner eased{1.528, {0.993, 0}, {2 * circleDiagonal, 0}};
 
-// An edge too short for the eased corner gets one that much nearer to the circle.
+// `eased`, or, where half the edge is too short for it, interpolated towards `circular`.
 HalfCorner easedWithin(double halfEdge) {
     const double start = std::clamp(halfEdge, circular.start, eased.start);
     const double share = (start - circular.start) / (eased.start - circular.start);
@@ -40,28 +41,25 @@ HalfCorner easedWithin(double halfEdge) {
             circular.nearDiagonal + share * (eased.nearDiagonal - circular.nearDiagonal)};
 }
 
+// `rect` with `corner` at all four corners, clockwise from the top left.
 QPainterPath withCorners(const QRectF& rect, double radius, const Corner& corner) {
     QPainterPath path;
-    // From the end on the vertical edge, over the diagonal, to the end on the horizontal one; or
-    // the other way about, so that the whole runs clockwise.
-    const auto add = [&](const QPointF& point, double towardsX, double towardsY, bool fromY) {
-        const auto place = [&](const QPointF& offset) {
-            return point + radius * QPointF(towardsX * offset.x(), towardsY * offset.y());
+    const auto add = [&](const QPointF& point, double signX, double signY, bool fromVerticalEdge) {
+        const auto x = [&](const QPointF& offset) {
+            return point + radius * QPointF(signX * offset.x(), signY * offset.y());
         };
-        const auto x = [&](const QPointF& control) { return place(control); };
-        const auto y = [&](const QPointF& control) { return place(control.transposed()); };
-        const QPointF middle = place({corner.diagonal, corner.diagonal});
-        const HalfCorner& alongX = corner.alongX;
-        const HalfCorner& alongY = corner.alongY;
-        const QPointF first = fromY ? y({alongY.start, 0}) : x({alongX.start, 0});
-        path.isEmpty() ? path.moveTo(first) : path.lineTo(first);
-        if (fromY) {
-            path.cubicTo(y(alongY.nearEdge), y(alongY.nearDiagonal), middle);
-            path.cubicTo(x(alongX.nearDiagonal), x(alongX.nearEdge), x({alongX.start, 0}));
-        } else {
-            path.cubicTo(x(alongX.nearEdge), x(alongX.nearDiagonal), middle);
-            path.cubicTo(y(alongY.nearDiagonal), y(alongY.nearEdge), y({alongY.start, 0}));
+        const auto y = [&](const QPointF& offset) { return x(offset.transposed()); };
+        const auto& [diagonal, alongX, alongY] = corner;
+        std::array<QPointF, 7> points{y({alongY.start, 0}),   y(alongY.nearEdge),
+                                      y(alongY.nearDiagonal), x({diagonal, diagonal}),
+                                      x(alongX.nearDiagonal), x(alongX.nearEdge),
+                                      x({alongX.start, 0})};
+        if (!fromVerticalEdge) {
+            std::ranges::reverse(points);
         }
+        path.isEmpty() ? path.moveTo(points[0]) : path.lineTo(points[0]);
+        path.cubicTo(points[1], points[2], points[3]);
+        path.cubicTo(points[4], points[5], points[6]);
     };
     add(rect.topLeft(), 1, 1, true);
     add(rect.topRight(), -1, 1, false);

@@ -5,11 +5,16 @@
 
 namespace Garden {
 
-/// A rectangle whose corners are superellipses: their curvature grows from nothing where the edge
-/// ends, so no seam shows. A corner takes `radius` of each edge, at most half the shorter side.
+/// `rect` with superellipse corners, whose curvature grows from zero where the straight edge ends.
+/// Each corner takes up `radius` of both its edges, at most half the shorter side.
 [[nodiscard]] QPainterPath continuousRoundedRect(const QRectF& rect, double radius);
 
-/// A rectangle with round ends, eased in the same way into its two long edges.
+/// `rect` with semicircular ends, whose curvature also grows from zero on the two long edges.
 [[nodiscard]] QPainterPath continuousCapsule(const QRectF& rect);
+
+/// `rect` with each edge moved inwards by `distance`.
+[[nodiscard]] inline QRectF inset(const QRectF& rect, double distance) {
+    return rect.adjusted(distance, distance, -distance, -distance);
+}
 
 }  // namespace Garden

@@ -9,7 +9,6 @@
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/Palette.hpp"
 #include "Garden/Look/RoundedShape.hpp"
-#include "Garden/Look/StyleSheet.hpp"
 #include "Garden/Widgets/TrackedLabel.hpp"
 #include "Screens/Scores/Accessibility.hpp"
 #include "Screens/Scores/ScoreRow.hpp"

@@ -8,43 +8,43 @@
 
 namespace {
 
-std::string cutOf(const QFont& font) {
+std::string faceOf(const QFont& font) {
     const QRawFont raw = QRawFont::fromFont(font);
     return (raw.familyName() + u'/' + raw.styleName() + u'/' + QString::number(raw.weight()))
         .toStdString();
 }
 
-// The drawn font's own tables are those of the carried file, not of a namesake on this desktop.
-void expectDrawnFrom(const char* file, const QFont& font) {
+// Compares the tables of the font that Qt draws with: a system font may have the same names.
+void expectEmbedded(const char* file, const QFont& font) {
     const QByteArray data =
         QResource(QStringLiteral(":/fonts/") + QLatin1String(file)).uncompressedData();
     ASSERT_FALSE(data.isEmpty()) << file;
-    const QRawFont carried(data, font.pixelSize());
+    const QRawFont embedded(data, font.pixelSize());
     const QRawFont drawn = QRawFont::fromFont(font);
-    EXPECT_EQ(carried.fontTable("name"), drawn.fontTable("name")) << file;
-    EXPECT_EQ(carried.fontTable("head"), drawn.fontTable("head")) << file;
+    EXPECT_EQ(embedded.fontTable("name"), drawn.fontTable("name")) << file;
+    EXPECT_EQ(embedded.fontTable("head"), drawn.fontTable("head")) << file;
 }
 
 }  // namespace
 
-TEST(Fonts, drawTheCutThatIsAskedFor) {
-    EXPECT_EQ(cutOf(Garden::sans(13, QFont::Normal)), "Inter/Regular/400");
-    EXPECT_EQ(cutOf(Garden::sans(13, QFont::Medium)), "Inter/Medium/500");
-    EXPECT_EQ(cutOf(Garden::sans(13, QFont::DemiBold)), "Inter/Semi Bold/600");
-    EXPECT_EQ(cutOf(Garden::serif(27, QFont::Light)), "ElstobD/Light/300");
-    EXPECT_EQ(cutOf(Garden::serif(35, QFont::Normal)), "ElstobD/Regular/400");
-    EXPECT_EQ(cutOf(Garden::mono(33, QFont::Light)), "JetBrains Mono/Light/300");
-    EXPECT_EQ(cutOf(Garden::mono(11, QFont::Normal)), "JetBrains Mono/Regular/400");
+TEST(Fonts, haveTheRequestedFamilyAndWeight) {
+    EXPECT_EQ(faceOf(Garden::sans(13, QFont::Normal)), "Inter/Regular/400");
+    EXPECT_EQ(faceOf(Garden::sans(13, QFont::Medium)), "Inter/Medium/500");
+    EXPECT_EQ(faceOf(Garden::sans(13, QFont::DemiBold)), "Inter/Semi Bold/600");
+    EXPECT_EQ(faceOf(Garden::serif(27, QFont::Light)), "ElstobD/Light/300");
+    EXPECT_EQ(faceOf(Garden::serif(35, QFont::Normal)), "ElstobD/Regular/400");
+    EXPECT_EQ(faceOf(Garden::mono(33, QFont::Light)), "JetBrains Mono/Light/300");
+    EXPECT_EQ(faceOf(Garden::mono(11, QFont::Normal)), "JetBrains Mono/Regular/400");
 }
 
-TEST(Fonts, areCarriedInsideTheProgram) {
-    expectDrawnFrom("Inter-Regular.otf", Garden::sans(12, QFont::Normal));
-    expectDrawnFrom("Inter-Medium.otf", Garden::sans(12, QFont::Medium));
-    expectDrawnFrom("Inter-SemiBold.otf", Garden::sans(12, QFont::DemiBold));
-    expectDrawnFrom("ElstobD-Light.otf", Garden::serif(27, QFont::Light));
-    expectDrawnFrom("ElstobD-Regular.otf", Garden::serif(27, QFont::Normal));
-    expectDrawnFrom("JetBrainsMono-Light.ttf", Garden::mono(33, QFont::Light));
-    expectDrawnFrom("JetBrainsMono-Regular.ttf", Garden::mono(33, QFont::Normal));
+TEST(Fonts, comeFromTheEmbeddedFiles) {
+    expectEmbedded("Inter-Regular.otf", Garden::sans(12, QFont::Normal));
+    expectEmbedded("Inter-Medium.otf", Garden::sans(12, QFont::Medium));
+    expectEmbedded("Inter-SemiBold.otf", Garden::sans(12, QFont::DemiBold));
+    expectEmbedded("ElstobD-Light.otf", Garden::serif(27, QFont::Light));
+    expectEmbedded("ElstobD-Regular.otf", Garden::serif(27, QFont::Normal));
+    expectEmbedded("JetBrainsMono-Light.ttf", Garden::mono(33, QFont::Light));
+    expectEmbedded("JetBrainsMono-Regular.ttf", Garden::mono(33, QFont::Normal));
 }
 
 TEST(Fonts, haveTheSizeInPixelsAndNoHinting) {
@@ -55,7 +55,7 @@ TEST(Fonts, haveTheSizeInPixelsAndNoHinting) {
     }
 }
 
-TEST(Fonts, trackTheSansByLogicalPixels) {
+TEST(Fonts, haveTheRequestedLetterSpacing) {
     const QString word = QStringLiteral("GROW");
     const double plain = QFontMetricsF(Garden::sans(9, QFont::Medium)).horizontalAdvance(word);
     const double tracked = QFontMetricsF(Garden::sans(9, QFont::Medium, 2)).horizontalAdvance(word);
@@ -63,7 +63,7 @@ TEST(Fonts, trackTheSansByLogicalPixels) {
     EXPECT_NEAR(tracked - plain, 2.0 * static_cast<double>(word.size()), 0.5);
 }
 
-TEST(Fonts, keepLettersTogetherThatJoinEachOther) {
+TEST(Fonts, haveNoLetterSpacingInCursiveScripts) {
     const QFont spaced = Garden::sans(14, QFont::Medium, 2);
     for (const char* text : {"النقاط", "अंक", "10 نقاط"}) {
         EXPECT_EQ(Garden::fittedTo(QString::fromUtf8(text), spaced).letterSpacing(), 0) << text;
@@ -73,7 +73,7 @@ TEST(Fonts, keepLettersTogetherThatJoinEachOther) {
     }
 }
 
-TEST(Fonts, keepLettersOfManyStrokesLegible) {
+TEST(Fonts, haveAMinimumSizeInScriptsWithComplexGlyphs) {
     const QFont small = Garden::sans(8, QFont::Medium);
     for (const char* text : {"النقاط", "अंक", "スコア", "得分", "점수"}) {
         EXPECT_EQ(Garden::fittedTo(QString::fromUtf8(text), small).pixelSize(), 11) << text;

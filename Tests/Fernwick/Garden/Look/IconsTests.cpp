@@ -24,7 +24,7 @@ QImage painted(Garden::Icon icon, int side, double scale, const QColor& colour) 
 
 }  // namespace
 
-TEST(Icons, areAllDrawnAndAllDifferent) {
+TEST(Icons, areAllVisibleAndDifferent) {
     QSet<QByteArray> seen;
     for (int index = 0; index < iconCount; ++index) {
         const QImage image = painted(static_cast<Garden::Icon>(index), 48, 1, Garden::mint);
@@ -35,7 +35,7 @@ TEST(Icons, areAllDrawnAndAllDifferent) {
     EXPECT_EQ(seen.size(), iconCount);
 }
 
-TEST(Icons, stayInsideTheirGrid) {
+TEST(Icons, fitTheirGrid) {
     constexpr int side = 240;
     for (int index = 0; index < iconCount; ++index) {
         const QRect ink = inkOf(painted(static_cast<Garden::Icon>(index), side, 1, Qt::white));
@@ -43,7 +43,7 @@ TEST(Icons, stayInsideTheirGrid) {
     }
 }
 
-TEST(Icons, areTintedInOneFlatColourHoweverFaint) {
+TEST(Icons, areTintedInOneFlatColourEvenWhenTranslucent) {
     const QColor faint = Garden::withOpacity(Garden::muted, 0.4);
     QImage image(64, 64, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
@@ -60,7 +60,7 @@ TEST(Icons, areTintedInOneFlatColourHoweverFaint) {
     EXPECT_NEAR(strongest, faint.alpha(), 1);
 }
 
-TEST(Icons, areDrawnAnewForFinerPixels) {
+TEST(Icons, areRenderedAtTheDevicePixelRatio) {
     const QImage coarse = painted(Garden::Icon::leaf, 30, 1, Garden::mint);
     const QImage fine = painted(Garden::Icon::leaf, 30, 2, Garden::mint);
 
@@ -68,7 +68,7 @@ TEST(Icons, areDrawnAnewForFinerPixels) {
     EXPECT_GT(countOf(fine, Garden::mint), countOf(coarse, Garden::mint));
 }
 
-TEST(Icons, takeALighterCutAsAnEmblem) {
+TEST(Icons, haveThinnerStrokesAtEmblemSize) {
     // Four times the area, yet fewer than four times the inked pixels.
     const int inButton = countOf(painted(Garden::Icon::trophy, 16, 8, Garden::mint), Garden::mint);
     const int asEmblem = countOf(painted(Garden::Icon::trophy, 32, 8, Garden::mint), Garden::mint);
@@ -76,7 +76,7 @@ TEST(Icons, takeALighterCutAsAnEmblem) {
     EXPECT_LT(asEmblem, 3.2 * inButton);
 }
 
-TEST(Icons, lieOnWholeDevicePixels) {
+TEST(Icons, areAlignedToDevicePixels) {
     const QImage straight = painted(Garden::Icon::pause, 16, 1, Garden::mint);
     QImage shifted(16, 16, QImage::Format_ARGB32_Premultiplied);
     shifted.fill(Qt::black);
@@ -88,7 +88,7 @@ TEST(Icons, lieOnWholeDevicePixels) {
     EXPECT_EQ(shifted, straight);
 }
 
-TEST(Icons, giveTheProgramOneAtEverySize) {
+TEST(Icons, includeTheApplicationIconInEverySize) {
     const QIcon icon = Garden::applicationIcon();
 
     for (const int side : {16, 24, 32, 48, 64, 128, 256, 512}) {
@@ -97,7 +97,7 @@ TEST(Icons, giveTheProgramOneAtEverySize) {
     }
 }
 
-TEST(IconView, showsOneSymbolAtItsSize) {
+TEST(IconView, showsItsIconAtItsSize) {
     Garden::IconView view(Garden::Icon::leaf, 30, Garden::mint);
     EXPECT_EQ(view.size(), QSize(30, 30));
     const QImage leaf = picture(view, 2);

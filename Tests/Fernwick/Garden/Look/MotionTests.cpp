@@ -5,11 +5,11 @@
 #include "Garden/Look/Motion.hpp"
 #include "Support/StillStyle.hpp"
 
-TEST(Motion, isFreeOnAnOrdinaryDesktop) {
+TEST(Motion, isNotReducedByDefault) {
     EXPECT_FALSE(Garden::reducedMotion());
 }
 
-TEST(Motion, isReducedWhereTheStyleAnimatesNothing) {
+TEST(Motion, isReducedIfTheStyleDisablesAnimations) {
     {
         const StillStyle still;
         EXPECT_TRUE(Garden::reducedMotion());

@@ -4,13 +4,13 @@
 
 #include "Garden/Look/NumberText.hpp"
 
-TEST(NumberText, standsInPlaceOfThePlaceholder) {
+TEST(NumberText, replacesThePlaceholder) {
     EXPECT_EQ(Garden::withNumber(QStringLiteral("You gathered %lld points."), 1230),
               QStringLiteral("You gathered 1230 points."));
     EXPECT_EQ(Garden::withNumber(QStringLiteral("%lld"), 0), QStringLiteral("0"));
 }
 
-TEST(NumberText, writesTheWholeRangePlainly) {
+TEST(NumberText, writesTheWholeRangeWithoutGrouping) {
     EXPECT_EQ(Garden::withNumber(QStringLiteral("%lld"), std::numeric_limits<qint64>::max()),
               QStringLiteral("9223372036854775807"));
     EXPECT_EQ(Garden::withNumber(QStringLiteral("%lld"), std::numeric_limits<qint64>::min()),

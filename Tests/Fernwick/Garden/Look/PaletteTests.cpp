@@ -15,7 +15,7 @@ void expectComponents(const QColor& colour, float red, float green, float blue, 
 
 }  // namespace
 
-TEST(Palette, keepsItsFractionsAtSixteenBits) {
+TEST(Palette, storesComponentsWith16Bits) {
     expectComponents(Garden::mint, 0.65F, 0.94F, 0.64F, 1);
     expectComponents(Garden::muted, 0.48F, 0.59F, 0.53F, 1);
     expectComponents(Garden::night, 0.035F, 0.065F, 0.053F, 1);
@@ -23,7 +23,7 @@ TEST(Palette, keepsItsFractionsAtSixteenBits) {
     expectComponents(Garden::ink, 0.06F, 0.15F, 0.09F, 1);
 }
 
-TEST(Palette, replacesTheOpacityAndNothingElse) {
+TEST(Palette, changesOnlyTheOpacity) {
     expectComponents(Garden::withOpacity(Garden::mint, 0.16), 0.65F, 0.94F, 0.64F, 0.16F);
     expectComponents(Garden::withOpacity(Qt::white, 0.55), 1, 1, 1, 0.55F);
 }

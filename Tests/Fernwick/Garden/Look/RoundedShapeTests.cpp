@@ -7,10 +7,10 @@
 
 namespace {
 
-constexpr QRectF plate(0, 0, 200, 100);
+constexpr QRectF rectangle(0, 0, 200, 100);
 constexpr double radius = 22;
 
-// How far from the corner's point, along each axis, the shape crosses the diagonal.
+// Where the shape crosses the diagonal of its top left corner: the x and y of that point.
 double diagonalGap(const QPainterPath& shape) {
     double outside = 0;
     double inside = 50;
@@ -21,26 +21,26 @@ double diagonalGap(const QPainterPath& shape) {
     return inside;
 }
 
-void expectPointSymmetry(const QPainterPath& shape, const QRectF& rect) {
+void expectSymmetry(const QPainterPath& shape, const QRectF& rect) {
     for (double x = rect.left() + 0.25; x < rect.right(); x += 1.5) {
         for (double y = rect.top() + 0.25; y < rect.bottom(); y += 1.5) {
-            const QPointF across(rect.left() + rect.right() - x, rect.top() + rect.bottom() - y);
-            const QPointF beside(rect.left() + rect.right() - x, y);
-            ASSERT_EQ(shape.contains(QPointF(x, y)), shape.contains(across)) << x << ' ' << y;
-            ASSERT_EQ(shape.contains(QPointF(x, y)), shape.contains(beside)) << x << ' ' << y;
+            const QPointF opposite(rect.left() + rect.right() - x, rect.top() + rect.bottom() - y);
+            const QPointF mirrored(rect.left() + rect.right() - x, y);
+            ASSERT_EQ(shape.contains(QPointF(x, y)), shape.contains(opposite)) << x << ' ' << y;
+            ASSERT_EQ(shape.contains(QPointF(x, y)), shape.contains(mirrored)) << x << ' ' << y;
         }
     }
 }
 
 }  // namespace
 
-TEST(RoundedShape, fillsItsRectangleAndNoMore) {
-    EXPECT_EQ(Garden::continuousRoundedRect(plate, radius).boundingRect(), plate);
-    EXPECT_EQ(Garden::continuousCapsule(plate).boundingRect(), plate);
+TEST(RoundedShape, hasTheRectangleAsItsBounds) {
+    EXPECT_EQ(Garden::continuousRoundedRect(rectangle, radius).boundingRect(), rectangle);
+    EXPECT_EQ(Garden::continuousCapsule(rectangle).boundingRect(), rectangle);
 }
 
 TEST(RoundedShape, followsTheSuperellipse) {
-    const QPainterPath shape = Garden::continuousRoundedRect(plate, radius);
+    const QPainterPath shape = Garden::continuousRoundedRect(rectangle, radius);
 
     constexpr double exponent = 2.5;
     for (double angle = 0.05; angle < 1.55; angle += 0.05) {
@@ -53,29 +53,29 @@ TEST(RoundedShape, followsTheSuperellipse) {
 }
 
 TEST(RoundedShape, isTheSameAtEveryCorner) {
-    expectPointSymmetry(Garden::continuousRoundedRect(plate, radius), plate);
-    expectPointSymmetry(Garden::continuousCapsule(plate), plate);
+    expectSymmetry(Garden::continuousRoundedRect(rectangle, radius), rectangle);
+    expectSymmetry(Garden::continuousCapsule(rectangle), rectangle);
 }
 
 TEST(RoundedShape, limitsTheRadiusToHalfTheShorterSide) {
-    EXPECT_EQ(Garden::continuousRoundedRect(plate, 500),
-              Garden::continuousRoundedRect(plate, plate.height() / 2));
+    EXPECT_EQ(Garden::continuousRoundedRect(rectangle, 500),
+              Garden::continuousRoundedRect(rectangle, rectangle.height() / 2));
 }
 
-TEST(RoundedShape, isTheRectangleItselfWithoutARadius) {
-    QPainterPath rectangle;
-    rectangle.addRect(plate);
+TEST(RoundedShape, isTheRectangleForRadius0) {
+    QPainterPath path;
+    path.addRect(rectangle);
 
-    EXPECT_EQ(Garden::continuousRoundedRect(plate, 0), rectangle);
+    EXPECT_EQ(Garden::continuousRoundedRect(rectangle, 0), path);
 }
 
-TEST(RoundedShape, endsACapsuleRoundly) {
-    const double circle = plate.height() / 2 * (1 - std::sqrt(0.5));
+TEST(RoundedShape, givesACapsuleCircularEnds) {
+    const double circle = rectangle.height() / 2 * (1 - std::sqrt(0.5));
 
-    EXPECT_NEAR(diagonalGap(Garden::continuousCapsule(plate)), circle, 0.05);
+    EXPECT_NEAR(diagonalGap(Garden::continuousCapsule(rectangle)), circle, 0.05);
 }
 
-TEST(RoundedShape, makesACircleOfASquare) {
+TEST(RoundedShape, makesASquareCapsuleACircle) {
     const QPainterPath shape = Garden::continuousCapsule(QRectF(-50, -50, 100, 100));
 
     for (double angle = 0; angle < 6.28; angle += 0.1) {
@@ -85,13 +85,13 @@ TEST(RoundedShape, makesACircleOfASquare) {
     }
 }
 
-TEST(RoundedShape, standsUprightAsItLies) {
-    const QPainterPath lying = Garden::continuousCapsule(plate);
-    const QPainterPath standing = Garden::continuousCapsule(QRectF(0, 0, 100, 200));
+TEST(RoundedShape, isTheSameForAnUprightCapsule) {
+    const QPainterPath horizontal = Garden::continuousCapsule(rectangle);
+    const QPainterPath upright = Garden::continuousCapsule(QRectF(0, 0, 100, 200));
 
     for (double x = 0.25; x < 100; x += 1.5) {
         for (double y = 0.25; y < 200; y += 1.5) {
-            ASSERT_EQ(standing.contains(QPointF(x, y)), lying.contains(QPointF(y, x)));
+            ASSERT_EQ(upright.contains(QPointF(x, y)), horizontal.contains(QPointF(y, x)));
         }
     }
 }

@@ -8,15 +8,17 @@
 #include <QProcess>
 #include <QTest>
 #include <chrono>
+#include <memory>
 
-#include "Garden/Look/MotionSetting.hpp"
+#include "Desktop/PortalSwitch.hpp"
+#include "Garden/Look/Motion.hpp"
 
 namespace {
 
 const QString gnome = QStringLiteral("org.gnome.desktop.interface");
 const QString gnomeKey = QStringLiteral("enable-animations");
 
-/// A desktop's settings portal, holding what a test tells it.
+/// A settings portal that returns `values`.
 class Portal : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
@@ -28,7 +30,7 @@ public:
 public Q_SLOTS:
     QDBusVariant Read(const QString& group, const QString& key) {
         ++reads;
-        // In two envelopes, as portals really answer.
+        // Wrapped in two variants, as real portals reply.
         return QDBusVariant(
             QVariant::fromValue(QDBusVariant(values.value(group + u'/' + key, QString()))));
     }
@@ -37,7 +39,7 @@ Q_SIGNALS:
     void SettingChanged(const QString& group, const QString& key, const QDBusVariant& value);
 };
 
-class MotionSetting : public testing::Test {
+class ReducedMotionSetting : public testing::Test {
 protected:
     void SetUp() override {
         daemon.start(QStringLiteral("dbus-daemon"),
@@ -66,19 +68,19 @@ protected:
         return QDBusConnection::connectToBus(address, QStringLiteral("program"));
     }
 
-    bool answered() {
+    bool allSettingsRead() {
         return QTest::qWaitFor([this] { return portal.reads == 3; });
     }
 
-    static bool becomes(const Garden::MotionSetting& setting, bool still) {
-        return QTest::qWaitFor([&] { return setting.asksForStillness() == still; });
+    std::unique_ptr<Desktop::PortalSwitch> settingOn(const QDBusConnection& bus) {
+        return std::unique_ptr<Desktop::PortalSwitch>(Garden::reducedMotionSetting(bus, nullptr));
     }
 
-    // Said again until it is heard: a subscription takes its first moments to stand.
-    bool hears(const Garden::MotionSetting& setting, bool animations) {
+    // Sends the change until it arrives: the subscription to the signal may not exist yet.
+    bool follows(const Desktop::PortalSwitch& setting, bool animations) {
         return QTest::qWaitFor([&] {
             Q_EMIT portal.SettingChanged(gnome, gnomeKey, QDBusVariant(animations));
-            return setting.asksForStillness() != animations;
+            return setting.isOn() != animations;
         });
     }
 
@@ -89,72 +91,72 @@ protected:
 
 }  // namespace
 
-TEST_F(MotionSetting, heedsEachDesktopsOwnWord) {
-    const QHash<QString, QVariant> words{
+TEST_F(ReducedMotionSetting, isOnByTheSettingOfAnyDesktop) {
+    const QHash<QString, QVariant> values{
         {gnome + u'/' + gnomeKey, false},
         {QStringLiteral("org.kde.kdeglobals.KDE/AnimationDurationFactor"), QStringLiteral("0")},
         {QStringLiteral("org.freedesktop.appearance/reduced-motion"), 1U}};
     openPortal();
-    for (auto word = words.begin(); word != words.end(); ++word) {
-        portal.values = {{word.key(), word.value()}};
-        const Garden::MotionSetting setting(programBus());
-        EXPECT_FALSE(setting.asksForStillness());
-        EXPECT_TRUE(becomes(setting, true)) << word.key().toStdString();
+    for (auto value = values.begin(); value != values.end(); ++value) {
+        portal.values = {{value.key(), value.value()}};
+        const auto setting = settingOn(programBus());
+        EXPECT_FALSE(setting->isOn());
+        EXPECT_TRUE(QTest::qWaitFor([&] { return setting->isOn(); })) << value.key().toStdString();
     }
 }
 
-TEST_F(MotionSetting, letsThingsMoveWhereTheDesktopDoes) {
+TEST_F(ReducedMotionSetting, isOffWhereTheDesktopAnimates) {
     portal.values = {
         {gnome + u'/' + gnomeKey, true},
         {QStringLiteral("org.kde.kdeglobals.KDE/AnimationDurationFactor"), QStringLiteral("0.5")},
         {QStringLiteral("org.freedesktop.appearance/reduced-motion"), 0U}};
     openPortal();
-    const Garden::MotionSetting setting(programBus());
+    const auto setting = settingOn(programBus());
 
-    ASSERT_TRUE(answered());
+    ASSERT_TRUE(allSettingsRead());
     QTest::qWait(50);
 
-    EXPECT_FALSE(setting.asksForStillness());
+    EXPECT_FALSE(setting->isOn());
 }
 
-TEST_F(MotionSetting, doesNotWaitForABusThatHangs) {
+TEST_F(ReducedMotionSetting, doesNotWaitForAHangingBus) {
     const QDBusConnection bus = programBus();
     const auto process = static_cast<pid_t>(daemon.processId());
     ASSERT_EQ(::kill(process, SIGSTOP), 0);
-    const auto began = std::chrono::steady_clock::now();
+    const auto start = std::chrono::steady_clock::now();
 
-    const Garden::MotionSetting setting(bus);
+    const auto setting = settingOn(bus);
 
-    EXPECT_LT(std::chrono::steady_clock::now() - began, std::chrono::seconds(5));
-    EXPECT_FALSE(setting.asksForStillness());
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
+    EXPECT_FALSE(setting->isOn());
     ::kill(process, SIGCONT);
 }
 
-TEST_F(MotionSetting, followsALaterChange) {
+TEST_F(ReducedMotionSetting, followsALaterChange) {
     openPortal();
-    const Garden::MotionSetting setting(programBus());
-    ASSERT_TRUE(answered());
+    const auto setting = settingOn(programBus());
+    ASSERT_TRUE(allSettingsRead());
 
-    EXPECT_TRUE(hears(setting, false));
-    EXPECT_TRUE(hears(setting, true));
+    EXPECT_TRUE(follows(*setting, false));
+    EXPECT_TRUE(follows(*setting, true));
 }
 
-TEST_F(MotionSetting, staysUnmovedByOtherSettings) {
+TEST_F(ReducedMotionSetting, ignoresOtherSettings) {
     openPortal();
-    const Garden::MotionSetting setting(programBus());
-    ASSERT_TRUE(hears(setting, false));
+    const auto setting = settingOn(programBus());
+    ASSERT_TRUE(follows(*setting, false));
 
     Q_EMIT portal.SettingChanged(gnome, QStringLiteral("cursor-blink"), QDBusVariant(true));
     QTest::qWait(50);
 
-    EXPECT_TRUE(setting.asksForStillness());
+    EXPECT_TRUE(setting->isOn());
 }
 
-TEST_F(MotionSetting, asksForNothingWhereThereIsNoPortal) {
-    const Garden::MotionSetting setting(programBus());
+TEST_F(ReducedMotionSetting, isOffWithoutAPortal) {
+    const auto setting = settingOn(programBus());
     QTest::qWait(50);
 
-    EXPECT_FALSE(setting.asksForStillness());
+    EXPECT_FALSE(setting->isOn());
 }
 
-#include "MotionSettingTests.moc"
+#include "ReducedMotionSettingTests.moc"
