@@ -25,8 +25,8 @@ inline bool isElement(const QWidget& widget) {
            qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
            qobject_cast<const NameField*>(&widget) != nullptr ||
            qobject_cast<const ScoreRows*>(&widget) != nullptr ||
-           qobject_cast<const StatusDot*>(&widget) != nullptr ||
-           qobject_cast<const Rule*>(&widget) != nullptr;
+           qobject_cast<const Garden::StatusDot*>(&widget) != nullptr ||
+           qobject_cast<const Garden::Rule*>(&widget) != nullptr;
 }
 
 /// What is shown inside `root` and is not made up of smaller things.

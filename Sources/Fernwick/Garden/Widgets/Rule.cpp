@@ -4,6 +4,8 @@
 
 #include "Garden/Look/Palette.hpp"
 
+namespace Garden {
+
 namespace {
 
 constexpr QSize ruleSize(1, 36);
@@ -16,5 +18,7 @@ Rule::Rule(QWidget* parent) : QWidget(parent) {
 }
 
 void Rule::paintEvent(QPaintEvent*) {
-    QPainter(this).fillRect(rect(), Garden::withOpacity(Garden::muted, opacity));
+    QPainter(this).fillRect(rect(), withOpacity(muted, opacity));
 }
+
+}  // namespace Garden

@@ -2,7 +2,9 @@
 
 #include <QWidget>
 
-/// The fine vertical line between the two score tiles.
+namespace Garden {
+
+/// The vertical line between the two score tiles, 1 × 36 points.
 class Rule : public QWidget {
     Q_OBJECT
 
@@ -12,3 +14,5 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
 };
+
+}  // namespace Garden

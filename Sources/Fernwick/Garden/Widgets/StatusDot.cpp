@@ -2,6 +2,8 @@
 
 #include <QPainter>
 
+namespace Garden {
+
 namespace {
 
 constexpr int diameter = 5;
@@ -26,3 +28,5 @@ void StatusDot::paintEvent(QPaintEvent*) {
     painter.setBrush(colour_);
     painter.drawEllipse(rect());
 }
+
+}  // namespace Garden

@@ -3,7 +3,9 @@
 #include <QColor>
 #include <QWidget>
 
-/// The small disc in front of the status word.
+namespace Garden {
+
+/// The dot in front of the status text, 5 points across.
 class StatusDot : public QWidget {
     Q_OBJECT
 
@@ -18,3 +20,5 @@ protected:
 private:
     QColor colour_;
 };
+
+}  // namespace Garden

@@ -21,7 +21,7 @@ ControlRow::ControlRow(Session& session, QWidget* parent)
     : QWidget(parent),
       session_(session),
       speeds_(new Garden::ChoiceGroup(paceNames(), tr("Speed"))),
-      dot_(new StatusDot),
+      dot_(new Garden::StatusDot),
       status_(new Garden::TrackedLabel({}, Garden::sans(statusSize, QFont::Medium, statusTracking),
                                        Garden::muted)) {
     auto* row = new QHBoxLayout(this);

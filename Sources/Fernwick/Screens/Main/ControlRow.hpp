@@ -3,10 +3,10 @@
 #include <QWidget>
 
 class Session;
-class StatusDot;
 
 namespace Garden {
 class ChoiceGroup;
+class StatusDot;
 class TrackedLabel;
 }  // namespace Garden
 
@@ -24,6 +24,6 @@ private:
 
     Session& session_;
     Garden::ChoiceGroup* speeds_;
-    StatusDot* dot_;
+    Garden::StatusDot* dot_;
     Garden::TrackedLabel* status_;
 };

@@ -38,7 +38,7 @@ HeaderRow::HeaderRow(Session& session, QWidget* parent)
     //: A tiny label above a number; so is the next. In capitals where the script has them.
     row->addLayout(scoreTile(tr("SCORE"), score_, Qt::AlignLeft));
     row->addSpacing(rulePadding);
-    row->addWidget(new Rule, 0, Qt::AlignVCenter);
+    row->addWidget(new Garden::Rule, 0, Qt::AlignVCenter);
     row->addSpacing(rulePadding);
     row->addLayout(scoreTile(tr("PERSONAL BEST"), best_, Qt::AlignRight));
     connect(&session_, &Session::changed, this, &HeaderRow::refresh);

@@ -164,10 +164,11 @@ TEST_P(WindowColours, writeTheNumbersAndTheRunningDotInMint) {
     startRun();
     const QImage seen = picture();
 
-    expectColour(colourAt(seen, QRectF(placeOf(the<StatusDot>())).center()), Garden::mint, 1);
+    expectColour(colourAt(seen, QRectF(placeOf(the<Garden::StatusDot>())).center()), Garden::mint,
+                 1);
     EXPECT_LE(Look::nearestTo(Garden::mint, seen, QRectF(window.width() - 140, 60, 102, 50)), 20);
     pauseRun();
-    expectColour(seenAt(QRectF(placeOf(the<StatusDot>())).center()), Garden::muted, 1);
+    expectColour(seenAt(QRectF(placeOf(the<Garden::StatusDot>())).center()), Garden::muted, 1);
 }
 
 TEST_P(WindowColours, fillTheMintButtonByItsThreeStates) {

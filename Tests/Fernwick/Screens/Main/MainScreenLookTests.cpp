@@ -101,7 +101,7 @@ TEST_P(MainScreenLook, alignsTheScoreLeftAndTheBestRight) {
 }
 
 TEST_P(MainScreenLook, rulesTheTilesApartBy12OnEachSide) {
-    const QRect rule = place<Rule>();
+    const QRect rule = place<Garden::Rule>();
     const QRect scoreTile = placeOf(label("SCORE")) | digits("SCORE");
     const QRect bestTile = placeOf(label("PERSONAL BEST")) | digits("PERSONAL BEST");
 
@@ -128,7 +128,7 @@ TEST_P(MainScreenLook, padsTheSpeedsBy4AndTheirWordsBy17And9) {
 }
 
 TEST_P(MainScreenLook, endsTheStatusAtTheRightEdgeBehindADotOf5) {
-    const QRect dot = place<StatusDot>();
+    const QRect dot = place<Garden::StatusDot>();
     const QRect word = placeOf(label("THE CLASSIC, REPLANTED"));
 
     EXPECT_EQ(dot.size(), QSize(5, 5));
