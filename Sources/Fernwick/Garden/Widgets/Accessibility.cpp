@@ -1,25 +1,39 @@
 #include "Garden/Widgets/Accessibility.hpp"
 
-#include <QAccessible>
 #include <QAccessibleWidget>
+#include <QVariant>
 
-#include "Garden/Widgets/ChoiceButton.hpp"
-#include "Garden/Widgets/ChoiceGroup.hpp"
-#include "Garden/Widgets/IconView.hpp"
+#include "Garden/Widgets/QuietButton.hpp"
 #include "Garden/Widgets/RollingDigits.hpp"
-#include "Garden/Widgets/TrackedLabel.hpp"
 
 namespace Garden {
 
 namespace {
 
-class AccessibleButton : public QAccessibleWidget {
+constexpr const char* roleProperty = "accessibleRole";
+
+class AccessibleWidget : public QAccessibleWidget {
 public:
-    AccessibleButton(QuietButton* button, QAccessible::Role role)
-        : QAccessibleWidget(button, role), button_(button) {}
+    explicit AccessibleWidget(QWidget* widget) : QAccessibleWidget(widget) {}
+
+    [[nodiscard]] QAccessible::Role role() const override {
+        return static_cast<QAccessible::Role>(widget()->property(roleProperty).toInt());
+    }
 
     [[nodiscard]] QAccessible::State state() const override {
         QAccessible::State state = QAccessibleWidget::state();
+        state.modal = role() == QAccessible::Dialog;
+        return state;
+    }
+};
+
+// Qt's own interface for buttons presses them with animateClick(), 100 ms late.
+class AccessibleButton : public AccessibleWidget {
+public:
+    explicit AccessibleButton(QuietButton* button) : AccessibleWidget(button), button_(button) {}
+
+    [[nodiscard]] QAccessible::State state() const override {
+        QAccessible::State state = AccessibleWidget::state();
         state.checkable = button_->isCheckable();
         state.checked = button_->isChecked();
         state.pressed = button_->isDown();
@@ -51,10 +65,9 @@ private:
     QuietButton* button_;
 };
 
-class AccessibleDigits : public QAccessibleWidget {
+class AccessibleDigits : public AccessibleWidget {
 public:
-    explicit AccessibleDigits(RollingDigits* digits)
-        : QAccessibleWidget(digits, QAccessible::StaticText), digits_(digits) {}
+    explicit AccessibleDigits(RollingDigits* digits) : AccessibleWidget(digits), digits_(digits) {}
 
     [[nodiscard]] QString text(QAccessible::Text kind) const override {
         const QString number = QString::number(digits_->value());
@@ -73,32 +86,24 @@ private:
 };
 
 QAccessibleInterface* create(const QString&, QObject* object) {
-    if (auto* choice = qobject_cast<ChoiceButton*>(object)) {
-        return new AccessibleButton(choice, QAccessible::RadioButton);
+    if (!object->property(roleProperty).isValid()) {
+        return nullptr;
     }
     if (auto* button = qobject_cast<QuietButton*>(object)) {
-        return new AccessibleButton(button, QAccessible::PushButton);
+        return new AccessibleButton(button);
     }
     if (auto* digits = qobject_cast<RollingDigits*>(object)) {
         return new AccessibleDigits(digits);
     }
-    if (auto* label = qobject_cast<TrackedLabel*>(object)) {
-        return new QAccessibleWidget(label, QAccessible::StaticText);
-    }
-    if (auto* group = qobject_cast<ChoiceGroup*>(object)) {
-        return new QAccessibleWidget(group, QAccessible::Grouping);
-    }
-    if (auto* view = qobject_cast<IconView*>(object)) {
-        return new QAccessibleWidget(view, QAccessible::Graphic);
-    }
-    return nullptr;
+    return new AccessibleWidget(qobject_cast<QWidget*>(object));
 }
 
 }  // namespace
 
-void installAccessibility() {
-    // Installing the same factory again is free: Qt keeps each one once.
+void setAccessibleRole(QWidget& widget, QAccessible::Role role) {
+    // Qt ignores a factory that is already installed.
     QAccessible::installFactory(create);
+    widget.setProperty(roleProperty, static_cast<int>(role));
 }
 
 }  // namespace Garden

@@ -7,35 +7,29 @@
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/Palette.hpp"
 #include "Garden/Look/RoundedShape.hpp"
+#include "Garden/Widgets/Accessibility.hpp"
 
 namespace Garden {
 
 namespace {
 
 constexpr double fontSize = 12;
-constexpr QFont::Weight fontWeight = QFont::Medium;
-constexpr int horizontalPadding = 17;
-constexpr int verticalPadding = 9;
+constexpr QSize padding(17, 9);
 constexpr double currentOpacity = 0.16;
 constexpr double hoverOpacity = 0.05;
 
 }  // namespace
 
-ChoiceButton::ChoiceButton(const QString& text, QWidget* parent) : QuietButton(parent) {
-    setText(text);
-    setFont(sans(fontSize, fontWeight));
+ChoiceButton::ChoiceButton(const QString& text, QWidget* parent)
+    : QuietButton(text, sans(fontSize, QFont::Medium), padding, parent) {
+    setAccessibleRole(*this, QAccessible::RadioButton);
     setCheckable(true);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-}
-
-QSize ChoiceButton::sizeHint() const {
-    return paddedTextSize(horizontalPadding, verticalPadding);
 }
 
 void ChoiceButton::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Left || event->key() == Qt::Key_Right) {
         const bool forward = (event->key() == Qt::Key_Right) != isRightToLeft();
-        Q_EMIT steppedOff(forward ? 1 : -1);
+        Q_EMIT arrowPressed(forward ? 1 : -1);
     } else {
         QuietButton::keyPressEvent(event);
     }
@@ -54,9 +48,7 @@ void ChoiceButton::paintEvent(QPaintEvent*) {
     }
     painter.setPen(legible(isChecked() ? mint : muted));
     painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
-    constexpr double inset = FocusRing::width / 2;
-    focusRing().paint(painter, continuousCapsule(shape.adjusted(inset, inset, -inset, -inset)),
-                      mint);
+    focusRing().paint(painter, continuousCapsule(inset(shape, FocusRing::width / 2)), mint);
 }
 
 }  // namespace Garden

@@ -20,7 +20,7 @@ constexpr double groupOpacity = 0.035;
 
 ChoiceGroup::ChoiceGroup(const QStringList& choices, const QString& accessibleName, QWidget* parent)
     : QWidget(parent) {
-    installAccessibility();
+    setAccessibleRole(*this, QAccessible::Grouping);
     setAccessibleName(accessibleName);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     auto* row = new QHBoxLayout(this);
@@ -29,8 +29,12 @@ ChoiceGroup::ChoiceGroup(const QStringList& choices, const QString& accessibleNa
     for (int index = 0; index < choices.size(); ++index) {
         auto* button = new ChoiceButton(choices[index], this);
         connect(button, &ChoiceButton::clicked, this, [this, index] { Q_EMIT chosen(index); });
-        connect(button, &ChoiceButton::steppedOff, this,
-                [this, index](int step) { chooseNeighbour(index, step); });
+        connect(button, &ChoiceButton::arrowPressed, this, [this, index](int step) {
+            if (ChoiceButton* neighbour = buttons_.value(index + step); neighbour != nullptr) {
+                neighbour->setFocus(step > 0 ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+                neighbour->click();
+            }
+        });
         row->addWidget(button);
         buttons_.append(button);
     }
@@ -46,14 +50,6 @@ void ChoiceGroup::setCurrent(int index) {
 void ChoiceGroup::setChoicesEnabled(bool enabled) {
     for (ChoiceButton* button : buttons_) {
         button->setEnabled(enabled);
-    }
-}
-
-void ChoiceGroup::chooseNeighbour(int index, int step) {
-    const int neighbour = index + step;
-    if (neighbour >= 0 && neighbour < buttons_.size()) {
-        buttons_[neighbour]->setFocus(step > 0 ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-        buttons_[neighbour]->click();
     }
 }
 

@@ -8,8 +8,9 @@ namespace Garden {
 
 class ChoiceButton;
 
-/// A row of words of which one is current. Pressing a word, or the left and right arrows on it,
-/// asks for another; the owner answers with `setCurrent`.
+/// A row of choices, one of them current. Clicking a choice emits `chosen`; the left and right
+/// arrow keys focus and click its neighbour. The owner answers by calling `setCurrent`. Not a
+/// `QButtonGroup`, which checks the clicked button itself and leaves one button in the tab order.
 class ChoiceGroup : public QWidget {
     Q_OBJECT
 
@@ -17,22 +18,20 @@ public:
     ChoiceGroup(const QStringList& choices, const QString& accessibleName,
                 QWidget* parent = nullptr);
 
-    /// Index of the current choice, from 0; -1 before the first `setCurrent`.
+    /// Index of the current choice; -1 before the first `setCurrent`.
     [[nodiscard]] int current() const { return current_; }
     void setCurrent(int index);
 
     void setChoicesEnabled(bool enabled);
 
 Q_SIGNALS:
-    /// The player pressed this choice, current or not.
+    /// The player selected this choice, which may be the current one.
     void chosen(int index);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void chooseNeighbour(int index, int step);
-
     QList<ChoiceButton*> buttons_;
     int current_ = -1;
 };

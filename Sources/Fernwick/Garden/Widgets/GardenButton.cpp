@@ -11,36 +11,19 @@ namespace Garden {
 namespace {
 
 constexpr double fontSize = 13;
-constexpr QFont::Weight fontWeight = QFont::DemiBold;
-constexpr int horizontalPadding = 30;
-constexpr int verticalPadding = 13;
-// On mint the ring lies inside the fill: dark, and clear of the text.
-constexpr double ringInset = 3;
+constexpr QSize padding(30, 13);
 
 }  // namespace
 
-GardenButton::GardenButton(const QString& text, QWidget* parent) : QuietButton(parent) {
-    setText(text);
-    setFont(sans(fontSize, fontWeight));
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-}
-
-QSize GardenButton::sizeHint() const {
-    return paddedTextSize(horizontalPadding, verticalPadding);
-}
+GardenButton::GardenButton(const QString& text, QWidget* parent)
+    : QuietButton(text, sans(fontSize, QFont::DemiBold), padding, parent) {}
 
 void GardenButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF shape = rect();
-    painter.fillPath(continuousCapsule(shape),
-                     withOpacity(mint, fillOpacity(isEnabled(), isDown())));
-    constexpr double edgeInset = hoverEdgeWidth / 2;
-    paintHoverEdge(painter,
-                   continuousCapsule(shape.adjusted(edgeInset, edgeInset, -edgeInset, -edgeInset)));
-    focusRing().paint(
-        painter, continuousCapsule(shape.adjusted(ringInset, ringInset, -ringInset, -ringInset)),
-        ink);
+    const auto capsule = [this](double distance) {
+        return continuousCapsule(inset(rect(), distance));
+    };
+    paintFill(painter, capsule(0), capsule(hoverEdgeInset), capsule(filledRingInset));
     painter.setPen(ink);
     painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
 }

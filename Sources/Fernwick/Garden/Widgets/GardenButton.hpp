@@ -4,15 +4,13 @@
 
 namespace Garden {
 
-/// The primary button: dark text on a mint capsule that grows with its text. Pressing or disabling
-/// changes the opacity of the fill and nothing else.
+/// The primary button of a card or sheet: dark text on a mint capsule. Pressing or disabling it
+/// changes only the opacity of the fill.
 class GardenButton : public QuietButton {
     Q_OBJECT
 
 public:
     explicit GardenButton(const QString& text, QWidget* parent = nullptr);
-
-    [[nodiscard]] QSize sizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

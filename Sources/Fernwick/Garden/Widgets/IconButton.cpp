@@ -17,7 +17,7 @@ constexpr double plateOpacity = 0.05;
 }  // namespace
 
 IconButton::IconButton(Icon icon, const QString& helpText, QWidget* parent)
-    : QuietButton(parent), icon_(icon) {
+    : QuietButton({}, {}, {}, parent), icon_(icon) {
     setFixedSize(side, side);
     setToolTip(helpText);
     setAccessibleName(helpText);
@@ -43,11 +43,9 @@ void IconButton::paintEvent(QPaintEvent*) {
                          withOpacity(Qt::white, plateOpacity));
     }
     constexpr double margin = (side - symbolSize) / 2;
-    paintIcon(painter, icon_, whole.adjusted(margin, margin, -margin, -margin), quietColour());
-    constexpr double inset = FocusRing::width / 2;
-    focusRing().paint(
-        painter, continuousRoundedRect(whole.adjusted(inset, inset, -inset, -inset), plateRadius),
-        mint);
+    paintIcon(painter, icon_, inset(whole, margin), quietColour());
+    focusRing().paint(painter,
+                      continuousRoundedRect(inset(whole, FocusRing::width / 2), plateRadius), mint);
 }
 
 }  // namespace Garden

@@ -5,8 +5,8 @@
 
 namespace Garden {
 
-/// A symbol to press, in `muted`, 26 × 26 logical pixels. Its help text is its tooltip and its
-/// accessible name.
+/// A button that shows an icon in `muted`, 26 × 26 points. Its help text is both its tooltip and
+/// its accessible name.
 class IconButton : public QuietButton {
     Q_OBJECT
 

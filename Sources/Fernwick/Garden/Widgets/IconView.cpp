@@ -10,7 +10,7 @@ namespace Garden {
 
 IconView::IconView(Icon icon, double size, const QColor& colour, QWidget* parent)
     : QWidget(parent), icon_(icon), size_(size), colour_(colour) {
-    installAccessibility();
+    setAccessibleRole(*this, QAccessible::Graphic);
     const int side = static_cast<int>(std::ceil(size));
     setFixedSize(side, side);
 }

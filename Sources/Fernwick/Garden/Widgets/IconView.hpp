@@ -7,7 +7,7 @@
 
 namespace Garden {
 
-/// One symbol in one colour, `size` logical pixels square. Decoration: silent to assistive tools.
+/// A decorative icon in one colour, `size` points square. It has no accessible name.
 class IconView : public QWidget {
     Q_OBJECT
 

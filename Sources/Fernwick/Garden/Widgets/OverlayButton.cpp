@@ -1,6 +1,5 @@
 #include "Garden/Widgets/OverlayButton.hpp"
 
-#include <QFontMetricsF>
 #include <QPainter>
 #include <cmath>
 
@@ -14,58 +13,35 @@ namespace Garden {
 namespace {
 
 constexpr double fontSize = 13;
-constexpr QFont::Weight fontWeight = QFont::DemiBold;
-constexpr int horizontalPadding = 25;
-constexpr int verticalPadding = 15;
+constexpr QSize padding(25, 15);
 constexpr double cornerRadius = 22;
-constexpr double arrowSpacing = 8;
-// Odd in an even height: the shaft then lies on one row of pixels, at the middle of the letters.
-constexpr double arrowSize = 13;
-constexpr double ringInset = 3;
+constexpr int arrowSpacing = 8;
+// Odd in an even height, so that the shaft fills one row of pixels, at the middle of the letters.
+constexpr int arrowSize = 13;
 
 }  // namespace
 
-OverlayButton::OverlayButton(const QString& text, QWidget* parent) : QuietButton(parent) {
-    setText(text);
-    setFont(sans(fontSize, fontWeight));
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-}
-
-double OverlayButton::textWidth() const {
-    return std::ceil(QFontMetricsF(font()).horizontalAdvance(text()));
-}
+OverlayButton::OverlayButton(const QString& text, QWidget* parent)
+    : QuietButton(text, sans(fontSize, QFont::DemiBold), padding, parent) {}
 
 QSize OverlayButton::sizeHint() const {
-    const QSize arrow(static_cast<int>(arrowSpacing + arrowSize), 0);
-    return paddedTextSize(horizontalPadding, verticalPadding) + arrow;
+    return QuietButton::sizeHint() + QSize(arrowSpacing + arrowSize, 0);
 }
 
 void OverlayButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
     const QRectF shape = rect();
-    painter.fillPath(continuousRoundedRect(shape, cornerRadius),
-                     withOpacity(mint, fillOpacity(isEnabled(), isDown())));
-    constexpr double edgeInset = hoverEdgeWidth / 2;
-    paintHoverEdge(
-        painter, continuousRoundedRect(shape.adjusted(edgeInset, edgeInset, -edgeInset, -edgeInset),
-                                       cornerRadius));
-    focusRing().paint(
-        painter,
-        continuousRoundedRect(shape.adjusted(ringInset, ringInset, -ringInset, -ringInset),
-                              cornerRadius - ringInset),
-        ink);
+    paintFill(painter, continuousRoundedRect(shape, cornerRadius),
+              continuousRoundedRect(inset(shape, hoverEdgeInset), cornerRadius),
+              continuousRoundedRect(inset(shape, filledRingInset), cornerRadius - filledRingInset));
 
-    const double content = textWidth() + arrowSpacing + arrowSize;
-    QRectF line = shape;
-    line.setLeft(std::floor((shape.width() - content) / 2));
-    line.setWidth(content);
+    const int content = sizeHint().width() - 2 * padding.width();
+    const QRectF line(std::floor((shape.width() - content) / 2), 0, content, shape.height());
     painter.setPen(ink);
     painter.setLayoutDirection(layoutDirection());
-    // On the side that lines begin at, whichever it is.
+    // AlignLeft is the leading side in either layout direction.
     painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text());
     if (isRightToLeft()) {
-        // The arrow points the way that is read, too.
         painter.setTransform(QTransform(-1, 0, 0, 1, shape.width(), 0), true);
     }
     paintIcon(

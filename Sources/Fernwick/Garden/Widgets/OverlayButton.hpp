@@ -4,8 +4,8 @@
 
 namespace Garden {
 
-/// The way on, over the resting board: a text and an arrow in the direction of reading, dark on
-/// mint.
+/// The primary button of the overlay on the board: dark text and an arrow in reading direction on a
+/// mint rounded rectangle.
 class OverlayButton : public QuietButton {
     Q_OBJECT
 
@@ -16,9 +16,6 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-
-private:
-    [[nodiscard]] double textWidth() const;
 };
 
 }  // namespace Garden

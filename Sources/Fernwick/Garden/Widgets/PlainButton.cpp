@@ -9,33 +9,21 @@ namespace Garden {
 
 namespace {
 
-// Room for the focus ring, and a kinder target for the pointer than the bare letters.
-constexpr int horizontalPadding = 8;
-constexpr int verticalPadding = 3;
+// Room for the focus ring, and a larger target to click than the text alone.
+constexpr QSize padding(8, 3);
 constexpr double ringRadius = 6;
 
 }  // namespace
 
 PlainButton::PlainButton(const QString& text, const QFont& font, QWidget* parent)
-    : QuietButton(parent) {
-    setText(text);
-    setFont(font);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-}
-
-QSize PlainButton::sizeHint() const {
-    return paddedTextSize(horizontalPadding, verticalPadding);
-}
+    : QuietButton(text, font, padding, parent) {}
 
 void PlainButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setPen(quietColour());
     painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
-    constexpr double inset = FocusRing::width / 2;
-    focusRing().paint(
-        painter,
-        continuousRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), ringRadius),
-        mint);
+    focusRing().paint(painter,
+                      continuousRoundedRect(inset(rect(), FocusRing::width / 2), ringRadius), mint);
 }
 
 }  // namespace Garden

@@ -14,34 +14,36 @@ namespace Garden {
 
 namespace {
 
-constexpr double restingFill = 1;
 constexpr double pressedFill = 0.7;
 constexpr double disabledFill = 0.3;
+constexpr double hoverEdgeOpacity = 0.7;
 
 constexpr QColor hoveredQuiet = srgb(0.66, 0.80, 0.70);
 constexpr double pressedQuiet = 0.7;
 constexpr double disabledQuiet = 0.4;
 
-// The fill itself speaks of pressed and disabled alone.
-constexpr double hoverEdgeOpacity = 0.7;
-
 }  // namespace
 
-QuietButton::QuietButton(QWidget* parent) : QAbstractButton(parent) {
-    installAccessibility();
+QuietButton::QuietButton(const QString& text, const QFont& font, QSize padding, QWidget* parent)
+    : QAbstractButton(parent), padding_(padding) {
+    setAccessibleRole(*this, QAccessible::PushButton);
+    setText(text);
+    setFont(font);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_Hover);
     setCursor(Qt::PointingHandCursor);
 }
 
-bool QuietButton::hovered() const {
-    return isEnabled() && underMouse();
+QSize QuietButton::sizeHint() const {
+    const QFontMetricsF metrics(font());
+    return QSize(static_cast<int>(std::ceil(metrics.horizontalAdvance(text()))),
+                 static_cast<int>(std::ceil(metrics.height()))) +
+           2 * padding_;
 }
 
-QSize QuietButton::paddedTextSize(int horizontalPadding, int verticalPadding) const {
-    const QFontMetricsF metrics(font());
-    return {static_cast<int>(std::ceil(metrics.horizontalAdvance(text()))) + 2 * horizontalPadding,
-            static_cast<int>(std::ceil(metrics.height())) + 2 * verticalPadding};
+bool QuietButton::hovered() const {
+    return isEnabled() && underMouse();
 }
 
 QColor QuietButton::quietColour() const {
@@ -54,10 +56,16 @@ QColor QuietButton::quietColour() const {
     return legible(hovered() ? hoveredQuiet : muted);
 }
 
-void QuietButton::paintHoverEdge(QPainter& painter, const QPainterPath& outline) const {
+void QuietButton::paintFill(QPainter& painter, const QPainterPath& shape, const QPainterPath& edge,
+                            const QPainterPath& ring) const {
+    const double enabledOpacity = isDown() ? pressedFill : 1;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(shape, withOpacity(mint, isEnabled() ? enabledOpacity : disabledFill));
     if (hovered()) {
-        painter.strokePath(outline, QPen(withOpacity(Qt::white, hoverEdgeOpacity), hoverEdgeWidth));
+        painter.strokePath(edge,
+                           QPen(withOpacity(Qt::white, hoverEdgeOpacity), 2 * hoverEdgeInset));
     }
+    focusRing_.paint(painter, ring, ink);
 }
 
 void QuietButton::keyPressEvent(QKeyEvent* event) {
@@ -84,13 +92,6 @@ void QuietButton::changeEvent(QEvent* event) {
         setCursor(isEnabled() ? Qt::PointingHandCursor : Qt::ArrowCursor);
     }
     QAbstractButton::changeEvent(event);
-}
-
-double fillOpacity(bool enabled, bool pressed) {
-    if (!enabled) {
-        return disabledFill;
-    }
-    return pressed ? pressedFill : restingFill;
 }
 
 }  // namespace Garden

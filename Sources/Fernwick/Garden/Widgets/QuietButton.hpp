@@ -7,27 +7,32 @@
 
 namespace Garden {
 
-/// What every button of the garden shares: reached by Tab and pressed by Return as well, shown
-/// with a focus ring only to those who use the keyboard, a pointing hand while it can be pressed.
+/// Base class of all buttons. It takes the focus by Tab only and shows a focus ring for it, is
+/// clicked by Return and Enter as well as Space, and has a pointing-hand cursor while enabled.
 class QuietButton : public QAbstractButton {
     Q_OBJECT
 
-protected:
-    /// Width of the edge in logical pixels; a path inset by half of it stays inside its widget.
-    static constexpr double hoverEdgeWidth = 1.5;
+public:
+    [[nodiscard]] QSize sizeHint() const override;
 
-    explicit QuietButton(QWidget* parent);
+protected:
+    /// Distances from the outline of a filled button to its hover edge and focus ring, in points.
+    static constexpr double hoverEdgeInset = 0.75;
+    static constexpr double filledRingInset = 3;
+
+    /// A button as large as `text` in `font` plus `padding` in points: its width at the left and at
+    /// the right, its height above and below.
+    QuietButton(const QString& text, const QFont& font, QSize padding, QWidget* parent);
 
     [[nodiscard]] bool hovered() const;
     [[nodiscard]] const FocusRing& focusRing() const { return focusRing_; }
-    /// The size of the text with this padding on either side of it, in logical pixels.
-    [[nodiscard]] QSize paddedTextSize(int horizontalPadding, int verticalPadding) const;
-    /// The colour of quiet text and symbols: `muted`, a little brighter under the pointer, fainter
-    /// while pressed and fainter still while disabled.
+    /// The colour of text and icons outside a fill: `muted`, brighter while hovered, translucent
+    /// while pressed or disabled.
     [[nodiscard]] QColor quietColour() const;
-
-    /// Under the pointer, traces `outline` of a filled button in faint light.
-    void paintHoverEdge(QPainter& painter, const QPainterPath& outline) const;
+    /// Paints `shape` in mint, translucent while pressed or disabled, with `edge` in faint white
+    /// while hovered and `ring` in ink for keyboard focus.
+    void paintFill(QPainter& painter, const QPainterPath& shape, const QPainterPath& edge,
+                   const QPainterPath& ring) const;
 
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
@@ -35,10 +40,8 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    QSize padding_;
     FocusRing focusRing_;
 };
-
-/// How opaque the mint fill of a primary button is.
-[[nodiscard]] double fillOpacity(bool enabled, bool pressed);
 
 }  // namespace Garden

@@ -18,7 +18,7 @@ namespace {
 constexpr double fontSize = 33;
 constexpr QFont::Weight fontWeight = QFont::Light;
 constexpr int fewestDigits = 3;
-// How far digits roll, in logical pixels. They fade as they go.
+// How far digits roll, in points. They fade in and out meanwhile.
 constexpr double rollDistance = 30;
 
 QString digits(qint64 value) {
@@ -34,7 +34,7 @@ QChar digitAt(const QString& text, int fromRight) {
 
 RollingDigits::RollingDigits(Qt::Alignment alignment, QWidget* parent)
     : QWidget(parent), alignment_(alignment), roll_(this) {
-    installAccessibility();
+    setAccessibleRole(*this, QAccessible::StaticText);
     setFont(mono(fontSize, fontWeight));
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     roll_.setStartValue(0.0);
@@ -42,7 +42,7 @@ RollingDigits::RollingDigits(Qt::Alignment alignment, QWidget* parent)
     roll_.setDuration(digitRollDuration);
     roll_.setEasingCurve(QEasingCurve::OutCubic);
     connect(&roll_, &QVariantAnimation::valueChanged, this, [this] { update(); });
-    // The desktop answers later; asked now, it has answered before the first digit changes.
+    // The first call only sends the request to the settings portal, whose reply comes later.
     static_cast<void>(reducedMotion());
 }
 
@@ -101,7 +101,8 @@ void RollingDigits::paintEvent(QPaintEvent*) {
         const QChar now = digitAt(shown_, fromRight);
         const QChar before = digitAt(previous_, fromRight);
         if (rolling && now != before) {
-            // The old digit goes faster than the new one comes, so that the two never smear.
+            // The old digit fades out faster than the new one fades in, so that they do not blur
+            // into each other.
             draw(fromRight, before, -progress, (1 - progress) * (1 - progress));
             draw(fromRight, now, 1 - progress, progress);
         } else {

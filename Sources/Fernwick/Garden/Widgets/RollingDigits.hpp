@@ -6,18 +6,18 @@
 
 namespace Garden {
 
-/// A score of at least three digits. Digits that change roll upwards once; nothing ticks before or
-/// after, and under reduced motion they change in place.
+/// A number of at least three digits. Digits that change roll upwards, or, with reduced motion,
+/// change in place. No timer runs except during that animation.
 class RollingDigits : public QWidget {
     Q_OBJECT
 
 public:
-    /// `alignment` (left or right) is the side that stays put when the number grows longer; the
-    /// other one where lines are read from right to left.
+    /// `alignment`, left or right, is the fixed side when the number of digits changes; mirrored in
+    /// right-to-left layouts.
     explicit RollingDigits(Qt::Alignment alignment, QWidget* parent = nullptr);
 
     [[nodiscard]] qint64 value() const { return value_; }
-    /// The first value appears at once; later ones roll in.
+    /// The first value is shown without animation.
     void setValue(qint64 value);
 
     [[nodiscard]] QSize sizeHint() const override;
@@ -27,7 +27,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    /// Left edge of the cell of a digit, counted from the right.
+    /// Left edge of the cell of the digit with this index, counted from the right.
     [[nodiscard]] double left(int fromRight) const;
     void announce();
 

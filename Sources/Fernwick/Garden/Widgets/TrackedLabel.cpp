@@ -14,8 +14,7 @@ namespace Garden {
 
 namespace {
 
-// How far the deepest letters of a font reach below the line that it claims: an old style serif
-// may promise less room than its g takes.
+// How far descenders extend below the descent that a font reports: Elstob's "g" does.
 double overhang(const QFont& font) {
     QPainterPath deepest;
     deepest.addText(0, 0, font, QStringLiteral("gjpqy"));
@@ -23,8 +22,8 @@ double overhang(const QFont& font) {
                     std::ceil(deepest.boundingRect().bottom() - QFontMetricsF(font).descent()));
 }
 
-// Letters as tall and as deep as they come in the script of `text`, so that its lines stand
-// at one height whatever they say. Other scripts fill the same square with every letter.
+// The tallest and deepest common letters of the script of `text`, so that all labels in it have the
+// same height. CJK glyphs all fill the same square.
 QString commonLetters(const QString& text) {
     for (const QChar letter : text) {
         if (letter.script() == QChar::Script_Arabic) {
@@ -40,12 +39,12 @@ QString commonLetters(const QString& text) {
     return {};
 }
 
-// Latin letters and the marks among them, for which the line of every font has room.
-bool isOrdinary(QChar letter) {
+// Latin letters and common punctuation, which fit between the ascent and descent of every font.
+bool isLatin(QChar letter) {
     constexpr char16_t lastLatin = 0x24f;
-    constexpr char16_t firstMark = 0x2010;
-    constexpr char16_t lastMark = 0x2027;
-    return letter <= lastLatin || (letter >= firstMark && letter <= lastMark);
+    constexpr char16_t firstPunctuation = 0x2010;
+    constexpr char16_t lastPunctuation = 0x2027;
+    return letter <= lastLatin || (letter >= firstPunctuation && letter <= lastPunctuation);
 }
 
 }  // namespace
@@ -53,7 +52,7 @@ bool isOrdinary(QChar letter) {
 TrackedLabel::TrackedLabel(const QString& text, const QFont& font, const QColor& colour,
                            QWidget* parent)
     : QWidget(parent), text_(text), font_(font), colour_(colour), overhang_(overhang(font)) {
-    installAccessibility();
+    setAccessibleRole(*this, QAccessible::StaticText);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     fitToText();
 }
@@ -72,14 +71,14 @@ void TrackedLabel::fitToText() {
     setFont(fittedTo(text_, font_));
     setAccessibleName(text_);
     excess_ = {};
-    if (std::ranges::all_of(text_, isOrdinary)) {
+    if (std::ranges::all_of(text_, isLatin)) {
         return;
     }
-    // The letters themselves: metrics know nothing of marks that are stacked on each other.
+    // Measure the glyph outlines: font metrics do not account for stacked diacritics.
     QPainterPath letters;
     letters.addText(0, 0, font(), text_ + commonLetters(text_));
     const QRectF ink = letters.boundingRect();
-    // Glyphs are set on whole pixels, which may be one off.
+    // Round the metrics down: glyphs are placed on whole pixels, which may shift them by one.
     const QFontMetricsF metrics(font());
     const double above = -ink.top() - std::floor(metrics.ascent());
     const double below = ink.bottom() - std::floor(metrics.descent()) - overhang_;
@@ -101,8 +100,8 @@ void TrackedLabel::paintEvent(QPaintEvent*) {
     const QFontMetricsF metrics(font());
     const QSize needed = sizeHint();
     const bool fits = width() >= needed.width();
-    // Neither by alignment: the space after the last letter would push the first one out; nor by
-    // the height of the line, which a helping face may have stretched to one side.
+    // Positioned by hand: right alignment would include the letter spacing after the last letter,
+    // and vertical centring would include the ascent and descent of fallback fonts.
     const double left = fits && isRightToLeft() ? width() - needed.width() : 0;
     const double top = (height() - needed.height()) / 2.0;
     painter.drawText(QPointF(left, top + excess_.above + metrics.ascent()),

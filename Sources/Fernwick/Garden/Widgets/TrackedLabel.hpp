@@ -7,9 +7,10 @@
 
 namespace Garden {
 
-/// One line of text, in the font given or as near to it as its script can bear. It is as wide as
-/// its letters: Qt's font metrics count the letter spacing after the last letter too, which would
-/// push centred and right-aligned lines off by half or all of it. Given less room, it ends in "…".
+/// One line of text in a font with letter spacing, adapted to the script of the text by `fittedTo`.
+/// Its width excludes the letter spacing that Qt adds after the last letter, which would shift
+/// centred and right-aligned text. Text that does not fit is elided. The text is also its
+/// accessible name.
 class TrackedLabel : public QWidget {
     Q_OBJECT
 
@@ -28,8 +29,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    /// What the letters need besides the line of the font: those of a face that is called to help
-    /// may stand higher and reach lower.
+    /// How far the glyphs extend beyond the ascent and descent of the font, in points: glyphs from
+    /// fallback fonts may be taller.
     struct Excess {
         double above = 0;
         double below = 0;
@@ -39,7 +40,7 @@ private:
     QString text_;
     QFont font_;
     QColor colour_;
-    // The room below the line for its deepest letters.
+    // How far Latin descenders extend below the descent of the font, in points.
     double overhang_;
     Excess excess_;
 };

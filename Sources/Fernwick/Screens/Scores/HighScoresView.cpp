@@ -8,11 +8,11 @@
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/Palette.hpp"
 #include "Garden/Look/RoundedShape.hpp"
+#include "Garden/Widgets/Accessibility.hpp"
 #include "Garden/Widgets/ChoiceGroup.hpp"
 #include "Garden/Widgets/GardenButton.hpp"
 #include "Garden/Widgets/IconView.hpp"
 #include "Garden/Widgets/TrackedLabel.hpp"
-#include "Screens/Scores/Accessibility.hpp"
 #include "Screens/Scores/ScoreRows.hpp"
 #include "Session/Session.hpp"
 
@@ -36,7 +36,7 @@ HighScoresView::HighScoresView(Session& session, QWidget* parent)
       //: Read aloud for the choice between the speeds.
       speed_(new Garden::ChoiceGroup(paceNames(), tr("Speed"))),
       rows_(new ScoreRows) {
-    installScoreAccessibility();
+    Garden::setAccessibleRole(*this, QAccessible::Dialog);
     setFixedWidth(sheetWidth);
     setAccessibleName(tr("The high scores."));
     rows_->setFixedHeight(boardHeight);

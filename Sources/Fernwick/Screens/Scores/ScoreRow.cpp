@@ -9,6 +9,7 @@
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/Palette.hpp"
 #include "Garden/Look/RoundedShape.hpp"
+#include "Garden/Widgets/Accessibility.hpp"
 
 namespace {
 
@@ -46,6 +47,7 @@ void drawDigits(QPainter& painter, const QRectF& line, const QString& digits) {
 }  // namespace
 
 ScoreRow::ScoreRow(QWidget* parent) : QWidget(parent) {
+    Garden::setAccessibleRole(*this, QAccessible::ListItem);
     setFont(rowFont());
 }
 

@@ -9,8 +9,8 @@
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/Palette.hpp"
 #include "Garden/Look/RoundedShape.hpp"
+#include "Garden/Widgets/Accessibility.hpp"
 #include "Garden/Widgets/TrackedLabel.hpp"
-#include "Screens/Scores/Accessibility.hpp"
 #include "Screens/Scores/ScoreRow.hpp"
 
 namespace {
@@ -48,7 +48,7 @@ ScoreRows::ScoreRows(QWidget* parent)
       scrollArea_(new QScrollArea),
       indicator_(new QScrollBar(Qt::Vertical, scrollArea_)),
       column_(nullptr) {
-    installScoreAccessibility();
+    Garden::setAccessibleRole(*this, QAccessible::List);
     auto* list = new QWidget;
     column_ = new QVBoxLayout(list);
     column_->setContentsMargins(0, 0, 0, 0);
