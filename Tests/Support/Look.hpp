@@ -14,14 +14,15 @@
 #include <cmath>
 #include <ostream>
 
-/// The numbers of a look, as a designer lays them over a screen.
+/// Helpers for tests of fonts, colours and positions. Lengths are in points unless stated
+/// otherwise.
 namespace Look {
 
 inline constexpr const char* sans = "Inter";
 inline constexpr const char* serif = "ElstobD";
 inline constexpr const char* mono = "JetBrains Mono";
 
-/// The type of a text; sizes and tracking in points.
+/// The font of a text.
 struct Type {
     const char* family;
     int size;
@@ -29,7 +30,7 @@ struct Type {
     double tracking = 0;
 };
 
-/// Expects `widget` to be set in `type`, down to the cut that is really drawn.
+/// Expects `widget` to use `type`, both in its QFont and in the font file that Qt draws with.
 inline void expectType(const QWidget& widget, const Type& type) {
     const QFont font = widget.font();
     const QRawFont drawn = QRawFont::fromFont(font);
@@ -39,7 +40,7 @@ inline void expectType(const QWidget& widget, const Type& type) {
     EXPECT_DOUBLE_EQ(font.letterSpacing(), type.tracking);
 }
 
-/// Whether `font`, with the faces that help it out, can draw every letter of `text`.
+/// Whether `font` and its fallback fonts have glyphs for all of `text`.
 [[nodiscard]] inline bool hasEveryLetter(const QString& text, const QFont& font) {
     QTextLayout layout(text, font);
     layout.beginLayout();
@@ -47,12 +48,12 @@ inline void expectType(const QWidget& widget, const Type& type) {
     layout.endLayout();
     const QList<QGlyphRun> runs = layout.glyphRuns();
     return std::ranges::none_of(runs, [](const QGlyphRun& run) {
-        // Glyph 0 is the box in place of a letter that a font does not have.
+        // Glyph 0 stands for a missing glyph.
         return run.glyphIndexes().contains(0);
     });
 }
 
-/// `top` laid over the opaque `ground`.
+/// `top` blended over the opaque `ground`.
 [[nodiscard]] inline QColor over(const QColor& top, const QColor& ground) {
     const float opacity = top.alphaF();
     const auto mix = [opacity](float above, float below) {
@@ -62,20 +63,20 @@ inline void expectType(const QWidget& widget, const Type& type) {
                             mix(top.blueF(), ground.blueF()));
 }
 
-/// The largest difference of any component, in steps of 1/255.
+/// The largest difference of the red, green and blue components, in steps of 1/255.
 [[nodiscard]] inline int distance(const QColor& one, const QColor& other) {
     return std::max({std::abs(one.red() - other.red()), std::abs(one.green() - other.green()),
                      std::abs(one.blue() - other.blue())});
 }
 
-/// The pixel of `picture` that holds `point`, in points.
+/// The colour of the pixel of `picture` at `point`.
 [[nodiscard]] inline QColor colourAt(const QImage& picture, const QPointF& point) {
     const QPointF pixel = point * picture.devicePixelRatio();
     return picture.pixelColor(static_cast<int>(std::floor(pixel.x())),
                               static_cast<int>(std::floor(pixel.y())));
 }
 
-/// The smallest distance of any pixel inside `place`, in points, from `colour`.
+/// The smallest distance from `colour` of all pixels inside `place`.
 [[nodiscard]] inline int nearestTo(const QColor& colour, const QImage& picture,
                                    const QRectF& place) {
     const double scale = picture.devicePixelRatio();
@@ -90,12 +91,12 @@ inline void expectType(const QWidget& widget, const Type& type) {
     return nearest;
 }
 
-/// The first point past the right edge.
+/// The x coordinate just past the right edge, `QRect::right()` + 1.
 [[nodiscard]] inline int rightOf(const QRect& place) {
     return place.x() + place.width();
 }
 
-/// The first point past the bottom edge.
+/// The y coordinate just past the bottom edge, `QRect::bottom()` + 1.
 [[nodiscard]] inline int bottomOf(const QRect& place) {
     return place.y() + place.height();
 }
@@ -107,7 +108,7 @@ inline void expectColour(const QColor& seen, const QColor& wanted, int tolerance
 
 }  // namespace Look
 
-// Found by the test library, so that a failure tells the numbers.
+// GoogleTest uses these to print values in failure messages.
 inline void PrintTo(const QRect& rect, std::ostream* out) {
     *out << rect.x() << "," << rect.y() << " " << rect.width() << "x" << rect.height();
 }

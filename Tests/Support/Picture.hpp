@@ -7,7 +7,7 @@
 #include <QWidget>
 #include <cstdlib>
 
-/// What `widget` looks like on black, `scale` device pixels a logical pixel.
+/// Renders `widget` on black with `scale` device pixels per point.
 inline QImage picture(QWidget& widget, double scale = 1) {
     widget.ensurePolished();
     if (!widget.testAttribute(Qt::WA_Resized)) {
@@ -20,14 +20,14 @@ inline QImage picture(QWidget& widget, double scale = 1) {
     return image;
 }
 
-/// `colour` laid over black, as a picture holds it.
+/// `colour` blended over black.
 inline QColor onBlack(const QColor& colour) {
     const float opacity = colour.alphaF();
     return QColor::fromRgbF(colour.redF() * opacity, colour.greenF() * opacity,
                             colour.blueF() * opacity);
 }
 
-/// Whether two colours differ by no more than one step of rounding in each component.
+/// Whether the components of two colours differ by at most 1/255, a rounding error.
 inline bool alike(const QColor& one, const QColor& other) {
     constexpr int rounding = 1;
     return std::abs(one.red() - other.red()) <= rounding &&
@@ -35,7 +35,7 @@ inline bool alike(const QColor& one, const QColor& other) {
            std::abs(one.blue() - other.blue()) <= rounding;
 }
 
-/// How many pixels of `image` have exactly the look of `colour` on black.
+/// The number of pixels of `image` that are `colour` on black.
 inline int countOf(const QImage& image, const QColor& colour) {
     int count = 0;
     for (int y = 0; y < image.height(); ++y) {
@@ -46,7 +46,7 @@ inline int countOf(const QImage& image, const QColor& colour) {
     return count;
 }
 
-/// The smallest rectangle around all that is not black.
+/// The bounding rectangle of all pixels that are not black.
 inline QRect inkOf(const QImage& image) {
     QRect ink;
     for (int y = 0; y < image.height(); ++y) {

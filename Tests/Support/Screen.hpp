@@ -5,7 +5,7 @@
 #include <QStringList>
 #include <QWidget>
 
-/// Looks at a window as its user does: only at what is shown, by the names it goes by.
+/// Finds the visible widgets of a window by their accessible names.
 namespace Screen {
 
 [[nodiscard]] inline QString nameOf(QWidget* widget) {
@@ -13,7 +13,7 @@ namespace Screen {
     return interface == nullptr ? QString() : interface->text(QAccessible::Name);
 }
 
-/// The names of everything shown inside `root`.
+/// The accessible names of all visible widgets inside `root`.
 [[nodiscard]] inline QStringList texts(const QWidget& root) {
     QStringList shown;
     for (QWidget* widget : root.findChildren<QWidget*>()) {
@@ -28,7 +28,7 @@ namespace Screen {
     return texts(root).contains(text);
 }
 
-/// The shown control of type `T` that goes by `name`, or none.
+/// The visible widget of type `T` with this accessible name, or null.
 template <typename T>
 [[nodiscard]] T* find(const QWidget& root, const QString& name) {
     for (T* widget : root.findChildren<T*>()) {

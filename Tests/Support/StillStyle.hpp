@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QProxyStyle>
 
-/// While it lives, the application's style is one of a desktop that wants no animation.
+/// During its lifetime, the application's style has an animation duration of 0.
 class StillStyle {
 public:
     StillStyle() { QApplication::setStyle(new Still); }

@@ -4,10 +4,10 @@
 #include <QEventLoop>
 #include <QTimer>
 
-/// What a program at rest may wake up for in a fifth of a second.
+/// The most wakeups in 200 ms that count as idle.
 inline constexpr int idleWakeups = 4;
 
-/// How often the event loop wakes up in the given time, all by itself.
+/// Runs the event loop for this time and returns how often it woke up.
 [[nodiscard]] inline int wakeups(int milliseconds) {
     int count = 0;
     QEventLoop loop;

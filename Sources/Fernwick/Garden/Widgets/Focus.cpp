@@ -4,11 +4,12 @@
 
 namespace Garden {
 
-void releaseFocus(const QWidget& leaving) {
-    // Also while another window is active: this one keeps its focus for when it is back.
-    const QWidget* focus = leaving.window()->focusWidget();
-    if (focus != nullptr && (focus == &leaving || leaving.isAncestorOf(focus))) {
-        leaving.window()->setFocus(Qt::OtherFocusReason);
+void releaseFocus(const QWidget& hidden) {
+    // QApplication::focusWidget() is null while another application is active; the window still
+    // remembers its focus widget and would give it the focus on activation.
+    const QWidget* focus = hidden.window()->focusWidget();
+    if (focus != nullptr && (focus == &hidden || hidden.isAncestorOf(focus))) {
+        hidden.window()->setFocus(Qt::OtherFocusReason);
     }
 }
 

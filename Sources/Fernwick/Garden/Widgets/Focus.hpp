@@ -4,8 +4,8 @@ class QWidget;
 
 namespace Garden {
 
-/// Gives the keyboard focus to the window if it lies inside `leaving`, which is about to be hidden:
-/// the toolkit would otherwise pass it on to whatever control comes next.
-void releaseFocus(const QWidget& leaving);
+/// Call before hiding `hidden`. If it contains the focus widget, moves the focus to its window;
+/// otherwise Qt would give it to the next control in the tab order.
+void releaseFocus(const QWidget& hidden);
 
 }  // namespace Garden

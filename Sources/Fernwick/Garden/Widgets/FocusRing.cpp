@@ -8,8 +8,8 @@ namespace Garden {
 
 namespace {
 
-// The focus leaves for a menu or another window and comes back by itself.
-bool isDetour(Qt::FocusReason reason) {
+// Menus, popups and other windows take the focus and later return it.
+bool isTemporary(Qt::FocusReason reason) {
     return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
            reason == Qt::MenuBarFocusReason;
 }
@@ -18,11 +18,11 @@ bool isDetour(Qt::FocusReason reason) {
 
 void FocusRing::focusIn(Qt::FocusReason reason) {
     visible_ = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
-               reason == Qt::ShortcutFocusReason || (isDetour(reason) && resumes_);
+               reason == Qt::ShortcutFocusReason || (isTemporary(reason) && resumes_);
 }
 
 void FocusRing::focusOut(Qt::FocusReason reason) {
-    resumes_ = visible_ && isDetour(reason);
+    resumes_ = visible_ && isTemporary(reason);
     visible_ = false;
 }
 

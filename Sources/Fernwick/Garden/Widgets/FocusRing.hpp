@@ -8,11 +8,11 @@ class QPainterPath;
 
 namespace Garden {
 
-/// The mark of the control that the keyboard is on. It shows only when the focus came by keyboard,
-/// so that a click leaves no ring behind.
+/// The outline around the control with the keyboard focus. It is visible only if the focus was
+/// moved by keyboard, not by a click or by the program.
 class FocusRing {
 public:
-    /// Width of the ring in logical pixels; a path inset by half of it stays inside its widget.
+    /// Stroke width in points. Inset the path by half of it to keep the ring inside the widget.
     static constexpr double width = 1.5;
 
     void focusIn(Qt::FocusReason reason);
@@ -20,11 +20,12 @@ public:
 
     [[nodiscard]] bool visible() const { return visible_; }
 
-    /// Strokes `path` when the ring is visible.
+    /// Strokes `path` if the ring is visible.
     void paint(QPainter& painter, const QPainterPath& path, const QColor& colour) const;
 
 private:
     bool visible_ = false;
+    // The focus left temporarily while the ring was visible.
     bool resumes_ = false;
 };
 

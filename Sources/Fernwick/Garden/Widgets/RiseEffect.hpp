@@ -4,21 +4,21 @@
 
 namespace Garden {
 
-/// Draws a widget as far as it has come: fainter and a little below its place. Only the picture is
-/// moved; the pointer finds the widget where it is going to be.
+/// Animates a widget's appearance: it fades in while it moves up to its position. Only the painting
+/// is offset; the widget's geometry, and so mouse input, is not.
 class RiseEffect : public QGraphicsEffect {
     Q_OBJECT
 
 public:
     using QGraphicsEffect::QGraphicsEffect;
 
-    /// How far below its place a widget begins, in logical pixels.
+    /// How far below its position a widget of presence 0 is drawn, in points.
     static constexpr double rise = 14;
 
-    /// How far below its place a widget of this presence (0 to 1) is drawn.
+    /// How far below its position a widget of this presence is drawn, in points.
     [[nodiscard]] static constexpr double shift(double presence) { return (1 - presence) * rise; }
 
-    /// 0: nothing to be seen; 1: the widget as it is.
+    /// From 0, invisible, to 1, the widget as usual.
     void setPresence(double presence);
 
     [[nodiscard]] QRectF boundingRectFor(const QRectF& source) const override;

@@ -14,35 +14,35 @@
 
 namespace {
 
-/// What assistive tools are told of `object` while this lives.
-class Announcements {
+/// Records the accessibility events of `object` during its own lifetime.
+class EventRecorder {
 public:
-    explicit Announcements(const QObject* object) {
+    explicit EventRecorder(const QObject* object) {
         watched_ = object;
-        heard_.clear();
-        previous_ = QAccessible::installUpdateHandler(&hear);
+        types_.clear();
+        previous_ = QAccessible::installUpdateHandler(&record);
     }
-    ~Announcements() { QAccessible::installUpdateHandler(previous_); }
-    Announcements(const Announcements&) = delete;
-    Announcements& operator=(const Announcements&) = delete;
+    ~EventRecorder() { QAccessible::installUpdateHandler(previous_); }
+    EventRecorder(const EventRecorder&) = delete;
+    EventRecorder& operator=(const EventRecorder&) = delete;
 
     [[nodiscard]] bool include(QAccessible::Event type) const {
-        return std::find(heard_.begin(), heard_.end(), type) != heard_.end();
+        return std::find(types_.begin(), types_.end(), type) != types_.end();
     }
 
 private:
-    static void hear(QAccessibleEvent* event) {
+    static void record(QAccessibleEvent* event) {
         if (event->object() == watched_) {
-            heard_.push_back(event->type());
+            types_.push_back(event->type());
         }
     }
 
     static inline const QObject* watched_ = nullptr;
-    static inline std::vector<QAccessible::Event> heard_;
+    static inline std::vector<QAccessible::Event> types_;
     QAccessible::UpdateHandler previous_ = nullptr;
 };
 
-/// Qt announces nothing before an accessibility bus has answered it.
+/// Qt sends no accessibility events before it has connected to the accessibility bus.
 class AccessibilityEvents : public testing::Test {
 protected:
     void SetUp() override {
@@ -52,37 +52,37 @@ protected:
 
 }  // namespace
 
-TEST_F(AccessibilityEvents, tellOfALabelsNewText) {
+TEST_F(AccessibilityEvents, reportALabelsNewName) {
     Garden::TrackedLabel label(QStringLiteral("No rush."), Garden::serif(35, QFont::Normal),
                                Garden::primaryText);
-    const Announcements announcements(&label);
+    const EventRecorder events(&label);
 
     label.setText(QStringLiteral("Find your flow."));
 
-    EXPECT_TRUE(announcements.include(QAccessible::NameChanged));
+    EXPECT_TRUE(events.include(QAccessible::NameChanged));
 }
 
-TEST_F(AccessibilityEvents, tellWhichChoiceBecameCurrent) {
+TEST_F(AccessibilityEvents, reportTheStatesOfBothChoicesThatChange) {
     Garden::ChoiceGroup group({QStringLiteral("Gentle"), QStringLiteral("Classic")},
                               QStringLiteral("Speed"));
     group.setCurrent(0);
     for (const QAbstractButton* choice : group.findChildren<QAbstractButton*>()) {
-        const Announcements announcements(choice);
+        const EventRecorder events(choice);
         group.setCurrent(group.current() == 0 ? 1 : 0);
-        EXPECT_TRUE(announcements.include(QAccessible::StateChanged));
+        EXPECT_TRUE(events.include(QAccessible::StateChanged));
     }
 }
 
-TEST_F(AccessibilityEvents, tellOfANewNumberOnce) {
+TEST_F(AccessibilityEvents, reportANewNumberOnce) {
     Garden::RollingDigits digits(Qt::AlignLeft);
     digits.setValue(70);
     {
-        const Announcements announcements(&digits);
+        const EventRecorder events(&digits);
         digits.setValue(80);
-        EXPECT_TRUE(announcements.include(QAccessible::NameChanged));
-        EXPECT_TRUE(announcements.include(QAccessible::ValueChanged));
+        EXPECT_TRUE(events.include(QAccessible::NameChanged));
+        EXPECT_TRUE(events.include(QAccessible::ValueChanged));
     }
-    const Announcements announcements(&digits);
+    const EventRecorder events(&digits);
     digits.setValue(80);
-    EXPECT_FALSE(announcements.include(QAccessible::ValueChanged));
+    EXPECT_FALSE(events.include(QAccessible::ValueChanged));
 }

@@ -23,7 +23,7 @@ QAccessibleInterface& accessible(QObject& object) {
 
 }  // namespace
 
-TEST(Accessibility, readsALabelAsStaticText) {
+TEST(Accessibility, exposesALabelAsStaticText) {
     Garden::TrackedLabel label(QStringLiteral("No rush."), Garden::serif(35, QFont::Normal),
                                Garden::primaryText);
 
@@ -31,7 +31,7 @@ TEST(Accessibility, readsALabelAsStaticText) {
     EXPECT_EQ(accessible(label).text(QAccessible::Name), QStringLiteral("No rush."));
 }
 
-TEST(Accessibility, namesAButtonByItsTextOrItsHelp) {
+TEST(Accessibility, namesAButtonByItsTextOrHelpText) {
     Garden::GardenButton done(QStringLiteral("Done"));
     Garden::IconButton scores(Garden::Icon::trophy, QStringLiteral("High scores"));
 
@@ -41,7 +41,7 @@ TEST(Accessibility, namesAButtonByItsTextOrItsHelp) {
     EXPECT_EQ(accessible(scores).text(QAccessible::Name), QStringLiteral("High scores"));
 }
 
-TEST(Accessibility, pressesAButton) {
+TEST(Accessibility, offersThePressActionOnAnEnabledButton) {
     Garden::GardenButton done(QStringLiteral("Done"));
     const QSignalSpy clicks(&done, &QAbstractButton::clicked);
     QAccessibleActionInterface* actions = accessible(done).actionInterface();
@@ -55,7 +55,7 @@ TEST(Accessibility, pressesAButton) {
     EXPECT_TRUE(accessible(done).state().disabled);
 }
 
-TEST(Accessibility, tellsWhichChoiceIsCurrent) {
+TEST(Accessibility, exposesTheCurrentChoiceAsTheCheckedRadioButton) {
     Garden::ChoiceGroup group({QStringLiteral("Gentle"), QStringLiteral("Classic")},
                               QStringLiteral("Speed"));
     group.setCurrent(0);
@@ -77,7 +77,7 @@ TEST(Accessibility, tellsWhichChoiceIsCurrent) {
     EXPECT_TRUE(accessible(*choices.at(1)).state().checked);
 }
 
-TEST(Accessibility, readsDigitsWithTheirName) {
+TEST(Accessibility, exposesDigitsWithTheirNameAndValue) {
     Garden::RollingDigits digits(Qt::AlignLeft);
     digits.setAccessibleName(QStringLiteral("SCORE"));
     digits.setValue(70);
@@ -88,7 +88,7 @@ TEST(Accessibility, readsDigitsWithTheirName) {
     EXPECT_EQ(digits.accessibleName(), QStringLiteral("SCORE"));
 }
 
-TEST(Accessibility, passesOverSymbolsThatOnlyDecorate) {
+TEST(Accessibility, givesADecorativeIconNoName) {
     Garden::IconView view(Garden::Icon::leaf, 30, Garden::mint);
 
     EXPECT_EQ(accessible(view).role(), QAccessible::Graphic);

@@ -16,7 +16,7 @@
 
 namespace {
 
-// A place inside a button's fill and clear of its text.
+// The colour of a pixel inside the button's fill, left of its text.
 QColor fillOf(QWidget& button) {
     return picture(button).pixelColor(12, button.height() / 2);
 }
@@ -45,7 +45,7 @@ TEST(GardenButton, changesOnlyTheOpacityOfItsFill) {
     EXPECT_TRUE(alike(fillOf(button), Garden::mint));
 }
 
-TEST(GardenButton, looksDisabledEvenWhenPressed) {
+TEST(GardenButton, looksDisabledEvenWhilePressed) {
     Garden::GardenButton button(QStringLiteral("Save score"));
     button.setDown(true);
     button.setEnabled(false);
@@ -53,7 +53,7 @@ TEST(GardenButton, looksDisabledEvenWhenPressed) {
     EXPECT_TRUE(alike(fillOf(button), onBlack(Garden::withOpacity(Garden::mint, 0.3))));
 }
 
-TEST(GardenButton, isDisabledByItsContainer) {
+TEST(GardenButton, looksDisabledInsideADisabledContainer) {
     QWidget container;
     auto* button = new Garden::GardenButton(QStringLiteral("Save score"), &container);
 
@@ -62,7 +62,7 @@ TEST(GardenButton, isDisabledByItsContainer) {
     EXPECT_TRUE(alike(fillOf(*button), onBlack(Garden::withOpacity(Garden::mint, 0.3))));
 }
 
-TEST(GardenButton, writesInInkInEveryState) {
+TEST(GardenButton, drawsItsTextInInkInEveryState) {
     Garden::GardenButton button(QStringLiteral("Save score"));
     const int enabled = countOf(picture(button, 2), Garden::ink);
     EXPECT_GT(enabled, 50);
@@ -92,7 +92,7 @@ TEST(GardenButton, hasRoundEnds) {
     EXPECT_GT(image.pixelColor(0, image.height() / 2).green(), 100);
 }
 
-TEST(OverlayButton, pairsATextWithAnArrowInInk) {
+TEST(OverlayButton, drawsItsTextAndAnArrowInInk) {
     Garden::OverlayButton button(QStringLiteral("Let's grow"));
     const QFontMetricsF metrics(button.font());
     const int textWidth = qCeil(metrics.horizontalAdvance(button.text()));
@@ -106,7 +106,7 @@ TEST(OverlayButton, pairsATextWithAnArrowInInk) {
     EXPECT_GT(countOf(image.copy(rightOfText), Garden::ink), 20);
 }
 
-TEST(OverlayButton, pointsTheWayThatIsRead) {
+TEST(OverlayButton, mirrorsItsArrowInRightToLeftLayouts) {
     constexpr int padding = 25;
     constexpr int arrow = 13;
     Garden::OverlayButton button(QStringLiteral("oooo"));
@@ -115,12 +115,12 @@ TEST(OverlayButton, pointsTheWayThatIsRead) {
     const QImage rightToLeft = picture(button);
 
     const int height = button.height();
-    const QImage atTheEnd = leftToRight.copy(button.width() - padding - arrow, 0, arrow, height);
-    EXPECT_EQ(rightToLeft.copy(padding, 0, arrow, height), atTheEnd.mirrored(true, false));
+    const QImage trailing = leftToRight.copy(button.width() - padding - arrow, 0, arrow, height);
+    EXPECT_EQ(rightToLeft.copy(padding, 0, arrow, height), trailing.mirrored(true, false));
     EXPECT_NE(rightToLeft, leftToRight);
 }
 
-TEST(OverlayButton, takesTheWidthOfANewText) {
+TEST(OverlayButton, growsWithANewText) {
     Garden::OverlayButton button({});
     const int before = button.sizeHint().width();
 
@@ -129,7 +129,7 @@ TEST(OverlayButton, takesTheWidthOfANewText) {
     EXPECT_GT(button.sizeHint().width(), before + 40);
 }
 
-TEST(PlainButton, isItsTextInMuted) {
+TEST(PlainButton, drawsOnlyItsTextInMuted) {
     Garden::PlainButton button(QStringLiteral("Skip saving"), Garden::sans(12, QFont::Normal));
     const QImage image = picture(button, 4);
 
@@ -137,7 +137,7 @@ TEST(PlainButton, isItsTextInMuted) {
     EXPECT_EQ(image.pixelColor(2, 2), QColor(Qt::black));
 }
 
-TEST(IconButton, is26LogicalPixelsSquareAndMuted) {
+TEST(IconButton, is26PointsSquareAndMuted) {
     Garden::IconButton button(Garden::Icon::pause, QStringLiteral("Pause or resume"));
 
     EXPECT_EQ(button.size(), QSize(26, 26));
@@ -145,14 +145,14 @@ TEST(IconButton, is26LogicalPixelsSquareAndMuted) {
     EXPECT_GT(countOf(picture(button, 2), Garden::muted), 20);
 }
 
-TEST(IconButton, explainsItself) {
+TEST(IconButton, hasItsHelpTextAsTooltipAndAccessibleName) {
     const Garden::IconButton button(Garden::Icon::trophy, QStringLiteral("High scores"));
 
     EXPECT_EQ(button.toolTip(), QStringLiteral("High scores"));
     EXPECT_EQ(button.accessibleName(), QStringLiteral("High scores"));
 }
 
-TEST(IconButton, isDimmedWhileDisabled) {
+TEST(IconButton, isTranslucentWhileDisabled) {
     Garden::IconButton button(Garden::Icon::play, QStringLiteral("Pause or resume"));
     button.setEnabled(false);
 
@@ -161,7 +161,7 @@ TEST(IconButton, isDimmedWhileDisabled) {
     EXPECT_FALSE(inkOf(image).isEmpty());
 }
 
-TEST(IconButton, showsAnotherSymbolWhenTold) {
+TEST(IconButton, showsItsNewIcon) {
     Garden::IconButton button(Garden::Icon::play, QStringLiteral("Pause or resume"));
     const QImage play = picture(button, 2);
 
@@ -170,13 +170,13 @@ TEST(IconButton, showsAnotherSymbolWhenTold) {
     EXPECT_NE(picture(button, 2), play);
 }
 
-TEST(EveryButton, isReachedByTabAndNotByClick) {
+TEST(EveryButton, takesFocusByTabAndNotByClick) {
     for (const auto& button : oneOfEach()) {
         EXPECT_EQ(button->focusPolicy(), Qt::TabFocus);
     }
 }
 
-TEST(EveryButton, isPressedByReturnEnterAndSpaceOnceEach) {
+TEST(EveryButton, isClickedOnceByReturnEnterAndSpaceEach) {
     for (const auto& button : oneOfEach()) {
         button->show();
         const QSignalSpy clicks(button.get(), &QAbstractButton::clicked);
@@ -187,7 +187,7 @@ TEST(EveryButton, isPressedByReturnEnterAndSpaceOnceEach) {
     }
 }
 
-TEST(EveryButton, ignoresAHeldReturn) {
+TEST(EveryButton, ignoresAutoRepeatedReturn) {
     for (const auto& button : oneOfEach()) {
         button->show();
         const QSignalSpy clicks(button.get(), &QAbstractButton::clicked);
@@ -197,7 +197,7 @@ TEST(EveryButton, ignoresAHeldReturn) {
     }
 }
 
-TEST(EveryButton, isPressedByTheMouseAndNotWhileDisabled) {
+TEST(EveryButton, isClickedByTheMouseUnlessDisabled) {
     for (const auto& button : oneOfEach()) {
         button->show();
         const QSignalSpy clicks(button.get(), &QAbstractButton::clicked);
@@ -211,7 +211,7 @@ TEST(EveryButton, isPressedByTheMouseAndNotWhileDisabled) {
     }
 }
 
-TEST(EveryButton, offersAPointingHandWhileItCanBePressed) {
+TEST(EveryButton, hasAPointingHandCursorWhileEnabled) {
     for (const auto& button : oneOfEach()) {
         EXPECT_EQ(button->cursor().shape(), Qt::PointingHandCursor);
         button->setEnabled(false);
@@ -221,20 +221,20 @@ TEST(EveryButton, offersAPointingHandWhileItCanBePressed) {
     }
 }
 
-TEST(EveryButton, showsAFocusRingOnlyToTheKeyboard) {
+TEST(EveryButton, showsAFocusRingOnlyForKeyboardFocus) {
     for (const auto& button : oneOfEach()) {
-        const QImage resting = picture(*button, 2);
+        const QImage unfocused = picture(*button, 2);
 
-        QFocusEvent byCode(QEvent::FocusIn, Qt::OtherFocusReason);
-        QApplication::sendEvent(button.get(), &byCode);
-        EXPECT_EQ(picture(*button, 2), resting);
+        QFocusEvent byProgram(QEvent::FocusIn, Qt::OtherFocusReason);
+        QApplication::sendEvent(button.get(), &byProgram);
+        EXPECT_EQ(picture(*button, 2), unfocused);
 
         QFocusEvent byTab(QEvent::FocusIn, Qt::TabFocusReason);
         QApplication::sendEvent(button.get(), &byTab);
-        EXPECT_NE(picture(*button, 2), resting);
+        EXPECT_NE(picture(*button, 2), unfocused);
 
-        QFocusEvent away(QEvent::FocusOut, Qt::TabFocusReason);
-        QApplication::sendEvent(button.get(), &away);
-        EXPECT_EQ(picture(*button, 2), resting);
+        QFocusEvent focusOut(QEvent::FocusOut, Qt::TabFocusReason);
+        QApplication::sendEvent(button.get(), &focusOut);
+        EXPECT_EQ(picture(*button, 2), unfocused);
     }
 }

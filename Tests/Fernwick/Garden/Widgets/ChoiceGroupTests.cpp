@@ -27,7 +27,7 @@ protected:
 
 }  // namespace
 
-TEST_F(ChoiceGroup, padsEveryWordAndTheWhole) {
+TEST_F(ChoiceGroup, padsEachChoiceAndTheGroup) {
     const QFontMetricsF metrics(Garden::sans(12, QFont::Medium));
     int width = 0;
     for (int index = 0; index < 3; ++index) {
@@ -37,7 +37,7 @@ TEST_F(ChoiceGroup, padsEveryWordAndTheWhole) {
     EXPECT_EQ(group.sizeHint(), QSize(width + 2 * 4, qCeil(metrics.height()) + 2 * 9 + 2 * 4));
 }
 
-TEST_F(ChoiceGroup, checksTheCurrentChoiceAlone) {
+TEST_F(ChoiceGroup, checksOnlyTheCurrentChoice) {
     EXPECT_EQ(group.current(), 1);
     EXPECT_FALSE(choice(0)->isChecked());
     EXPECT_TRUE(choice(1)->isChecked());
@@ -50,35 +50,35 @@ TEST_F(ChoiceGroup, checksTheCurrentChoiceAlone) {
     EXPECT_TRUE(choice(2)->isChecked());
 }
 
-TEST_F(ChoiceGroup, writesTheCurrentChoiceInMintAndTheOthersInMuted) {
+TEST_F(ChoiceGroup, drawsTheCurrentTextInMintAndTheOthersInMuted) {
     const QImage image = picture(group, 4);
-    const auto part = [&](int index) {
-        const QRect place = choice(index)->geometry();
-        return image.copy(QRect(place.topLeft() * 4, place.size() * 4));
+    const auto pictureOf = [&](int index) {
+        const QRect area = choice(index)->geometry();
+        return image.copy(QRect(area.topLeft() * 4, area.size() * 4));
     };
 
-    EXPECT_GT(countOf(part(1), Garden::mint), 50);
-    EXPECT_EQ(countOf(part(1), Garden::muted), 0);
+    EXPECT_GT(countOf(pictureOf(1), Garden::mint), 50);
+    EXPECT_EQ(countOf(pictureOf(1), Garden::muted), 0);
     for (const int other : {0, 2}) {
-        EXPECT_GT(countOf(part(other), Garden::muted), 50);
-        EXPECT_EQ(countOf(part(other), Garden::mint), 0);
+        EXPECT_GT(countOf(pictureOf(other), Garden::muted), 50);
+        EXPECT_EQ(countOf(pictureOf(other), Garden::mint), 0);
     }
 }
 
-TEST_F(ChoiceGroup, laysAMintCapsuleOnAFaintPlate) {
+TEST_F(ChoiceGroup, drawsAMintCapsuleOnAFaintWhiteBackground) {
     const QImage image = picture(group);
-    const QColor plate = onBlack(Garden::withOpacity(Qt::white, 0.035));
-    EXPECT_TRUE(alike(image.pixelColor(2, group.height() / 2), plate));
+    const QColor background = onBlack(Garden::withOpacity(Qt::white, 0.035));
+    EXPECT_TRUE(alike(image.pixelColor(2, group.height() / 2), background));
     EXPECT_EQ(image.pixelColor(0, 0), QColor(Qt::black));
 
     QImage expected(1, 1, QImage::Format_ARGB32_Premultiplied);
-    expected.fill(plate);
+    expected.fill(background);
     QPainter(&expected).fillRect(expected.rect(), Garden::withOpacity(Garden::mint, 0.16));
     EXPECT_TRUE(
         alike(image.pixelColor(choice(1)->x() + 8, group.height() / 2), expected.pixelColor(0, 0)));
 }
 
-TEST_F(ChoiceGroup, asksForThePressedChoiceAndLeavesTheAnswerToItsOwner) {
+TEST_F(ChoiceGroup, emitsChosenOnAClickWithoutChangingTheCurrentChoice) {
     group.show();
     const QSignalSpy chosen(&group, &Garden::ChoiceGroup::chosen);
 
@@ -91,7 +91,7 @@ TEST_F(ChoiceGroup, asksForThePressedChoiceAndLeavesTheAnswerToItsOwner) {
     EXPECT_FALSE(choice(2)->isChecked());
 }
 
-TEST_F(ChoiceGroup, asksAgainForTheCurrentChoiceAndKeepsItChecked) {
+TEST_F(ChoiceGroup, emitsChosenOnAClickOnTheCurrentChoiceAndKeepsItChecked) {
     group.show();
     const QSignalSpy chosen(&group, &Garden::ChoiceGroup::chosen);
 
@@ -102,7 +102,7 @@ TEST_F(ChoiceGroup, asksAgainForTheCurrentChoiceAndKeepsItChecked) {
     EXPECT_TRUE(choice(1)->isChecked());
 }
 
-TEST_F(ChoiceGroup, staysSilentWhenItsOwnerSetsTheChoice) {
+TEST_F(ChoiceGroup, emitsNothingWhenTheCurrentChoiceIsSet) {
     const QSignalSpy chosen(&group, &Garden::ChoiceGroup::chosen);
 
     group.setCurrent(0);
@@ -110,7 +110,7 @@ TEST_F(ChoiceGroup, staysSilentWhenItsOwnerSetsTheChoice) {
     EXPECT_EQ(chosen.count(), 0);
 }
 
-TEST_F(ChoiceGroup, movesWithTheArrowsAndStopsAtTheEnds) {
+TEST_F(ChoiceGroup, movesFocusWithTheArrowKeysAndStopsAtTheEnds) {
     group.show();
     QApplication::setActiveWindow(&group);
     const QSignalSpy chosen(&group, &Garden::ChoiceGroup::chosen);
@@ -130,7 +130,7 @@ TEST_F(ChoiceGroup, movesWithTheArrowsAndStopsAtTheEnds) {
     EXPECT_TRUE(choice(1)->hasFocus());
 }
 
-TEST_F(ChoiceGroup, isPressedByReturn) {
+TEST_F(ChoiceGroup, isClickedByReturn) {
     group.show();
     const QSignalSpy chosen(&group, &Garden::ChoiceGroup::chosen);
 
@@ -140,7 +140,7 @@ TEST_F(ChoiceGroup, isPressedByReturn) {
     EXPECT_EQ(chosenIndex(chosen), 0);
 }
 
-TEST_F(ChoiceGroup, takesNoPressesWhileItsChoicesAreDisabled) {
+TEST_F(ChoiceGroup, ignoresClicksAndReturnWhileItsChoicesAreDisabled) {
     group.show();
     const QSignalSpy chosen(&group, &Garden::ChoiceGroup::chosen);
     group.setChoicesEnabled(false);
@@ -154,7 +154,7 @@ TEST_F(ChoiceGroup, takesNoPressesWhileItsChoicesAreDisabled) {
     EXPECT_EQ(chosen.count(), 1);
 }
 
-TEST_F(ChoiceGroup, keepsItsLookWhileDisabled) {
+TEST_F(ChoiceGroup, looksTheSameWhileDisabled) {
     const QImage enabled = picture(group, 2);
 
     group.setChoicesEnabled(false);
@@ -162,7 +162,7 @@ TEST_F(ChoiceGroup, keepsItsLookWhileDisabled) {
     EXPECT_EQ(picture(group, 2), enabled);
 }
 
-TEST_F(ChoiceGroup, isReachedByTabChoiceByChoice) {
+TEST_F(ChoiceGroup, hasEveryChoiceInTheTabOrder) {
     for (int index = 0; index < 3; ++index) {
         EXPECT_EQ(choice(index)->focusPolicy(), Qt::TabFocus);
     }

@@ -2,7 +2,7 @@
 
 #include "Garden/Widgets/FocusRing.hpp"
 
-TEST(FocusRing, showsForEveryWayOfTheKeyboard) {
+TEST(FocusRing, isVisibleForKeyboardFocus) {
     for (const Qt::FocusReason reason :
          {Qt::TabFocusReason, Qt::BacktabFocusReason, Qt::ShortcutFocusReason}) {
         Garden::FocusRing ring;
@@ -11,7 +11,7 @@ TEST(FocusRing, showsForEveryWayOfTheKeyboard) {
     }
 }
 
-TEST(FocusRing, staysAwayForMouseAndCode) {
+TEST(FocusRing, isHiddenForMouseAndProgrammaticFocus) {
     for (const Qt::FocusReason reason : {Qt::MouseFocusReason, Qt::OtherFocusReason}) {
         Garden::FocusRing ring;
         ring.focusIn(reason);
@@ -19,7 +19,7 @@ TEST(FocusRing, staysAwayForMouseAndCode) {
     }
 }
 
-TEST(FocusRing, comesBackWithTheWindow) {
+TEST(FocusRing, reappearsWhenTheWindowIsActivatedAgain) {
     Garden::FocusRing ring;
     ring.focusIn(Qt::TabFocusReason);
 
@@ -30,7 +30,7 @@ TEST(FocusRing, comesBackWithTheWindow) {
     EXPECT_TRUE(ring.visible());
 }
 
-TEST(FocusRing, doesNotAppearWithTheWindowIfItWasNotThere) {
+TEST(FocusRing, staysHiddenOnActivationIfItWasHiddenBefore) {
     Garden::FocusRing ring;
     ring.focusIn(Qt::MouseFocusReason);
     ring.focusOut(Qt::ActiveWindowFocusReason);
@@ -38,7 +38,7 @@ TEST(FocusRing, doesNotAppearWithTheWindowIfItWasNotThere) {
     EXPECT_FALSE(ring.visible());
 }
 
-TEST(FocusRing, forgetsOnceTheFocusHasMovedOn) {
+TEST(FocusRing, staysHiddenOnActivationAfterTheFocusMovedAway) {
     Garden::FocusRing ring;
     ring.focusIn(Qt::TabFocusReason);
     ring.focusOut(Qt::TabFocusReason);

@@ -28,11 +28,11 @@ protected:
 
 }  // namespace
 
-TEST_F(RiseEffect, showsNothingAtFirst) {
+TEST_F(RiseEffect, isInvisibleAtPresence0) {
     EXPECT_EQ(seenAt(side / 2), QColor(Qt::black));
 }
 
-TEST_F(RiseEffect, showsTheWidgetAsItIsAtLast) {
+TEST_F(RiseEffect, drawsTheWidgetUnchangedAtPresence1) {
     effect->setPresence(1);
 
     EXPECT_EQ(seenAt(0), QColor(Qt::white));
@@ -40,7 +40,7 @@ TEST_F(RiseEffect, showsTheWidgetAsItIsAtLast) {
     EXPECT_EQ(seenAt(side), QColor(Qt::black));
 }
 
-TEST_F(RiseEffect, showsItFainterAndLowerOnTheWay) {
+TEST_F(RiseEffect, drawsTheWidgetTranslucentAndLowerInBetween) {
     effect->setPresence(0.5);
     const int lower = static_cast<int>(Garden::RiseEffect::rise / 2);
 
@@ -50,7 +50,7 @@ TEST_F(RiseEffect, showsItFainterAndLowerOnTheWay) {
     EXPECT_EQ(seenAt(side + lower), QColor(Qt::black));
 }
 
-TEST_F(RiseEffect, movesThePictureAlone) {
+TEST_F(RiseEffect, doesNotMoveTheWidgetItself) {
     effect->setPresence(0.5);
 
     EXPECT_EQ(plate.geometry(), QRect(0, 0, side, side));

@@ -13,17 +13,17 @@
 
 namespace {
 
-constexpr int settled = 2 * Garden::digitRollDuration;
+constexpr int animationEnd = 2 * Garden::digitRollDuration;
 
-QImage atRest(qint64 value, Qt::Alignment alignment = Qt::AlignLeft) {
+QImage still(qint64 value, Qt::Alignment alignment = Qt::AlignLeft) {
     Garden::RollingDigits digits(alignment);
     digits.setValue(value);
     return picture(digits);
 }
 
-class ShownDigits : public testing::Test {
+class VisibleRollingDigits : public testing::Test {
 protected:
-    ShownDigits() {
+    VisibleRollingDigits() {
         digits.setValue(240);
         digits.show();
         QTest::qWait(50);
@@ -48,20 +48,20 @@ TEST(RollingDigits, showsAtLeastThreeDigits) {
     EXPECT_EQ(width(1234), qCeil(4 * cell));
 }
 
-TEST(RollingDigits, padsWithNoughtsInMint) {
+TEST(RollingDigits, padsWithZerosInMint) {
     Garden::RollingDigits digits(Qt::AlignLeft);
     digits.setValue(7);
     const QImage image = picture(digits);
     EXPECT_GT(countOf(picture(digits, 4), Garden::mint), 100);
 
     const int third = image.width() / 3;
-    const QImage nought = atRest(0);
+    const QImage zero = still(0);
     const QRect firstTwo(0, 0, 2 * third, image.height());
-    EXPECT_EQ(image.copy(firstTwo), nought.copy(firstTwo));
-    EXPECT_NE(image, nought);
+    EXPECT_EQ(image.copy(firstTwo), zero.copy(firstTwo));
+    EXPECT_NE(image, zero);
 }
 
-TEST(RollingDigits, keepsItsSideWhenGivenMoreRoom) {
+TEST(RollingDigits, staysAlignedWhenWiderThanNeeded) {
     Garden::RollingDigits left(Qt::AlignLeft);
     Garden::RollingDigits right(Qt::AlignRight);
     for (Garden::RollingDigits* digits : {&left, &right}) {
@@ -73,7 +73,7 @@ TEST(RollingDigits, keepsItsSideWhenGivenMoreRoom) {
     EXPECT_GT(inkOf(picture(right)).right(), 300 - 6);
 }
 
-TEST(RollingDigits, keepsTheOtherSideAmongLinesReadFromRightToLeft) {
+TEST(RollingDigits, alignsToTheOtherSideInRightToLeftLayouts) {
     Garden::RollingDigits digits(Qt::AlignLeft);
     digits.setLayoutDirection(Qt::RightToLeft);
     digits.setValue(888);
@@ -82,67 +82,67 @@ TEST(RollingDigits, keepsTheOtherSideAmongLinesReadFromRightToLeft) {
     EXPECT_GE(inkOf(picture(digits)).left(), digits.width() / 2);
 }
 
-TEST(RollingDigits, showsTheFirstValueAtOnce) {
+TEST(RollingDigits, showsTheFirstValueWithoutAnimation) {
     Garden::RollingDigits digits(Qt::AlignLeft);
     digits.show();
 
     digits.setValue(240);
 
-    EXPECT_EQ(picture(digits), atRest(240));
+    EXPECT_EQ(picture(digits), still(240));
 }
 
-TEST_F(ShownDigits, rollOnlyTheDigitThatChanges) {
+TEST_F(VisibleRollingDigits, rollsOnlyTheDigitThatChanges) {
     digits.setValue(250);
     QTest::qWait(Garden::digitRollDuration / 3);
     const QImage rolling = picture(digits);
 
-    EXPECT_NE(rolling, atRest(240));
-    EXPECT_NE(rolling, atRest(250));
+    EXPECT_NE(rolling, still(240));
+    EXPECT_NE(rolling, still(250));
     const int third = rolling.width() / 3;
     for (const int unchanged : {0, 2}) {
         const QRect cell(unchanged * third + 2, 0, third - 4, rolling.height());
-        EXPECT_EQ(rolling.copy(cell), atRest(250).copy(cell)) << unchanged;
+        EXPECT_EQ(rolling.copy(cell), still(250).copy(cell)) << unchanged;
     }
 }
 
-TEST_F(ShownDigits, comeToRestOnTheNewValue) {
+TEST_F(VisibleRollingDigits, endsTheAnimationOnTheNewValue) {
     digits.setValue(250);
-    QTest::qWait(settled);
+    QTest::qWait(animationEnd);
 
-    EXPECT_EQ(picture(digits), atRest(250));
+    EXPECT_EQ(picture(digits), still(250));
 }
 
-TEST_F(ShownDigits, comeToRestOnTheLastOfManyValues) {
+TEST_F(VisibleRollingDigits, endsTheAnimationOnTheLastOfManyValues) {
     for (const qint64 value : {250, 260, 270}) {
         digits.setValue(value);
         QTest::qWait(20);
     }
-    QTest::qWait(settled);
+    QTest::qWait(animationEnd);
 
     EXPECT_EQ(digits.value(), 270);
-    EXPECT_EQ(picture(digits), atRest(270));
+    EXPECT_EQ(picture(digits), still(270));
 }
 
-TEST_F(ShownDigits, wakeTheProcessorOnlyWhileTheyRoll) {
+TEST_F(VisibleRollingDigits, wakesTheEventLoopOnlyDuringTheAnimation) {
     EXPECT_LE(wakeups(200), idleWakeups);
 
     digits.setValue(250);
     EXPECT_GT(wakeups(200), idleWakeups);
 
-    QTest::qWait(settled);
+    QTest::qWait(animationEnd);
     EXPECT_LE(wakeups(200), idleWakeups);
 }
 
-TEST_F(ShownDigits, changeInPlaceUnderReducedMotion) {
-    const StillStyle still;
+TEST_F(VisibleRollingDigits, changesInPlaceWithReducedMotion) {
+    const StillStyle style;
 
     digits.setValue(250);
 
-    EXPECT_EQ(picture(digits), atRest(250));
+    EXPECT_EQ(picture(digits), still(250));
     EXPECT_LE(wakeups(200), idleWakeups);
 }
 
-TEST_F(ShownDigits, stayAtRestWhenTheValueIsTheSame) {
+TEST_F(VisibleRollingDigits, doesNotAnimateWhenTheValueIsTheSame) {
     digits.setValue(240);
 
     EXPECT_LE(wakeups(200), idleWakeups);

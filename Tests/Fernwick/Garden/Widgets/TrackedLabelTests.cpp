@@ -20,14 +20,14 @@ QFont trackedFont() {
 
 }  // namespace
 
-TEST(TrackedLabel, isAsWideAsItsLettersWithoutTheLastSpacing) {
+TEST(TrackedLabel, excludesTheLetterSpacingAfterTheLastLetterFromItsWidth) {
     const Garden::TrackedLabel label(word, trackedFont(), Garden::mint);
 
     const double withTrailing = QFontMetricsF(trackedFont()).horizontalAdvance(word);
     EXPECT_EQ(label.sizeHint().width(), qCeil(withTrailing - tracking));
 }
 
-TEST(TrackedLabel, paintsItsLettersUpToBothEdges) {
+TEST(TrackedLabel, paintsFromEdgeToEdge) {
     Garden::TrackedLabel label(word, trackedFont(), Garden::mint);
 
     const QRect ink = inkOf(picture(label));
@@ -45,7 +45,7 @@ TEST(TrackedLabel, paintsInItsColour) {
     EXPECT_GT(countOf(picture(label, 2), Garden::withOpacity(Qt::white, 0.55)), 100);
 }
 
-TEST(TrackedLabel, tellsItsTextAsItsAccessibleName) {
+TEST(TrackedLabel, hasItsTextAsItsAccessibleName) {
     Garden::TrackedLabel label(word, trackedFont(), Garden::mint);
     EXPECT_EQ(label.accessibleName(), word);
 
@@ -55,7 +55,7 @@ TEST(TrackedLabel, tellsItsTextAsItsAccessibleName) {
     EXPECT_EQ(label.accessibleName(), QStringLiteral("GROW"));
 }
 
-TEST(TrackedLabel, shrinksWithAShorterText) {
+TEST(TrackedLabel, isNarrowerWithAShorterText) {
     Garden::TrackedLabel label(word, trackedFont(), Garden::mint);
     const int before = label.sizeHint().width();
 
@@ -64,20 +64,20 @@ TEST(TrackedLabel, shrinksWithAShorterText) {
     EXPECT_LT(label.sizeHint().width(), before);
 }
 
-TEST(TrackedLabel, hasNoWidthWithoutText) {
+TEST(TrackedLabel, hasHeightButNoWidthWithoutText) {
     const Garden::TrackedLabel label({}, trackedFont(), Garden::mint);
 
     EXPECT_EQ(label.sizeHint().width(), 0);
     EXPECT_GT(label.sizeHint().height(), 0);
 }
 
-TEST(TrackedLabel, asksForAllTheRoomItNeeds) {
+TEST(TrackedLabel, hasItsSizeHintAsItsMinimumSizeHint) {
     const Garden::TrackedLabel label(word, trackedFont(), Garden::mint);
 
     EXPECT_EQ(label.minimumSizeHint(), label.sizeHint());
 }
 
-TEST(TrackedLabel, endsInsideTheRoomItHas) {
+TEST(TrackedLabel, elidesTextThatDoesNotFit) {
     Garden::TrackedLabel label(word, trackedFont(), Garden::mint);
 
     label.resize(label.sizeHint().width() / 2, label.sizeHint().height());
@@ -87,27 +87,27 @@ TEST(TrackedLabel, endsInsideTheRoomItHas) {
     EXPECT_LT(ink.right(), label.width());
 }
 
-TEST(TrackedLabel, paintsTheDeepestLettersWhole) {
-    const QString deepest = QStringLiteral("gjpqy");
+TEST(TrackedLabel, doesNotClipDescenders) {
+    const QString descenders = QStringLiteral("gjpqy");
     for (const QFont& font : {Garden::serif(27, QFont::Light), Garden::serif(30, QFont::Normal),
                               Garden::serif(34, QFont::Normal), Garden::serif(35, QFont::Normal),
                               Garden::sans(14, QFont::Normal), Garden::mono(13, QFont::Normal)}) {
-        Garden::TrackedLabel label(deepest, font, Qt::white);
-        QImage free(400, 400, QImage::Format_ARGB32_Premultiplied);
-        free.setDevicePixelRatio(2);
-        free.fill(Qt::black);
-        QPainter painter(&free);
+        Garden::TrackedLabel label(descenders, font, Qt::white);
+        QImage unclipped(400, 400, QImage::Format_ARGB32_Premultiplied);
+        unclipped.setDevicePixelRatio(2);
+        unclipped.fill(Qt::black);
+        QPainter painter(&unclipped);
         painter.setPen(Qt::white);
         painter.setFont(font);
-        painter.drawText(20, 100, deepest);
+        painter.drawText(20, 100, descenders);
         painter.end();
 
-        EXPECT_NEAR(inkOf(picture(label, 2)).height(), inkOf(free).height(), 1)
+        EXPECT_NEAR(inkOf(picture(label, 2)).height(), inkOf(unclipped).height(), 1)
             << font.family().toStdString() << font.pixelSize();
     }
 }
 
-TEST(TrackedLabel, paintsItsLettersUpToBothEdgesAmongLinesReadFromRightToLeft) {
+TEST(TrackedLabel, paintsFromEdgeToEdgeInRightToLeftLayouts) {
     Garden::TrackedLabel label(word, trackedFont(), Garden::mint);
     const QImage leftToRight = picture(label);
     label.setLayoutDirection(Qt::RightToLeft);
@@ -115,7 +115,7 @@ TEST(TrackedLabel, paintsItsLettersUpToBothEdgesAmongLinesReadFromRightToLeft) {
     EXPECT_EQ(picture(label), leftToRight);
 }
 
-TEST(TrackedLabel, beginsAtTheRightAmongLinesReadFromRightToLeft) {
+TEST(TrackedLabel, startsAtTheRightInRightToLeftLayouts) {
     Garden::TrackedLabel label(word, trackedFont(), Garden::mint);
     label.setLayoutDirection(Qt::RightToLeft);
     label.resize(2 * label.sizeHint().width(), label.sizeHint().height());
@@ -125,33 +125,33 @@ TEST(TrackedLabel, beginsAtTheRightAmongLinesReadFromRightToLeft) {
     EXPECT_GE(ink.right(), label.width() - 3);
 }
 
-TEST(TrackedLabel, readsInItsOwnDirection) {
+TEST(TrackedLabel, usesItsOwnLayoutDirectionNotTheApplications) {
     const QString keys = QStringLiteral("← 1 →");
     Garden::TrackedLabel label(keys, trackedFont(), Garden::mint);
     const QImage leftToRight = picture(label);
     QGuiApplication::setLayoutDirection(Qt::RightToLeft);
     label.setLayoutDirection(Qt::LeftToRight);
-    const QImage amongOthers = picture(label);
+    const QImage inRightToLeftApplication = picture(label);
     QGuiApplication::setLayoutDirection(Qt::LeftToRight);
 
-    EXPECT_EQ(amongOthers, leftToRight);
+    EXPECT_EQ(inRightToLeftApplication, leftToRight);
 }
 
-TEST(TrackedLabel, hasRoomForTheTallestAndDeepestLettersOfAnyScript) {
+TEST(TrackedLabel, doesNotClipTallOrDeepGlyphsOfAnyScript) {
     for (const char* text : {"إِيقَاعُكَ", "ढ़ेंर्टीं", "ひと息ついて、", "Ọ̧́Ǎ̈", "ที่นี่ญู"}) {
         for (const QFont& font :
              {Garden::serif(35, QFont::Normal), Garden::sans(13, QFont::Normal)}) {
             Garden::TrackedLabel label(QString::fromUtf8(text), font, Garden::mint);
             const QRect tight = inkOf(picture(label));
-            constexpr int ample = 40;
-            label.resize(label.width(), label.height() + 2 * ample);
+            constexpr int margin = 40;
+            label.resize(label.width(), label.height() + 2 * margin);
 
             EXPECT_EQ(inkOf(picture(label)).height(), tight.height()) << text;
         }
     }
 }
 
-TEST(TrackedLabel, isOfOneHeightForTheCommonTextsOfAScript) {
+TEST(TrackedLabel, hasTheSameHeightForTextsInTheSameScript) {
     const auto heightOf = [](const char* text) {
         return Garden::TrackedLabel(QString::fromUtf8(text), Garden::sans(9, QFont::Medium, 2),
                                     Garden::mint)
@@ -166,7 +166,7 @@ TEST(TrackedLabel, isOfOneHeightForTheCommonTextsOfAScript) {
     EXPECT_EQ(heightOf("점수"), heightOf("개인 최고 기록"));
 }
 
-TEST(TrackedLabel, followsTheScriptOfEachNewText) {
+TEST(TrackedLabel, adaptsItsFontToTheScriptOfANewText) {
     Garden::TrackedLabel label(word, trackedFont(), Garden::mint);
 
     label.setText(QStringLiteral("نموّ"));
