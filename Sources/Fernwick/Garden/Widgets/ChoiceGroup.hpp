@@ -10,7 +10,8 @@ class ChoiceButton;
 
 /// A row of choices, one of them current. Clicking a choice emits `chosen`; the left and right
 /// arrow keys focus and click its neighbour. The owner answers by calling `setCurrent`. Not a
-/// `QButtonGroup`, which checks the clicked button itself and leaves one button in the tab order.
+/// `QButtonGroup`, which keeps only one of its buttons in the tab order and ignores arrow keys on a
+/// button that is not checked.
 class ChoiceGroup : public QWidget {
     Q_OBJECT
 
