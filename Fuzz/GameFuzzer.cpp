@@ -2,6 +2,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
+#include <deque>
 #include <random>
 #include <span>
 #include <vector>
@@ -19,7 +20,7 @@ bool onBoard(const Game& game, Cell cell) {
 }
 
 void checkState(const Game& game) {
-    const Snake& snake = game.snake();
+    const std::deque<Cell>& snake = game.snake();
     // One board for all runs, marked with a new stamp each time: clearing it would cost more than
     // everything else.
     static std::vector<std::uint64_t> stamps;
@@ -50,7 +51,7 @@ void checkState(const Game& game) {
 /// What a step is judged by. Less than the whole game, whose record of the free cells is larger
 /// than all the rest and would be copied at each step.
 struct Moment {
-    Snake snake{Cell{}};
+    std::deque<Cell> snake;
     Cell food{};
     Direction direction{};
 

@@ -5,7 +5,7 @@
 #include <random>
 
 #include "SnakeCore/Game.hpp"
-#include "SnakeCore/Occupancy.hpp"
+#include "SnakeCore/Detail/Occupancy.hpp"
 #include "SnakeCore/Playing.hpp"
 
 namespace SnakeCore {
@@ -49,7 +49,7 @@ struct Gardener {
 
 /// The place of `wanted` among the free cells once `head` has moved there too.
 void plant(Gardener& gardener, const Game& game, Cell head, Cell wanted) {
-    Occupancy taken(game.width(), game.height());
+    Detail::Occupancy taken(game.width(), game.height());
     for (const Cell& cell : game.snake()) {
         taken.take(cell);
     }
@@ -104,7 +104,7 @@ void step(benchmark::State& state) {
 BENCHMARK(step)->Arg(4)->Arg(60)->Arg(600);
 
 void placeFruit(benchmark::State& state) {
-    Occupancy taken(28, 22);
+    Detail::Occupancy taken(28, 22);
     const Game game = gameOnTheWay(state.range(0));
     for (const Cell& cell : game.snake()) {
         taken.take(cell);

@@ -4,10 +4,10 @@
 
 namespace SnakeCore {
 
-/// The four ways the snake can move.
+/// The four directions in which the snake can move.
 enum class Direction { up, down, left, right };
 
-/// The cell offset of one step; `up` is towards smaller rows.
+/// The offset of one step. `y` grows downwards, so `up` is (0, -1).
 [[nodiscard]] constexpr Cell stepVector(Direction direction) {
     switch (direction) {
         case Direction::up:
@@ -22,7 +22,7 @@ enum class Direction { up, down, left, right };
     __builtin_unreachable();
 }
 
-/// True when the two point in exactly opposite ways.
+/// Whether the two directions are 180 degrees apart.
 [[nodiscard]] constexpr bool opposite(Direction self, Direction other) {
     const Cell mine = stepVector(self);
     const Cell theirs = stepVector(other);

@@ -9,88 +9,77 @@ namespace {
 
 constexpr std::int64_t leastWidth = 6;
 constexpr std::int64_t leastHeight = 4;
+constexpr std::int64_t startingLength = 4;
 constexpr std::int64_t firstFruitDistance = 4;
 constexpr std::int64_t pointsPerFruit = 10;
-
-Snake startingSnake(std::int64_t width, std::int64_t height) {
-    const Cell head{width / 2, height / 2};
-    return {head, {head.x - 1, head.y}, {head.x - 2, head.y}, {head.x - 3, head.y}};
-}
+constexpr std::size_t mostQueuedTurns = 2;
 
 }  // namespace
 
 Game::Game(std::int64_t width, std::int64_t height)
-    : width_(requireAtLeast(width, leastWidth)),
-      height_(requireAtLeast(height, leastHeight)),
+    : width_(Detail::requireAtLeast(width, leastWidth)),
+      height_(Detail::requireAtLeast(height, leastHeight)),
       taken_(width, height),
-      snake_(startingSnake(width, height)),
-      food_{std::min(snake_.front().x + firstFruitDistance, width - 1), snake_.front().y} {
-    for (const Cell& cell : snake_) {
-        taken_.take(cell);
+      food_{std::min(width / 2 + firstFruitDistance, width - 1), height / 2} {
+    for (std::int64_t i = 0; i < startingLength; ++i) {
+        taken_.take(snake_.emplace_back(Cell{width / 2 - i, height / 2}));
     }
 }
 
 void Game::turn(Direction direction) {
-    if (turns_.full()) {
+    if (turns_.size() == mostQueuedTurns) {
         return;
     }
     const Direction reference = turns_.empty() ? direction_ : turns_.back();
     if (direction != reference && !opposite(direction, reference)) {
-        turns_.push(direction);
+        turns_.push_back(direction);
     }
 }
 
 void Game::step() {
-    // Made at the first fruit of a thread, not with the game: opening the source costs more than
-    // a hundred steps.
+    // Opening the device takes longer than a hundred steps, so open it once per thread.
     thread_local std::random_device source;
     step(source);
 }
 
-Game::Meal Game::advance() {
+bool Game::advance() {
     if (ended_) {
-        return Meal::none;
+        return false;
     }
     if (!turns_.empty()) {
-        direction_ = turns_.pop();
+        direction_ = turns_.front();
+        turns_.erase(turns_.begin());
     }
     const Cell offset = stepVector(direction_);
-    const Cell head{checkedSum(snake_.front().x, offset.x), checkedSum(snake_.front().y, offset.y)};
-    if (!onBoard(head) || strikesBody(head)) {
+    const Cell head{Detail::checkedSum(snake_.front().x, offset.x),
+                    Detail::checkedSum(snake_.front().y, offset.y)};
+    if (!onBoard(head) || hitsBody(head)) {
         ended_ = true;
-        return Meal::none;
+        return false;
     }
     const bool eats = head == food_;
     if (!eats) {
         taken_.release(snake_.back());
-        snake_.popBack();
+        snake_.pop_back();
     }
-    snake_.pushFront(head);
+    snake_.push_front(head);
     taken_.take(head);
     if (!eats) {
-        return Meal::none;
+        return false;
     }
-    score_ = checkedSum(score_, pointsPerFruit);
+    score_ = Detail::checkedSum(score_, pointsPerFruit);
     won_ = ended_ = taken_.freeCount() == 0;
-    return won_ ? Meal::none : Meal::eaten;
+    return !won_;
 }
 
 bool Game::onBoard(Cell cell) const {
     return cell.x >= 0 && cell.x < width_ && cell.y >= 0 && cell.y < height_;
 }
 
-bool Game::strikesBody(Cell head) const {
-    // The tail leaves its cell in the same step. It stays where the snake grows, but then the head
-    // is on a fruit, and no fruit lies on the snake.
+bool Game::hitsBody(Cell head) const {
+    // The tail moves away in the same step. It stays only when the snake eats, and then the head is
+    // on the fruit, which is never on the tail.
     return taken_.taken(head) && head != snake_.back();
-}
-
-bool operator==(const Game& left, const Game& right) {
-    // The taken cells are those of the snake: nothing more to compare.
-    return left.width_ == right.width_ && left.height_ == right.height_ &&
-           left.snake_ == right.snake_ && left.direction_ == right.direction_ &&
-           left.food_ == right.food_ && left.score_ == right.score_ &&
-           left.ended_ == right.ended_ && left.won_ == right.won_ && left.turns_ == right.turns_;
 }
 
 }  // namespace SnakeCore

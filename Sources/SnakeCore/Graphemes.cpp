@@ -22,15 +22,15 @@ void require(UErrorCode status) {
     }
 }
 
-/// One for each thread: making it costs a thousand times more than cleaning a name.
+/// One per thread: creating it takes a thousand times as long as cleaning a name.
 UBreakIterator* characterIterator() {
     thread_local const auto iterator = [] {
-        constexpr const char* anyLanguage = "";
+        constexpr const char* rootLocale = "";
         UErrorCode status = U_ZERO_ERROR;
-        std::unique_ptr<UBreakIterator, Close> made(
-            ubrk_open(UBRK_CHARACTER, anyLanguage, nullptr, 0, &status));
+        std::unique_ptr<UBreakIterator, Close> created(
+            ubrk_open(UBRK_CHARACTER, rootLocale, nullptr, 0, &status));
         require(status);
-        return made;
+        return created;
     }();
     return iterator.get();
 }
@@ -39,7 +39,7 @@ UBreakIterator* characterIterator() {
 
 void forEachCharacter(std::string_view utf8, const std::function<bool(std::string_view)>& visit) {
     if (utf8.size() >= std::numeric_limits<std::int32_t>::max()) {
-        throw std::length_error("text too long to be split into characters");
+        throw std::length_error("text is too long to be split into characters");
     }
     UErrorCode status = U_ZERO_ERROR;
     const char* bytes = utf8.empty() ? "" : utf8.data();

@@ -4,16 +4,16 @@
 #include <functional>
 #include <string_view>
 
-/// Text by the characters people see (extended grapheme clusters), not by bytes. All functions take
-/// UTF-8, count each broken sequence as a character of its own, and throw `std::length_error` on
-/// texts of 2 GiB and more and `std::runtime_error` where the library's own data is missing.
+/// Splitting UTF-8 text into user-perceived characters (extended grapheme clusters, UAX #29). Each
+/// ill-formed sequence counts as one character. All functions throw `std::length_error` if the text
+/// is 2 GiB or longer, and `std::runtime_error` if ICU fails, such as for want of its data.
 namespace SnakeCore {
 
-/// Calls `visit` with one character after the other until it returns false. `visit` may not use
-/// this header itself.
+/// Calls `visit` for each character in order until it returns false. Not reentrant: `visit` must
+/// not call a function of this header.
 void forEachCharacter(std::string_view utf8, const std::function<bool(std::string_view)>& visit);
 
-/// The start of `utf8` that holds its first `count` characters; all of it if there are fewer.
+/// The first `count` characters of `utf8`, or all of it if there are fewer.
 [[nodiscard]] std::string_view firstCharacters(std::string_view utf8, std::size_t count);
 
 }  // namespace SnakeCore

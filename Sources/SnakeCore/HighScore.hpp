@@ -9,14 +9,18 @@
 
 namespace SnakeCore {
 
-/// One saved result. Made only by a table, when it records a run or reads its stored form.
+namespace Detail {
+class TableReader;
+}
+
+/// One entry of `HighScores`, which alone creates them: by recording a run or reading its JSON.
 struct HighScore {
-    /// One per finished run.
+    /// Identifies the run.
     UUID id;
-    /// As cleaned when recorded; UTF-8.
+    /// The player's name in UTF-8, as cleaned when it was recorded.
     std::string name;
     std::int64_t score;
-    /// The word for the speed of the run; UTF-8.
+    /// The name of the speed that was played, in UTF-8.
     std::string pace;
     /// When the run was recorded.
     Date date;
@@ -25,7 +29,7 @@ struct HighScore {
 
 private:
     friend class HighScores;
-    friend class TableReader;
+    friend class Detail::TableReader;
 
     HighScore(UUID itsId, std::string itsName, std::int64_t itsScore, std::string itsPace,
               Date itsDate)

@@ -17,16 +17,16 @@ namespace {
 
 constexpr std::size_t leaderCount = 10;
 
-/// A character is white space when its first scalar is, whatever marks it carries.
+/// A character is white space if its first code point is, even with combining marks behind it.
 bool isWhiteSpace(std::string_view character) {
-    return u_isUWhiteSpace(static_cast<UChar32>(firstScalar(character))) != 0;
+    return u_isUWhiteSpace(static_cast<UChar32>(Detail::firstCodePoint(character))) != 0;
 }
 
 bool ranksBefore(const HighScore& left, const HighScore& right) {
     if (left.score != right.score) {
         return left.score > right.score;
     }
-    // A weak order, unlike that of plain doubles: a date that is not a number cannot upset it.
+    // Unlike operator<, std::weak_order() stays a strict weak order if a date is NaN.
     if (const auto dates = std::weak_order(left.date.seconds, right.date.seconds); dates != 0) {
         return dates < 0;
     }
@@ -37,16 +37,16 @@ bool ranksBefore(const HighScore& left, const HighScore& right) {
 
 HighScores::HighScores(std::optional<std::string_view> data) {
     if (data) {
-        entries_ = readTable(*data).value_or(std::vector<HighScore>());
+        entries_ = Detail::readTable(*data).value_or(std::vector<HighScore>());
     }
 }
 
 std::string HighScores::encoded() const {
-    return writeTable(entries_);
+    return Detail::writeTable(entries_);
 }
 
 std::string HighScores::cleanName(std::string_view name) {
-    const std::string text = repairedUtf8(name);
+    const std::string text = Detail::repairedUtf8(name);
     std::string joined;
     bool atWordStart = false;
     forEachCharacter(text, [&](std::string_view character) {
@@ -60,8 +60,8 @@ std::string HighScores::cleanName(std::string_view name) {
         joined += character;
         return true;
     });
-    // Counted on the joined text: a word that begins with a combining mark makes one character
-    // with the space before it.
+    // Count in the joined text: a combining mark at the start of a word forms one character with
+    // the space before it.
     return std::string(firstCharacters(joined, longestName));
 }
 
@@ -77,8 +77,8 @@ bool HighScores::record(UUID id, std::string_view name, std::int64_t score, std:
 }
 
 std::vector<HighScore> HighScores::leaders(std::string_view pace) const {
-    // One pass that keeps the best so far in order: behind its equals, an entry keeps the table's
-    // order.
+    // One pass over the table, inserting into the sorted best ten so far. Equal entries keep the
+    // table's order because upper_bound() inserts behind them.
     std::vector<std::reference_wrapper<const HighScore>> best;
     best.reserve(leaderCount + 1);
     for (const HighScore& entry : entries_) {

@@ -13,39 +13,39 @@
 
 namespace SnakeCore {
 
-/// Every recorded result of every pace, oldest first and without limit, and its stored form: a
-/// compact JSON array of objects with the members "id", "name", "score", "pace" and "date".
+/// The high-score table: every recorded run of every pace, oldest first, without limit. It is
+/// stored as a compact JSON array of objects with the members "id", "name", "score", "pace" and
+/// "date".
 class HighScores {
 public:
-    /// The most characters, as people count them, that a name keeps.
+    /// The maximum length of a name in user-perceived characters.
     static constexpr std::size_t longestName = 24;
 
     /// An empty table.
     HighScores() = default;
 
-    /// The table that `encoded()` wrote. Empty when there is no data, and when anything at all is
-    /// wrong with it: there is no partial table.
+    /// Reads what `encoded()` wrote. The table is empty if there is no data or if any part of it is
+    /// invalid; it is never read in part.
     explicit HighScores(std::optional<std::string_view> data);
 
-    /// The stored form. Throws `std::invalid_argument` when an entry has a date that is not finite
-    /// or a text that is not UTF-8.
+    /// The table as JSON. Throws `std::invalid_argument` if a date is not finite or a pace is not
+    /// UTF-8.
     [[nodiscard]] std::string encoded() const;
 
-    /// The name as it is stored: white space at both ends gone, between words one space, and of
-    /// that the first `longestName` characters. What is not UTF-8 becomes U+FFFD. The
-    /// result may be empty, and may end in a space if that is the last of so many.
+    /// The name as `record()` stores it: white space trimmed, white space between words reduced to
+    /// one space, then cut to `longestName` characters. Ill-formed UTF-8 is replaced by U+FFFD. The
+    /// result may be empty, and ends in a space if the cut falls just behind one.
     [[nodiscard]] static std::string cleanName(std::string_view name);
 
-    /// Adds a result under its cleaned name. False, and the table as it was, when the cleaned name
-    /// is empty, the score negative or the id in the table already.
+    /// Adds a run under its cleaned name. Returns false and changes nothing if the cleaned name is
+    /// empty, the score negative, or the id already recorded.
     bool record(UUID id, std::string_view name, std::int64_t score, std::string_view pace,
                 Date date);
 
-    /// The top ten of one pace: higher scores first, among equals the earlier date, then the
-    /// smaller id.
+    /// The best ten runs of a pace: by score, descending, then by date, then by id.
     [[nodiscard]] std::vector<HighScore> leaders(std::string_view pace) const;
 
-    /// In the order recorded; valid until the table changes.
+    /// All runs in the order recorded; valid until the table changes.
     [[nodiscard]] const std::vector<HighScore>& entries() const { return entries_; }
 
     friend bool operator==(const HighScores&, const HighScores&) = default;

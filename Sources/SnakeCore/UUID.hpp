@@ -8,20 +8,20 @@
 
 namespace SnakeCore {
 
-/// A 128-bit identity.
+/// A universally unique identifier (RFC 4122).
 class UUID {
 public:
-    /// A new random identity.
+    /// A new random UUID (version 4).
     [[nodiscard]] static UUID random();
 
-    /// Reads exactly the 36-character form, in any case: five groups of 8-4-4-4-12 hexadecimal
-    /// digits joined by "-". Nothing for any other text.
+    /// Parses exactly the 36-character form in upper or lower case, such as
+    /// "0E9A3D52-6C1B-4E8F-9A57-2F4D1B6C8E30". Returns nothing for any other text.
     [[nodiscard]] static std::optional<UUID> parse(std::string_view text);
 
     /// The 36-character form in upper case.
     [[nodiscard]] std::string string() const;
 
-    /// The order of the identities is the order of their texts.
+    /// Ordered by bytes, which is the order of `string()`.
     friend bool operator==(const UUID&, const UUID&) = default;
     friend auto operator<=>(const UUID&, const UUID&) = default;
 

@@ -33,10 +33,10 @@ TEST(GameLimitsDeathTest, aBoardWithMoreCellsThanANumberHoldsStopsTheProgram) {
 }
 
 TEST(GameLimitsDeathTest, anOverflowStopsTheProgram) {
-    EXPECT_DEATH(static_cast<void>(checkedSum(largest, 1)), "");
-    EXPECT_DEATH(static_cast<void>(checkedSum(smallest, -1)), "");
-    EXPECT_DEATH(static_cast<void>(checkedProduct(largest, 2)), "");
-    EXPECT_DEATH(static_cast<void>(checkedProduct(smallest, -1)), "");
+    EXPECT_DEATH(static_cast<void>(Detail::checkedSum(largest, 1)), "");
+    EXPECT_DEATH(static_cast<void>(Detail::checkedSum(smallest, -1)), "");
+    EXPECT_DEATH(static_cast<void>(Detail::checkedProduct(largest, 2)), "");
+    EXPECT_DEATH(static_cast<void>(Detail::checkedProduct(smallest, -1)), "");
 }
 
 TEST(GameLimits, theSmallestBoardIsPlayable) {
@@ -48,10 +48,10 @@ TEST(GameLimits, theSmallestBoardIsPlayable) {
 }
 
 TEST(GameLimits, sumsAndProductsUpToTheLimitsAreExact) {
-    EXPECT_EQ(checkedSum(largest - 1, 1), largest);
-    EXPECT_EQ(checkedSum(smallest + 1, -1), smallest);
-    EXPECT_EQ(checkedProduct(largest, -1), -largest);
-    EXPECT_EQ(checkedProduct(28, 22), 616);
+    EXPECT_EQ(Detail::checkedSum(largest - 1, 1), largest);
+    EXPECT_EQ(Detail::checkedSum(smallest + 1, -1), smallest);
+    EXPECT_EQ(Detail::checkedProduct(largest, -1), -largest);
+    EXPECT_EQ(Detail::checkedProduct(28, 22), 616);
 }
 
 TEST(GameLimits, aLongNarrowBoardKeepsItsCornersApart) {

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <concepts>
 #include <random>
+#include <ranges>
 #include <vector>
 
 #include "SnakeCore/Game.hpp"
@@ -10,6 +12,9 @@
 
 namespace SnakeCore {
 namespace {
+
+static_assert(std::copyable<Game> && std::equality_comparable<Game>);
+static_assert(std::ranges::random_access_range<decltype(Game(6, 4).snake())>);
 
 TEST(Game, startsOnTheSmallestBoardFromWallToWall) {
     const Game game(6, 4);

@@ -3,9 +3,8 @@
 #include <cstdint>
 #include <cstdlib>
 
-/// Arithmetic and preconditions that end the program when they fail: a caller that breaks them is
-/// wrong, and a game with wrapped numbers is worth less than none.
-namespace SnakeCore {
+/// Arithmetic and preconditions that abort the program on failure: either is a bug in the caller.
+namespace SnakeCore::Detail {
 
 [[nodiscard]] inline std::int64_t checkedSum(std::int64_t left, std::int64_t right) {
     std::int64_t sum = 0;
@@ -23,7 +22,7 @@ namespace SnakeCore {
     return product;
 }
 
-/// `value` itself, unless it is below `least`.
+/// Returns `value`; aborts if it is below `least`.
 [[nodiscard]] inline std::int64_t requireAtLeast(std::int64_t value, std::int64_t least) {
     if (value < least) {
         std::abort();
@@ -31,4 +30,4 @@ namespace SnakeCore {
     return value;
 }
 
-}  // namespace SnakeCore
+}  // namespace SnakeCore::Detail

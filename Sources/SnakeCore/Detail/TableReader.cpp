@@ -7,54 +7,54 @@
 #include <string>
 #include <utility>
 
-namespace SnakeCore {
+namespace SnakeCore::Detail {
 
-/// Takes the parser's events straight into entries; an event that has no place in a table ends the
-/// parse. Levels: 1 is the table, 2 an entry, anything deeper the inside of a member that is not
-/// ours and is passed over.
+/// SAX handler that builds entries without a DOM, which would take twice as long. Returning false
+/// from a callback aborts the parse. Nesting level 1 is the table and 2 an entry; deeper levels are
+/// the values of unknown members, which are skipped.
 class TableReader : public nlohmann::json_sax<nlohmann::json> {
 public:
     std::vector<HighScore> takeEntries() { return std::move(entries_); }
 
-    bool null() override { return passOver(); }
-    bool boolean(bool) override { return passOver(); }
+    bool null() override { return skip(); }
+    bool boolean(bool) override { return skip(); }
     bool binary(binary_t&) override { return false; }
 
     bool number_integer(number_integer_t value) override {
-        return member_ == Member::score  ? store(score_, value)
-               : member_ == Member::date ? store(date_, static_cast<double>(value))
-                                         : passOver();
+        return member_ == Member::score  ? store(entry_.score, value)
+               : member_ == Member::date ? store(entry_.date, static_cast<double>(value))
+                                         : skip();
     }
 
     bool number_unsigned(number_unsigned_t value) override {
         return member_ == Member::score ? std::in_range<std::int64_t>(value) &&
-                                              store(score_, static_cast<std::int64_t>(value))
-               : member_ == Member::date ? store(date_, static_cast<double>(value))
-                                         : passOver();
+                                              store(entry_.score, static_cast<std::int64_t>(value))
+               : member_ == Member::date ? store(entry_.date, static_cast<double>(value))
+                                         : skip();
     }
 
     bool number_float(number_float_t value, const string_t& digits) override {
-        // 120.0 and 1.2e2 are integers too; plain digits come here when they fit no integer.
+        // 120.0 and 1.2e2 are integers too. Digits alone arrive here only if they overflow 64 bits.
         constexpr double limit = 0x1p63;
-        const bool plainDigits = digits.find_first_of(".eE") == string_t::npos;
-        return member_ == Member::score ? !plainDigits && value >= -limit && value < limit &&
+        const bool digitsOnly = digits.find_first_of(".eE") == string_t::npos;
+        return member_ == Member::score ? !digitsOnly && value >= -limit && value < limit &&
                                               std::trunc(value) == value &&
-                                              store(score_, static_cast<std::int64_t>(value))
-               : member_ == Member::date ? store(date_, value)
-                                         : passOver();
+                                              store(entry_.score, static_cast<std::int64_t>(value))
+               : member_ == Member::date ? store(entry_.date, value)
+                                         : skip();
     }
 
     bool string(string_t& value) override {
         switch (member_) {
             case Member::id:
-                id_ = UUID::parse(value);
-                return id_.has_value() && close();
+                entry_.id = UUID::parse(value);
+                return entry_.id.has_value() && endMember();
             case Member::name:
-                return store(name_, std::move(value));
+                return store(entry_.name, std::move(value));
             case Member::pace:
-                return store(pace_, std::move(value));
+                return store(entry_.pace, std::move(value));
             default:
-                return passOver();
+                return skip();
         }
     }
 
@@ -65,23 +65,20 @@ public:
         return true;
     }
 
-    bool start_object(std::size_t) override { return open(entryLevel); }
-    bool start_array(std::size_t) override { return open(tableLevel); }
+    bool start_object(std::size_t) override { return enter(entryLevel); }
+    bool start_array(std::size_t) override { return enter(tableLevel); }
 
     bool end_object() override {
         if (level_-- != entryLevel) {
             return true;
         }
-        if (!id_ || !name_ || !score_ || !pace_ || !date_) {
+        auto& [id, name, score, pace, date] = entry_;
+        if (!id || !name || !score || !pace || !date) {
             return false;
         }
-        // Not emplaced: only this class may call the constructor.
-        entries_.push_back({*id_, std::move(*name_), *score_, std::move(*pace_), *date_});
-        id_.reset();
-        name_.reset();
-        score_.reset();
-        pace_.reset();
-        date_.reset();
+        // Not emplace_back(): the constructor is private to this class.
+        entries_.push_back({*id, std::move(*name), *score, std::move(*pace), *date});
+        entry_ = {};
         return true;
     }
 
@@ -101,42 +98,48 @@ private:
     static constexpr int entryLevel = 2;
     static constexpr int deepestLevel = 512;
 
-    /// The member that a key opens. The first of duplicate members counts: a later one is none of
-    /// ours.
+    struct Entry {
+        std::optional<UUID> id;
+        std::optional<std::string> name;
+        std::optional<std::int64_t> score;
+        std::optional<std::string> pace;
+        std::optional<Date> date;
+    };
+
+    /// Of duplicate members the first counts: a later one is treated as unknown.
     [[nodiscard]] Member memberNamed(std::string_view key) const {
-        if (key == "id" && !id_) {
+        if (key == "id" && !entry_.id) {
             return Member::id;
         }
-        if (key == "name" && !name_) {
+        if (key == "name" && !entry_.name) {
             return Member::name;
         }
-        if (key == "score" && !score_) {
+        if (key == "score" && !entry_.score) {
             return Member::score;
         }
-        if (key == "pace" && !pace_) {
+        if (key == "pace" && !entry_.pace) {
             return Member::pace;
         }
-        return key == "date" && !date_ ? Member::date : Member::other;
+        return key == "date" && !entry_.date ? Member::date : Member::other;
     }
 
-    /// A list or an object begins: the table, an entry, or part of a member that is not ours.
-    bool open(int expectedLevel) {
+    /// Begins an array or object, which on the first two levels must be the one that belongs there.
+    bool enter(int expectedLevel) {
         ++level_;
         return level_ <= entryLevel ? level_ == expectedLevel
                                     : level_ <= deepestLevel && member_ == Member::other;
     }
 
-    /// A value that no member of ours takes is fine within a member that is not ours, and only
-    /// there.
-    [[nodiscard]] bool passOver() const { return level_ >= entryLevel && member_ == Member::other; }
+    /// Ignores a value inside an unknown member; anywhere else it is an error.
+    [[nodiscard]] bool skip() const { return level_ >= entryLevel && member_ == Member::other; }
 
     template <typename Field, typename Value>
     bool store(std::optional<Field>& field, Value&& value) {
         field = Field{std::forward<Value>(value)};
-        return close();
+        return endMember();
     }
 
-    bool close() {
+    bool endMember() {
         member_ = Member::other;
         return true;
     }
@@ -144,15 +147,11 @@ private:
     std::vector<HighScore> entries_;
     int level_ = 0;
     Member member_ = Member::other;
-    std::optional<UUID> id_;
-    std::optional<std::string> name_;
-    std::optional<std::int64_t> score_;
-    std::optional<std::string> pace_;
-    std::optional<Date> date_;
+    Entry entry_;
 };
 
 std::optional<std::vector<HighScore>> readTable(std::string_view json) {
-    // The parser takes a NUL byte for the end of the text.
+    // The parser treats a NUL byte as the end of the text and would ignore what follows.
     if (json.find('\0') != std::string_view::npos) {
         return std::nullopt;
     }
@@ -163,4 +162,4 @@ std::optional<std::vector<HighScore>> readTable(std::string_view json) {
     return reader.takeEntries();
 }
 
-}  // namespace SnakeCore
+}  // namespace SnakeCore::Detail

@@ -6,9 +6,10 @@
 
 #include "SnakeCore/HighScore.hpp"
 
-namespace SnakeCore {
+namespace SnakeCore::Detail {
 
-/// Reads the stored form of a table: all of its entries in their order, or nothing at all.
+/// Parses the JSON of a `HighScores` table: every entry, in order, or nothing if any part of it is
+/// invalid.
 [[nodiscard]] std::optional<std::vector<HighScore>> readTable(std::string_view json);
 
-}  // namespace SnakeCore
+}  // namespace SnakeCore::Detail

@@ -8,7 +8,7 @@
 
 #include "SnakeCore/Detail/Utf8.hpp"
 
-namespace SnakeCore {
+namespace SnakeCore::Detail {
 namespace {
 
 template <typename... Format>
@@ -18,51 +18,38 @@ void appendDigits(std::string& json, auto number, Format... format) {
     json.append(digits.begin(), end);
 }
 
-/// The shortest digits that read back as the same number.
+/// The shortest digits that parse to the same double.
 void appendNumber(std::string& json, double number) {
     if (!std::isfinite(number)) {
-        throw std::invalid_argument("a date that is not finite has no stored form");
+        throw std::invalid_argument("JSON cannot hold a date that is not finite");
     }
     if (number == 0 && std::signbit(number)) {
-        // Without the fraction it would be read as an integer, and those have no negative zero.
+        // "-0" would be read as an integer and lose its sign.
         json += "-0.0";
         return;
     }
-    // Between these, dates are written as people write them; the shortest form alone would make
-    // 7.84e+08 of 784000000.
-    constexpr double smallestPlain = 1e-4;
-    constexpr double largestPlain = 1e16;
+    // Fixed notation in this range; to_chars() without a format would write 784000000 as 7.84e+08.
+    constexpr double leastFixed = 1e-4;
+    constexpr double fixedLimit = 1e16;
     const double size = std::abs(number);
-    const bool plain = size == 0 || (size >= smallestPlain && size < largestPlain);
-    appendDigits(json, number, plain ? std::chars_format::fixed : std::chars_format::scientific);
+    const bool fixed = size == 0 || (size >= leastFixed && size < fixedLimit);
+    appendDigits(json, number, fixed ? std::chars_format::fixed : std::chars_format::scientific);
 }
 
 void appendControl(std::string& json, char control) {
-    switch (control) {
-        case '\b':
-            json += "\\b";
-            return;
-        case '\f':
-            json += "\\f";
-            return;
-        case '\n':
-            json += "\\n";
-            return;
-        case '\r':
-            json += "\\r";
-            return;
-        case '\t':
-            json += "\\t";
-            return;
-        default:
-            json += control < 0x10 ? "\\u000" : "\\u001";
-            json += "0123456789abcdef"[control & 0xF];
+    constexpr std::string_view withShortEscape = "\b\f\n\r\t";
+    if (const std::size_t i = withShortEscape.find(control); i != std::string_view::npos) {
+        json += '\\';
+        json += "bfnrt"[i];
+    } else {
+        json += control < 0x10 ? "\\u000" : "\\u001";
+        json += "0123456789abcdef"[control & 0xF];
     }
 }
 
 void appendText(std::string& json, std::string_view text) {
     if (!isUtf8(text)) {
-        throw std::invalid_argument("a text that is not UTF-8 has no stored form");
+        throw std::invalid_argument("JSON cannot hold a text that is not UTF-8");
     }
     json += '"';
     for (const char character : text) {
@@ -106,4 +93,4 @@ std::string writeTable(std::span<const HighScore> entries) {
     return json;
 }
 
-}  // namespace SnakeCore
+}  // namespace SnakeCore::Detail

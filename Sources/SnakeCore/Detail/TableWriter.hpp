@@ -5,10 +5,10 @@
 
 #include "SnakeCore/HighScore.hpp"
 
-namespace SnakeCore {
+namespace SnakeCore::Detail {
 
-/// The stored form of a table. Throws `std::invalid_argument` on a date that is not finite and on a
-/// text that is not UTF-8.
+/// The JSON of a `HighScores` table. Throws `std::invalid_argument` if a date is not finite or a
+/// text is not UTF-8.
 [[nodiscard]] std::string writeTable(std::span<const HighScore> entries);
 
-}  // namespace SnakeCore
+}  // namespace SnakeCore::Detail

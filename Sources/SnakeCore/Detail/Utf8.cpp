@@ -4,26 +4,26 @@
 
 #include <cstddef>
 
-namespace SnakeCore {
+namespace SnakeCore::Detail {
 namespace {
 
-/// Reads one character at `index` and moves behind it; negative if there is none.
-UChar32 nextScalar(std::string_view bytes, std::size_t& index) {
-    UChar32 scalar = 0;
-    // The library's macro narrows within itself.
+/// Decodes the code point at `index` and advances behind it; negative if it is ill-formed.
+UChar32 nextCodePoint(std::string_view bytes, std::size_t& index) {
+    UChar32 codePoint = 0;
+    // ICU's macro contains implicit narrowing conversions.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wconversion"
 #pragma GCC diagnostic ignored "-Wsign-conversion"
-    U8_NEXT(bytes.data(), index, bytes.size(), scalar);
+    U8_NEXT(bytes.data(), index, bytes.size(), codePoint);
 #pragma GCC diagnostic pop
-    return scalar;
+    return codePoint;
 }
 
 }  // namespace
 
 bool isUtf8(std::string_view bytes) {
     for (std::size_t index = 0; index < bytes.size();) {
-        if (nextScalar(bytes, index) < 0) {
+        if (nextCodePoint(bytes, index) < 0) {
             return false;
         }
     }
@@ -36,15 +36,15 @@ std::string repairedUtf8(std::string_view bytes) {
     repaired.reserve(bytes.size());
     for (std::size_t index = 0; index < bytes.size();) {
         const std::size_t start = index;
-        const bool broken = nextScalar(bytes, index) < 0;
-        repaired += broken ? replacement : bytes.substr(start, index - start);
+        const bool illFormed = nextCodePoint(bytes, index) < 0;
+        repaired += illFormed ? replacement : bytes.substr(start, index - start);
     }
     return repaired;
 }
 
-char32_t firstScalar(std::string_view utf8) {
+char32_t firstCodePoint(std::string_view utf8) {
     std::size_t index = 0;
-    return static_cast<char32_t>(nextScalar(utf8, index));
+    return static_cast<char32_t>(nextCodePoint(utf8, index));
 }
 
-}  // namespace SnakeCore
+}  // namespace SnakeCore::Detail

@@ -3,15 +3,15 @@
 #include <string>
 #include <string_view>
 
-namespace SnakeCore {
+namespace SnakeCore::Detail {
 
 [[nodiscard]] bool isUtf8(std::string_view bytes);
 
-/// The text with U+FFFD in place of every byte sequence that is not UTF-8, one for each longest
-/// start of a character.
+/// `bytes` with each ill-formed sequence replaced by U+FFFD, one per maximal subpart as Unicode
+/// recommends.
 [[nodiscard]] std::string repairedUtf8(std::string_view bytes);
 
-/// The first scalar of a text that is UTF-8 and not empty.
-[[nodiscard]] char32_t firstScalar(std::string_view utf8);
+/// The first code point of a valid, non-empty UTF-8 text.
+[[nodiscard]] char32_t firstCodePoint(std::string_view utf8);
 
-}  // namespace SnakeCore
+}  // namespace SnakeCore::Detail

@@ -27,7 +27,7 @@ QRegion BoardPicture::show(const SnakeCore::Game& game) {
         paintGround(area);
     }
     // The gradient runs from tail to head: when an end moves, the whole band changes its colours.
-    const SnakeCore::Snake& snake = game.snake();
+    const auto& snake = game.snake();
     if (!shown_ || shown_->snake().front() != snake.front() ||
         shown_->snake().back() != snake.back() || shown_->direction() != game.direction()) {
         gradient_.emplace(grid_.centre(snake.back()), grid_.centre(snake.front()));

@@ -8,7 +8,7 @@ std::vector<Links> snakeLinks(const SnakeCore::Game& game) {
     const auto join = [&](const SnakeCore::Cell& cell, Links way) {
         at(cell) = static_cast<Links>(at(cell) | way);
     };
-    const SnakeCore::Snake& snake = game.snake();
+    const auto& snake = game.snake();
     for (std::size_t i = 1; i < snake.size(); ++i) {
         const SnakeCore::Cell& ahead = snake[i - 1];
         const SnakeCore::Cell& behind = snake[i];

@@ -6,31 +6,33 @@
 
 #include "SnakeCore/Cell.hpp"
 
-namespace SnakeCore {
+namespace SnakeCore::Detail {
 
-/// Which cells of a board are taken: one bit a cell, in row-major order.
+/// The cells of a board that the snake occupies: one bit per cell in row-major order, so that
+/// finding a random free cell is popcount and select. Every `Cell` passed in must be on the board.
 class Occupancy {
 public:
-    /// A board with every cell free. Stops the program when the number of cells overflows; throws
-    /// when there is no memory for the bits.
+    /// A board with every cell free. Aborts if the number of cells overflows; throws if the bits
+    /// cannot be allocated.
     Occupancy(std::int64_t width, std::int64_t height);
 
-    /// `cell` has to lie on the board, here and below.
     [[nodiscard]] bool taken(Cell cell) const { return (words_[word(cell)] & mask(cell)) != 0; }
-    /// Takes a free cell.
+    /// `cell` must be free.
     void take(Cell cell) {
         words_[word(cell)] |= mask(cell);
         --free_;
     }
-    /// Frees a taken cell.
+    /// `cell` must be taken.
     void release(Cell cell) {
         words_[word(cell)] &= ~mask(cell);
         ++free_;
     }
 
     [[nodiscard]] std::int64_t freeCount() const { return free_; }
-    /// The free cell at `index` among all free cells, row by row; 0 <= `index` < `freeCount()`.
+    /// The free cell number `index` in row-major order; 0 <= `index` < `freeCount()`.
     [[nodiscard]] Cell freeCell(std::int64_t index) const;
+
+    friend bool operator==(const Occupancy&, const Occupancy&) = default;
 
 private:
     [[nodiscard]] std::size_t bit(Cell cell) const {
@@ -46,4 +48,4 @@ private:
     std::vector<std::uint64_t> words_;
 };
 
-}  // namespace SnakeCore
+}  // namespace SnakeCore::Detail

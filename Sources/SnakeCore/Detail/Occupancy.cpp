@@ -1,10 +1,10 @@
-#include "SnakeCore/Occupancy.hpp"
+#include "SnakeCore/Detail/Occupancy.hpp"
 
 #include <bit>
 
 #include "SnakeCore/Detail/Checked.hpp"
 
-namespace SnakeCore {
+namespace SnakeCore::Detail {
 
 Occupancy::Occupancy(std::int64_t width, std::int64_t height)
     : width_(width),
@@ -20,10 +20,10 @@ Cell Occupancy::freeCell(std::int64_t index) const {
     }
     std::uint64_t freeBits = ~words_[word];
     for (; index > 0; --index) {
-        freeBits &= freeBits - 1;  // drops the lowest
+        freeBits &= freeBits - 1;  // clears the lowest set bit
     }
     const auto bit = static_cast<std::int64_t>(word) * 64 + std::countr_zero(freeBits);
     return {bit % width_, bit / width_};
 }
 
-}  // namespace SnakeCore
+}  // namespace SnakeCore::Detail
