@@ -26,7 +26,7 @@ std::pair<Game, Game> neighbours(std::size_t length) {
     Game next = game;
     do {
         game = next;
-        next.turn(Games::onTour(next));
+        next.turn(alongCycle(next));
         next.step();
     } while (length < wholeBoard && next.score() != game.score());
     return {game, next};

@@ -58,7 +58,7 @@ private:
         }
     }
 
-    void turn() { session_.key(static_cast<GameKey>(Games::onTour(session_.game()))); }
+    void turn() { session_.key(static_cast<GameKey>(alongCycle(session_.game()))); }
 
     void steer() {
         const SnakeCore::Cell head = session_.game().snake().front();

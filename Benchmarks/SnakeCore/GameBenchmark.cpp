@@ -4,41 +4,33 @@
 #include <limits>
 #include <random>
 
-#include "SnakeCore/Game.hpp"
 #include "SnakeCore/Detail/Occupancy.hpp"
-#include "SnakeCore/Playing.hpp"
+#include "SnakeCore/Game.hpp"
+#include "Support/ClosedWalk.hpp"
 
 namespace SnakeCore {
 namespace {
 
-// The closed way of 28 by 22 cells is the upper part of a higher board; below it there is room for
-// the start and for a fruit that is never reached.
+// The snake circles in the upper 28 x 22 cells of a higher board. The rows below hold its starting
+// position and a fruit that it never reaches, so that its length stays as it is.
 constexpr std::int64_t columns = 28;
 constexpr std::int64_t rows = 48;
-constexpr std::int64_t wayRows = 22;
+constexpr std::int64_t cycleRows = 22;
 
-/// Up from the start to the way, then round it for ever.
-Direction alongTheWay(Cell head) {
-    if (head.y >= wayRows) {
-        return Direction::up;
-    }
-    if (head.x == 0) {
-        return head.y > 0 ? Direction::up : Direction::right;
-    }
-    if (head.y % 2 == 0) {
-        return head.x < columns - 1 ? Direction::right : Direction::down;
-    }
-    return head.x > 1 || head.y == wayRows - 1 ? Direction::left : Direction::down;
+/// Up from the start to the cycle, then round it for ever.
+Direction nextDirection(Cell head) {
+    return head.y >= cycleRows ? Direction::up : alongCycle(head, columns, cycleRows);
 }
 
-/// A source of chance that makes the fruit grow where it is told to.
-struct Gardener {
+/// A random bit generator that returns the number it was given, to choose where a fruit appears.
+struct FixedGenerator {
     using result_type = std::uint64_t;
     static constexpr result_type min() { return 0; }
     static constexpr result_type max() { return std::numeric_limits<result_type>::max(); }
     result_type operator()() const { return number; }
 
-    /// Chooses the free cell at `index` among `count`: the middle of its share of all numbers.
+    /// Makes a uniform distribution over `count` values choose `index`: the middle of its share of
+    /// all numbers.
     void choose(std::int64_t index, std::int64_t count) {
         const result_type share = max() / static_cast<result_type>(count);
         number = static_cast<result_type>(index) * share + share / 2;
@@ -47,68 +39,70 @@ struct Gardener {
     result_type number = 0;
 };
 
-/// The place of `wanted` among the free cells once `head` has moved there too.
-void plant(Gardener& gardener, const Game& game, Cell head, Cell wanted) {
-    Detail::Occupancy taken(game.width(), game.height());
+/// The snake's cells on a board of `height` rows.
+Detail::Occupancy occupancyOf(const Game& game, std::int64_t height) {
+    Detail::Occupancy taken(columns, height);
     for (const Cell& cell : game.snake()) {
         taken.take(cell);
     }
+    return taken;
+}
+
+/// Makes the next fruit, which is placed when the head has moved to `head`, appear at `wanted`.
+void placeNextFruit(FixedGenerator& generator, const Game& game, Cell head, Cell wanted) {
+    Detail::Occupancy taken = occupancyOf(game, rows);
     taken.take(head);
     std::int64_t index = 0;
     while (taken.freeCell(index) != wanted) {
         ++index;
     }
-    gardener.choose(index, taken.freeCount());
+    generator.choose(index, taken.freeCount());
 }
 
-Cell ahead(Cell head, Direction direction) {
+Cell neighbour(Cell cell, Direction direction) {
     const Cell offset = stepVector(direction);
-    return {head.x + offset.x, head.y + offset.y};
+    return {cell.x + offset.x, cell.y + offset.y};
 }
 
-/// A snake of `length` cells on the way, and no fruit there.
-Game gameOnTheWay(std::int64_t length) {
+/// A snake of `length` cells on the cycle, and the fruit out of its reach.
+Game gameOnCycle(std::int64_t length) {
     constexpr Cell outOfReach{columns - 1, rows - 1};
-    Gardener gardener;
+    FixedGenerator generator;
     Game game(columns, rows);
-    const auto size = [&game] { return static_cast<std::int64_t>(game.snake().size()); };
+    const auto size = [&game] { return std::ssize(game.snake()); };
     while (length > 4 && size() < length) {
         const Cell head = game.snake().front();
-        const Direction direction = game.score() == 0 ? Direction::right : alongTheWay(head);
-        const Cell next = ahead(head, direction);
+        const Direction direction = game.score() == 0 ? Direction::right : nextDirection(head);
+        const Cell next = neighbour(head, direction);
         if (next == game.food()) {
-            plant(gardener, game, next,
-                  size() + 1 < length ? ahead(next, alongTheWay(next)) : outOfReach);
+            placeNextFruit(generator, game, next,
+                           size() + 1 < length ? neighbour(next, nextDirection(next)) : outOfReach);
         }
         game.turn(direction);
-        game.step(gardener);
+        game.step(generator);
     }
-    while (game.snake().back().y >= wayRows) {
-        game.turn(alongTheWay(game.snake().front()));
-        game.step(gardener);
+    while (game.snake().back().y >= cycleRows) {
+        game.turn(nextDirection(game.snake().front()));
+        game.step(generator);
     }
     return game;
 }
 
 void step(benchmark::State& state) {
-    Game game = gameOnTheWay(state.range(0));
+    Game game = gameOnCycle(state.range(0));
     for (auto _ : state) {
-        game.turn(alongTheWay(game.snake().front()));
+        game.turn(nextDirection(game.snake().front()));
         game.step();
     }
     if (game.ended() || std::ssize(game.snake()) != state.range(0)) {
-        state.SkipWithError("the run did not stay as it was");
+        state.SkipWithError("the run ended or the snake grew");
     }
     state.SetItemsProcessed(state.iterations());
 }
 BENCHMARK(step)->Arg(4)->Arg(60)->Arg(600);
 
 void placeFruit(benchmark::State& state) {
-    Detail::Occupancy taken(28, 22);
-    const Game game = gameOnTheWay(state.range(0));
-    for (const Cell& cell : game.snake()) {
-        taken.take(cell);
-    }
+    const Detail::Occupancy taken = occupancyOf(gameOnCycle(state.range(0)), cycleRows);
     std::random_device source;
     for (auto _ : state) {
         std::uniform_int_distribution<std::int64_t> index(0, taken.freeCount() - 1);
@@ -120,9 +114,9 @@ BENCHMARK(placeFruit)->Arg(4)->Arg(60)->Arg(600);
 void wonGame(benchmark::State& state) {
     std::int64_t steps = 0;
     for (auto _ : state) {
-        Game game(28, 22);
+        Game game(columns, cycleRows);
         for (; !game.ended(); ++steps) {
-            game.turn(alongTheTour(game));
+            game.turn(alongCycle(game));
             game.step();
         }
         if (!game.won()) {

@@ -83,8 +83,7 @@ Game patientlyGrownTo(std::int64_t score) {
     Game game(Session::columns, Session::rows);
     std::minstd_rand generator(seed);
     while (game.score() < score && !game.ended()) {
-        const Direction next = alongCycle(game);
-        game.turn(opposite(next, game.direction()) ? Direction::down : next);
+        game.turn(alongCycle(game));
         game.step(generator);
     }
     return game;

@@ -7,6 +7,7 @@
 
 #include "SnakeCore/Game.hpp"
 #include "SnakeCore/Playing.hpp"
+#include "Support/ClosedWalk.hpp"
 
 namespace SnakeCore {
 namespace {
@@ -102,7 +103,7 @@ TEST(FruitPlacement, takesTheOnlyCellLeft) {
     std::mt19937_64 generator(5);
     Game game(6, 4);
     while (game.snake().size() < 23) {
-        game.turn(alongTheTour(game));
+        game.turn(alongCycle(game));
         game.step(generator);
     }
 

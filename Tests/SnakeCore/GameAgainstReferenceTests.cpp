@@ -8,6 +8,7 @@
 #include "SnakeCore/Game.hpp"
 #include "SnakeCore/Playing.hpp"
 #include "SnakeCore/ReferenceGame.hpp"
+#include "Support/ClosedWalk.hpp"
 
 namespace SnakeCore {
 namespace {
@@ -96,7 +97,7 @@ void compareAWonRun(std::int64_t width, std::int64_t height) {
     Game game(width, height);
     ReferenceGame reference(width, height);
     while (!reference.ended) {
-        const Direction wanted = alongTheTour(game);
+        const Direction wanted = alongCycle(game);
         game.turn(wanted);
         reference.turn(wanted);
         game.step(generator);

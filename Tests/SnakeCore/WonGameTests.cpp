@@ -6,6 +6,7 @@
 
 #include "SnakeCore/Game.hpp"
 #include "SnakeCore/Playing.hpp"
+#include "Support/ClosedWalk.hpp"
 
 namespace SnakeCore {
 namespace {
@@ -14,7 +15,7 @@ Game wonGame(std::int64_t width, std::int64_t height) {
     std::mt19937_64 generator(3);
     Game game(width, height);
     while (!game.ended()) {
-        game.turn(alongTheTour(game));
+        game.turn(alongCycle(game));
         game.step(generator);
     }
     return game;
@@ -33,7 +34,7 @@ TEST(WonGame, fillsThePlayersBoardWithAScoreOf6120) {
 TEST(WonGame, isWonWithTheSystemsRandomnessToo) {
     Game game(28, 22);
     while (!game.ended()) {
-        game.turn(alongTheTour(game));
+        game.turn(alongCycle(game));
         game.step();
     }
 
@@ -69,7 +70,7 @@ TEST(WonGame, keepsItsRulesAtEveryStepOnTheWay) {
     Game game(12, 10);
     while (!game.ended()) {
         const Game before = game;
-        game.turn(alongTheTour(game));
+        game.turn(alongCycle(game));
         game.step(generator);
         const bool ate = game.snake().front() == before.food();
 

@@ -1,36 +1,30 @@
 #pragma once
 
-#include <optional>
+#include <cstdint>
 
-#include "Session/GameKey.hpp"
 #include "SnakeCore/Game.hpp"
 
-/// A way through every cell of the board and back to its beginning, on which no snake ever meets
-/// itself: up the first column, then row by row, to the right in even rows and to the left in odd
-/// ones. The number of rows must be even.
-[[nodiscard]] inline SnakeCore::Direction alongCycle(const SnakeCore::Game& game) {
-    using enum SnakeCore::Direction;
-    const SnakeCore::Cell head = game.snake()[0];
-    if (head.x == 0) {
-        return head.y > 0 ? up : right;
+namespace SnakeCore {
+
+/// The way out of `cell` along a Hamiltonian cycle, a closed walk that visits each of
+/// `width` x `height` cells once: up the first column, then row by row through the other columns,
+/// rightwards in even rows and leftwards in odd ones. `height` must be even.
+[[nodiscard]] constexpr Direction alongCycle(Cell cell, std::int64_t width, std::int64_t height) {
+    using enum Direction;
+    if (cell.x == 0) {
+        return cell.y > 0 ? up : right;
     }
-    const bool lastRow = head.y == game.height() - 1;
-    if (head.y % 2 == 0) {
-        return head.x < game.width() - 1 ? right : down;
+    if (cell.y % 2 == 0) {
+        return cell.x < width - 1 ? right : down;
     }
-    return head.x > 1 || lastRow ? left : down;
+    return cell.x > 1 || cell.y == height - 1 ? left : down;
 }
 
-/// The key that keeps the snake on the cycle, or none while it heads the right way already. A
-/// fresh snake heads against the cycle and is led down into the next row first.
-[[nodiscard]] inline std::optional<GameKey> turnAlongCycle(const SnakeCore::Game& game) {
-    using enum SnakeCore::Direction;
-    SnakeCore::Direction next = alongCycle(game);
-    if (next == game.direction()) {
-        return std::nullopt;
-    }
-    if (opposite(next, game.direction())) {
-        next = down;
-    }
-    return static_cast<GameKey>(next);
+/// The turn that keeps the snake on that cycle. A snake that follows it from the start never hits
+/// anything and in the end wins. Where a new snake heads against the cycle, it first turns down.
+[[nodiscard]] inline Direction alongCycle(const Game& game) {
+    const Direction next = alongCycle(game.snake().front(), game.width(), game.height());
+    return opposite(next, game.direction()) ? Direction::down : next;
 }
+
+}  // namespace SnakeCore

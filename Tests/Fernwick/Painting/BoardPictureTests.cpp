@@ -94,7 +94,7 @@ TEST(BoardPicture, keptUpToDateIsThePicturePaintedAfresh) {
     Game game(28, 22);
     std::mt19937 generator(3);
     for (int step = 0; step < 150; ++step) {
-        game.turn(Games::onTour(game));
+        game.turn(alongCycle(game));
         game.step(generator);
         picture.show(game);
     }

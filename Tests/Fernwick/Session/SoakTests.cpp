@@ -69,8 +69,8 @@ protected:
             static constexpr std::array keys{GameKey::up, GameKey::down, GameKey::left,
                                              GameKey::right};
             pressTurn(keys[below(keys.size())]);
-        } else if (const auto key = turnAlongCycle(launched->game())) {
-            pressTurn(*key);
+        } else {
+            pressTurn(static_cast<GameKey>(alongCycle(launched->game())));
         }
     }
 

@@ -14,7 +14,7 @@ TEST(BoardScreen, showsAfterManyStepsWhatPaintingAllOfItShows) {
     Game game(28, 22);
     std::mt19937 generator(5);
     for (int step = 0; step < 60; ++step) {
-        game.turn(Games::onTour(game));
+        game.turn(alongCycle(game));
         game.step(generator);
         window.board().setGame(game);
         window.settle();

@@ -79,7 +79,7 @@ TEST(Board, paintedStepByStepShowsWhatPaintingItWholeShows) {
     Game game(28, 22);
     std::mt19937 generator(5);
     for (int step = 0; step < 12; ++step) {
-        game.turn(Games::onTour(game));
+        game.turn(alongCycle(game));
         game.step(generator);
         window.board().setGame(game);
         window.settle();

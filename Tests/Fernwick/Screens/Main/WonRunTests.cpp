@@ -8,9 +8,7 @@ SnakeCore::Game almostWonGame() {
     SnakeCore::Game game(Session::columns, Session::rows);
     for (SnakeCore::Game next = game; !next.ended();) {
         game = next;
-        if (const auto key = turnAlongCycle(next)) {
-            next.turn(static_cast<SnakeCore::Direction>(*key));
-        }
+        next.turn(alongCycle(next));
         next.step();
     }
     return game;
@@ -23,9 +21,7 @@ class WonRun : public WindowTest {};
 TEST_F(WonRun, isFullyGrownAndCanBeSaved) {
     startRunAt(almostWonGame());
     sounds.heard.clear();
-    if (const auto key = turnAlongCycle(session.game())) {
-        session.key(*key);
-    }
+    session.key(static_cast<GameKey>(alongCycle(session.game())));
     fireTimer();
     settle();
 
