@@ -23,7 +23,7 @@ std::string cleaned(std::string_view name) {
     return HighScores::cleanName(name);
 }
 
-/// Names from the pieces that make cleaning difficult.
+/// Random names made of pieces that are hard to clean.
 rc::Gen<std::string> names() {
     const auto piece = rc::gen::element<std::string>(
         "a", "Z", " ", "  ", "\t", "\n", "\r\n", "\u00a0", "\u3000", "é", "e\u0301", "👩\u200d🚀",
@@ -38,19 +38,19 @@ rc::Gen<std::string> names() {
                         });
 }
 
-TEST(CleanName, leavesOneSpaceBetweenWordsAndNoneAround) {
+TEST(CleanName, trimsAndCollapsesWhiteSpace) {
     EXPECT_EQ(cleaned("  Pip\t  Green\n"), "Pip Green");
     EXPECT_EQ(cleaned(" A "), "A");
     EXPECT_EQ(cleaned("a b"), "a b");
 }
 
-TEST(CleanName, makesNothingOfWhiteSpaceAlone) {
+TEST(CleanName, isEmptyForABlankName) {
     EXPECT_EQ(cleaned(""), "");
     EXPECT_EQ(cleaned("   "), "");
     EXPECT_EQ(cleaned("\r\n\t\u2003"), "");
 }
 
-TEST(CleanName, knowsEveryWhiteSpaceCharacterOfUnicode) {
+TEST(CleanName, recognizesEveryUnicodeWhiteSpaceCharacter) {
     for (const std::string_view space :
          {"\t",     "\n",     "\v",     "\f",     "\r",     "\r\n",   " ",      "\u0085", "\u00a0",
           "\u1680", "\u2000", "\u2001", "\u2002", "\u2003", "\u2004", "\u2005", "\u2006", "\u2007",
@@ -62,7 +62,7 @@ TEST(CleanName, knowsEveryWhiteSpaceCharacterOfUnicode) {
     }
 }
 
-TEST(CleanName, keepsInvisibleCharactersThatAreNoWhiteSpace) {
+TEST(CleanName, keepsInvisibleCharactersThatAreNotWhiteSpace) {
     for (const std::string_view kept :
          {"\u200b", "\u2060", "\ufeff", "\u180e", "\u0001", "\u001f"}) {
         const std::string name = "Pip" + std::string(kept) + "Green";
@@ -77,16 +77,16 @@ TEST(CleanName, keepsTheFirstTwentyFourLetters) {
     EXPECT_EQ(cleaned(repeated("x", 23)), repeated("x", 23));
 }
 
-TEST(CleanName, mayEndInTheJoiningSpaceThatIsTheTwentyFourthCharacter) {
+TEST(CleanName, endsInASpaceIfThatIsTheTwentyFourthCharacter) {
     EXPECT_EQ(cleaned("abcdefghijklmnopqrstuvw xyz"), "abcdefghijklmnopqrstuvw ");
     EXPECT_EQ(cleaned("abcdefghijklmnopqrstuvw \t\n xyz"), "abcdefghijklmnopqrstuvw ");
 }
 
-TEST(CleanName, countsOnlyWhatTheTrimmingLeaves) {
+TEST(CleanName, countsCharactersAfterTrimming) {
     EXPECT_EQ(cleaned(repeated(" ", 40) + repeated("x", 24) + "  "), repeated("x", 24));
 }
 
-TEST(CleanName, countsCharactersAsPeopleSeeThem) {
+TEST(CleanName, countsGraphemeClusters) {
     for (const std::string_view character :
          {"😀", "é", "e\u0301", "👍🏽", "👩\u200d🚀", "👨\u200d👩\u200d👧\u200d👦", "🇩🇪", "한",
           "\u1112\u1161\u11ab", "❤\ufe0f", "a\u0301\u0302\u0303\u0304"}) {
@@ -95,26 +95,26 @@ TEST(CleanName, countsCharactersAsPeopleSeeThem) {
     }
 }
 
-TEST(CleanName, takesAWhiteSpaceWithAMarkOnItForWhiteSpace) {
+TEST(CleanName, treatsASpaceWithACombiningMarkAsWhiteSpace) {
     EXPECT_EQ(cleaned("Pip \u0301Green"), "Pip Green");
 }
 
-TEST(CleanName, countsAMarkThatLandsOnTheJoiningSpaceAsOneCharacterWithIt) {
+TEST(CleanName, countsASpaceAndTheCombiningMarkBehindItAsOneCharacter) {
     EXPECT_EQ(cleaned("a\n\u0301" + repeated("x", 30)), "a \u0301" + repeated("x", 22));
 }
 
-TEST(CleanName, keepsASpaceThatMakesOneCharacterWithThePrefixBeforeIt) {
+TEST(CleanName, keepsASpaceThatIsPartOfTheCharacterBeforeIt) {
     EXPECT_EQ(cleaned("Pip \u0600 "), "Pip \u0600 ");
 }
 
-TEST(CleanName, replacesWhatIsNotUtf8) {
+TEST(CleanName, replacesIllFormedUtf8) {
     EXPECT_EQ(cleaned("P\xffip"), "P\ufffdip");
     EXPECT_EQ(cleaned("\xe2\x82"), "\ufffd");
     EXPECT_EQ(cleaned("\xed\xa0\x80"), "\ufffd\ufffd\ufffd");
     EXPECT_EQ(cleaned("\xc0\xaf"), "\ufffd\ufffd");
 }
 
-TEST(CleanName, copesWithAVeryLongName) {
+TEST(CleanName, handlesAVeryLongName) {
     EXPECT_EQ(cleaned(repeated("word ", 200'000)), "word word word word word");
     EXPECT_EQ(cleaned("a" + repeated("\u0301", 100'000)), "a" + repeated("\u0301", 100'000));
 }
@@ -125,7 +125,7 @@ RC_GTEST_PROP(CleanName, neverExceedsTwentyFourCharacters, ()) {
     RC_ASSERT(firstCharacters(name, 24) == name);
 }
 
-RC_GTEST_PROP(CleanName, ofACleanNameTakesAtMostTheTrailingSpace, ()) {
+RC_GTEST_PROP(CleanName, appliedTwiceRemovesAtMostTheTrailingSpace, ()) {
     const std::string once = cleaned(*names());
     const bool endsInSpace = once.ends_with(' ');
 

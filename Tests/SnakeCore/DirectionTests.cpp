@@ -9,21 +9,21 @@
 namespace SnakeCore {
 namespace {
 
-TEST(Direction, isNumberedInTheOrderUpDownLeftRight) {
+TEST(Direction, isNumberedUpDownLeftRight) {
     EXPECT_EQ(static_cast<int>(Direction::up), 0);
     EXPECT_EQ(static_cast<int>(Direction::down), 1);
     EXPECT_EQ(static_cast<int>(Direction::left), 2);
     EXPECT_EQ(static_cast<int>(Direction::right), 3);
 }
 
-TEST(Direction, stepsOneCellWithRowsGrowingDownward) {
+TEST(Direction, stepsOneCellWithRowsGrowingDownwards) {
     EXPECT_EQ(stepVector(Direction::up), (Cell{0, -1}));
     EXPECT_EQ(stepVector(Direction::down), (Cell{0, 1}));
     EXPECT_EQ(stepVector(Direction::left), (Cell{-1, 0}));
     EXPECT_EQ(stepVector(Direction::right), (Cell{1, 0}));
 }
 
-TEST(Direction, isOppositeInExactlyFourOfSixteenPairs) {
+TEST(Direction, isOppositeInFourOfSixteenPairs) {
     const std::set<std::pair<Direction, Direction>> opposites{
         {Direction::up, Direction::down},
         {Direction::down, Direction::up},
@@ -39,7 +39,7 @@ TEST(Direction, isOppositeInExactlyFourOfSixteenPairs) {
     }
 }
 
-TEST(Direction, oppositesAreKnownAtCompileTime) {
+TEST(Direction, oppositeIsConstexpr) {
     static_assert(opposite(Direction::up, Direction::down));
     static_assert(!opposite(Direction::up, Direction::left));
 }

@@ -12,29 +12,29 @@
 namespace SnakeCore {
 namespace {
 
-/// Where the second fruit of a run grew, by cell, over many runs on one board.
-using Places = std::unordered_map<Cell, std::int64_t>;
+/// How often the second fruit of a run was placed on each cell.
+using Counts = std::unordered_map<Cell, std::int64_t>;
 
-/// Straight ahead to the first fruit, over and over; `advance` makes one step.
-Places secondFruits(std::int64_t width, std::int64_t height, std::int64_t runs,
+/// Plays many runs straight ahead to the first fruit; `advance` makes one step.
+Counts secondFruits(std::int64_t width, std::int64_t height, std::int64_t runs,
                     const std::function<void(Game&)>& advance) {
-    Places places;
+    Counts counts;
     for (std::int64_t run = 0; run < runs; ++run) {
         Game game(width, height);
         while (game.score() == 0) {
             advance(game);
         }
         EXPECT_EQ(std::ranges::count(game.snake(), game.food()), 0);
-        ++places[game.food()];
+        ++counts[game.food()];
     }
-    return places;
+    return counts;
 }
 
-/// Pearson's statistic against equal chances for `cells` cells.
-double chiSquare(const Places& places, std::int64_t cells, std::int64_t runs) {
+/// Pearson's chi-square statistic against the uniform distribution over `cells` cells.
+double chiSquare(const Counts& counts, std::int64_t cells, std::int64_t runs) {
     const double expected = static_cast<double>(runs) / static_cast<double>(cells);
-    double sum = static_cast<double>(cells - std::ssize(places)) * expected;
-    for (const auto& [cell, count] : places) {
+    double sum = static_cast<double>(cells - std::ssize(counts)) * expected;
+    for (const auto& [cell, count] : counts) {
         const double difference = static_cast<double>(count) - expected;
         sum += difference * difference / expected;
     }
@@ -43,63 +43,63 @@ double chiSquare(const Places& places, std::int64_t cells, std::int64_t runs) {
 
 // After the first fruit the snake is five cells long.
 constexpr std::int64_t freeOnSmallest = 6 * 4 - 5;
-constexpr std::int64_t freeOnPlayers = 28 * 22 - 5;
+constexpr std::int64_t freeOn28By22 = 28 * 22 - 5;
 
-// Fair placement exceeds these once in a thousand seeds: 18 and 610 degrees of freedom.
-constexpr double rareOnSmallest = 42.3;
-constexpr double rareOnPlayers = 724;
+// The 99.9th percentiles of the chi-square distribution with 18 and 610 degrees of freedom.
+constexpr double limitOnSmallest = 42.3;
+constexpr double limitOn28By22 = 724;
 
-/// A source that leaves out the lowest tenth of its range.
-struct LopsidedSource {
+/// A generator that never returns a number in the lowest tenth of its range.
+struct BiasedGenerator {
     using result_type = std::uint64_t;
     static constexpr result_type min() { return 0; }
     static constexpr result_type max() { return std::numeric_limits<result_type>::max(); }
-    result_type operator()() { return std::max(source(), max() / 10); }
+    result_type operator()() { return std::max(engine(), max() / 10); }
 
-    std::mt19937_64 source{1};
+    std::mt19937_64 engine{1};
 };
 
-TEST(FruitPlacement, isEquallyLikelyOnEveryFreeCellOfTheSmallestBoard) {
+TEST(FruitPlacement, isUniformOnTheSmallestBoard) {
     constexpr std::int64_t runs = freeOnSmallest * 1000;
     std::mt19937_64 generator(20010101);
 
-    const Places places = secondFruits(6, 4, runs, [&](Game& game) { game.step(generator); });
+    const Counts counts = secondFruits(6, 4, runs, [&](Game& game) { game.step(generator); });
 
-    EXPECT_EQ(std::ssize(places), freeOnSmallest);
-    EXPECT_LT(chiSquare(places, freeOnSmallest, runs), rareOnSmallest);
+    EXPECT_EQ(std::ssize(counts), freeOnSmallest);
+    EXPECT_LT(chiSquare(counts, freeOnSmallest, runs), limitOnSmallest);
 }
 
-TEST(FruitPlacement, isEquallyLikelyOnEveryFreeCellOfThePlayersBoard) {
-    constexpr std::int64_t runs = freeOnPlayers * 60;
+TEST(FruitPlacement, isUniformOnA28By22Board) {
+    constexpr std::int64_t runs = freeOn28By22 * 60;
     std::mt19937_64 generator(28022);
 
-    const Places places = secondFruits(28, 22, runs, [&](Game& game) { game.step(generator); });
+    const Counts counts = secondFruits(28, 22, runs, [&](Game& game) { game.step(generator); });
 
-    EXPECT_EQ(std::ssize(places), freeOnPlayers);
-    EXPECT_LT(chiSquare(places, freeOnPlayers, runs), rareOnPlayers);
+    EXPECT_EQ(std::ssize(counts), freeOn28By22);
+    EXPECT_LT(chiSquare(counts, freeOn28By22, runs), limitOn28By22);
 }
 
-TEST(FruitPlacement, isEquallyLikelyOnEveryFreeCellByTheSystemsRandomness) {
-    // Fair placement exceeds this less than once in ten thousand million runs of this test.
-    constexpr double neverOnSmallest = 90;
+TEST(FruitPlacement, isUniformWithRandomDevice) {
+    // Uniform placement exceeds this in fewer than one of 10^10 runs of this test.
+    constexpr double limit = 90;
     constexpr std::int64_t runs = freeOnSmallest * 500;
 
-    const Places places = secondFruits(6, 4, runs, [](Game& game) { game.step(); });
+    const Counts counts = secondFruits(6, 4, runs, [](Game& game) { game.step(); });
 
-    EXPECT_EQ(std::ssize(places), freeOnSmallest);
-    EXPECT_LT(chiSquare(places, freeOnSmallest, runs), neverOnSmallest);
+    EXPECT_EQ(std::ssize(counts), freeOnSmallest);
+    EXPECT_LT(chiSquare(counts, freeOnSmallest, runs), limit);
 }
 
-TEST(FruitPlacement, isFoundUnfairByThisMeasureWhenItsSourceIs) {
+TEST(FruitPlacement, failsTheChiSquareTestWithABiasedGenerator) {
     constexpr std::int64_t runs = freeOnSmallest * 1000;
-    LopsidedSource source;
+    BiasedGenerator generator;
 
-    const Places places = secondFruits(6, 4, runs, [&](Game& game) { game.step(source); });
+    const Counts counts = secondFruits(6, 4, runs, [&](Game& game) { game.step(generator); });
 
-    EXPECT_GT(chiSquare(places, freeOnSmallest, runs), 90);
+    EXPECT_GT(chiSquare(counts, freeOnSmallest, runs), 90);
 }
 
-TEST(FruitPlacement, takesTheOnlyCellLeft) {
+TEST(FruitPlacement, usesTheLastFreeCell) {
     std::mt19937_64 generator(5);
     Game game(6, 4);
     while (game.snake().size() < 23) {

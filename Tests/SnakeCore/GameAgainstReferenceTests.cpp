@@ -31,8 +31,7 @@ Direction randomDirection(std::mt19937_64& dice) {
     return everyDirection[dice() % everyDirection.size()];
 }
 
-/// Heads for the fruit by a way that is free for one step, if there is one: lives long enough to
-/// grow.
+/// The free neighbour nearest to the fruit: a player that survives long enough to grow.
 Direction towardsFood(const ReferenceGame& game) {
     Direction best = game.direction;
     std::int64_t least = std::numeric_limits<std::int64_t>::max();
@@ -51,7 +50,8 @@ Direction towardsFood(const ReferenceGame& game) {
     return best;
 }
 
-/// One run on a random board by a player of random carelessness; its number of fruits.
+/// Plays one run on a board of random size, with a random share of random turns. Returns the number
+/// of fruits eaten.
 std::int64_t compareOneRun(std::uint64_t seed) {
     constexpr int mostSteps = 400;
     std::mt19937_64 dice(seed);
@@ -59,14 +59,14 @@ std::int64_t compareOneRun(std::uint64_t seed) {
     std::mt19937_64 referenceGenerator(seed + 1);
     const auto width = static_cast<std::int64_t>(6 + dice() % 35);
     const auto height = static_cast<std::int64_t>(4 + dice() % 27);
-    const std::uint64_t carelessness = 1 + dice() % 60;
+    const std::uint64_t randomShare = 1 + dice() % 60;
     Game game(width, height);
     ReferenceGame reference(width, height);
     for (int i = 0; i < mostSteps && !reference.ended; ++i) {
-        const bool careless = dice() % 60 < carelessness;
-        const int turns = careless ? static_cast<int>(dice() % 4) : 1;
+        const bool playsAtRandom = dice() % 60 < randomShare;
+        const int turns = playsAtRandom ? static_cast<int>(dice() % 4) : 1;
         for (int turn = 0; turn < turns; ++turn) {
-            const Direction wanted = careless ? randomDirection(dice) : towardsFood(reference);
+            const Direction wanted = playsAtRandom ? randomDirection(dice) : towardsFood(reference);
             game.turn(wanted);
             reference.turn(wanted);
         }
@@ -88,7 +88,7 @@ TEST(GameAgainstReference, agreesInTenThousandRandomRunsOnBoardsFrom6By4To40By30
         fruits += compareOneRun(seed);
     }
 
-    EXPECT_GT(fruits, static_cast<std::int64_t>(runs)) << "the players hardly ever eat";
+    EXPECT_GT(fruits, static_cast<std::int64_t>(runs)) << "the players hardly ever reach a fruit";
 }
 
 void compareAWonRun(std::int64_t width, std::int64_t height) {
@@ -108,13 +108,13 @@ void compareAWonRun(std::int64_t width, std::int64_t height) {
     EXPECT_EQ(reference.snake.size(), static_cast<std::size_t>(width * height));
 }
 
-TEST(GameAgainstReference, agreesAllTheWayToAWonRun) {
+TEST(GameAgainstReference, agreesInWonRunsOnSmallBoards) {
     compareAWonRun(6, 4);
     compareAWonRun(7, 6);
     compareAWonRun(13, 10);
 }
 
-TEST(GameAgainstReference, agreesAllTheWayToThePlayersWonBoard) {
+TEST(GameAgainstReference, agreesInAWonRunOnA28By22Board) {
     compareAWonRun(28, 22);
 }
 

@@ -11,7 +11,7 @@ namespace {
 constexpr std::int64_t largest = std::numeric_limits<std::int64_t>::max();
 constexpr std::int64_t smallest = std::numeric_limits<std::int64_t>::min();
 
-TEST(GameLimitsDeathTest, aBoardNarrowerThanSixColumnsStopsTheProgram) {
+TEST(GameLimitsDeathTest, abortsBelowSixColumns) {
     EXPECT_DEATH(Game(5, 4), "");
     EXPECT_DEATH(Game(5, 22), "");
     EXPECT_DEATH(Game(0, 22), "");
@@ -19,7 +19,7 @@ TEST(GameLimitsDeathTest, aBoardNarrowerThanSixColumnsStopsTheProgram) {
     EXPECT_DEATH(Game(smallest, 22), "");
 }
 
-TEST(GameLimitsDeathTest, aBoardLowerThanFourRowsStopsTheProgram) {
+TEST(GameLimitsDeathTest, abortsBelowFourRows) {
     EXPECT_DEATH(Game(6, 3), "");
     EXPECT_DEATH(Game(28, 3), "");
     EXPECT_DEATH(Game(28, 0), "");
@@ -27,12 +27,12 @@ TEST(GameLimitsDeathTest, aBoardLowerThanFourRowsStopsTheProgram) {
     EXPECT_DEATH(Game(28, smallest), "");
 }
 
-TEST(GameLimitsDeathTest, aBoardWithMoreCellsThanANumberHoldsStopsTheProgram) {
+TEST(GameLimitsDeathTest, abortsIfTheNumberOfCellsOverflows) {
     EXPECT_DEATH(Game(largest, 4), "");
     EXPECT_DEATH(Game(std::int64_t{1} << 32, std::int64_t{1} << 32), "");
 }
 
-TEST(GameLimitsDeathTest, anOverflowStopsTheProgram) {
+TEST(GameLimitsDeathTest, checkedArithmeticAbortsOnOverflow) {
     EXPECT_DEATH(static_cast<void>(Detail::checkedSum(largest, 1)), "");
     EXPECT_DEATH(static_cast<void>(Detail::checkedSum(smallest, -1)), "");
     EXPECT_DEATH(static_cast<void>(Detail::checkedProduct(largest, 2)), "");
@@ -47,14 +47,14 @@ TEST(GameLimits, theSmallestBoardIsPlayable) {
     EXPECT_FALSE(game.ended());
 }
 
-TEST(GameLimits, sumsAndProductsUpToTheLimitsAreExact) {
+TEST(GameLimits, checkedArithmeticIsExactUpToTheLimits) {
     EXPECT_EQ(Detail::checkedSum(largest - 1, 1), largest);
     EXPECT_EQ(Detail::checkedSum(smallest + 1, -1), smallest);
     EXPECT_EQ(Detail::checkedProduct(largest, -1), -largest);
     EXPECT_EQ(Detail::checkedProduct(28, 22), 616);
 }
 
-TEST(GameLimits, aLongNarrowBoardKeepsItsCornersApart) {
+TEST(GameLimits, theSnakeStaysOnAVeryWideBoard) {
     Game game(10'000, 4);
     game.turn(Direction::up);
     for (int i = 0; i < 2; ++i) {

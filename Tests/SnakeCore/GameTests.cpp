@@ -16,7 +16,7 @@ namespace {
 static_assert(std::copyable<Game> && std::equality_comparable<Game>);
 static_assert(std::ranges::random_access_range<decltype(Game(6, 4).snake())>);
 
-TEST(Game, startsOnTheSmallestBoardFromWallToWall) {
+TEST(Game, startsAtTheLeftWallOnTheSmallestBoard) {
     const Game game(6, 4);
 
     EXPECT_EQ(cellsOf(game), (Cells{{3, 2}, {2, 2}, {1, 2}, {0, 2}}));
@@ -27,14 +27,14 @@ TEST(Game, startsOnTheSmallestBoardFromWallToWall) {
     EXPECT_FALSE(game.won());
 }
 
-TEST(Game, startsOnAnOddBoardWithTheCentreRoundedDown) {
+TEST(Game, startsAtTheCentreRoundedDownOnAnOddBoard) {
     const Game game(7, 5);
 
     EXPECT_EQ(game.snake().front(), (Cell{3, 2}));
     EXPECT_EQ(game.food(), (Cell{6, 2}));
 }
 
-TEST(Game, startsOnThePlayersBoardFourCellsFromTheFruit) {
+TEST(Game, startsFourCellsFromTheFruitOnA28By22Board) {
     const Game game(28, 22);
 
     EXPECT_EQ(game.width(), 28);
@@ -43,7 +43,7 @@ TEST(Game, startsOnThePlayersBoardFourCellsFromTheFruit) {
     EXPECT_EQ(game.food(), (Cell{18, 11}));
 }
 
-TEST(Game, placesTheFirstFruitAlwaysInTheSamePlace) {
+TEST(Game, alwaysStartsTheSame) {
     EXPECT_EQ(Game(28, 22), Game(28, 22));
 }
 
@@ -55,7 +55,7 @@ TEST(Game, stepsOneCellInItsDirection) {
     EXPECT_EQ(cellsOf(game), (Cells{{15, 11}, {14, 11}, {13, 11}, {12, 11}}));
 }
 
-TEST(Game, endsAtTheWallWithTheSnakeAsItWas) {
+TEST(Game, leavesTheSnakeUnchangedWhenItHitsAWall) {
     Game game(28, 22);
     game.turn(Direction::up);
     step(game, 11);
@@ -88,7 +88,7 @@ TEST(Game, endsAtEachOfTheFourWalls) {
     EXPECT_EQ(stepsToTheEnd({Direction::up, Direction::left}), 6);
 }
 
-TEST(Game, changesNothingOnceItHasEnded) {
+TEST(Game, doesNotChangeAfterItsEnd) {
     Game game(6, 4);
     game.turn(Direction::up);
     step(game, 3);
@@ -100,7 +100,7 @@ TEST(Game, changesNothingOnceItHasEnded) {
     EXPECT_EQ(game, before);
 }
 
-TEST(Game, keepsTheDirectionOfTheStepThatEndedIt) {
+TEST(Game, hasTheDirectionOfTheStepThatEndedIt) {
     Game game(6, 4);
     step(game, 2);
     game.turn(Direction::down);
@@ -113,7 +113,7 @@ TEST(Game, keepsTheDirectionOfTheStepThatEndedIt) {
     EXPECT_EQ(game.direction(), Direction::right);
 }
 
-TEST(Game, letsTheHeadFollowItsOwnTailForEver) {
+TEST(Game, letsTheHeadEnterTheCellThatTheTailLeaves) {
     constexpr std::array cycle{Direction::down, Direction::left, Direction::up, Direction::right};
     Game game(28, 22);
 
@@ -126,7 +126,7 @@ TEST(Game, letsTheHeadFollowItsOwnTailForEver) {
     EXPECT_EQ(game.snake().size(), 4U);
 }
 
-TEST(Game, endsWhenTheHeadStrikesTheBody) {
+TEST(Game, endsWhenTheHeadHitsTheBody) {
     std::mt19937 generator(1);
     Game game(28, 22);
     step(game, 4, generator);
@@ -156,7 +156,7 @@ TEST(Game, growsByOneAndScoresTenForAFruit) {
     EXPECT_EQ(std::ranges::count(game.snake(), game.food()), 0);
 }
 
-TEST(Game, growsANewFruitWithTheSystemsRandomness) {
+TEST(Game, placesNewFruitsAtRandom) {
     std::vector<Cell> fruits;
     for (int i = 0; i < 20; ++i) {
         Game game(1000, 1000);
@@ -167,7 +167,7 @@ TEST(Game, growsANewFruitWithTheSystemsRandomness) {
     EXPECT_FALSE(std::ranges::all_of(fruits, [&](Cell fruit) { return fruit == fruits[0]; }));
 }
 
-TEST(Game, isCopiedWhole) {
+TEST(Game, copiesAreIndependent) {
     Game game(28, 22);
     game.turn(Direction::up);
     const Game copy = game;

@@ -16,7 +16,7 @@ TEST(GameTurn, dropsAReversal) {
     EXPECT_EQ(game.snake().front(), (Cell{15, 11}));
 }
 
-TEST(GameTurn, keepsTwoQuickTurnsAndMakesOneAStep) {
+TEST(GameTurn, queuesTwoTurnsAndMakesOnePerStep) {
     Game game(28, 22);
 
     game.turn(Direction::up);
@@ -31,7 +31,7 @@ TEST(GameTurn, keepsTwoQuickTurnsAndMakesOneAStep) {
     EXPECT_EQ(game.snake().front(), (Cell{13, 10}));
 }
 
-TEST(GameTurn, dropsAThirdTurnWithinOneTickEvenIfItIsLegal) {
+TEST(GameTurn, dropsAThirdTurnWithinOneStep) {
     Game game(28, 22);
 
     game.turn(Direction::up);
@@ -42,7 +42,7 @@ TEST(GameTurn, dropsAThirdTurnWithinOneTickEvenIfItIsLegal) {
     EXPECT_EQ(game.snake().front(), (Cell{12, 10}));
 }
 
-TEST(GameTurn, takesAThirdTurnOnceAStepHasMadeRoom) {
+TEST(GameTurn, acceptsAnotherTurnAfterAStep) {
     Game game(28, 22);
 
     game.turn(Direction::up);
@@ -54,7 +54,7 @@ TEST(GameTurn, takesAThirdTurnOnceAStepHasMadeRoom) {
     EXPECT_EQ(game.direction(), Direction::down);
 }
 
-TEST(GameTurn, dropsATurnInTheDirectionOfTravel) {
+TEST(GameTurn, dropsATurnInTheCurrentDirection) {
     Game game(28, 22);
     const Game before = game;
 
@@ -63,7 +63,7 @@ TEST(GameTurn, dropsATurnInTheDirectionOfTravel) {
     EXPECT_EQ(game, before);
 }
 
-TEST(GameTurn, dropsARepeatOfThePendingTurn) {
+TEST(GameTurn, dropsARepeatOfTheQueuedTurn) {
     Game once(28, 22);
     Game twice(28, 22);
 
@@ -74,7 +74,7 @@ TEST(GameTurn, dropsARepeatOfThePendingTurn) {
     EXPECT_EQ(once, twice);
 }
 
-TEST(GameTurn, judgesATurnByTheLastPendingOneNotByTheDirectionOfTravel) {
+TEST(GameTurn, comparesATurnWithTheLastQueuedOne) {
     Game game(28, 22);
 
     game.turn(Direction::up);
@@ -86,7 +86,7 @@ TEST(GameTurn, judgesATurnByTheLastPendingOneNotByTheDirectionOfTravel) {
     EXPECT_EQ(game.snake().front(), (Cell{15, 10}));
 }
 
-TEST(GameTurn, leavesTheQueueAloneOnceItHasEnded) {
+TEST(GameTurn, keepsTheQueueAfterTheEnd) {
     Game game(6, 4);
     game.turn(Direction::up);
     step(game, 3);
@@ -99,7 +99,7 @@ TEST(GameTurn, leavesTheQueueAloneOnceItHasEnded) {
     EXPECT_EQ(game.direction(), Direction::up);
 }
 
-TEST(GameTurn, differsFromOneWithOtherTurnsPending) {
+TEST(GameTurn, isPartOfTheComparisonOfGamesWhileQueued) {
     Game game(28, 22);
     const Game before = game;
 
@@ -108,7 +108,7 @@ TEST(GameTurn, differsFromOneWithOtherTurnsPending) {
     EXPECT_NE(game, before);
 }
 
-TEST(GameTurn, forgetsTheTurnsItHasMade) {
+TEST(GameTurn, isForgottenOnceMade) {
     Game turned(28, 22);
     Game straight(28, 22);
     turned.turn(Direction::up);

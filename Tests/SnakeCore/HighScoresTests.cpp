@@ -16,7 +16,7 @@ static_assert(
     !std::is_constructible_v<HighScore, UUID, std::string, std::int64_t, std::string, Date>);
 static_assert(!std::is_convertible_v<std::optional<std::string_view>, HighScores>);
 
-TEST(HighScores, recordsAResultUnderItsCleanedName) {
+TEST(HighScores, recordsARunUnderItsCleanedName) {
     HighScores table;
 
     EXPECT_TRUE(table.record(identity(1), "  Pip\t  Green\n", 120, "Classic", {7.5}));
@@ -30,7 +30,7 @@ TEST(HighScores, recordsAResultUnderItsCleanedName) {
     EXPECT_EQ(entry.date, Date{7.5});
 }
 
-TEST(HighScores, refusesANameOfWhiteSpaceAlone) {
+TEST(HighScores, rejectsABlankName) {
     HighScores table;
 
     EXPECT_FALSE(table.record(identity(1), "  ", 120, "Classic", {}));
@@ -38,7 +38,7 @@ TEST(HighScores, refusesANameOfWhiteSpaceAlone) {
     EXPECT_EQ(table, HighScores());
 }
 
-TEST(HighScores, refusesANegativeScore) {
+TEST(HighScores, rejectsANegativeScore) {
     HighScores table;
 
     EXPECT_FALSE(table.record(identity(1), "Pip", -1, "Classic", {}));
@@ -52,7 +52,7 @@ TEST(HighScores, recordsAScoreOfZero) {
     EXPECT_EQ(table.entries().at(0).name, "A");
 }
 
-TEST(HighScores, recordsARunOnce) {
+TEST(HighScores, recordsARunOnlyOnce) {
     HighScores table;
 
     EXPECT_TRUE(table.record(identity(1), "Pip", 10, "Classic", {1}));
@@ -63,7 +63,7 @@ TEST(HighScores, recordsARunOnce) {
     EXPECT_EQ(table, before);
 }
 
-TEST(HighScores, recordsARunOnceAlsoAfterBeingStored) {
+TEST(HighScores, recordsARunOnlyOnceEvenAfterReloading) {
     HighScores table(tableOf({}));
 
     EXPECT_FALSE(table.record(UUID::parse("0e9a3d52-6c1b-4e8f-9a57-2f4d1b6c8e30").value(), "Pip",
@@ -71,7 +71,7 @@ TEST(HighScores, recordsARunOnceAlsoAfterBeingStored) {
     EXPECT_EQ(table.entries().size(), 1U);
 }
 
-TEST(HighScores, keepsEveryResultInTheOrderRecordedAndWithoutLimit) {
+TEST(HighScores, keepsEveryRunInTheOrderRecorded) {
     HighScores table;
     for (unsigned i = 0; i < 200; ++i) {
         ASSERT_TRUE(table.record(identity(i), "Pip", (i * 37) % 100, "Classic", {-1.0 * i}));
@@ -83,14 +83,14 @@ TEST(HighScores, keepsEveryResultInTheOrderRecordedAndWithoutLimit) {
     }
 }
 
-TEST(HighScores, takesAnyWordForAPace) {
+TEST(HighScores, acceptsAnyStringAsPace) {
     HighScores table;
 
     EXPECT_TRUE(table.record(identity(1), "Pip", 10, "", {}));
     EXPECT_EQ(table.leaders("").size(), 1U);
 }
 
-TEST(HighScores, isCopiedWhole) {
+TEST(HighScores, copiesAreIndependent) {
     HighScores table;
     table.record(identity(1), "Pip", 10, "Classic", {});
     const HighScores copy = table;
@@ -101,7 +101,7 @@ TEST(HighScores, isCopiedWhole) {
     EXPECT_NE(copy, table);
 }
 
-TEST(HighScores, differByEachFieldOfAnEntry) {
+TEST(HighScores, comparesEveryFieldOfAnEntry) {
     const HighScores table(tableOf({}));
     const auto otherwise = [](auto change) {
         EntryText entry;

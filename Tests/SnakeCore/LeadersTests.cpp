@@ -20,7 +20,7 @@ std::vector<UUID> idsOf(const std::vector<HighScore>& entries) {
     return ids;
 }
 
-TEST(Leaders, areTheTopTenOfOnePace) {
+TEST(Leaders, areTheBestTenOfOnePace) {
     HighScores table;
     for (unsigned i = 0; i < 12; ++i) {
         table.record(identity(i), "Pip", 10 * ((i * 7) % 12), "Classic", {});
@@ -41,11 +41,11 @@ TEST(Leaders, areTheTopTenOfOnePace) {
     EXPECT_TRUE(table.leaders("").empty());
 }
 
-TEST(Leaders, ofAnEmptyTableAreNone) {
+TEST(Leaders, areEmptyForAnEmptyTable) {
     EXPECT_TRUE(HighScores().leaders("Classic").empty());
 }
 
-TEST(Leaders, putTheOlderOfEqualScoresFirstWhateverTheirOrderInTheTable) {
+TEST(Leaders, putTheEarlierOfEqualScoresFirst) {
     HighScores olderFirst;
     olderFirst.record(identity(1), "Pip", 50, "Classic", {100});
     olderFirst.record(identity(2), "Pip", 50, "Classic", {200});
@@ -58,7 +58,7 @@ TEST(Leaders, putTheOlderOfEqualScoresFirstWhateverTheirOrderInTheTable) {
     EXPECT_EQ(idsOf(newerFirst.leaders("Classic")), expected);
 }
 
-TEST(Leaders, putAHigherScoreBeforeAnOlderOne) {
+TEST(Leaders, putAHigherScoreBeforeAnEarlierOne) {
     HighScores table;
     table.record(identity(1), "Pip", 50, "Classic", {-1e9});
     table.record(identity(2), "Pip", 60, "Classic", {1e9});
@@ -66,7 +66,7 @@ TEST(Leaders, putAHigherScoreBeforeAnOlderOne) {
     EXPECT_EQ(idsOf(table.leaders("Classic")), (std::vector{identity(2), identity(1)}));
 }
 
-TEST(Leaders, ofEqualScoreAndDateFollowTheTextsOfTheirIds) {
+TEST(Leaders, sortEqualScoresAndDatesById) {
     const std::vector ids{identity(0x1), identity(0x9), identity(0xA), identity(0xF),
                           identity(0x10)};
     HighScores table;
@@ -77,7 +77,7 @@ TEST(Leaders, ofEqualScoreAndDateFollowTheTextsOfTheirIds) {
     EXPECT_EQ(idsOf(table.leaders("Classic")), ids);
 }
 
-TEST(Leaders, keepTheEarlierOfEqualsWhenOnlyOneFits) {
+TEST(Leaders, dropTheLatestOfEqualScores) {
     HighScores table;
     for (unsigned i = 0; i < 10; ++i) {
         table.record(identity(i), "Pip", 50, "Classic", {10.0 + i});
@@ -91,8 +91,8 @@ TEST(Leaders, keepTheEarlierOfEqualsWhenOnlyOneFits) {
     EXPECT_EQ(leaders.back().id, identity(8));
 }
 
-TEST(Leaders, keepTheTablesOrderWhereNothingElseDecides) {
-    // Only a stored table can hold one id several times.
+TEST(Leaders, keepTheOrderOfEntriesThatAreEqualInEverything) {
+    // record() rejects an id that is in the table already; only JSON can hold one several times.
     std::string stored = "[";
     for (char name = 'a'; name < 'a' + 12; ++name) {
         EntryText entry;
@@ -119,11 +119,11 @@ TEST(Leaders, doNotChangeTheTable) {
     EXPECT_EQ(table, before);
 }
 
-RC_GTEST_PROP(Leaders, areWhatAWholeStableSortPutsFirst, (const std::vector<unsigned>& dice)) {
+RC_GTEST_PROP(Leaders, areTheFirstTenAfterAStableSort, (const std::vector<unsigned>& dice)) {
     HighScores table;
     unsigned next = 0;
     for (const unsigned die : dice) {
-        // Few values, so that ties are common; ids in no order.
+        // Few distinct values, so that ties are common, and unsorted ids.
         table.record(identity((next++ * 40503U) % 65536U), "Pip", die % 3,
                      die % 5 == 0 ? "Gentle" : "Classic", {static_cast<double>(die / 3 % 3)});
     }

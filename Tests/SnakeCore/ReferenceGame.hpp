@@ -9,8 +9,8 @@
 
 namespace SnakeCore {
 
-/// The same rules once more, each done in the most obvious way there is and none in the way of the
-/// real game: what both agree on is hardly wrong in both.
+/// A second implementation of the rules in the most obvious way, sharing no code with `Game`, to
+/// compare it with.
 struct ReferenceGame {
     std::int64_t width;
     std::int64_t height;

@@ -25,12 +25,12 @@ double dateWritten(const std::string& number) {
     return only(entry).date.seconds;
 }
 
-TEST(TableReading, ofNoDataIsEmpty) {
+TEST(TableReading, givesAnEmptyTableWithoutData) {
     EXPECT_TRUE(HighScores(std::nullopt).entries().empty());
     EXPECT_TRUE(HighScores("[]").entries().empty());
 }
 
-TEST(TableReading, takesEveryFieldOfAnEntry) {
+TEST(TableReading, readsEveryFieldOfAnEntry) {
     const HighScore entry = only({});
 
     EXPECT_EQ(entry.id.string(), "0E9A3D52-6C1B-4E8F-9A57-2F4D1B6C8E30");
@@ -51,7 +51,7 @@ TEST(TableReading, keepsTheOrderOfTheEntries) {
     EXPECT_EQ(table.entries()[1].name, "Green");
 }
 
-TEST(TableReading, takesTheMembersInAnyOrder) {
+TEST(TableReading, acceptsMembersInAnyOrder) {
     const HighScores table(R"([{"date":1,"pace":"Swift","score":10,"name":"Pip",)"
                            R"("id":"0E9A3D52-6C1B-4E8F-9A57-2F4D1B6C8E30"}])");
 
@@ -59,7 +59,7 @@ TEST(TableReading, takesTheMembersInAnyOrder) {
     EXPECT_EQ(table.entries()[0].pace, "Swift");
 }
 
-TEST(TableReading, passesOverMembersItDoesNotKnow) {
+TEST(TableReading, ignoresUnknownMembers) {
     EntryText entry;
     entry.more = R"(,"garden":{"id":7,"score":["x",{"name":null}]},"Score":"x","":true,"n":-1.5)";
 
@@ -69,23 +69,23 @@ TEST(TableReading, passesOverMembersItDoesNotKnow) {
     EXPECT_EQ(table.encoded(), tableOf({}));
 }
 
-TEST(TableReading, countsTheFirstOfDuplicateMembers) {
+TEST(TableReading, usesTheFirstOfDuplicateMembers) {
     EntryText entry;
     entry.more = R"(,"score":990,"name":7,"id":null,"date":[1],"pace":{"pace":1})";
 
     EXPECT_EQ(HighScores(tableOf(entry)), HighScores(tableOf({})));
 }
 
-TEST(TableReading, allowsWhiteSpaceBetweenTokens) {
+TEST(TableReading, acceptsWhiteSpaceBetweenTokens) {
     EXPECT_EQ(entriesIn(" \t\r\n[ " + EntryText().text() + "\n , " + EntryText().text() + " ]\n"),
               2U);
 }
 
-TEST(TableReading, passesOverAByteOrderMark) {
+TEST(TableReading, ignoresAByteOrderMark) {
     EXPECT_EQ(entriesIn("\ufeff" + tableOf({})), 1U);
 }
 
-TEST(TableReading, takesAWholeNumberHoweverItIsWritten) {
+TEST(TableReading, acceptsAnIntegralScoreInAnyNotation) {
     EXPECT_EQ(scoreWritten("120.0"), 120);
     EXPECT_EQ(scoreWritten("1.2e2"), 120);
     EXPECT_EQ(scoreWritten("12E+1"), 120);
@@ -94,12 +94,12 @@ TEST(TableReading, takesAWholeNumberHoweverItIsWritten) {
     EXPECT_EQ(scoreWritten("-10"), -10);
 }
 
-TEST(TableReading, takesScoresToTheLimits) {
+TEST(TableReading, acceptsScoresUpToTheLimits) {
     EXPECT_EQ(scoreWritten("9223372036854775807"), std::numeric_limits<std::int64_t>::max());
     EXPECT_EQ(scoreWritten("-9223372036854775808"), std::numeric_limits<std::int64_t>::min());
 }
 
-TEST(TableReading, takesAnyNumberForADate) {
+TEST(TableReading, acceptsAnyNumberAsDate) {
     EXPECT_EQ(dateWritten("0"), 0);
     EXPECT_EQ(dateWritten("784598400"), 784598400);
     EXPECT_EQ(dateWritten("-1"), -1);
@@ -109,7 +109,7 @@ TEST(TableReading, takesAnyNumberForADate) {
     EXPECT_EQ(dateWritten("5e-324"), std::numeric_limits<double>::denorm_min());
 }
 
-TEST(TableReading, readsEscapesAndRawTextAlike) {
+TEST(TableReading, decodesEscapeSequences) {
     EntryText escaped;
     escaped.name = R"("\u0050ip\/\ud83d\ude00\"\\\u00e9")";
     EntryText raw;
@@ -119,14 +119,14 @@ TEST(TableReading, readsEscapesAndRawTextAlike) {
     EXPECT_EQ(only(raw).name, only(escaped).name);
 }
 
-TEST(TableReading, takesTheNameAsItIsStored) {
+TEST(TableReading, doesNotCleanStoredNames) {
     EntryText entry;
     entry.name = R"("  not  cleaned ")";
 
     EXPECT_EQ(only(entry).name, "  not  cleaned ");
 }
 
-TEST(TableReading, takesAnIdInLowerCase) {
+TEST(TableReading, acceptsAnIdInLowerCase) {
     EntryText entry;
     entry.id = R"("0e9a3d52-6c1b-4e8f-9a57-2f4d1b6c8e30")";
 

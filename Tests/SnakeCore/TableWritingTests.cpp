@@ -38,17 +38,17 @@ std::string dateIn(double seconds) {
     return json.substr(start, json.find('}') - start);
 }
 
-TEST(TableWriting, isCompactWithItsMembersInTheirOrder) {
+TEST(TableWriting, writesCompactJsonWithMembersInOrder) {
     EXPECT_EQ(tableWith("Pip", 120, "Classic", {784598400.5}).encoded(),
               R"([{"id":"0E9A3D52-6C1B-4E8F-9A57-2F4D1B6C8E30","name":"Pip","score":120,)"
               R"("pace":"Classic","date":784598400.5}])");
 }
 
-TEST(TableWriting, ofAnEmptyTableIsAnEmptyArray) {
+TEST(TableWriting, writesAnEmptyTableAsAnEmptyArray) {
     EXPECT_EQ(HighScores().encoded(), "[]");
 }
 
-TEST(TableWriting, separatesEntriesByAComma) {
+TEST(TableWriting, separatesEntriesByCommas) {
     HighScores table;
     table.record(identity(1), "A", 1, "B", {2});
     table.record(identity(2), "C", 3, "D", {4});
@@ -59,11 +59,11 @@ TEST(TableWriting, separatesEntriesByAComma) {
               R"("pace":"D","date":4}])");
 }
 
-TEST(TableWriting, putsABackslashBeforeASolidusAQuoteAndABackslash) {
+TEST(TableWriting, escapesSlashesQuotesAndBackslashes) {
     EXPECT_EQ(encodedWithPace("a/b\"c\\d"), expectedWithPace(R"("a\/b\"c\\d")"));
 }
 
-TEST(TableWriting, escapesEveryControlCharacterAndNothingElse) {
+TEST(TableWriting, escapesOnlyTheControlCharactersOfJson) {
     EXPECT_EQ(encodedWithPace("\b\f\n\r\t"), expectedWithPace(R"("\b\f\n\r\t")"));
     EXPECT_EQ(encodedWithPace(std::string("\0\x01\x0b\x0e\x1f", 5)),
               expectedWithPace(R"("\u0000\u0001\u000b\u000e\u001f")"));
@@ -71,11 +71,11 @@ TEST(TableWriting, escapesEveryControlCharacterAndNothingElse) {
               expectedWithPace("\"\x7f\u0080\u2028\ufeff\""));
 }
 
-TEST(TableWriting, leavesTextAsRawUtf8) {
+TEST(TableWriting, writesOtherTextAsRawUtf8) {
     EXPECT_EQ(encodedWithPace("é 한 😀 <&>'"), expectedWithPace("\"é 한 😀 <&>'\""));
 }
 
-TEST(TableWriting, writesAWholeDateWithoutAFraction) {
+TEST(TableWriting, writesAnIntegralDateWithoutAFraction) {
     EXPECT_EQ(dateIn(0), "0");
     EXPECT_EQ(dateIn(784598400), "784598400");
     EXPECT_EQ(dateIn(-1), "-1");
@@ -88,13 +88,13 @@ TEST(TableWriting, writesTheShortestDigitsOfADate) {
     EXPECT_EQ(dateIn(0.1 + 0.2), "0.30000000000000004");
 }
 
-TEST(TableWriting, keepsTheSignOfANegativeZero) {
+TEST(TableWriting, keepsTheSignOfNegativeZero) {
     const HighScores loaded(tableWith("Pip", 1, "Classic", {-0.0}).encoded());
 
     EXPECT_TRUE(std::signbit(loaded.entries().at(0).date.seconds));
 }
 
-TEST(TableWriting, refusesADateThatIsNotFinite) {
+TEST(TableWriting, throwsIfADateIsNotFinite) {
     for (const double date :
          {std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity(),
           std::numeric_limits<double>::quiet_NaN()}) {
@@ -103,12 +103,12 @@ TEST(TableWriting, refusesADateThatIsNotFinite) {
     }
 }
 
-TEST(TableWriting, refusesATextThatIsNotUtf8) {
+TEST(TableWriting, throwsIfAPaceIsNotUtf8) {
     EXPECT_THROW(static_cast<void>(encodedWithPace("\xff")), std::invalid_argument);
     EXPECT_THROW(static_cast<void>(encodedWithPace("\xed\xa0\x80")), std::invalid_argument);
 }
 
-TEST(TableWriting, isReadBackAtTheLimitsOfNumbers) {
+TEST(TableWriting, roundTripsTheLimitsOfNumbers) {
     using Limits = std::numeric_limits<double>;
     for (const double date : {Limits::max(), Limits::lowest(), Limits::min(), Limits::denorm_min(),
                               0x1p53 + 2, 1e16, 1e22, 123456789.123456789}) {
@@ -118,7 +118,7 @@ TEST(TableWriting, isReadBackAtTheLimitsOfNumbers) {
     }
 }
 
-RC_GTEST_PROP(TableWriting, isReadBackWithEveryDoubleToTheBit, (std::uint64_t bits)) {
+RC_GTEST_PROP(TableWriting, roundTripsEveryDoubleExactly, (std::uint64_t bits)) {
     const auto seconds = std::bit_cast<double>(bits);
     RC_PRE(std::isfinite(seconds));
 
@@ -127,7 +127,7 @@ RC_GTEST_PROP(TableWriting, isReadBackWithEveryDoubleToTheBit, (std::uint64_t bi
     RC_ASSERT(std::bit_cast<std::uint64_t>(loaded.entries().at(0).date.seconds) == bits);
 }
 
-RC_GTEST_PROP(TableWriting, isReadBackWhole,
+RC_GTEST_PROP(TableWriting, roundTripsEveryTable,
               (const std::vector<std::vector<std::uint8_t>>& names)) {
     HighScores table;
     unsigned next = 0;

@@ -15,12 +15,12 @@ TEST(UUID, isWrittenInUpperCase) {
     EXPECT_EQ(UUID::parse(canonical).value().string(), canonical);
 }
 
-TEST(UUID, isReadInAnyCase) {
+TEST(UUID, isParsedInAnyCase) {
     EXPECT_EQ(UUID::parse("0e9a3d52-6c1b-4e8f-9a57-2f4d1b6c8e30"), UUID::parse(canonical));
     EXPECT_EQ(UUID::parse("0e9A3d52-6C1b-4E8f-9a57-2F4d1b6C8e30"), UUID::parse(canonical));
 }
 
-TEST(UUID, isReadInNoOtherForm) {
+TEST(UUID, isParsedInNoOtherForm) {
     for (const std::string_view text :
          {"", "0", "{0E9A3D52-6C1B-4E8F-9A57-2F4D1B6C8E30}", "0E9A3D526C1B4E8F9A572F4D1B6C8E30",
           "0E9A3D52-6C1B-4E8F-9A57-2F4D1B6C8E3", "0E9A3D52-6C1B-4E8F-9A57-2F4D1B6C8E300",
@@ -31,7 +31,7 @@ TEST(UUID, isReadInNoOtherForm) {
     }
 }
 
-TEST(UUID, isRefusedForEachCharacterThatIsWrong) {
+TEST(UUID, isRejectedWithAWrongCharacterAtAnyPosition) {
     for (std::size_t i = 0; i < canonical.size(); ++i) {
         for (const char wrong : {'g', ' ', '\0', '\xff', canonical[i] == '-' ? '0' : '-'}) {
             std::string text(canonical);
@@ -41,7 +41,7 @@ TEST(UUID, isRefusedForEachCharacterThatIsWrong) {
     }
 }
 
-TEST(UUID, isRefusedWithAnythingBehindANul) {
+TEST(UUID, isRejectedIfFollowedByANul) {
     EXPECT_EQ(UUID::parse(std::string(canonical) + '\0'), std::nullopt);
     EXPECT_EQ(UUID::parse(std::string(canonical) + '\0' + "x"), std::nullopt);
 }
@@ -55,7 +55,7 @@ TEST(UUID, isOrderedLikeItsText) {
     EXPECT_LT(letter, later);
 }
 
-TEST(UUID, isNewAndOfTheRandomKindEachTime) {
+TEST(UUID, isUniqueAndOfVersion4WhenRandom) {
     std::set<UUID> all;
     for (int i = 0; i < 1000; ++i) {
         const UUID id = UUID::random();

@@ -21,7 +21,7 @@ Game wonGame(std::int64_t width, std::int64_t height) {
     return game;
 }
 
-TEST(WonGame, fillsThePlayersBoardWithAScoreOf6120) {
+TEST(WonGame, fillsA28By22BoardWithAScoreOf6120) {
     const Game game = wonGame(28, 22);
 
     EXPECT_TRUE(game.ended());
@@ -31,7 +31,7 @@ TEST(WonGame, fillsThePlayersBoardWithAScoreOf6120) {
     EXPECT_EQ(std::unordered_set<Cell>(game.snake().begin(), game.snake().end()).size(), 616U);
 }
 
-TEST(WonGame, isWonWithTheSystemsRandomnessToo) {
+TEST(WonGame, isWonWithRandomDevice) {
     Game game(28, 22);
     while (!game.ended()) {
         game.turn(alongCycle(game));
@@ -48,7 +48,7 @@ TEST(WonGame, keepsTheLastFruitUnderTheHead) {
     EXPECT_EQ(game.food(), game.snake().front());
 }
 
-TEST(WonGame, countsTheLastFruitOnTheSmallestBoard) {
+TEST(WonGame, scoresTheLastFruitOnTheSmallestBoard) {
     const Game game = wonGame(6, 4);
 
     EXPECT_TRUE(game.won());
@@ -56,7 +56,7 @@ TEST(WonGame, countsTheLastFruitOnTheSmallestBoard) {
     EXPECT_EQ(game.food(), game.snake().front());
 }
 
-TEST(WonGame, standsStillForEver) {
+TEST(WonGame, doesNotChangeAnyMore) {
     Game game = wonGame(6, 4);
     const Game before = game;
 
@@ -65,7 +65,7 @@ TEST(WonGame, standsStillForEver) {
     EXPECT_EQ(game, before);
 }
 
-TEST(WonGame, keepsItsRulesAtEveryStepOnTheWay) {
+TEST(WonGame, followsTheRulesAtEveryStepOnTheWay) {
     std::mt19937_64 generator(11);
     Game game(12, 10);
     while (!game.ended()) {

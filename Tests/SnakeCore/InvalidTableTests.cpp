@@ -9,7 +9,7 @@
 namespace SnakeCore {
 namespace {
 
-/// Three entries of which the one in the middle is `entry`.
+/// A table of three entries with `entry` in the middle.
 std::string amongOthers(const EntryText& entry) {
     return "[" + EntryText().text() + "," + entry.text() + "," + EntryText().text() + "]";
 }
@@ -24,8 +24,8 @@ std::string manyOf(std::string_view piece, int count) {
 
 using Member = std::string EntryText::*;
 
-/// Writes one member of an entry among good ones in ways it may not be written.
-void expectRefused(Member member, std::initializer_list<std::string_view> values) {
+/// Expects a table to be rejected if one member of one entry has one of these JSON values.
+void expectRejected(Member member, std::initializer_list<std::string_view> values) {
     for (const std::string_view value : values) {
         EntryText entry;
         entry.*member = value;
@@ -33,7 +33,7 @@ void expectRefused(Member member, std::initializer_list<std::string_view> values
     }
 }
 
-TEST(TableDamage, leavesNothingOfWhatIsNoTable) {
+TEST(InvalidTable, rejectsWhatIsNotATable) {
     for (const std::string_view data : {"",
                                         " ",
                                         "{}",
@@ -63,50 +63,50 @@ TEST(TableDamage, leavesNothingOfWhatIsNoTable) {
     }
 }
 
-TEST(TableDamage, leavesNothingOfATableCutOffAtAnyByte) {
+TEST(InvalidTable, rejectsATableTruncatedAtAnyByte) {
     EntryText last;
     last.name = "\"é😀\\u00e9\"";
     const std::string whole = "[" + EntryText().text() + "," + last.text() + "]";
     ASSERT_EQ(entriesIn(whole), 2U);
 
     for (std::size_t length = 0; length < whole.size(); ++length) {
-        // A copy of its own, so that reading behind the end is found.
+        // An allocation of exactly this size, so that ASan detects reads past its end.
         const std::string cut(whole, 0, length);
         EXPECT_EQ(entriesIn(cut), 0U) << cut;
     }
 }
 
-TEST(TableDamage, leavesNothingWhenOneEntryHasAWrongType) {
-    expectRefused(&EntryText::id, {"null", "7", "true", "[]", "{}", "\"\"", "\"x\"",
-                                   "\"0E9A3D526C1B4E8F9A572F4D1B6C8E30\"",
-                                   "\"0E9A3D52-6C1B-4E8F-9A57-2F4D1B6C8E30\\u0000\""});
-    expectRefused(&EntryText::name, {"null", "7", "7.5", "false", "[]", "{}", "[\"Pip\"]"});
-    expectRefused(&EntryText::score, {"null", "\"120\"", "true", "[]", "{}", "[120]"});
-    expectRefused(&EntryText::pace, {"null", "7", "-7", "false", "[]", "{}"});
-    expectRefused(&EntryText::date, {"null", "\"784598400.5\"", "\"2025-11-11\"", "true", "[]",
-                                     "{}", "{\"seconds\":1}"});
+TEST(InvalidTable, rejectsATableWithOneMemberOfTheWrongType) {
+    expectRejected(&EntryText::id, {"null", "7", "true", "[]", "{}", "\"\"", "\"x\"",
+                                    "\"0E9A3D526C1B4E8F9A572F4D1B6C8E30\"",
+                                    "\"0E9A3D52-6C1B-4E8F-9A57-2F4D1B6C8E30\\u0000\""});
+    expectRejected(&EntryText::name, {"null", "7", "7.5", "false", "[]", "{}", "[\"Pip\"]"});
+    expectRejected(&EntryText::score, {"null", "\"120\"", "true", "[]", "{}", "[120]"});
+    expectRejected(&EntryText::pace, {"null", "7", "-7", "false", "[]", "{}"});
+    expectRejected(&EntryText::date, {"null", "\"784598400.5\"", "\"2025-11-11\"", "true", "[]",
+                                      "{}", "{\"seconds\":1}"});
 }
 
-TEST(TableDamage, leavesNothingWhenAScoreIsNoIntegerOf64Bits) {
-    expectRefused(&EntryText::score,
-                  {"120.5", "1e-1", "9223372036854775808", "-9223372036854775809",
-                   "18446744073709551616", "9223372036854775808.0", "9.223372036854775808e18",
-                   "1e19", "9.3e18", "-9.3e18", "1e400", "-1e400"});
+TEST(InvalidTable, rejectsAScoreThatIsNotA64BitInteger) {
+    expectRejected(&EntryText::score,
+                   {"120.5", "1e-1", "9223372036854775808", "-9223372036854775809",
+                    "18446744073709551616", "9223372036854775808.0", "9.223372036854775808e18",
+                    "1e19", "9.3e18", "-9.3e18", "1e400", "-1e400"});
 }
 
-TEST(TableDamage, leavesNothingWhenADateIsBeyondADouble) {
-    expectRefused(&EntryText::date, {"1e400", "-1e400", "1e99999999999", "Infinity", "NaN"});
+TEST(InvalidTable, rejectsADateThatOverflowsADouble) {
+    expectRejected(&EntryText::date, {"1e400", "-1e400", "1e99999999999", "Infinity", "NaN"});
 }
 
-TEST(TableDamage, leavesNothingWhenANumberIsMiswritten) {
+TEST(InvalidTable, rejectsMalformedNumbers) {
     for (const std::string_view number :
          {"", "01", "+1", "1.", ".5", "1e", "1e+", "0x10", "1_000", "--1", "-", "1,5", "1 2"}) {
-        expectRefused(&EntryText::score, {number});
-        expectRefused(&EntryText::date, {number});
+        expectRejected(&EntryText::score, {number});
+        expectRejected(&EntryText::date, {number});
     }
 }
 
-TEST(TableDamage, leavesNothingWhenAMemberIsMissing) {
+TEST(InvalidTable, rejectsAnEntryWithAMissingMember) {
     for (const std::string_view member :
          {"\"id\"", "\"name\"", "\"score\"", "\"pace\"", "\"date\""}) {
         std::string entry = EntryText().text();
@@ -117,11 +117,11 @@ TEST(TableDamage, leavesNothingWhenAMemberIsMissing) {
     EXPECT_EQ(entriesIn("[" + EntryText().text() + ",{}]"), 0U);
 }
 
-TEST(TableDamage, isNotMendedByAnEarlierEntrysMembers) {
+TEST(InvalidTable, doesNotFillMissingMembersFromAnEarlierEntry) {
     EXPECT_EQ(entriesIn("[" + EntryText().text() + R"(,{"name":"Pip"}])"), 0U);
 }
 
-TEST(TableDamage, leavesNothingWhenALaterDuplicateWouldHaveBeenRight) {
+TEST(InvalidTable, rejectsAWrongMemberFollowedByAValidDuplicate) {
     EntryText entry;
     entry.score = "\"120\"";
     entry.more = ",\"score\":120";
@@ -129,8 +129,8 @@ TEST(TableDamage, leavesNothingWhenALaterDuplicateWouldHaveBeenRight) {
     EXPECT_EQ(entriesIn(tableOf(entry)), 0U);
 }
 
-TEST(TableDamage, leavesNothingWhenATextIsBroken) {
-    expectRefused(
+TEST(InvalidTable, rejectsMalformedStrings) {
+    expectRejected(
         &EntryText::name,
         {R"("\ud83d")", R"("\ude00")", R"("\ud83dx")", R"("\ud83d\u0041")", R"("\ude00\ud83d")",
          R"("\u12")", R"("\x41")", "\"\n\"", "\"\x01\"", "\"\xff\"", "\"\xc3\"", "\"\xe2\x82\"",
@@ -140,7 +140,7 @@ TEST(TableDamage, leavesNothingWhenATextIsBroken) {
     EXPECT_EQ(entriesIn(tableOf(entry)), 0U);
 }
 
-TEST(TableDamage, leavesNothingWhenAnythingFollowsTheTable) {
+TEST(InvalidTable, rejectsAnythingAfterTheTable) {
     for (const std::string_view garbage : {"x", "]", "[]", ",", "null", "\xff", "//", "\ufeff"}) {
         EXPECT_EQ(entriesIn(tableOf({}) + std::string(garbage)), 0U) << garbage;
     }
@@ -148,7 +148,7 @@ TEST(TableDamage, leavesNothingWhenAnythingFollowsTheTable) {
     EXPECT_EQ(entriesIn(tableOf({}) + '\0' + "x"), 0U);
 }
 
-TEST(TableDamage, leavesNothingWhenANulStandsAnywhere) {
+TEST(InvalidTable, rejectsANulByteAnywhere) {
     const std::string whole = tableOf({});
     for (std::size_t i = 0; i <= whole.size(); ++i) {
         std::string data = whole;
@@ -157,7 +157,7 @@ TEST(TableDamage, leavesNothingWhenANulStandsAnywhere) {
     }
 }
 
-TEST(TableDamage, leavesNothingOfCommentsAndTrailingCommas) {
+TEST(InvalidTable, rejectsCommentsAndTrailingCommas) {
     EXPECT_EQ(entriesIn("[" + EntryText().text() + ",]"), 0U);
     EXPECT_EQ(entriesIn("/* */" + tableOf({})), 0U);
     EntryText entry;
@@ -165,7 +165,7 @@ TEST(TableDamage, leavesNothingOfCommentsAndTrailingCommas) {
     EXPECT_EQ(entriesIn(tableOf(entry)), 0U);
 }
 
-TEST(TableDamage, ofAHundredThousandBracketsNeitherCrashesNorHangs) {
+TEST(InvalidTable, rejectsAHundredThousandNestedBrackets) {
     for (const std::string_view bracket : {"[", "{", "[{", "{\"a\":", "[{\"a\":"}) {
         EXPECT_EQ(entriesIn(manyOf(bracket, 100'000)), 0U) << bracket;
     }
@@ -174,7 +174,7 @@ TEST(TableDamage, ofAHundredThousandBracketsNeitherCrashesNorHangs) {
     EXPECT_EQ(entriesIn(tableOf(entry)), 0U);
 }
 
-TEST(TableDamage, beginsAtADepthOf513) {
+TEST(InvalidTable, rejectsNestingDeeperThan512Levels) {
     // The table and the entry are two levels themselves.
     EntryText entry;
     entry.more = ",\"deep\":" + manyOf("[", 510) + manyOf("]", 510);
