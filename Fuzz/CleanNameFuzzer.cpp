@@ -16,10 +16,10 @@ using namespace SnakeCore;
 constexpr std::size_t longestName = 24;
 using Characters = std::vector<std::vector<char32_t>>;
 
-/// The same cleaning in three separate passes over lists of scalars.
+/// Reference implementation of cleanName(): three separate passes over lists of code points.
 Characters referenceCleaned(std::string_view name) {
     std::vector<std::vector<char32_t>> words(1);
-    for (const auto& character : charactersOf(scalarsOf(name))) {
+    for (const auto& character : charactersOf(codePointsOf(name))) {
         if (isWhiteSpace(character[0])) {
             words.emplace_back();
         } else {
@@ -39,8 +39,8 @@ Characters referenceCleaned(std::string_view name) {
     return characters;
 }
 
-/// A word that begins with a mark puts it on the joining space, which makes it a white space of
-/// its own kind: only such names change again.
+/// Whether a space carries a combining mark. Cleaning such a name again removes the mark, so it is
+/// the exception to the rule that cleaning is idempotent.
 bool hasMarkedSpace(const Characters& characters) {
     return std::ranges::any_of(characters, [](const auto& character) {
         return character.size() > 1 && isWhiteSpace(character[0]);
@@ -55,8 +55,7 @@ std::string textOf(const Characters& characters) {
     return text;
 }
 
-/// The joining space may be the last character; a space that belongs to the character before it
-/// is none.
+/// Removes a space that is the last character. A space that is part of the last character stays.
 Characters withoutTrailingSpace(Characters characters) {
     if (!characters.empty() && characters.back() == std::vector<char32_t>{U' '}) {
         characters.pop_back();
@@ -70,11 +69,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string_view name(reinterpret_cast<const char*>(data), size);
     const std::string cleaned = HighScores::cleanName(name);
     const Characters expected = referenceCleaned(name);
-    require(cleaned == textOf(expected), "cleaned as the reference cleans");
-    require(charactersOf(scalarsOf(cleaned)).size() <= longestName, "at most 24 characters");
+    require(cleaned == textOf(expected), "the name is cleaned as by the reference");
+    require(charactersOf(codePointsOf(cleaned)).size() <= longestName,
+            "a clean name has at most 24 characters");
     if (!hasMarkedSpace(expected)) {
         require(HighScores::cleanName(cleaned) == textOf(withoutTrailingSpace(expected)),
-                "a clean name changes by its trailing space at most");
+                "cleaning a clean name removes at most its trailing space");
     }
     return 0;
 }

@@ -13,16 +13,16 @@ using SnakeCore::require;
 
 namespace {
 
-/// The same bytes through the library's own tree of values; nothing when they are no single map.
-/// Only for bytes that were accepted, which are not nested too deeply for it.
-std::optional<QCborMap> libraryMap(const QByteArray& bytes) {
+/// The bytes as parsed by QCborValue; nothing if they are not exactly one map. QCborValue recurses,
+/// so pass only bytes that PreferencesDocument accepted, whose nesting is limited.
+std::optional<QCborMap> qtMap(const QByteArray& bytes) {
     QCborParserError error;
     const QCborValue value = QCborValue::fromCbor(bytes, &error);
     const bool whole = error.error == QCborError::NoError && error.offset == bytes.size();
     return whole && value.isMap() ? std::optional(value.toMap()) : std::nullopt;
 }
 
-/// Each plain value under a text key is the one that the library finds.
+/// Every simple value under a text key equals the one that Qt parsed.
 void checkValues(const PreferencesDocument& document, const QCborMap& map) {
     for (const auto& [key, value] : map) {
         if (!key.isString()) {
@@ -31,29 +31,29 @@ void checkValues(const PreferencesDocument& document, const QCborMap& map) {
         const QCborValue found = document.value(key.toString());
         const bool plain = value.isInteger() || value.isBool() || value.isString() ||
                            value.isByteArray() || value.isNull();
-        require(!plain || found == value, "the value is the library's");
-        require(!found.isContainer(), "no setting is a list");
+        require(!plain || found == value, "the value equals Qt's");
+        require(!found.isContainer(), "no setting is an array or a map");
     }
 }
 
-/// A setting laid over the document is found again and leaves all others as they were.
+/// Inserting a setting makes it readable and keeps all others.
 void checkInsertion(const PreferencesDocument& document) {
     const QString key = u"sound"_s;
     PreferencesDocument changed = document;
     changed.insert(key, false);
-    require(changed.value(key) == QCborValue(false), "what was stored is found");
+    require(changed.value(key) == QCborValue(false), "an inserted value is found");
     PreferencesDocument other;
     other.insert(key, false);
-    PreferencesDocument laidOver = document;
-    laidOver.insert(other);
-    require(laidOver == changed, "one by one or all at once is the same");
+    PreferencesDocument merged = document;
+    merged.insert(other);
+    require(merged == changed, "inserting a value or a document gives the same result");
     const auto again = PreferencesDocument::read(changed.encoded());
-    require(!again || again == changed, "what was stored is the same at the next start");
+    require(!again || again == changed, "a document equals itself after being written and read");
 }
 
 }  // namespace
 
-/// Whatever is accepted is handed on: encoded, it is accepted again and is equal.
+/// A document that was read equals itself after being written and read again.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
     const auto document = PreferencesDocument::read(bytes);
@@ -61,9 +61,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return 0;
     }
     const QByteArray encoded = document->encoded();
-    require(PreferencesDocument::read(encoded) == document, "what is accepted stays the same");
-    const auto map = libraryMap(bytes);
-    require(map.has_value(), "only what the library can read is accepted");
+    require(PreferencesDocument::read(encoded) == document,
+            "an accepted document equals itself after being written and read");
+    const auto map = qtMap(bytes);
+    require(map.has_value(), "Qt accepts what PreferencesDocument accepts");
     checkValues(*document, *map);
     checkInsertion(*document);
     return 0;

@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// In memory where TMPDIR says so: each input makes the store flush a file and its folder.
+/// Point TMPDIR to a tmpfs: every input makes PreferencesFile fsync a file and its folder.
 const fs::path& fileOfThisProcess() {
     static const TemporaryFolder folder;
     static const fs::path file = folder.path() / "preferences.cbor";
@@ -33,16 +33,16 @@ std::string contentOf(const fs::path& path) {
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-/// The content that was set aside under another name; it is gone afterwards.
-std::string takeSetAside(const fs::path& path) {
-    fs::path aside = path;
-    aside += ".unreadable-1";
-    std::string content = contentOf(aside);
-    fs::remove(aside);
+/// Reads and removes the copy that was made of an unreadable file.
+std::string takeBackup(const fs::path& path) {
+    fs::path backup = path;
+    backup += ".unreadable-1";
+    std::string content = contentOf(backup);
+    fs::remove(backup);
     return content;
 }
 
-/// All the settings that the game reads, so that reading each of them is tried on any content.
+/// Reads every setting of the game as every type.
 void readEverySetting(const PreferencesFile& preferences) {
     for (const QString& key : {u"high-scores-v1"_s, u"player-name"_s, u"sound"_s, u"best-Gentle"_s,
                                u"best-Classic"_s, u"best-Swift"_s}) {
@@ -55,8 +55,8 @@ void readEverySetting(const PreferencesFile& preferences) {
 
 }  // namespace
 
-/// Any content of the file can be started from and stored over. What could be read is kept beside
-/// the new value, and what could not is set aside, to the byte.
+/// Opens a file with arbitrary content and stores a value in it. The other settings are kept; an
+/// unreadable file is copied first, byte for byte.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const fs::path& path = fileOfThisProcess();
     const std::string content(reinterpret_cast<const char*>(data), size);
@@ -65,18 +65,19 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     PreferencesFile preferences(path);
     readEverySetting(preferences);
-    require(contentOf(path) == content, "reading changes nothing");
+    require(contentOf(path) == content, "reading does not change the file");
     if (!preferences.store(u"player-name"_s, u"Pip"_s)) {
-        require(contentOf(path) == content, "a store that failed changes nothing");
+        require(contentOf(path) == content, "a failed store does not change the file");
         return 0;
     }
 
-    require(PreferencesFile(path).text(u"player-name"_s) == u"Pip"_s, "the next start finds it");
+    require(PreferencesFile(path).text(u"player-name"_s) == u"Pip"_s,
+            "the stored value is read back");
     PreferencesDocument wanted = stored.value_or(PreferencesDocument());
     wanted.insert(u"player-name"_s, u"Pip"_s);
     require(PreferencesDocument::read(QByteArray::fromStdString(contentOf(path))) == wanted,
-            "everything else that was stored is still there");
-    require(takeSetAside(path) == (stored ? std::string() : content),
-            "what could not be read is set aside");
+            "all other settings are kept");
+    require(takeBackup(path) == (stored ? std::string() : content),
+            "an unreadable file is copied, a readable one is not");
     return 0;
 }

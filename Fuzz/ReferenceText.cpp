@@ -12,15 +12,15 @@ namespace {
 
 constexpr char32_t replacement = 0xFFFD;
 
-/// What may stand as a character's second byte after `first`, from the table of well-formed
-/// sequences; the length is 0 when `first` begins none.
-struct Start {
+/// The length of the UTF-8 sequence that begins with a byte, 0 if none does, and the range of its
+/// second byte, from the table of well-formed sequences in the Unicode standard (table 3-7).
+struct Sequence {
     std::size_t length;
     std::uint8_t least = 0x80;
     std::uint8_t most = 0xBF;
 };
 
-Start startOf(std::uint8_t first) {
+Sequence sequenceFrom(std::uint8_t first) {
     if (first < 0x80) {
         return {1};
     }
@@ -40,19 +40,20 @@ Start startOf(std::uint8_t first) {
     return {4, least, most};
 }
 
-UGraphemeClusterBreak classOf(char32_t scalar) {
+UGraphemeClusterBreak classOf(char32_t codePoint) {
     return static_cast<UGraphemeClusterBreak>(
-        u_getIntPropertyValue(static_cast<UChar32>(scalar), UCHAR_GRAPHEME_CLUSTER_BREAK));
+        u_getIntPropertyValue(static_cast<UChar32>(codePoint), UCHAR_GRAPHEME_CLUSTER_BREAK));
 }
 
-bool isPictograph(char32_t scalar) {
-    return u_hasBinaryProperty(static_cast<UChar32>(scalar), UCHAR_EXTENDED_PICTOGRAPHIC) != 0;
+bool isPictograph(char32_t codePoint) {
+    return u_hasBinaryProperty(static_cast<UChar32>(codePoint), UCHAR_EXTENDED_PICTOGRAPHIC) != 0;
 }
 
 bool isControl(UGraphemeClusterBreak kind) {
     return kind == U_GCB_CONTROL || kind == U_GCB_CR || kind == U_GCB_LF;
 }
 
+/// Rules GB6 to GB8: a Hangul syllable.
 bool staysOneSyllable(UGraphemeClusterBreak left, UGraphemeClusterBreak right) {
     switch (left) {
         case U_GCB_L:
@@ -68,30 +69,30 @@ bool staysOneSyllable(UGraphemeClusterBreak left, UGraphemeClusterBreak right) {
     }
 }
 
-/// A pictograph, any marks, a joiner and here the next pictograph.
-bool joinsPictographs(const std::vector<char32_t>& scalars, std::size_t here) {
-    if (!isPictograph(scalars[here]) || classOf(scalars[here - 1]) != U_GCB_ZWJ) {
+/// Rule GB11: an emoji joined to the one before it by a zero-width joiner.
+bool joinsPictographs(const std::vector<char32_t>& codePoints, std::size_t here) {
+    if (!isPictograph(codePoints[here]) || classOf(codePoints[here - 1]) != U_GCB_ZWJ) {
         return false;
     }
     std::size_t place = here - 1;
-    while (place > 0 && classOf(scalars[place - 1]) == U_GCB_EXTEND) {
+    while (place > 0 && classOf(codePoints[place - 1]) == U_GCB_EXTEND) {
         --place;
     }
-    return place > 0 && isPictograph(scalars[place - 1]);
+    return place > 0 && isPictograph(codePoints[place - 1]);
 }
 
-/// Flags are pairs: the second of a pair stays with the first.
-bool completesFlag(const std::vector<char32_t>& scalars, std::size_t here) {
+/// Rules GB12 and GB13: flags are pairs of regional indicators.
+bool completesFlag(const std::vector<char32_t>& codePoints, std::size_t here) {
     std::size_t before = 0;
-    while (before < here && classOf(scalars[here - 1 - before]) == U_GCB_REGIONAL_INDICATOR) {
+    while (before < here && classOf(codePoints[here - 1 - before]) == U_GCB_REGIONAL_INDICATOR) {
         ++before;
     }
-    return classOf(scalars[here]) == U_GCB_REGIONAL_INDICATOR && before % 2 == 1;
+    return classOf(codePoints[here]) == U_GCB_REGIONAL_INDICATOR && before % 2 == 1;
 }
 
-bool breaksBefore(const std::vector<char32_t>& scalars, std::size_t here) {
-    const auto left = classOf(scalars[here - 1]);
-    const auto right = classOf(scalars[here]);
+bool breaksBefore(const std::vector<char32_t>& codePoints, std::size_t here) {
+    const auto left = classOf(codePoints[here - 1]);
+    const auto right = classOf(codePoints[here]);
     if (left == U_GCB_CR && right == U_GCB_LF) {
         return false;
     }
@@ -100,78 +101,78 @@ bool breaksBefore(const std::vector<char32_t>& scalars, std::size_t here) {
     }
     const bool staysTogether = staysOneSyllable(left, right) || right == U_GCB_EXTEND ||
                                right == U_GCB_ZWJ || right == U_GCB_SPACING_MARK ||
-                               left == U_GCB_PREPEND || joinsPictographs(scalars, here) ||
-                               completesFlag(scalars, here);
+                               left == U_GCB_PREPEND || joinsPictographs(codePoints, here) ||
+                               completesFlag(codePoints, here);
     return !staysTogether;
 }
 
 }  // namespace
 
-std::vector<char32_t> scalarsOf(std::string_view bytes) {
-    std::vector<char32_t> scalars;
+std::vector<char32_t> codePointsOf(std::string_view bytes) {
+    std::vector<char32_t> codePoints;
     for (std::size_t i = 0; i < bytes.size();) {
         const auto first = static_cast<std::uint8_t>(bytes[i]);
-        const Start start = startOf(first);
+        const Sequence sequence = sequenceFrom(first);
         constexpr std::array<std::uint8_t, 5> firstBits{0, 0x7F, 0x1F, 0x0F, 0x07};
-        char32_t scalar = first & firstBits[start.length];
+        char32_t codePoint = first & firstBits[sequence.length];
         std::size_t good = 1;
-        for (; good < start.length && i + good < bytes.size(); ++good) {
+        for (; good < sequence.length && i + good < bytes.size(); ++good) {
             const auto next = static_cast<std::uint8_t>(bytes[i + good]);
-            const std::uint8_t least = good == 1 ? start.least : 0x80;
-            const std::uint8_t most = good == 1 ? start.most : 0xBF;
+            const std::uint8_t least = good == 1 ? sequence.least : 0x80;
+            const std::uint8_t most = good == 1 ? sequence.most : 0xBF;
             if (next < least || next > most) {
                 break;
             }
-            scalar = (scalar << 6U) | (next & 0x3FU);
+            codePoint = (codePoint << 6U) | (next & 0x3FU);
         }
-        scalars.push_back(good == start.length ? scalar : replacement);
+        codePoints.push_back(good == sequence.length ? codePoint : replacement);
         i += good;
     }
-    return scalars;
+    return codePoints;
 }
 
-std::string utf8Of(const std::vector<char32_t>& scalars) {
+std::string utf8Of(const std::vector<char32_t>& codePoints) {
     std::string bytes;
     const auto append = [&bytes](char32_t byte) { bytes += static_cast<char>(byte); };
-    for (const char32_t scalar : scalars) {
-        if (scalar < 0x80) {
-            append(scalar);
-        } else if (scalar < 0x800) {
-            append(0xC0 | scalar >> 6U);
-        } else if (scalar < 0x10000) {
-            append(0xE0 | scalar >> 12U);
+    for (const char32_t codePoint : codePoints) {
+        if (codePoint < 0x80) {
+            append(codePoint);
+        } else if (codePoint < 0x800) {
+            append(0xC0 | codePoint >> 6U);
+        } else if (codePoint < 0x10000) {
+            append(0xE0 | codePoint >> 12U);
         } else {
-            append(0xF0 | scalar >> 18U);
-            append(0x80 | (scalar >> 12U & 0x3FU));
+            append(0xF0 | codePoint >> 18U);
+            append(0x80 | (codePoint >> 12U & 0x3FU));
         }
-        if (scalar >= 0x800) {
-            append(0x80 | (scalar >> 6U & 0x3FU));
+        if (codePoint >= 0x800) {
+            append(0x80 | (codePoint >> 6U & 0x3FU));
         }
-        if (scalar >= 0x80) {
-            append(0x80 | (scalar & 0x3FU));
+        if (codePoint >= 0x80) {
+            append(0x80 | (codePoint & 0x3FU));
         }
     }
     return bytes;
 }
 
-std::vector<std::vector<char32_t>> charactersOf(const std::vector<char32_t>& scalars) {
+std::vector<std::vector<char32_t>> charactersOf(const std::vector<char32_t>& codePoints) {
     std::vector<std::vector<char32_t>> characters;
-    for (std::size_t i = 0; i < scalars.size(); ++i) {
-        if (i == 0 || breaksBefore(scalars, i)) {
+    for (std::size_t i = 0; i < codePoints.size(); ++i) {
+        if (i == 0 || breaksBefore(codePoints, i)) {
             characters.emplace_back();
         }
-        characters.back().push_back(scalars[i]);
+        characters.back().push_back(codePoints[i]);
     }
     return characters;
 }
 
-bool isWhiteSpace(char32_t scalar) {
-    // The whole of the property: it has not changed since Unicode 6.3 and is closed to additions
-    // within these blocks.
+bool isWhiteSpace(char32_t codePoint) {
+    // All of White_Space, which has not changed since Unicode 6.3.
     constexpr std::array<char32_t, 9> singles{0x20,   0x85,   0xA0,   0x1680, 0x2028,
                                               0x2029, 0x202F, 0x205F, 0x3000};
-    return (scalar >= 0x09 && scalar <= 0x0D) || (scalar >= 0x2000 && scalar <= 0x200A) ||
-           std::ranges::find(singles, scalar) != singles.end();
+    return (codePoint >= 0x09 && codePoint <= 0x0D) ||
+           (codePoint >= 0x2000 && codePoint <= 0x200A) ||
+           std::ranges::find(singles, codePoint) != singles.end();
 }
 
 }  // namespace SnakeCore

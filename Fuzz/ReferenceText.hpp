@@ -6,14 +6,16 @@
 
 namespace SnakeCore {
 
-/// Scalars of a text; every broken sequence is one U+FFFD for each longest start of a character.
-[[nodiscard]] std::vector<char32_t> scalarsOf(std::string_view bytes);
+/// Decodes UTF-8. Ill-formed sequences become U+FFFD, one per maximal subpart.
+[[nodiscard]] std::vector<char32_t> codePointsOf(std::string_view bytes);
 
-[[nodiscard]] std::string utf8Of(const std::vector<char32_t>& scalars);
+[[nodiscard]] std::string utf8Of(const std::vector<char32_t>& codePoints);
 
-/// The characters people see, by the published rules applied one by one between each two scalars:
-/// slow, and nothing in common with the library's state machine but the table of classes.
-[[nodiscard]] std::vector<std::vector<char32_t>> charactersOf(const std::vector<char32_t>& scalars);
+/// Splits a text into extended grapheme clusters by applying the rules of UAX #29 between each two
+/// code points. Shares only the character properties with ICU's break iterator, not its state
+/// machine.
+[[nodiscard]] std::vector<std::vector<char32_t>> charactersOf(
+    const std::vector<char32_t>& codePoints);
 
 [[nodiscard]] bool isWhiteSpace(char32_t scalar);
 

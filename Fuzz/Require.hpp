@@ -5,10 +5,10 @@
 
 namespace SnakeCore {
 
-/// Stops the program at a broken promise, so that the fuzzer keeps the input.
-inline void require(bool promise, const char* what) {
-    if (!promise) {
-        std::fprintf(stderr, "broken: %s\n", what);
+/// Aborts if a property does not hold, so that libFuzzer saves the input.
+inline void require(bool holds, const char* property) {
+    if (!holds) {
+        std::fprintf(stderr, "violated: %s\n", property);
         std::abort();
     }
 }
