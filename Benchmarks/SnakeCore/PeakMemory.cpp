@@ -8,7 +8,7 @@
 
 namespace {
 
-// One thread: plain counters.
+// Not atomic: the benchmarks have a single thread.
 std::size_t inUse = 0;
 std::size_t atReset = 0;
 std::size_t peak = 0;

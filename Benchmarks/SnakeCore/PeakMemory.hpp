@@ -2,13 +2,13 @@
 
 #include <cstddef>
 
-/// The heap of this program, counted in its allocation functions.
+/// Peak heap usage, measured by replacing operator new and delete.
 namespace PeakMemory {
 
-/// Begins anew: the peak is what is in use now.
+/// Makes the present usage the starting point.
 void reset();
 
-/// The most bytes in use at one time since `reset()`, beyond what was in use then.
+/// The peak since `reset()`, in bytes above the usage at that time.
 [[nodiscard]] std::size_t bytes();
 
 }  // namespace PeakMemory

@@ -16,9 +16,9 @@ namespace {
 
 constexpr std::array<std::string_view, 3> paces{"Gentle", "Classic", "Swift"};
 
-/// The stored form of a table of plausible results; made as text, since recording one after the
-/// other looks through all the earlier ones.
-std::string storedTable(std::int64_t entries) {
+/// The JSON of a table of plausible runs. Built as text because record() is linear in the number of
+/// entries.
+std::string tableJson(std::int64_t entries) {
     constexpr std::array<std::string_view, 4> names{"Pip", "Pip Green", "Zoë", "a gardener 🌱"};
     std::mt19937 dice(1);
     std::string json = "[";
@@ -34,18 +34,18 @@ std::string storedTable(std::int64_t entries) {
     return json + "]";
 }
 
-/// Made once for each size.
-const std::string& storedTableOnce(std::int64_t entries) {
+/// Built once per size.
+const std::string& cachedTable(std::int64_t entries) {
     static std::map<std::int64_t, std::string> tables;
     const auto [place, isNew] = tables.try_emplace(entries);
     if (isNew) {
-        place->second = storedTable(entries);
+        place->second = tableJson(entries);
     }
     return place->second;
 }
 
 HighScores tableOf(std::int64_t entries) {
-    return HighScores(std::string_view(storedTableOnce(entries)));
+    return HighScores(std::string_view(cachedTable(entries)));
 }
 
 void reportMemory(benchmark::State& state) {
@@ -53,7 +53,7 @@ void reportMemory(benchmark::State& state) {
 }
 
 void load(benchmark::State& state) {
-    const std::string_view data = storedTableOnce(state.range(0));
+    const std::string_view data = cachedTable(state.range(0));
     PeakMemory::reset();
     for (auto _ : state) {
         const HighScores table(data);
@@ -83,7 +83,7 @@ void leaders(benchmark::State& state) {
     reportMemory(state);
 }
 
-/// Into a table that is put back to its size when it has grown by a tenth.
+/// Restores the table whenever it has grown by a tenth, to keep its size about the same.
 void record(benchmark::State& state) {
     const HighScores original = tableOf(state.range(0));
     std::vector<UUID> ids;
@@ -101,7 +101,7 @@ void record(benchmark::State& state) {
             state.ResumeTiming();
         }
         if (!table.record(ids[next++], "Pip Green", 120, "Classic", {784598400.5})) {
-            state.SkipWithError("the result was not recorded");
+            state.SkipWithError("the run was not recorded");
         }
     }
     reportMemory(state);
