@@ -1,20 +1,20 @@
-# A Debian with nothing in it, in the folder $root; $folder takes the logs. Sourced by try-package.
+# A minimal Debian in the folder $root; logs go to $folder. Sourced by try-package.
 
-# The release and the archives of this system, as sources.list lines. apt knows them however they
-# are written down.
+# This system's release and archives as sources.list lines, whatever format apt is configured in.
 archives() {
     apt-get indextargets --format 'deb $(REPO_URI) $(CODENAME) $(COMPONENT)' \
         'Created-By: Packages' 'Origin: Debian' | sort -u
 }
 
-# A way to the archives that apt was told of counts in the bare root too.
+# Passes apt's proxy setting on to debootstrap and to the apt in the minimal Debian.
 export_proxy() {
     local http_proxy_setting=
     eval "$(apt-config shell http_proxy_setting Acquire::http::Proxy)"
     [ -z "$http_proxy_setting" ] || export http_proxy=$http_proxy_setting
 }
 
-# in_root COMMAND...: runs a command in the bare root. What it mounts and starts ends with it.
+# in_root COMMAND...: runs a command in the minimal Debian, in mount and PID namespaces of its own,
+# so that its mounts and processes end with it.
 in_root() {
     unshare --mount --pid --fork --kill-child bash -c '
         mount -t proc proc "$0/proc" && mount --rbind /dev "$0/dev" &&
@@ -35,12 +35,12 @@ make_bare_root() {
     codename=$(. /etc/os-release && echo "$VERSION_CODENAME")
     mirror=$(archives | grep " $codename main$" | cut -d ' ' -f 2 | head -n 1)
     [ -n "$mirror" ] || {
-        echo "apt knows no archive of $codename here; apt-get update may be due." >&2
+        echo "apt lists no archive of $codename; run apt-get update first." >&2
         return 1
     }
     export_proxy
     mkdir -p /tmp/.X11-unix
-    # What debootstrap mounts goes with its own view of the file system.
+    # In a mount namespace, so that debootstrap's mounts vanish with it.
     unshare --mount debootstrap --variant=minbase "$codename" "$root" "$mirror" || return 1
     archives >"$root/etc/apt/sources.list"
     in_root_apt update

@@ -11,6 +11,7 @@ qt6-base-dev         windows, events and drawing
 qt6-svg-dev          draws the icons
 qt6-tools-dev        tells the build about the tools below
 qt6-l10n-tools       compiles the translations
+librsvg2-bin         renders the icon of the menu entry as PNG
 qt6-wayland          lets the game run on Wayland desktops
 nlohmann-json3-dev   reads the table of high scores
 libicu-dev           counts the characters of a name as people see them

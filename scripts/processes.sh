@@ -1,14 +1,14 @@
-# Starting what must not outlive us, and ending it. Sourced.
+# Background processes that must not outlive the script. Sourced.
 
-# start COMMAND...: in the background and in a process group of its own, so that Ctrl-C reaches
-# only the script and the script can end the command whole. Its id is in $!.
+# start COMMAND...: runs a command in the background, in a process group of its own: Ctrl-C then
+# reaches only the script, which can end the whole group. Its id is in $!.
 start() {
     set -m
     "$@" &
     set +m
 }
 
-# end_group ID...: asks each group to end; one that has not after five seconds is killed.
+# end_group ID...: sends SIGTERM to each process group, and SIGKILL after five seconds.
 end_group() {
     local id
     for id in "$@"; do

@@ -1,4 +1,4 @@
-# The Debian package, made by cpack from what `cmake --install` would put under /usr.
+# The Debian package: cpack packs what `cmake --install` puts under /usr.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_PACKAGE_NAME fernwick)
@@ -21,15 +21,14 @@ longer. Three speeds, each with a personal best and a top ten of its own.
 The game opens in full screen and is played by keyboard alone, on X11 or
 Wayland, on any keyboard layout. It reads itself out to screen readers, keeps
 still where the desktop asks for it, and uses no network.")
-# What the program is linked with is found by its symbols; the sound server's library is loaded when
-# it runs. What it only looks for: the plugin for Wayland desktops and a sound server, a screen
-# reader's bus, letters of scripts that its own fonts lack.
+# dpkg-shlibdeps finds the linked libraries; libpulse is loaded with dlopen(). Recommended: Qt's
+# Wayland plugin and a sound server. Suggested: the screen readers' bus, and fonts for scripts that
+# the embedded fonts lack.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "libpulse0")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, pipewire-pulse | pulseaudio")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "at-spi2-core, fonts-noto-core, fonts-noto-cjk")
 
-# The files as Debian wants them are made from the staged ones just before they are packed.
 set(FERNWICK_DEBIAN_FOLDER ${CMAKE_CURRENT_LIST_DIR})
 configure_file(${CMAKE_CURRENT_LIST_DIR}/Stage.cmake.in ${CMAKE_CURRENT_BINARY_DIR}/Stage.cmake @ONLY)
 set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_BINARY_DIR}/Stage.cmake)

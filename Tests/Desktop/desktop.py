@@ -1,20 +1,24 @@
-"""A private desktop: X server, window manager, message bus and accessibility bus."""
+"""A private desktop: X server, window manager, D-Bus session bus and AT-SPI bus."""
 
 import os
+import pathlib
 import shutil
+import signal
 import subprocess
 
 from screen import Screen
 from waiting import eventually
 
+WITH_X_SERVER = pathlib.Path(__file__).resolve().parents[2] / "scripts/with-x-server"
+
 
 class Desktop:
-    """Runs from `start` to `stop`; everything it writes lies in `folder`."""
+    """Runs from `start` to `stop`; all its files are in `folder`."""
 
     def __init__(self, folder):
         self.folder = folder
         self.processes = []
-        # Made from nothing, so that no setting of the machine's own desktop leaks in.
+        # Not os.environ: variables of the developer's own desktop would change the tests.
         self.environment = {"PATH": os.environ["PATH"], "LANG": "C.UTF-8"}
         for name, place in {
             "HOME": "home",
@@ -28,10 +32,8 @@ class Desktop:
             self.environment[name] = str(path)
 
     def start(self):
-        self._start_display()
+        self._start_x_server()
         self._start_bus()
-        self._spawn("openbox")
-        eventually(self._has_window_manager, "the window manager is up")
 
     def stop(self):
         for process in reversed(self.processes):
@@ -40,18 +42,18 @@ class Desktop:
         shutil.rmtree(self.folder, ignore_errors=True)
 
     def end_display(self):
-        """Ends the X server under all of its programs, as when it crashes."""
-        self._display.kill()
-        self._display.wait()
+        """Kills the X server while programs use it, as if it had crashed."""
+        os.kill(self._x_server, signal.SIGKILL)
+        eventually(self._x_server_has_ended, "the X server has ended")
 
     def run(self, *command):
-        """The output of a command that ends by itself; an error when it fails."""
+        """The output of a command; raises CalledProcessError if it fails."""
         done = subprocess.run(command, env=self.environment, check=True, text=True,
                               stdout=subprocess.PIPE)
         return done.stdout
 
     def property(self, window, name):
-        """What xprop says about one property of a window; "" when the window is gone."""
+        """The value of a window's X11 property as xprop prints it; "" if the window is gone."""
         done = subprocess.run(["xprop", "-id", str(window), name], env=self.environment, text=True,
                               stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
         return done.stdout.partition("=")[2].strip()
@@ -62,37 +64,35 @@ class Desktop:
         return int(number, 16) if number.startswith("0x") else 0
 
     def run_folder(self):
-        """Where programs put their sockets."""
+        """XDG_RUNTIME_DIR, where programs put their sockets."""
         return self.folder / "run"
 
     def spawn(self, *command):
-        """A program of the desktop that stays until its process is terminated."""
+        """Starts a program on this desktop; the caller terminates the returned process."""
         return subprocess.Popen(command, env=self.environment, stdin=subprocess.DEVNULL,
                                 stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 
     def _spawn(self, *command, **options):
-        options = {"stdout": subprocess.DEVNULL} | options
-        process = subprocess.Popen(command, env=self.environment, stdin=subprocess.DEVNULL,
-                                   stderr=subprocess.DEVNULL, **options)
+        quiet = dict.fromkeys(("stdin", "stdout", "stderr"), subprocess.DEVNULL)
+        process = subprocess.Popen(command, env=self.environment, **(quiet | options))
         self.processes.append(process)
         return process
 
-    def _start_display(self):
-        reading, writing = os.pipe()
-        # Without -noreset the server would start over whenever its last client leaves, and take
-        # along a window manager that is just arriving.
-        self._display = self._spawn("Xvfb", "-displayfd", str(writing), "-screen", "0",
-                    f"{Screen.WIDTH}x{Screen.HEIGHT}x24", "-nolisten", "tcp", "-noreset",
-                    "-fbdir", str(self.folder), pass_fds=[writing])
-        os.close(writing)
-        with os.fdopen(reading) as number:
-            self.environment["DISPLAY"] = f":{number.readline().strip()}"
+    def _start_x_server(self):
+        # `cat` ends when its standard input is closed: also if this process is killed.
+        launcher = self._spawn(
+            str(WITH_X_SERVER), "--framebuffer", str(self.folder),
+            "sh", "-c", "echo $DISPLAY $X_SERVER_PID; exec cat",
+            stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=None, text=True)
+        display, process = launcher.stdout.readline().split()
+        self.environment["DISPLAY"] = display
+        self._x_server = int(process)
         self.screen = Screen(self.folder / "Xvfb_screen0")
+
+    def _x_server_has_ended(self):
+        return not pathlib.Path("/proc", str(self._x_server)).exists()
 
     def _start_bus(self):
         self.bus = self._spawn("dbus-daemon", "--session", "--nofork", "--nopidfile",
                                "--print-address", stdout=subprocess.PIPE, text=True)
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = self.bus.stdout.readline().strip()
-
-    def _has_window_manager(self):
-        return "0x" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK")
