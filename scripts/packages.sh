@@ -1,52 +1,52 @@
-# The Debian packages the project stands on, each with what it is for, and how the missing ones are
-# installed. Sourced.
+# The Debian packages that the project needs, each with its purpose, and a function that installs
+# the missing ones. Sourced.
 
 build_packages() {
     cat <<'LIST'
-g++                  compiles the program
-cmake                describes the build
-ninja-build          runs the build
-pkg-config           finds libraries for the build
-qt6-base-dev         windows, events and drawing
-qt6-svg-dev          draws the icons
-qt6-tools-dev        tells the build about the tools below
-qt6-l10n-tools       compiles the translations
-librsvg2-bin         renders the icon of the menu entry as PNG
-qt6-wayland          lets the game run on Wayland desktops
-nlohmann-json3-dev   reads the table of high scores
-libicu-dev           counts the characters of a name as people see them
-uuid-dev             gives every run its identity
-libpulse-dev         plays the two sounds through the desktop's sound server
-fonts-inter          the typeface of the texts
-fonts-elstob         the typeface of the headlines
-fonts-jetbrains-mono the typeface of the numbers and keys
+g++                  compiler
+cmake                build system
+ninja-build          build tool that CMake generates files for
+pkg-config           finds libuuid and libpulse for CMake
+qt6-base-dev         Qt: windows, events, drawing, D-Bus
+qt6-svg-dev          Qt SVG, which draws the icons
+qt6-tools-dev        CMake files of Qt Linguist
+qt6-l10n-tools       Qt Linguist's lupdate and lrelease, for the translations
+librsvg2-bin         rsvg-convert, which renders the application icon to PNG
+qt6-wayland          Qt's Wayland plugin
+nlohmann-json3-dev   JSON parser for the high scores
+libicu-dev           ICU: finds the user-perceived characters of a name
+uuid-dev             libuuid: one UUID per run
+libpulse-dev         PulseAudio client library for the two sounds
+fonts-inter          embedded font of the texts
+fonts-elstob         embedded font of the headlines
+fonts-jetbrains-mono embedded font of numbers and keys
 LIST
 }
 
 private_display_packages() {
     cat <<'LIST'
-xvfb                 a display of its own for a machine without one
-openbox              the window manager on that display
-x11vnc               lets you look at that display
+xvfb                 X server without a screen
+openbox              window manager
+x11vnc               shows that X server to a VNC viewer
 LIST
 }
 
 package_packages() {
     build_packages
     cat <<'LIST'
-dpkg-dev             finds what the program needs and writes it into the package
-file                 tells programs from other files
+dpkg-dev             dpkg-shlibdeps, which finds the dependencies of the package
+file                 lets cpack find the binaries to strip
 LIST
 }
 
 bare_root_packages() {
     package_packages
     cat <<'LIST'
-debootstrap          makes a Debian with nothing in it
-util-linux           keeps what is mounted there away from this system
-xvfb                 a display of its own to play on
-openbox              the window manager on that display
-xdotool              presses real keys
+debootstrap          makes a minimal Debian in a folder
+util-linux           unshare, for mount and PID namespaces
+xvfb                 X server without a screen
+openbox              window manager
+xdotool              sends key presses
 imagemagick          takes screenshots
 LIST
 }
@@ -54,49 +54,49 @@ LIST
 check_packages() {
     package_packages
     cat <<'LIST'
-clang-14             the second compiler, with the sanitizers
-libclang-rt-14-dev   the sanitizers' run-time library
-llvm-14              names the lines in the sanitizers' reports
-clang-format         checks the layout of the code
-clang-tidy           checks the code for likely mistakes
-libgtest-dev         runs the unit tests
-librapidcheck-dev    tries properties on random values
-strace               makes system calls fail under test, and shows those the program makes
-devscripts           checks how the program is hardened
-xvfb                 a display of its own for the desktop tests
-openbox              the window manager on that display
-weston               a Wayland desktop without a screen, for the desktop tests
-xdotool              presses real keys and moves the pointer
-x11-utils            reads the state of windows
-x11-xkb-utils        switches keyboard layouts
+clang-14             second compiler, for sanitizers and fuzzers
+libclang-rt-14-dev   run-time library of the sanitizers and of libFuzzer
+llvm-14              llvm-symbolizer: line numbers in the sanitizers' reports
+clang-format         checks the formatting of the code
+clang-tidy           static analysis
+libgtest-dev         GoogleTest, for the unit tests
+librapidcheck-dev    property-based tests
+strace               traces system calls and makes them fail, for tests
+devscripts           hardening-check, which inspects the released binary
+xvfb                 X server without a screen
+openbox              window manager
+weston               Wayland compositor
+xdotool              sends key presses and moves the pointer
+x11-utils            xprop, which reads the state of windows
+x11-xkb-utils        setxkbmap, which switches keyboard layouts
 imagemagick          takes screenshots
-dbus                 the message bus for accessibility
-at-spi2-core         the accessibility bus
-python3-gi           reads the screen as assistive programs do
-python3-cbor2        reads the settings file
-python3-pytest       runs the desktop tests
-pulseaudio           a real sound server for the sound tests
-pulseaudio-utils     records what that server plays
-lintian              judges the package as Debian does
-desktop-file-utils   judges the entry in the desktop's menu
-appstream            judges the page in software catalogues
-man-db               judges the manual page
-fonts-noto-core      Arabic and Devanagari letters for the tests of the translations
-fonts-wqy-zenhei     Chinese, Japanese and Korean ones: the smallest package with all three
-fonts-noto-color-emoji  the emoji in players' names, for the pictures of every screen
+dbus                 D-Bus session bus for the desktop tests
+at-spi2-core         AT-SPI accessibility bus
+python3-gi           AT-SPI client library for Python
+python3-cbor2        reads the preferences file
+python3-pytest       test runner for Python
+pulseaudio           sound server for the sound tests
+pulseaudio-utils     parec, which records what that server plays
+lintian              checks the Debian package
+desktop-file-utils   checks the desktop entry
+appstream            checks the metainfo file
+man-db               checks the manual page
+fonts-noto-core      Arabic and Devanagari fonts, for the translations
+fonts-wqy-zenhei     Chinese, Japanese and Korean font (the smallest package with all three)
+fonts-noto-color-emoji  emoji in player names, for the screenshots of every screen
 LIST
 }
 
 bench_packages() {
     build_packages
     cat <<'LIST'
-libbenchmark-dev     times the code
-xvfb                 a display of its own for the program
-openbox              the window manager on that display
-x11-utils            tells when the window manager is up
-libxtst6             presses keys as a keyboard does
-dbus                 the message bus that a desktop has
-python3              measures the whole program
+libbenchmark-dev     Google Benchmark
+xvfb                 X server without a screen
+openbox              window manager
+x11-utils            xprop, which reads the state of windows
+libxtst6             XTEST extension, which simulates key presses
+dbus                 D-Bus session bus
+python3              runs the measurements of the whole program
 LIST
 }
 
@@ -104,7 +104,7 @@ is_installed() {
     [ "$(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
 }
 
-# Reads "name purpose" lines and prints those of packages that are not there.
+# Reads "name purpose" lines and prints those of packages that are not installed.
 missing_packages() {
     while read -r name purpose; do
         is_installed "$name" || printf '%-20s %s\n' "$name" "$purpose"
@@ -125,22 +125,22 @@ as_root() {
     elif command -v sudo >/dev/null; then
         sudo "$@"
     else
-        echo "Installing needs root: run this as root, or install sudo." >&2
+        echo "Installing packages needs root: run this as root, or install sudo." >&2
         return 1
     fi
 }
 
-# install_missing LIST: installs what is missing of the packages that the function LIST names.
+# install_missing LIST: installs the missing ones of the packages that the function LIST prints.
 install_missing() {
     if ! is_debian; then
-        echo "This is not Debian or one of its children. Please install what serves as:" >&2
+        echo "This system is not based on Debian. Please install the equivalents of these packages:" >&2
         "$1" >&2
         return 1
     fi
     local missing names
     missing=$("$1" | missing_packages)
     [ -n "$missing" ] || return 0
-    echo "Installing Debian packages that are missing:"
+    echo "Installing missing Debian packages:"
     echo "$missing" | sed 's/^/  /'
     names=$(echo "$missing" | cut -d ' ' -f 1)
     # shellcheck disable=SC2086 # one word a package

@@ -30,6 +30,7 @@ set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, pipewire-pulse | pulseaudio")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "at-spi2-core, fonts-noto-core, fonts-noto-cjk")
 
 set(FERNWICK_DEBIAN_FOLDER ${CMAKE_CURRENT_LIST_DIR})
-configure_file(${CMAKE_CURRENT_LIST_DIR}/Stage.cmake.in ${CMAKE_CURRENT_BINARY_DIR}/Stage.cmake @ONLY)
+configure_file(${CMAKE_CURRENT_LIST_DIR}/Stage.cmake.in
+               ${CMAKE_CURRENT_BINARY_DIR}/Stage.cmake @ONLY)
 set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_BINARY_DIR}/Stage.cmake)
 include(CPack)
