@@ -1,4 +1,4 @@
-"""The speeds of the game."""
+"""The paces of the game."""
 
-# Seconds between two steps.
+# Seconds per step.
 TICKS = {"Gentle": 0.19, "Classic": 0.13, "Swift": 0.085}

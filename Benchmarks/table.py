@@ -1,10 +1,10 @@
-"""Turns the results into one table.
+"""table.py RESULTS [--document]: prints a table of the goals, and every single figure behind it.
 
-table.py RESULTS [--document]: prints the table; with --document it also replaces the one in
-Docs/performance.md.
+With --document the table of goals also replaces the one in Docs/performance.md.
 """
 
 import json
+import os
 import pathlib
 import platform
 import sys
@@ -19,7 +19,7 @@ SECONDS = {"ns": 1e-9, "us": 1e-6, "ms": 1e-3, "s": 1}
 
 
 def medians(results):
-    """Processor seconds of every benchmark of the code, by name."""
+    """CPU seconds of each Google Benchmark, by name."""
     found = {}
     for name in ("game", "table", "board"):
         for run in json.loads((results / f"{name}.json").read_text())["benchmarks"]:
@@ -29,11 +29,7 @@ def medians(results):
 
 
 def machine():
-    names = [line.partition(":")[2].strip()
-             for line in pathlib.Path("/proc/cpuinfo").read_text().splitlines()
-             if line.startswith("model name")]
-    system = platform.freedesktop_os_release()["PRETTY_NAME"]
-    return f"{names[0]}, {len(names)} cores; {system}, Linux {platform.release()}"
+    return f"{os.cpu_count()} cores, {platform.freedesktop_os_release()['PRETTY_NAME']}"
 
 
 def as_markdown(heading, rows):
@@ -42,7 +38,7 @@ def as_markdown(heading, rows):
 
 
 def goal_table(rows):
-    return as_markdown(["What", "Goal", "Measured", "Of the goal", ""],
+    return as_markdown(["What", "Goal", "Measured", "Share of the goal", ""],
                        [[row.what, row.goal, row.measured, f"{row.used:.2f}",
                          "met" if row.met else "**missed**"] for row in rows])
 
@@ -56,7 +52,7 @@ def detail_table(seconds, program):
 def put_into_document(text):
     before, begin, rest = DOCUMENT.read_text().partition(BEGIN)
     _, end, after = rest.partition(END)
-    assert begin and end, f"{DOCUMENT.name} has no place for the table"
+    assert begin and end, f"{DOCUMENT.name} has no marked place for the table"
     DOCUMENT.write_text(f"{before}{begin}\n{text}\n{end}{after}")
 
 
@@ -64,13 +60,10 @@ def main():
     results = pathlib.Path(sys.argv[1])
     seconds = medians(results)
     program = json.loads((results / "program.json").read_text())
-    table = goal_table(list(goals.rows(seconds, program)))
-    print(table)
+    table = goal_table(goals.rows(seconds, program))
+    print(f"{table}\n\n{detail_table(seconds, program)}")
     if "--document" in sys.argv[2:]:
-        put_into_document(f"\nMeasured on: {machine()}.\n\n{table}\n\n"
-                          "Every single figure behind it (of the program: seconds, bytes, "
-                          "shares of one core, or counts):\n\n"
-                          f"{detail_table(seconds, program)}\n")
+        put_into_document(f"\nMeasured on {machine()}.\n\n{table}\n")
 
 
 if __name__ == "__main__":

@@ -19,7 +19,7 @@ using namespace std::chrono_literals;
 using SnakeCore::Direction;
 
 constexpr std::size_t cells = 60;
-/// Until the window has come up, and until the first second of play is over.
+/// Until the window is up, and until the first second of play is over.
 constexpr auto untilPlay = 1500ms;
 constexpr auto untilMeasured = 1000ms;
 
@@ -32,7 +32,7 @@ std::chrono::duration<double> processorTime() {
     return seconds(usage.ru_utime) + seconds(usage.ru_stime);
 }
 
-/// Plays the program's own session on a tour of the board and says what that cost.
+/// Steers the game round the board and prints the CPU time that it took as JSON.
 class Player : public QObject {
 public:
     Player(Session& session, Pace pace, std::chrono::seconds duration)
@@ -62,7 +62,7 @@ private:
 
     void steer() {
         const SnakeCore::Cell head = session_.game().snake().front();
-        // A turn announces a change too.
+        // The session also emits changed() for turns.
         if (head != head_) {
             head_ = head;
             ++steps_;
@@ -97,8 +97,7 @@ private:
 
 }  // namespace
 
-// Play PACE SECONDS: the program as players get it, with someone who plays it and a snake of 60
-// cells.
+// Play PACE SECONDS: the whole program, with a simulated player and a snake of 60 cells.
 int main(int argc, char* argv[]) {
     const std::optional<Pace> pace = argc == 3 ? paceFromRawValue(argv[1]) : std::nullopt;
     if (!pace) {

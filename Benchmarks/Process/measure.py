@@ -1,26 +1,26 @@
-"""Measures the whole program on a private screen of 1920 x 1080 pixels.
+"""measure.py BUILD: measures the whole program on a private X server of 1920 x 1080 pixels.
 
-measure.py BUILD: prints one JSON object of named figures, in seconds, bytes, or as they are.
+Prints one JSON object of named figures in seconds, bytes, shares of one core, or counts.
 """
 
 import json
 import pathlib
 import sys
 
-import playing
-import resting
-import starting
-from stage import Stage
+import gameplay
+import idle
+import startup
+from testbed import Testbed
 
 
 def main():
-    stage = Stage(pathlib.Path(sys.argv[1]).resolve())
+    testbed = Testbed(pathlib.Path(sys.argv[1]).resolve())
     try:
         measured = {}
-        for part in (starting, playing, resting):
-            measured |= part.measure(stage)
+        for part in (startup, gameplay, idle):
+            measured |= part.measure(testbed)
     finally:
-        stage.close()
+        testbed.close()
     print(json.dumps(measured))
 
 

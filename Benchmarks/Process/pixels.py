@@ -1,9 +1,9 @@
-"""The places of the screen that the benchmarks look at, read without a copy of the screen."""
+"""Single pixels of the screen, read from the X server's framebuffer file."""
 
 from board import COLUMNS, EYE_GREEN_UP_TO, EYES, ROWS
 from screen import BYTES_PER_PIXEL, Screen
 
-# What the main screen of 1920 x 1080 points leaves to the board.
+# The area of the board on the main screen of 1920 x 1080 points.
 LEFT, TOP, WIDTH, HEIGHT = 38, 195, 1844, 810
 CELL = min(WIDTH / COLUMNS, HEIGHT / ROWS)
 FIRST_X = LEFT + (WIDTH - COLUMNS * CELL) / 2
@@ -13,26 +13,25 @@ VECTORS = {"up": (0, -1), "left": (-1, 0), "right": (1, 0), "down": (0, 1)}
 
 
 class Pixels(Screen):
-    """The screen's memory, asked for single pixels."""
-
+    # Sample positions all over the screen.
     GRID = [(x, y) for y in range(30, Screen.HEIGHT, 60) for x in range(30, Screen.WIDTH, 60)]
 
     def colour(self, x, y):
-        """Red, green and blue at a place, 0 to 255 each."""
+        """Red, green and blue of a pixel, 0 to 255 each."""
         at = self._begin + int(y) * self._stride + int(x) * BYTES_PER_PIXEL
         blue, green, red = self._memory[at:at + 3]
         return red, green, blue
 
     def shows_nowhere(self, colour):
-        """Whether none of the pixels of a grid over the whole screen has this colour."""
+        """Whether no sampled pixel has this colour."""
         return all(self.colour(*place) != colour for place in self.GRID)
 
     def shows_everywhere(self, colour):
-        """Whether all the pixels of that grid have this colour."""
+        """Whether every sampled pixel has this colour."""
         return all(self.colour(*place) == colour for place in self.GRID)
 
     def shows_head(self, cell, direction):
-        """Whether a snake at play has its two eyes in this cell and looks that way."""
+        """Whether the snake's head is in this cell and looks in this direction."""
         return all(self._in_cell(cell, eye)[1] <= EYE_GREEN_UP_TO for eye in EYES[direction]) and \
             self._in_cell(cell, (0, 0))[1] > EYE_GREEN_UP_TO
 
@@ -42,5 +41,5 @@ class Pixels(Screen):
 
 
 def beside(cell, direction):
-    """The next cell in a direction."""
+    """The neighbour of a cell in a direction."""
     return cell[0] + VECTORS[direction][0], cell[1] + VECTORS[direction][1]

@@ -1,15 +1,15 @@
-"""A program under measurement, and what the kernel knows of it."""
+"""A process under measurement, and what /proc says about it."""
 
 import pathlib
 import signal
 import time
 
-# Until the window of either program is up, in seconds.
-UNTIL_SHOWN = 2
+# After so many seconds the window of either program is visible.
+STARTUP_SECONDS = 2
 
 
 class Program:
-    """Runs from its making until `end`."""
+    """Starts a program, which runs until `end`."""
 
     def __init__(self, desktop, path, *arguments):
         self.began = time.monotonic()
@@ -30,13 +30,13 @@ class Program:
         assert self._process.poll() is None, f"{self._process.args} has ended"
 
     def memory(self):
-        """Bytes in memory: all of them, and with shared ones split among those who share."""
+        """Resident set size, and proportional set size (shared pages divided by their users)."""
         lines = (self._folder / "smaps_rollup").read_text().splitlines()
         values = {line.split()[0]: int(line.split()[1]) * 1024 for line in lines[1:]}
         return values["Rss:"], values["Pss:"]
 
     def wakeups(self):
-        """How often any thread has gone to sleep, and so has been woken, since its start."""
+        """Voluntary context switches of all threads: each time one went to sleep."""
         return sum(self._voluntary_switches(each) for each in (self._folder / "task").iterdir())
 
     @staticmethod

@@ -1,4 +1,4 @@
-"""The game at play: its processor time, its memory, and how soon a key is to be seen."""
+"""The game in play: its CPU time, its memory, and the latency of key presses."""
 
 import itertools
 import json
@@ -7,25 +7,26 @@ import statistics
 import subprocess
 import time
 
-from hands import DIRECTION_KEYS, SPACE
 from paces import TICKS
 from pixels import beside
-from program import UNTIL_SHOWN, Program
+from program import STARTUP_SECONDS, Program
+from xtest import DIRECTION_KEYS, SPACE
 
 PLAY_SECONDS = 20
 MEMORY_SECONDS = 10
 PRESSES = 100
-LOOK_EVERY = 0.0002
-# A turn that is not to be seen by then was lost.
-TICKS_TO_WAIT = 4
-STEPS_BETWEEN_LOOKS = 3
+POLL_SECONDS = 0.0002
+# A turn that is not visible after so many ticks counts as lost.
+TIMEOUT_TICKS = 4
+# How many steps the snake may have made since the last look.
+MISSED_STEPS = 3
 CIRCLE = "down", "left", "up", "right"
 
 
-def processor_share(stage, pace):
-    """Of one core, while a snake of 60 cells tours the board."""
-    done = subprocess.run([stage.play, pace, str(PLAY_SECONDS)], env=stage.desktop.environment,
-                          check=True, text=True, stdout=subprocess.PIPE)
+def cpu_share(testbed, pace):
+    """CPU time as a share of one core, while a snake of 60 cells tours the board."""
+    done = subprocess.run([testbed.play, pace, str(PLAY_SECONDS)], check=True, text=True,
+                          env=testbed.desktop.environment, stdout=subprocess.PIPE)
     seen = json.loads(done.stdout)
     expected = PLAY_SECONDS / TICKS[pace]
     assert seen["running"] and 0.9 * expected < seen["steps"] < 1.1 * expected, seen
@@ -34,71 +35,71 @@ def processor_share(stage, pace):
 
 
 class Player:
-    """Goes round in small circles, from the start of a run on."""
+    """Starts a run and steers the snake in small circles."""
 
-    def __init__(self, stage):
-        self._stage = stage
+    def __init__(self, testbed):
+        self._testbed = testbed
         self._head, self._direction = (14, 11), "right"
-        stage.hands.press(SPACE)
+        testbed.input.press(SPACE)
         self._wait_for_step(time.monotonic() + 5, None)
 
     def turn(self, direction, timeout):
-        """Presses a direction; the seconds until it is to be seen, None when it never is."""
+        """Presses a direction key; returns the seconds until the turn is visible, or None."""
         pressed = time.monotonic()
-        self._stage.hands.press(DIRECTION_KEYS[direction])
+        self._testbed.input.press(DIRECTION_KEYS[direction])
         while self._direction != direction:
             if not self._wait_for_step(pressed + timeout, direction):
                 return None
         return time.monotonic() - pressed
 
     def _wait_for_step(self, deadline, turned):
-        """Until the snake has moved on; whether it has done so in time."""
+        """Polls until the snake has moved; returns whether it did before the deadline."""
         while time.monotonic() < deadline:
-            for head, direction in self._places(turned):
-                if self._stage.pixels.shows_head(head, direction):
+            for head, direction in self._possible_heads(turned):
+                if self._testbed.pixels.shows_head(head, direction):
                     self._head, self._direction = head, direction
                     return True
-            time.sleep(LOOK_EVERY)
+            time.sleep(POLL_SECONDS)
         return False
 
-    def _places(self, turned):
-        """Where the head may be next; later ones when we have been kept from looking."""
+    def _possible_heads(self, turned):
+        """Cells and directions that the head may have after one step, or after a few more."""
         corner = self._head
-        for _ in range(STEPS_BETWEEN_LOOKS):
+        for _ in range(MISSED_STEPS):
             if turned:
                 head = corner
-                for _ in range(STEPS_BETWEEN_LOOKS):
+                for _ in range(MISSED_STEPS):
                     head = beside(head, turned)
                     yield head, turned
             corner = beside(corner, self._direction)
             yield corner, self._direction
 
 
-def key_presses(stage, pace):
-    """Seconds from each press to the pixels that show the turn, None for a lost press."""
+def key_presses(testbed, pace):
+    """Seconds from each key press until the turn is visible; None for a lost one."""
     chance = random.Random(1)
     tick = TICKS[pace]
-    with stage.game_at(pace):
-        player = Player(stage)
+    with testbed.game_at(pace):
+        player = Player(testbed)
         seen = []
         for direction in itertools.islice(itertools.cycle(CIRCLE), PRESSES):
-            # Any moment of a tick is as likely as any other.
+            # Spread the key presses evenly over the tick.
             time.sleep(chance.uniform(0, tick))
-            seen.append(player.turn(direction, TICKS_TO_WAIT * tick))
+            seen.append(player.turn(direction, TIMEOUT_TICKS * tick))
             if seen[-1] is None:
                 break
     return seen + [None] * (PRESSES - len(seen))
 
 
-def memory(stage, path, plays):
-    """Resident bytes and the program's share of them, ten seconds after the window has come up."""
-    with Program(stage.desktop, path) as program:
-        time.sleep(UNTIL_SHOWN)
+def memory(testbed, path, plays):
+    """Resident and proportional set size in bytes after ten seconds."""
+    with Program(testbed.desktop, path) as program:
+        time.sleep(STARTUP_SECONDS)
         if plays:
-            player = Player(stage)
+            player = Player(testbed)
             deadline = time.monotonic() + MEMORY_SECONDS
             for direction in itertools.cycle(CIRCLE):
-                assert player.turn(direction, 1) is not None, "the snake turns"
+                assert player.turn(direction, 1) is not None, "the snake does not turn"
                 if time.monotonic() > deadline:
                     break
         else:
@@ -107,15 +108,15 @@ def memory(stage, path, plays):
         return program.memory()
 
 
-def measure(stage):
+def measure(testbed):
     measured = {}
-    for name, path, plays in (("hello", stage.hello, False), ("game", stage.game, True)):
-        runs = [memory(stage, path, plays) for _ in range(3)]
+    for name, path, plays in (("hello", testbed.hello, False), ("game", testbed.game, True)):
+        runs = [memory(testbed, path, plays) for _ in range(3)]
         measured[f"resident_{name}"] = statistics.median(run[0] for run in runs)
         measured[f"share_{name}"] = statistics.median(run[1] for run in runs)
-    for pace, tick in TICKS.items():
-        measured[f"processor_{pace}"] = processor_share(stage, pace)
-        presses = key_presses(stage, pace)
+    for pace in TICKS:
+        measured[f"cpu_{pace}"] = cpu_share(testbed, pace)
+        presses = key_presses(testbed, pace)
         seen = [each for each in presses if each is not None]
         measured[f"presses_{pace}"] = len(presses)
         measured[f"lost_{pace}"] = presses.count(None)

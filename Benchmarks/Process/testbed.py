@@ -1,35 +1,35 @@
-"""The private screen and the programs that are measured on it."""
+"""The private desktop and the programs that are measured on it."""
 
 import contextlib
 import pathlib
 import tempfile
 import time
 
-from hands import Hands
 from pixels import Pixels
-from program import UNTIL_SHOWN, Program
+from program import STARTUP_SECONDS, Program
+from xtest import XTest
 
 from board import Board
 from desktop import Desktop
 
-# A window manager looks at a click before the window gets it, but not at a key: one that is pressed
-# at once overtakes the click.
-UNTIL_CLICKED = 0.5
-# Where the buttons of the paces lie, in pixels.
+# The window manager handles a click before it passes it on, but not a key press: a key pressed
+# right after a click could reach the window first.
+CLICK_SECONDS = 0.5
+# Positions of the pace buttons in pixels.
 PACE_BUTTONS = {"Gentle": (78, 152), "Classic": (152, 152), "Swift": (222, 152)}
 
 
-class Stage:
-    """A desktop of its own from its making to `close`."""
+class Testbed:
+    """Starts a private desktop, which runs until `close`."""
 
     def __init__(self, build):
         self.hello = build / "Benchmarks/Process/Hello"
         self.play = build / "Benchmarks/Process/Play"
         self.game = build / "fernwick"
-        # A short path: sockets live in it.
+        # Directly below /tmp, because the path of a Unix socket is limited to 107 bytes.
         self.desktop = Desktop(pathlib.Path(tempfile.mkdtemp(prefix="fernwick-")))
         self.desktop.start()
-        self.hands = Hands(self.desktop.environment["DISPLAY"])
+        self.input = XTest(self.desktop.environment["DISPLAY"])
         self.pixels = Pixels(self.desktop.folder / "Xvfb_screen0")
 
     def close(self):
@@ -37,13 +37,13 @@ class Stage:
 
     @contextlib.contextmanager
     def game_at(self, pace):
-        """The game, shown and not started, at a pace."""
+        """The running game with a pace chosen and no run started."""
         with Program(self.desktop, self.game) as program:
-            time.sleep(UNTIL_SHOWN)
-            self.hands.click(*PACE_BUTTONS[pace])
-            time.sleep(UNTIL_CLICKED)
+            time.sleep(STARTUP_SECONDS)
+            self.input.click(*PACE_BUTTONS[pace])
+            time.sleep(CLICK_SECONDS)
             yield program
 
     def shows_play(self):
-        """Whether a run is moving: at rest the board is blurred and dimmed, its colours gone."""
+        """Whether a run is going; otherwise the board is blurred and dimmed."""
         return Board.is_moving(self.pixels.picture())
