@@ -10,14 +10,14 @@ BUILD = pathlib.Path(os.environ.get("FERNWICK_BUILD", ROOT / "build/release")).r
 
 @pytest.fixture(scope="session")
 def package():
-    """The Debian package, as scripts/package left it."""
+    """The Debian package that scripts/package built."""
     package, = (BUILD / "package").glob("*.deb")
     return package
 
 
 @pytest.fixture(scope="session")
 def control(package):
-    """The fields that describe the package."""
+    """The control fields of the package."""
     text = subprocess.check_output(["dpkg-deb", "--field", package], text=True)
     fields = {}
     for line in text.splitlines():
@@ -29,7 +29,7 @@ def control(package):
 
 @pytest.fixture(scope="session")
 def unpacked(package, tmp_path_factory):
-    """The folder that stands for the root of a system with the package in it."""
+    """A folder with the files of the package, as below / on a system that has it installed."""
     folder = tmp_path_factory.mktemp("unpacked")
     subprocess.check_call(["dpkg-deb", "--extract", package, folder])
     return folder
@@ -37,7 +37,7 @@ def unpacked(package, tmp_path_factory):
 
 @pytest.fixture(scope="session")
 def installed(tmp_path_factory):
-    """A prefix into which the build was installed."""
+    """The prefix of a `cmake --install`."""
     prefix = tmp_path_factory.mktemp("prefix")
     subprocess.run(["cmake", "--install", BUILD, "--prefix", prefix], check=True,
                    stdout=subprocess.DEVNULL)

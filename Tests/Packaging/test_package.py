@@ -1,4 +1,4 @@
-"""The Debian package, taken apart and judged."""
+"""The contents and the control fields of the Debian package."""
 
 import gzip
 import os
@@ -22,33 +22,33 @@ FILES = {
 }
 
 
-def test_every_file_is_where_debian_looks_for_it(unpacked):
+def test_contains_exactly_the_expected_files(unpacked):
     files = {str(path.relative_to(unpacked)): path.stat().st_mode & 0o777
              for path in unpacked.rglob("*") if not path.is_dir()}
     assert files == FILES
 
 
-def test_lintian_finds_neither_error_nor_warning(package):
+def test_lintian_reports_no_error_and_no_warning(package):
     as_root = ["--allow-root"] if os.getuid() == 0 else []
     done = subprocess.run(["lintian", *as_root, "--fail-on", "error,warning", package], text=True,
                           stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
     assert (done.returncode, done.stdout) == (0, "")
 
 
-def test_it_says_what_it_is_and_where_it_belongs(control):
+def test_has_the_right_name_section_and_description(control):
     assert control["Package"] == "fernwick"
     assert control["Section"] == "games"
     assert control["Description"] == "calm snake game in a night garden"
 
 
-def test_it_depends_on_the_libraries_that_the_program_is_linked_with(control, unpacked):
+def test_depends_on_libraries_but_not_on_development_or_font_packages(control):
     dependencies = {entry.split()[0] for entry in control["Depends"].split(",")}
     assert {"libc6", "libqt6widgets6", "libqt6svg6", "libpulse0", "libicu72"} <= dependencies
     assert not any(name.endswith("-dev") or name.startswith("fonts-") for name in dependencies)
     assert "qt6-wayland" in control["Recommends"]
 
 
-def test_one_version_is_told_everywhere(control, unpacked):
+def test_every_file_names_the_same_version(control, unpacked):
     version = control["Version"]
     changelog = gzip.open(unpacked / "usr/share/doc/fernwick/changelog.gz", "rt").readline()
     manual = gzip.open(unpacked / "usr/share/man/man6/fernwick.6.gz", "rt").readline()
@@ -58,20 +58,20 @@ def test_one_version_is_told_everywhere(control, unpacked):
     assert re.search(r'<release version="([^"]+)"', catalogue)[1] == version
 
 
-def test_the_fonts_inside_the_program_are_named_with_their_terms(unpacked):
-    terms = (unpacked / "usr/share/doc/fernwick/copyright").read_text()
+def test_the_copyright_file_names_the_embedded_fonts(unpacked):
+    copyright_file = (unpacked / "usr/share/doc/fernwick/copyright").read_text()
     program = (unpacked / "usr/games/fernwick").read_bytes()
     for family in ("Inter", "Elstob", "JetBrainsMono"):
-        assert family in terms
-        # Fonts travel uncompressed; their names are in them.
+        assert family in copyright_file
+        # The embedded fonts are not compressed, so that the program contains their names.
         assert family.encode() in program or family.encode("utf-16-be") in program
 
 
-def test_the_same_files_make_the_same_package(package, tmp_path):
+def test_is_reproducible(package, tmp_path):
     changelog = ROOT / "Packaging/Debian/changelog"
-    moment = subprocess.check_output(
+    timestamp = subprocess.check_output(
         ["dpkg-parsechangelog", "-l", changelog, "-S", "Timestamp"], text=True).strip()
     subprocess.run(["cpack", "-G", "DEB", "-B", tmp_path], cwd=BUILD, check=True,
-                   env=os.environ | {"SOURCE_DATE_EPOCH": moment},
+                   env=os.environ | {"SOURCE_DATE_EPOCH": timestamp},
                    stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
     assert (tmp_path / package.name).read_bytes() == package.read_bytes()
