@@ -10,6 +10,7 @@
 
 using namespace Qt::StringLiterals;
 using SnakeCore::require;
+using Storage::PreferencesDocument;
 
 namespace {
 

@@ -12,6 +12,8 @@
 
 using namespace Qt::StringLiterals;
 using SnakeCore::require;
+using Storage::PreferencesDocument;
+using Storage::PreferencesFile;
 
 namespace fs = std::filesystem;
 

@@ -107,8 +107,8 @@ int main(int argc, char* argv[]) {
     Desktop::prepareEnvironment();
     QApplication application(argc, argv);
     applyGardenStyle();
-    PreferencesFile preferences(PreferencesFile::defaultPath());
-    PulseSoundEffects soundEffects("org.fernwick.fernwick");
+    Storage::PreferencesFile preferences(Storage::PreferencesFile::defaultPath());
+    Sound::PulseSoundEffects soundEffects("org.fernwick.fernwick");
     FernwickApp fernwick(preferences, soundEffects);
     QObject::connect(&fernwick.window(), &GameWindow::appeared, &fernwick,
                      [&soundEffects] { soundEffects.prepare(); });

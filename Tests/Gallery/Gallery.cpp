@@ -25,7 +25,7 @@ public:
 };
 
 QImage render(const Scene& scene, const QSize& size, bool fullScreen) {
-    PreferencesFile inMemory{std::filesystem::path()};
+    Storage::PreferencesFile inMemory{std::filesystem::path()};
     Silence silence;
     scene.store(inMemory);
     Session session(inMemory, silence, [&](SnakeCore::Game& game) { game = scene.game(); });

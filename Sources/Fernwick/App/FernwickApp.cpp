@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 
+#include "Desktop/ActivationToken.hpp"
 #include "Session/MainThread.hpp"
 
 FernwickApp::FernwickApp(Preferences& preferences, SoundEffects& soundEffects)
@@ -17,10 +18,7 @@ void FernwickApp::show() {
 }
 
 void FernwickApp::bringForward(const QByteArray& activationToken) {
-    if (!activationToken.isEmpty()) {
-        // Qt 6.4's Wayland plugin takes the token from here when it activates a window.
-        qputenv("XDG_ACTIVATION_TOKEN", activationToken);
-    }
+    Desktop::setActivationToken(activationToken);
     window_.setWindowState(window_.windowState() & ~Qt::WindowMinimized);
     window_.show();
     window_.raise();

@@ -8,8 +8,8 @@
 #include "Desktop/DBusActivation.hpp"
 #include "Desktop/Environment.hpp"
 #include "Desktop/QtMessages.hpp"
+#include "Desktop/QuitOnSignals.hpp"
 #include "Desktop/SingleInstance.hpp"
-#include "Desktop/UnixSignals.hpp"
 #include "Sound/PulseSoundEffects.hpp"
 #include "Storage/PreferencesFile.hpp"
 
@@ -32,14 +32,14 @@ void trimHeap() {
 }  // namespace
 
 int main(int, char* argv[]) {
-    endAtOnceOnSignals();
-    const std::filesystem::path settings = PreferencesFile::defaultPath();
-    SingleInstance singleInstance(settings);
-    if (singleInstance.place() == SingleInstance::Place::second) {
+    Desktop::exitOnSignals();
+    const std::filesystem::path settings = Storage::PreferencesFile::defaultPath();
+    Desktop::SingleInstance singleInstance(settings);
+    if (singleInstance.role() == Desktop::SingleInstance::Role::second) {
         return 0;
     }
     Desktop::prepareEnvironment();
-    keepToolkitQuiet();
+    Desktop::filterQtMessages();
     // There is no command line: Qt gets the program's name only.
     int count = 1;
     QApplication application(count, argv);
@@ -50,21 +50,22 @@ int main(int, char* argv[]) {
     const Language language(Language::bestFor(QLocale::system().uiLanguages()));
     applyGardenStyle();
 
-    const UnixSignals signalsQuit;
-    PreferencesFile preferences(settings);
-    PulseSoundEffects soundEffects(applicationID.toUtf8());
+    const Desktop::QuitOnSignals quitOnSignals;
+    Storage::PreferencesFile preferences(settings);
+    Sound::PulseSoundEffects soundEffects(applicationID.toUtf8());
     FernwickApp fernwick(preferences, soundEffects);
     QObject::connect(&fernwick.window(), &GameWindow::appeared, &fernwick, [&] {
         soundEffects.prepare();
-        new DBusActivation(QDBusConnection::sessionBus(), applicationID, &fernwick,
-                           [&fernwick](const QByteArray& token) { fernwick.bringForward(token); });
+        new Desktop::DBusActivation(
+            QDBusConnection::sessionBus(), applicationID, &fernwick,
+            [&fernwick](const QByteArray& token) { fernwick.bringForward(token); });
         trimHeap();
     });
-    QObject::connect(&singleInstance, &SingleInstance::startedAgain, &fernwick,
+    QObject::connect(&singleInstance, &Desktop::SingleInstance::activationRequested, &fernwick,
                      &FernwickApp::bringForward);
     QObject::connect(&application, &QApplication::aboutToQuit, &singleInstance,
-                     &SingleInstance::leave);
-    singleInstance.answer();
+                     &Desktop::SingleInstance::release);
+    singleInstance.listen();
     fernwick.show();
     return QApplication::exec();
 }

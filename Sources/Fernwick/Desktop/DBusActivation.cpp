@@ -4,40 +4,38 @@
 #include <QStringList>
 #include <utility>
 
+namespace Desktop {
+
 namespace {
 
-QString text(const char* latin) {
-    return QString::fromLatin1(latin);
-}
-
 void requestName(const QDBusConnection& bus, const QString& name) {
-    constexpr uint doNotQueue = 4;
-    QDBusMessage question =
-        QDBusMessage::createMethodCall(text("org.freedesktop.DBus"), text("/org/freedesktop/DBus"),
-                                       text("org.freedesktop.DBus"), text("RequestName"));
-    question << name << doNotQueue;
-    bus.send(question);
+    constexpr uint doNotQueue = 4;  // DBUS_NAME_FLAG_DO_NOT_QUEUE
+    QDBusMessage request = QDBusMessage::createMethodCall(
+        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("RequestName"));
+    request << name << doNotQueue;
+    bus.send(request);
 }
 
 }  // namespace
 
 DBusActivation::DBusActivation(QDBusConnection bus, const QString& applicationID,
-                               QObject* application, BringForward bringForward)
-    : QDBusAbstractAdaptor(application), bringForward_(std::move(bringForward)) {
+                               QObject* application, Activated activated)
+    : QDBusAbstractAdaptor(application), activated_(std::move(activated)) {
     const QString path = u'/' + QString(applicationID).replace(u'.', u'/');
-    // The object first: a program that sees the name may call at once.
+    // Register the object before the name: clients may call as soon as they see the name.
     if (bus.isConnected() && bus.registerObject(path, application)) {
         requestName(bus, applicationID);
     }
 }
 
 void DBusActivation::Activate(const QVariantMap& platformData) {
-    // Desktops under Wayland give the one, those under X11 the other.
-    QString token = platformData.value(text("activation-token")).toString();
+    // Wayland desktops send the first key, X11 desktops the second.
+    QString token = platformData.value(QStringLiteral("activation-token")).toString();
     if (token.isEmpty()) {
-        token = platformData.value(text("desktop-startup-id")).toString();
+        token = platformData.value(QStringLiteral("desktop-startup-id")).toString();
     }
-    bringForward_(token.toUtf8());
+    activated_(token.toUtf8());
 }
 
 void DBusActivation::Open(const QStringList&, const QVariantMap& platformData) {
@@ -45,3 +43,5 @@ void DBusActivation::Open(const QStringList&, const QVariantMap& platformData) {
 }
 
 void DBusActivation::ActivateAction(const QString&, const QVariantList&, const QVariantMap&) {}
+
+}  // namespace Desktop

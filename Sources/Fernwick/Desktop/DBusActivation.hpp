@@ -6,31 +6,35 @@
 #include <QVariantMap>
 #include <functional>
 
-/// The game as the desktop knows it on the session bus, so that docks and launchers can bring it
-/// forward: a name with the interface org.freedesktop.Application.
-/// Without a bus, or where a game over other settings has the name, it does nothing.
+namespace Desktop {
+
+/// Implements org.freedesktop.Application on the session bus, so that docks and launchers can
+/// activate the running game. Does nothing without a session bus, or when another process owns the
+/// name.
 class DBusActivation : public QDBusAbstractAdaptor {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
 
 public:
-    /// Called with what the desktop gave whoever asks the game to come forward; may be empty.
-    using BringForward = std::function<void(const QByteArray& activationToken)>;
+    /// Called on each activation; the token may be empty.
+    using Activated = std::function<void(const QByteArray& activationToken)>;
 
-    /// Asks the bus for the name `applicationID` (dots between its parts) without waiting. The
-    /// object stands on the bus for as long as `application`, which also owns this, lives.
+    /// Exports `application`, which also becomes the parent, and requests the bus name
+    /// `applicationID` (reverse domain name) without waiting for the reply.
     DBusActivation(QDBusConnection bus, const QString& applicationID, QObject* application,
-                   BringForward bringForward);
+                   Activated activated);
 
 public Q_SLOTS:
     // Named by the interface.
     void Activate(const QVariantMap& platformData);
-    /// The game opens no files: it comes forward.
+    /// The game opens no files, so this only activates it.
     void Open(const QStringList& files, const QVariantMap& platformData);
-    /// The game announces no actions, so none is known.
+    /// The desktop file declares no actions, so this does nothing.
     void ActivateAction(const QString& action, const QVariantList& parameter,
                         const QVariantMap& platformData);
 
 private:
-    BringForward bringForward_;
+    Activated activated_;
 };
+
+}  // namespace Desktop

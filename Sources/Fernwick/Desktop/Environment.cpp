@@ -4,39 +4,42 @@
 #include <QSysInfo>
 #include <algorithm>
 
+#include "Desktop/ActivationToken.hpp"
 #include "Desktop/SessionBus.hpp"
 #include "Posix/LocalSocket.hpp"
 
+namespace Desktop {
+
 namespace {
 
-/// libdbus starts a bus of its own, which outlives the program, when the desktop has none.
+/// Without a session bus, libdbus starts one that outlives the program.
 void disableMissingSessionBus() {
     if (!sessionBusExists()) {
         qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
     }
 }
 
-/// Whether `address`, such as "local/hostname:@/tmp/.ICE-unix/1234", is a socket of this machine at
-/// which a program listens. A leading @ stands for an abstract name.
+/// Whether a process on this machine listens at an ICE address such as
+/// "local/hostname:@/tmp/.ICE-unix/1234", where @ marks an abstract socket name.
 bool isListening(const QByteArray& address) {
     const qsizetype colon = address.indexOf(':');
-    const QByteArray place = address.left(colon);
+    const QByteArray transport = address.left(colon);
     const QByteArray host = QSysInfo::machineHostName().toLocal8Bit();
     QByteArray name = address.mid(colon + 1);
-    if (colon < 0 || name.isEmpty() || name.size() > LocalAddress::longest ||
-        (place != "local/" + host && place != "unix/" + host)) {
+    if (colon < 0 || name.isEmpty() || name.size() > Posix::LocalAddress::maximumSize ||
+        (transport != "local/" + host && transport != "unix/" + host)) {
         return false;
     }
     if (name.startsWith('@')) {
         name[0] = '\0';
     }
-    const LocalAddress socketAddress(name);
-    const FileDescriptor socket = localSocket(SOCK_STREAM | SOCK_NONBLOCK);
+    const Posix::LocalAddress socketAddress(name);
+    const Posix::FileDescriptor socket = Posix::localSocket(SOCK_STREAM | SOCK_NONBLOCK);
     return ::connect(socket.number(), socketAddress.get(), socketAddress.size()) == 0;
 }
 
-/// libICE sleeps for a second and Qt prints a warning when the session manager has gone or belongs
-/// to another machine, as after `su` or in an SSH session.
+/// When the session manager has exited or is on another machine, as after `su` or in an SSH
+/// session, libICE sleeps for a second and Qt prints a warning.
 void removeStaleSessionManager() {
     const QList<QByteArray> addresses = qgetenv("SESSION_MANAGER").split(',');
     if (std::ranges::none_of(addresses, isListening)) {
@@ -44,7 +47,7 @@ void removeStaleSessionManager() {
     }
 }
 
-/// The locale name that fontconfig reads.
+/// The locale name as fontconfig determines it.
 QString fontLanguage() {
     for (const char* name : {"FC_LANG", "LC_ALL", "LC_CTYPE", "LANG"}) {
         if (!qEnvironmentVariableIsEmpty(name)) {
@@ -54,18 +57,18 @@ QString fontLanguage() {
     return {};
 }
 
-/// fontconfig prints a warning for a locale name that it cannot parse, such as the bare "UTF-8"
-/// that macOS sets in SSH sessions, and then uses English.
-void replaceUnknownFontLanguage() {
-    const QRegularExpression known(
+/// fontconfig prints a warning about a locale name that it cannot parse, such as the "UTF-8" that
+/// macOS passes into SSH sessions, and falls back to English.
+void replaceInvalidFontLanguage() {
+    const QRegularExpression valid(
         QStringLiteral("^(C|C[.]UTF-?8|POSIX|[a-z]{2,3}(_[a-z0-9]{2,3})?([.@].*)?)?$"),
         QRegularExpression::CaseInsensitiveOption);
-    if (!known.match(fontLanguage()).hasMatch()) {
+    if (!valid.match(fontLanguage()).hasMatch()) {
         qputenv("FC_LANG", "en");
     }
 }
 
-/// libpulse prints warnings about a home or runtime folder with unexpected permissions.
+/// libpulse prints warnings when the home or runtime folder belongs to another user.
 void sendPulseMessagesToSyslog() {
     if (!qEnvironmentVariableIsSet("PULSE_LOG")) {
         qputenv("PULSE_LOG_SYSLOG", "1");
@@ -74,9 +77,12 @@ void sendPulseMessagesToSyslog() {
 
 }  // namespace
 
-void Desktop::prepareEnvironment() {
+void prepareEnvironment() {
     disableMissingSessionBus();
     removeStaleSessionManager();
-    replaceUnknownFontLanguage();
+    replaceInvalidFontLanguage();
     sendPulseMessagesToSyslog();
+    reserveActivationToken();
 }
+
+}  // namespace Desktop

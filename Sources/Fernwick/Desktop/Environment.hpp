@@ -2,9 +2,9 @@
 
 namespace Desktop {
 
-/// Sets every environment variable that this program changes for the libraries it uses. Call it
-/// before the first thread starts: changing the environment while another thread reads it is a data
-/// race.
+/// Sets all environment variables that this program changes for the libraries it uses. Call it
+/// before the first thread starts: setenv() in one thread races with getenv() in others. The only
+/// later change is `setActivationToken`.
 void prepareEnvironment();
 
 }  // namespace Desktop

@@ -12,7 +12,7 @@ constexpr QLatin1String portalService("org.freedesktop.portal.Desktop");
 constexpr QLatin1String portalPath("/org/freedesktop/portal/desktop");
 constexpr QLatin1String portalInterface("org.freedesktop.portal.Settings");
 
-// A read value comes in an envelope, from older portals in two.
+// "Read" wraps its value in a variant, older portals in two.
 QVariant unwrapped(QVariant value) {
     while (value.userType() == qMetaTypeId<QDBusVariant>()) {
         value = value.value<QDBusVariant>().variant();
@@ -25,36 +25,36 @@ QVariant unwrapped(QVariant value) {
 PortalSwitch::PortalSwitch(const QDBusConnection& bus, std::span<const Setting> settings,
                            QObject* parent)
     : QObject(parent), bus_(bus), settings_(settings) {
-    // Until it is known by name, no slot that takes one can be connected.
+    // The string-based connect below looks up QDBusVariant by name.
     qRegisterMetaType<QDBusVariant>();
-    // From whoever says it at the portal's place: a subscription to one sender would first wait for
-    // the bus to tell who that is.
+    // An empty service name matches any sender: with the portal's name, Qt would block on a call
+    // that asks the bus for its owner.
     bus_.connect(QString(), portalPath, portalInterface, QStringLiteral("SettingChanged"), this,
                  SLOT(settingChanged(QString, QString, QDBusVariant)));
     for (std::size_t setting = 0; setting < settings_.size(); ++setting) {
-        ask(setting);
+        read(setting);
     }
 }
 
-void PortalSwitch::ask(std::size_t setting) {
-    QDBusMessage question = QDBusMessage::createMethodCall(portalService, portalPath,
-                                                           portalInterface, QStringLiteral("Read"));
-    question << QString::fromLatin1(settings_[setting].group)
-             << QString::fromLatin1(settings_[setting].key);
-    question.setAutoStartService(false);
-    auto* answer = new QDBusPendingCallWatcher(bus_.asyncCall(question), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, setting, answer] {
-        const QDBusPendingReply<QDBusVariant> reply = *answer;
-        if (reply.isValid() && !changed_[setting]) {
-            hear(setting, reply.value());
+void PortalSwitch::read(std::size_t setting) {
+    QDBusMessage request = QDBusMessage::createMethodCall(portalService, portalPath,
+                                                          portalInterface, QStringLiteral("Read"));
+    request << QString::fromLatin1(settings_[setting].group)
+            << QString::fromLatin1(settings_[setting].key);
+    request.setAutoStartService(false);
+    auto* watcher = new QDBusPendingCallWatcher(bus_.asyncCall(request), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, setting, watcher] {
+        const QDBusPendingReply<QDBusVariant> reply = *watcher;
+        if (reply.isValid() && !signalled_[setting]) {
+            set(setting, reply.value());
         }
-        answer->deleteLater();
+        watcher->deleteLater();
     });
 }
 
-void PortalSwitch::hear(std::size_t setting, const QDBusVariant& value) {
+void PortalSwitch::set(std::size_t setting, const QDBusVariant& value) {
     const bool wasOn = isOn();
-    said_[setting] = settings_[setting].saysYes(unwrapped(value.variant()));
+    on_[setting] = settings_[setting].isOn(unwrapped(value.variant()));
     if (isOn() != wasOn) {
         Q_EMIT changed();
     }
@@ -65,8 +65,8 @@ void PortalSwitch::settingChanged(const QString& group, const QString& key,
     for (std::size_t setting = 0; setting < settings_.size(); ++setting) {
         if (group == QLatin1String(settings_[setting].group) &&
             key == QLatin1String(settings_[setting].key)) {
-            changed_[setting] = true;
-            hear(setting, value);
+            signalled_[setting] = true;
+            set(setting, value);
         }
     }
 }

@@ -9,41 +9,41 @@
 
 namespace Desktop {
 
-/// Whether the desktop's settings portal says yes to any of several settings. The portal is asked
-/// without waiting and is never started for it; until it answers, and where there is none, the
-/// answer is no.
+/// A yes-or-no setting from the XDG settings portal (org.freedesktop.portal.Settings) that desktops
+/// store under different keys: on when any of the keys says so. Reads are asynchronous and never
+/// start the portal; it is off until a reply arrives, and without a portal.
 class PortalSwitch : public QObject {
     Q_OBJECT
 
 public:
     struct Setting {
-        const char* group;
+        const char* group;  ///< the portal's "namespace" argument
         const char* key;
-        bool (*saysYes)(const QVariant& value);
+        bool (*isOn)(const QVariant& value);
     };
 
-    /// `settings`, eight at most, must outlive the switch.
+    /// `settings`, at most eight, must outlive this object.
     PortalSwitch(const QDBusConnection& bus, std::span<const Setting> settings,
                  QObject* parent = nullptr);
 
-    [[nodiscard]] bool isOn() const { return said_.any(); }
+    [[nodiscard]] bool isOn() const { return on_.any(); }
 
 Q_SIGNALS:
-    /// `isOn` is not what it was.
+    /// `isOn` has changed.
     void changed();
 
 private:
     Q_SLOT void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
-    void ask(std::size_t setting);
-    void hear(std::size_t setting, const QDBusVariant& value);
+    void read(std::size_t setting);
+    void set(std::size_t setting, const QDBusVariant& value);
 
-    static constexpr std::size_t mostSettings = 8;
+    static constexpr std::size_t maximumSettings = 8;
 
     QDBusConnection bus_;
     std::span<const Setting> settings_;
-    std::bitset<mostSettings> said_;
-    // A change may overtake the answer to an earlier question, which is then out of date.
-    std::bitset<mostSettings> changed_;
+    std::bitset<maximumSettings> on_;
+    // A change signal may overtake the reply to an earlier read, which is then out of date.
+    std::bitset<maximumSettings> signalled_;
 };
 
 }  // namespace Desktop

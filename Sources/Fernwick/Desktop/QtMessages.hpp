@@ -1,7 +1,10 @@
 #pragma once
 
-/// The toolkit would tell the player which fonts lack which scripts, that a folder of the session
-/// is missing, or which display it tried first. This keeps all to itself but why it cannot go on at
-/// all. Whoever asks for its messages, by variables such as QT_LOGGING_RULES, gets them. To be
-/// called before the application object is made: it may set the environment of this process.
-void keepToolkitQuiet();
+namespace Desktop {
+
+/// Hides messages of Qt that are known to be harmless; all others reach stderr as usual. The user's
+/// QT_LOGGING_RULES take precedence, and setting them shows the harmless messages without a
+/// category as well. Call it before creating the QApplication.
+void filterQtMessages();
+
+}  // namespace Desktop

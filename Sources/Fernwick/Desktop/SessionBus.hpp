@@ -1,4 +1,8 @@
 #pragma once
 
-/// Whether the desktop has a session bus. Connecting without one makes libdbus start a bus.
+namespace Desktop {
+
+/// Whether there is a D-Bus session bus. Connecting without one makes libdbus start a bus.
 [[nodiscard]] bool sessionBusExists();
+
+}  // namespace Desktop

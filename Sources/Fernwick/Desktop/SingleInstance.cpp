@@ -3,24 +3,33 @@
 #include <sys/stat.h>
 
 #include <QCryptographicHash>
+#include <QLoggingCategory>
 #include <QSocketNotifier>
 #include <array>
 #include <chrono>
+#include <cstring>
 #include <thread>
 
 #include "Posix/LocalSocket.hpp"
 
 namespace fs = std::filesystem;
+using Posix::FileDescriptor;
+using Posix::LocalAddress;
+
+namespace Desktop {
 
 namespace {
 
-constexpr char answered = 1;
-constexpr timeval patienceForAnswer{1, 0};
-constexpr timeval patienceForQuestion{0, 100'000};
+// Printed only when QT_LOGGING_RULES enables it.
+Q_LOGGING_CATEGORY(instanceLog, "fernwick.instance", QtFatalMsg)
 
-/// Told apart by user, settings and root folder: what is the same path in a container may be
-/// another file.
-QByteArray nameFor(const fs::path& settings) {
+constexpr char acknowledgement = 1;
+constexpr timeval replyTimeout{1, 0};
+constexpr timeval requestTimeout{0, 100'000};
+
+/// The root directory is part of the name because a container may show another file under the same
+/// path.
+QByteArray socketName(const fs::path& settings) {
     std::error_code error;
     fs::path folder = fs::weakly_canonical(settings.parent_path(), error);
     if (error) {
@@ -31,47 +40,47 @@ QByteArray nameFor(const fs::path& settings) {
     QCryptographicHash hash(QCryptographicHash::Sha256);
     hash.addData(QByteArray::fromStdString(folder.native()));
     hash.addData(QByteArray::number(root.st_dev) + ' ' + QByteArray::number(root.st_ino));
-    // Behind a NUL: such a name lies in no folder.
+    // The null byte makes it an abstract name, with no file.
     return '\0' + ("fernwick-" + QByteArray::number(::getuid()) + '-' + hash.result().toHex());
 }
 
-/// Anyone on the machine may take or call a name; only the same user is listened to.
-bool isOwnUser(const FileDescriptor& connection) {
-    ucred other{};
-    socklen_t size = sizeof other;
-    return ::getsockopt(connection.number(), SOL_SOCKET, SO_PEERCRED, &other, &size) == 0 &&
-           other.uid == ::getuid();
+/// Any user can bind or connect to an abstract socket.
+bool isSameUser(const FileDescriptor& connection) {
+    ucred peer{};
+    socklen_t size = sizeof peer;
+    return ::getsockopt(connection.number(), SOL_SOCKET, SO_PEERCRED, &peer, &size) == 0 &&
+           peer.uid == ::getuid();
 }
 
-/// Desktops give what they start a token that lets it come to the front.
-QByteArray ownActivationToken() {
+/// The token with which the launcher allows a window to come to the front.
+QByteArray inheritedActivationToken() {
     const QByteArray token = qgetenv("XDG_ACTIVATION_TOKEN");
     return token.isEmpty() ? qgetenv("DESKTOP_STARTUP_ID") : token;
 }
 
-enum class Call { heard, unheard, nobody, stranger };
+enum class Reply { acknowledged, timedOut, closed, otherUser };
 
-/// Asks the game that holds the address to come forward.
-Call call(const LocalAddress& address) {
-    const FileDescriptor connection = localSocket(SOCK_SEQPACKET);
-    waitAtMost(connection, SO_SNDTIMEO, patienceForAnswer);
-    waitAtMost(connection, SO_RCVTIMEO, patienceForAnswer);
+/// Sends the instance that has bound `address` an activation request.
+Reply requestActivation(const LocalAddress& address) {
+    const FileDescriptor connection = Posix::localSocket(SOCK_SEQPACKET);
+    Posix::setTimeout(connection, SO_SNDTIMEO, replyTimeout);
+    Posix::setTimeout(connection, SO_RCVTIMEO, replyTimeout);
     if (::connect(connection.number(), address.get(), address.size()) != 0) {
-        return errno == EAGAIN ? Call::unheard : Call::nobody;
+        return errno == EAGAIN ? Reply::timedOut : Reply::closed;
     }
-    if (!isOwnUser(connection)) {
-        return Call::stranger;
+    if (!isSameUser(connection)) {
+        return Reply::otherUser;
     }
-    // The token ends with its NUL, for an empty message would read like the end of the call.
-    const QByteArray token = ownActivationToken();
+    // Including the null terminator: an empty packet would read like the end of the connection.
+    const QByteArray token = inheritedActivationToken();
     ::send(connection.number(), token.constData(), static_cast<std::size_t>(token.size()) + 1,
            MSG_NOSIGNAL);
-    char answer = 0;
-    const ssize_t count = ::recv(connection.number(), &answer, sizeof answer, 0);
+    char reply = 0;
+    const ssize_t count = ::recv(connection.number(), &reply, sizeof reply, 0);
     if (count > 0) {
-        return Call::heard;
+        return Reply::acknowledged;
     }
-    return count < 0 && errno == EAGAIN ? Call::unheard : Call::nobody;
+    return count < 0 && errno == EAGAIN ? Reply::timedOut : Reply::closed;
 }
 
 }  // namespace
@@ -79,64 +88,77 @@ Call call(const LocalAddress& address) {
 SingleInstance::SingleInstance(const fs::path& settings) {
     constexpr auto patience = std::chrono::seconds(1);
     constexpr auto pause = std::chrono::milliseconds(2);
-    constexpr int waitingCalls = 16;
-    const LocalAddress address(nameFor(settings));
+    constexpr int backlog = 16;
+    const LocalAddress address(socketName(settings));
     const auto deadline = std::chrono::steady_clock::now() + patience;
     do {
-        FileDescriptor socket = localSocket(SOCK_SEQPACKET | SOCK_NONBLOCK);
+        FileDescriptor socket = Posix::localSocket(SOCK_SEQPACKET | SOCK_NONBLOCK);
         if (::bind(socket.number(), address.get(), address.size()) == 0) {
-            if (::listen(socket.number(), waitingCalls) == 0) {
+            if (::listen(socket.number(), backlog) == 0) {
                 listener_ = std::move(socket);
-                place_ = Place::first;
+                role_ = Role::first;
+                qCDebug(instanceLog, "first instance");
             }
             return;
         }
         if (errno != EADDRINUSE) {
+            qCWarning(instanceLog, "unknown: bind failed: %s", std::strerror(errno));
             return;
         }
-        switch (call(address)) {
-            case Call::heard:
-            case Call::unheard:
-                place_ = Place::second;
+        switch (requestActivation(address)) {
+            case Reply::acknowledged:
+                role_ = Role::second;
+                qCDebug(instanceLog, "second instance: the first one activates its window");
                 return;
-            case Call::stranger:
+            case Reply::timedOut:
+                role_ = Role::second;
+                qCWarning(instanceLog, "second instance: the first one does not respond");
                 return;
-            case Call::nobody:
-                // It is about to listen or has just ended.
+            case Reply::otherUser:
+                qCWarning(instanceLog, "unknown: another user has bound the socket");
+                return;
+            case Reply::closed:
+                // The other process is between bind() and listen(), or has just ended.
                 std::this_thread::sleep_for(pause);
         }
     } while (std::chrono::steady_clock::now() < deadline);
+    qCWarning(instanceLog, "unknown: the socket is taken but refuses connections");
 }
 
 SingleInstance::~SingleInstance() = default;
 
-void SingleInstance::answer() {
-    if (place_ != Place::first || notifier_ != nullptr) {
+void SingleInstance::listen() {
+    if (role_ != Role::first || notifier_ != nullptr) {
         return;
     }
     notifier_ = new QSocketNotifier(listener_.number(), QSocketNotifier::Read, this);
-    connect(notifier_, &QSocketNotifier::activated, this, &SingleInstance::answerOne);
+    connect(notifier_, &QSocketNotifier::activated, this, &SingleInstance::acceptRequest);
 }
 
-void SingleInstance::leave() {
+void SingleInstance::release() {
     delete notifier_;
     notifier_ = nullptr;
     listener_.close();
-    place_ = Place::unknown;
+    role_ = Role::unknown;
 }
 
-void SingleInstance::answerOne() {
-    const FileDescriptor connection(uninterrupted(
+void SingleInstance::acceptRequest() {
+    const FileDescriptor connection(Posix::retryOnInterrupt(
         [&] { return ::accept4(listener_.number(), nullptr, nullptr, SOCK_CLOEXEC); }));
-    if (!connection.valid() || !isOwnUser(connection)) {
+    if (!connection.valid() || !isSameUser(connection)) {
         return;
     }
-    waitAtMost(connection, SO_RCVTIMEO, patienceForQuestion);
+    Posix::setTimeout(connection, SO_RCVTIMEO, requestTimeout);
     std::array<char, 1024> token{};
     const ssize_t count = ::recv(connection.number(), token.data(), token.size() - 1, 0);
     if (count <= 0) {
         return;
     }
-    ::send(connection.number(), &answered, sizeof answered, MSG_NOSIGNAL | MSG_DONTWAIT);
-    Q_EMIT startedAgain(QByteArray(token.data()));
+    ::send(connection.number(), &acknowledgement, sizeof acknowledgement,
+           MSG_NOSIGNAL | MSG_DONTWAIT);
+    qCDebug(instanceLog, "activation requested by a later start, %s a token",
+            token[0] == '\0' ? "without" : "with");
+    Q_EMIT activationRequested(QByteArray(token.data()));
 }
+
+}  // namespace Desktop

@@ -8,42 +8,46 @@
 
 class QSocketNotifier;
 
-/// Keeps a player at one game: of all games over the same settings on this machine, one holds an
-/// address that the others find taken. The kernel frees it when the holder ends, however it ends,
-/// so nothing stale ever stops a start. The address is a local one; no network is involved.
+namespace Desktop {
+
+/// Single-instance guard. The first process binds an abstract AF_UNIX socket; later ones ask it to
+/// activate its window. The kernel frees the name when the process ends, even by SIGKILL, so there
+/// is no stale lock. Processes with another user, settings folder or root directory get another
+/// name.
 class SingleInstance : public QObject {
     Q_OBJECT
 
 public:
-    enum class Place {
-        first,   ///< this process holds the address
-        second,  ///< another game holds it, and has been asked to come forward
-        unknown  ///< neither: no address is to be had, another user holds it, or it was left
+    enum class Role {
+        first,   ///< this process has bound the socket
+        second,  ///< another instance has, and has been sent an activation request
+        unknown  ///< neither: the socket failed, another user has bound it, or it was released
     };
 
-    /// `settings` is the file that the game keeps its settings in; it need not exist. Asking
-    /// another game takes as long as that one is busy, at most a second. Needs no application
-    /// object.
+    /// `settings` is the path of the settings file, which need not exist. Waits at most a second
+    /// for the other instance. Needs no QCoreApplication.
     explicit SingleInstance(const std::filesystem::path& settings);
     ~SingleInstance() override;
 
-    [[nodiscard]] Place place() const { return place_; }
+    [[nodiscard]] Role role() const { return role_; }
 
-    /// Answers later starts from now on, and those that have come meanwhile. Needs the
-    /// application object.
-    void answer();
-    /// Answers no more, so that a later start becomes a game of its own.
-    void leave();
+    /// Starts to handle activation requests, including those received so far. Needs the
+    /// QCoreApplication.
+    void listen();
+    /// Closes the socket, so that the next start becomes the first instance.
+    void release();
 
 Q_SIGNALS:
-    /// The player has started the game once more. `activationToken` is what the desktop gave
-    /// that start so that a window may come to the front; often empty.
-    void startedAgain(const QByteArray& activationToken);
+    /// Another start has asked for the window. `activationToken` is the one its launcher gave it,
+    /// often empty.
+    void activationRequested(const QByteArray& activationToken);
 
 private:
-    void answerOne();
+    void acceptRequest();
 
-    Place place_ = Place::unknown;
-    FileDescriptor listener_{-1};
+    Role role_ = Role::unknown;
+    Posix::FileDescriptor listener_{-1};
     QSocketNotifier* notifier_ = nullptr;
 };
+
+}  // namespace Desktop

@@ -5,10 +5,12 @@
 #include <cerrno>
 #include <utility>
 
-/// Owns an open file descriptor and closes it at the latest when it goes.
+namespace Posix {
+
+/// Owns an open file descriptor and closes it on destruction.
 class FileDescriptor {
 public:
-    /// Takes over what a call such as `open` returned; a negative number is no descriptor.
+    /// Takes ownership of what a call such as open() returned; negative means no descriptor.
     explicit FileDescriptor(int number) : number_(number) {}
     FileDescriptor(FileDescriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
     FileDescriptor& operator=(FileDescriptor&& other) noexcept {
@@ -20,10 +22,9 @@ public:
     [[nodiscard]] bool valid() const { return number_ >= 0; }
     [[nodiscard]] int number() const { return number_; }
 
-    /// Closes now. False when the system reports that something written before was lost.
+    /// Closes it now. False when close() reports that earlier writes were lost; see errno.
     bool close() {
-        // Linux has let go of the descriptor even when close() was interrupted: never call it
-        // twice.
+        // Linux releases the descriptor even when close() fails with EINTR: never retry.
         return !valid() || ::close(std::exchange(number_, -1)) == 0 || errno == EINTR;
     }
 
@@ -31,18 +32,20 @@ private:
     int number_;
 };
 
-/// Whether the error of a call that did not open a file is one that no later try will be spared: it
-/// is not allowed, or what stands there is a link to itself, a socket or a device without a driver.
-[[nodiscard]] inline bool isLastingRefusal(int error) {
+/// Whether retrying an open() that failed with `error` is pointless: permission denied, a symbolic
+/// link loop, or a socket or device that cannot be opened.
+[[nodiscard]] inline bool isPermanentOpenError(int error) {
     return error == EACCES || error == EPERM || error == ELOOP || error == ENXIO || error == ENODEV;
 }
 
-/// Makes a system call again for as long as a signal interrupts it.
+/// Repeats a system call while it fails with EINTR.
 template <typename Call>
-[[nodiscard]] auto uninterrupted(Call call) {
+[[nodiscard]] auto retryOnInterrupt(Call call) {
     auto result = call();
     while (result == -1 && errno == EINTR) {
         result = call();
     }
     return result;
 }
+
+}  // namespace Posix

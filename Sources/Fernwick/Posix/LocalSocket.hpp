@@ -10,36 +10,39 @@
 
 #include "Posix/FileDescriptor.hpp"
 
-/// Where programs of one machine reach each other: a path, or, behind a NUL, a name that lies in
-/// no folder.
+namespace Posix {
+
+/// The address of an AF_UNIX socket: a path or, after a leading null byte, an abstract name.
 class LocalAddress {
 public:
-    /// Of a name longer than `longest` bytes, the rest is dropped.
+    static constexpr qsizetype maximumSize = sizeof(sockaddr_un::sun_path) - 1;
+
+    /// Truncates a name of more than `maximumSize` bytes.
     explicit LocalAddress(const QByteArray& name) {
-        const qsizetype count = std::min(name.size(), longest);
+        const qsizetype count = std::min(name.size(), maximumSize);
         value_.sun_family = AF_UNIX;
         std::copy_n(name.constData(), count, value_.sun_path);
-        size_ =
-            static_cast<socklen_t>(offsetof(sockaddr_un, sun_path)) + static_cast<socklen_t>(count);
+        size_ = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) +
+                                       static_cast<std::size_t>(count));
     }
 
     [[nodiscard]] const sockaddr* get() const { return reinterpret_cast<const sockaddr*>(&value_); }
     [[nodiscard]] socklen_t size() const { return size_; }
-
-    static constexpr qsizetype longest = sizeof(sockaddr_un::sun_path) - 1;
 
 private:
     sockaddr_un value_{};
     socklen_t size_ = 0;
 };
 
-/// `type` is one of socket(2), with its flags.
+/// Opens an AF_UNIX socket; `type` is that of socket(2), including flags.
 [[nodiscard]] inline FileDescriptor localSocket(int type) {
     return FileDescriptor(::socket(AF_UNIX, type | SOCK_CLOEXEC, 0));
 }
 
-/// A call on `socket` in this direction, SO_SNDTIMEO or SO_RCVTIMEO, then fails with EAGAIN instead
-/// of waiting any longer. Reaching an address counts as sending.
-inline void waitAtMost(const FileDescriptor& socket, int direction, timeval patience) {
-    ::setsockopt(socket.number(), SOL_SOCKET, direction, &patience, sizeof patience);
+/// Lets blocking calls fail with EAGAIN after `timeout`. `option` is SO_RCVTIMEO, or SO_SNDTIMEO,
+/// which covers connect() as well.
+inline void setTimeout(const FileDescriptor& socket, int option, timeval timeout) {
+    ::setsockopt(socket.number(), SOL_SOCKET, option, &timeout, sizeof timeout);
 }
+
+}  // namespace Posix

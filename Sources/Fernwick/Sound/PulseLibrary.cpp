@@ -4,11 +4,17 @@
 #include <optional>
 #include <type_traits>
 
+#include "Sound/Log.hpp"
+
+namespace Sound {
+
+Q_LOGGING_CATEGORY(soundLog, "fernwick.sound", QtFatalMsg)
+
 namespace {
 
 std::optional<PulseLibrary> find() {
     constexpr int version = 0;
-    // Stays loaded until the program ends.
+    // QLibrary does not unload it on destruction.
     QLibrary file(QStringLiteral("pulse"), version);
     PulseLibrary found{};
     bool complete = true;
@@ -19,7 +25,11 @@ std::optional<PulseLibrary> find() {
 #define FERNWICK_PULSE_RESOLVE(name) resolve(found.name, "pa_" #name);
     FERNWICK_PULSE_FUNCTIONS(FERNWICK_PULSE_RESOLVE)
 #undef FERNWICK_PULSE_RESOLVE
-    return complete ? std::optional(found) : std::nullopt;
+    if (!complete) {
+        qCWarning(soundLog, "libpulse is missing: %s", qUtf8Printable(file.errorString()));
+        return std::nullopt;
+    }
+    return found;
 }
 
 }  // namespace
@@ -32,3 +42,5 @@ const PulseLibrary* PulseLibrary::load() {
 const PulseLibrary& pulse() {
     return *PulseLibrary::load();
 }
+
+}  // namespace Sound

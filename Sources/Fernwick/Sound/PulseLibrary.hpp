@@ -7,7 +7,7 @@
 #include <pulse/stream.h>
 #include <pulse/thread-mainloop.h>
 
-/// The functions that are used of the sound server's library, without its prefix.
+/// The functions of libpulse that are used, without their prefix.
 #define FERNWICK_PULSE_FUNCTIONS(FUNCTION) \
     FUNCTION(context_connect)              \
     FUNCTION(context_disconnect)           \
@@ -28,6 +28,7 @@
     FUNCTION(stream_set_state_callback)    \
     FUNCTION(stream_unref)                 \
     FUNCTION(stream_write)                 \
+    FUNCTION(strerror)                     \
     FUNCTION(threaded_mainloop_free)       \
     FUNCTION(threaded_mainloop_get_api)    \
     FUNCTION(threaded_mainloop_new)        \
@@ -35,16 +36,20 @@
     FUNCTION(threaded_mainloop_start)      \
     FUNCTION(threaded_mainloop_stop)
 
-/// The sound server's library. It is loaded when its first function is asked for and not with the
-/// program: it brings a dozen other libraries with it, and the first frame would wait for them all.
+namespace Sound {
+
+/// libpulse, loaded with dlopen() at the first use: linking to it would load a dozen other
+/// libraries before the first frame.
 struct PulseLibrary {
 #define FERNWICK_PULSE_MEMBER(name) decltype(&pa_##name) name;
     FERNWICK_PULSE_FUNCTIONS(FERNWICK_PULSE_MEMBER)
 #undef FERNWICK_PULSE_MEMBER
 
-    /// Null where the library is missing, or lacks one of the functions.
+    /// Null when the library, or one of the functions, is missing.
     [[nodiscard]] static const PulseLibrary* load();
 };
 
-/// What `PulseLibrary::load` has found; only after it has found one.
+/// The loaded library. Call it only after `PulseLibrary::load` has succeeded.
 [[nodiscard]] const PulseLibrary& pulse();
+
+}  // namespace Sound

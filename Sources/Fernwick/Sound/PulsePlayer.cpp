@@ -4,34 +4,46 @@
 #include <memory>
 #include <utility>
 
+#include "Sound/Log.hpp"
 #include "Sound/PulseLibrary.hpp"
 #include "Sound/SoundWave.hpp"
+
+namespace Sound {
 
 namespace {
 
 using Proplist = std::unique_ptr<pa_proplist, decltype(PulseLibrary::proplist_free)>;
 
-/// Beyond this, sound and picture fall apart.
-constexpr std::chrono::milliseconds patience{150};
+/// With a longer delay, sound and picture no longer seem to belong together.
+constexpr std::chrono::milliseconds maximumDelay{150};
 
 bool isLate(PulsePlayer::Clock::time_point since) {
-    return PulsePlayer::Clock::now() - since > patience;
-}
-
-std::size_t sizeOf(const std::vector<std::int16_t>& wave) {
-    return wave.size() * sizeof wave.front();
-}
-
-/// Under which the server keeps the effect.
-const char* nameOf(SoundEffect effect) {
-    return effect == SoundEffect::pop ? "fernwick-pop" : "fernwick-tink";
+    return PulsePlayer::Clock::now() - since > maximumDelay;
 }
 
 const char* titleOf(SoundEffect effect) {
     return effect == SoundEffect::pop ? "Pop" : "Tink";
 }
 
-/// What mixers and the server's own rules know us by.
+/// `isLate`, and logs that the effect is dropped.
+bool dropIfLate(SoundEffect effect, PulsePlayer::Clock::time_point since) {
+    const bool late = isLate(since);
+    if (late) {
+        qCDebug(soundLog, "dropped %s: too late", titleOf(effect));
+    }
+    return late;
+}
+
+std::size_t sizeOf(const std::vector<std::int16_t>& wave) {
+    return wave.size() * sizeof wave.front();
+}
+
+/// The effect's name in the server's sample cache.
+const char* nameOf(SoundEffect effect) {
+    return effect == SoundEffect::pop ? "fernwick-pop" : "fernwick-tink";
+}
+
+/// What volume mixers show.
 Proplist clientProperties(const QByteArray& id) {
     Proplist list(pulse().proplist_new(), pulse().proplist_free);
     pulse().proplist_sets(list.get(), PA_PROP_APPLICATION_NAME, "Fernwick");
@@ -63,12 +75,11 @@ void PulsePlayer::prepare() {
     }
 }
 
-void PulsePlayer::play(SoundEffect effect, Clock::time_point asked) {
-    if (isLate(asked)) {
+void PulsePlayer::play(SoundEffect effect, Clock::time_point requested) {
+    if (dropIfLate(effect, requested)) {
         return;
     }
-    std::erase_if(waiting_, [](const Waiting& waiting) { return isLate(waiting.asked); });
-    waiting_.push_back({effect, asked});
+    waiting_.push_back({effect, requested});
     prepare();
     startWaiting();
 }
@@ -77,16 +88,20 @@ void PulsePlayer::connect() {
     context_ =
         pulse().context_new_with_proplist(&loop_, nullptr, clientProperties(applicationID_).get());
     if (context_ == nullptr) {
+        qCWarning(soundLog, "could not create a libpulse context");
         return;
     }
     pulse().context_set_state_callback(context_, contextChanged, this);
-    // A game has no business starting sound servers; a failure may come back at once, through
-    // the callback as well.
-    const bool begun =
-        pulse().context_connect(context_, nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) >= 0;
-    if (!begun) {
-        disconnect();
+    const int result = pulse().context_connect(context_, nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr);
+    // Some failures have reached `contextChanged` within that call.
+    if (result < 0 && context_ != nullptr) {
+        fail("could not connect to the sound server");
     }
+}
+
+void PulsePlayer::fail(const char* what) {
+    qCWarning(soundLog, "%s: %s", what, pulse().strerror(pulse().context_errno(context_)));
+    disconnect();
 }
 
 void PulsePlayer::disconnect() {
@@ -95,7 +110,7 @@ void PulsePlayer::disconnect() {
         sample.ready = false;
     }
     waiting_.clear();
-    unanswered_ = 0;
+    pending_ = 0;
     if (pa_context* context = std::exchange(context_, nullptr)) {
         pulse().context_set_state_callback(context, nullptr, nullptr);
         pulse().context_disconnect(context);
@@ -107,9 +122,10 @@ void PulsePlayer::contextChanged(pa_context* context, void* player) {
     auto& self = *static_cast<PulsePlayer*>(player);
     const pa_context_state_t state = pulse().context_get_state(context);
     if (state == PA_CONTEXT_READY) {
+        qCDebug(soundLog, "connected to the sound server");
         self.uploadMissing();
     } else if (!PA_CONTEXT_IS_GOOD(state)) {
-        self.disconnect();
+        self.fail("no connection to the sound server");
     }
 }
 
@@ -122,8 +138,7 @@ void PulsePlayer::uploadMissing() {
 }
 
 void PulsePlayer::upload(Sample& sample) {
-    constexpr pa_sample_spec format{
-        .format = PA_SAMPLE_S16NE, .rate = soundWaveRate, .channels = 1};
+    constexpr pa_sample_spec format{.format = PA_SAMPLE_S16NE, .rate = sampleRate, .channels = 1};
     sample.wave = soundWave(sample.effect);
     sample.upload = pulse().stream_new_with_proplist(
         context_, nameOf(sample.effect), &format, nullptr, sampleProperties(sample.effect).get());
@@ -140,16 +155,18 @@ void PulsePlayer::uploadChanged(pa_stream* stream, void* data) {
     auto& sample = *static_cast<Sample*>(data);
     const pa_stream_state_t state = pulse().stream_get_state(stream);
     if (state == PA_STREAM_READY) {
-        const bool handedOver =
-            pulse().stream_write(stream, sample.wave.data(), sizeOf(sample.wave), nullptr, 0,
-                                 PA_SEEK_RELATIVE) >= 0 &&
-            pulse().stream_finish_upload(stream) >= 0;
-        if (!handedOver) {
+        const bool written = pulse().stream_write(stream, sample.wave.data(), sizeOf(sample.wave),
+                                                  nullptr, 0, PA_SEEK_RELATIVE) >= 0 &&
+                             pulse().stream_finish_upload(stream) >= 0;
+        if (!written) {
+            qCWarning(soundLog, "could not upload %s", titleOf(sample.effect));
             sample.player->releaseUpload(sample);
         }
     } else if (!PA_STREAM_IS_GOOD(state) && state != PA_STREAM_UNCONNECTED) {
         sample.player->releaseUpload(sample);
         sample.ready = state == PA_STREAM_TERMINATED;
+        qCDebug(soundLog, "%s %s", titleOf(sample.effect),
+                sample.ready ? "uploaded" : "not accepted by the server");
         sample.player->startWaiting();
     }
 }
@@ -164,7 +181,7 @@ void PulsePlayer::releaseUpload(Sample& sample) {
 
 void PulsePlayer::startWaiting() {
     for (const Waiting& waiting : std::exchange(waiting_, {})) {
-        if (isLate(waiting.asked)) {
+        if (dropIfLate(waiting.effect, waiting.requested)) {
             continue;
         }
         if (sampleOf(waiting.effect).ready) {
@@ -176,33 +193,35 @@ void PulsePlayer::startWaiting() {
 }
 
 void PulsePlayer::start(SoundEffect effect) {
-    // A server that does not answer would play all of these in one heap when it comes back.
-    if (unanswered_ > 0 && isLate(lastAnswer_)) {
+    // A server that has stopped replying would play all requests at once when it resumes.
+    if (pending_ > 0 && dropIfLate(effect, lastReply_)) {
         return;
     }
     pa_operation* operation = pulse().context_play_sample(context_, nameOf(effect), nullptr,
-                                                          PA_VOLUME_INVALID, playAnswered, this);
+                                                          PA_VOLUME_INVALID, playConfirmed, this);
     if (operation == nullptr) {
         return;
     }
     pulse().operation_unref(operation);
-    if (unanswered_++ == 0) {
-        lastAnswer_ = Clock::now();
+    if (pending_++ == 0) {
+        lastReply_ = Clock::now();
     }
 }
 
-void PulsePlayer::playAnswered(pa_context* context, int success, void* player) {
+void PulsePlayer::playConfirmed(pa_context* context, int success, void* player) {
     auto& self = *static_cast<PulsePlayer*>(player);
-    --self.unanswered_;
-    self.lastAnswer_ = Clock::now();
+    --self.pending_;
+    self.lastReply_ = Clock::now();
     if (success != 0) {
         return;
     }
-    if (pulse().context_errno(context) == PA_ERR_TIMEOUT) {
-        self.disconnect();
+    const int error = pulse().context_errno(context);
+    if (error == PA_ERR_TIMEOUT) {
+        self.fail("no reply from the sound server");
         return;
     }
-    // The server may have dropped the effects: it gets them again before the next one.
+    // The server may have dropped its sample cache: upload the effects again before the next play.
+    qCWarning(soundLog, "not played: %s", pulse().strerror(error));
     for (Sample& sample : self.samples_) {
         sample.ready = false;
     }
@@ -211,3 +230,5 @@ void PulsePlayer::playAnswered(pa_context* context, int success, void* player) {
 PulsePlayer::Sample& PulsePlayer::sampleOf(SoundEffect effect) {
     return samples_[effect == SoundEffect::pop ? 0 : 1];
 }
+
+}  // namespace Sound

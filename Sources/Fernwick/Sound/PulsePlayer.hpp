@@ -12,8 +12,11 @@ struct pa_context;
 struct pa_mainloop_api;
 struct pa_stream;
 
-/// The conversation with the sound server. Lives in the thread of the loop it is given, where
-/// nothing waits: every step is taken when the server has answered the one before.
+namespace Sound {
+
+/// A client of the sound server that uploads the effects to its sample cache and plays them. Used
+/// only in the thread of its main loop, and fully asynchronous: libpulse's callbacks drive it.
+/// Reconnects with the next effect after the server has gone.
 class PulsePlayer {
 public:
     using Clock = std::chrono::steady_clock;
@@ -23,34 +26,36 @@ public:
     PulsePlayer& operator=(const PulsePlayer&) = delete;
     ~PulsePlayer() { disconnect(); }
 
-    /// Connects unless connected, and hands over the effects that the server does not have.
+    /// Connects if necessary, and uploads the effects that the server does not have.
     void prepare();
 
-    /// Plays an effect that was asked for at `asked`, at once or as soon as the server has it;
-    /// never when that would be too late to belong to what is on the screen.
-    void play(SoundEffect effect, Clock::time_point asked);
+    /// Plays an effect as soon as the server has it. Drops it when more than 150 ms have passed
+    /// since `requested`, as it would no longer match the picture.
+    void play(SoundEffect effect, Clock::time_point requested);
 
-    /// Forgets the server and everything that waited for it.
+    /// Disconnects and drops all waiting effects.
     void disconnect();
 
 private:
     struct Sample {
         PulsePlayer* player;
         SoundEffect effect;
-        std::vector<std::int16_t> wave = {};  ///< only while it is handed over
+        std::vector<std::int16_t> wave = {};  ///< only during the upload
         pa_stream* upload = nullptr;
         bool ready = false;
     };
     struct Waiting {
         SoundEffect effect;
-        Clock::time_point asked;
+        Clock::time_point requested;
     };
 
     static void contextChanged(pa_context* context, void* player);
     static void uploadChanged(pa_stream* stream, void* sample);
-    static void playAnswered(pa_context* context, int success, void* player);
+    static void playConfirmed(pa_context* context, int success, void* player);
 
     void connect();
+    /// Logs libpulse's error and disconnects.
+    void fail(const char* what);
     void uploadMissing();
     void upload(Sample& sample);
     void releaseUpload(Sample& sample);
@@ -63,6 +68,8 @@ private:
     pa_context* context_ = nullptr;
     std::array<Sample, 2> samples_;
     std::vector<Waiting> waiting_;
-    int unanswered_ = 0;            ///< plays the server has not confirmed
-    Clock::time_point lastAnswer_;  ///< or the first of the unanswered plays, if that is later
+    int pending_ = 0;              ///< play requests that the server has not confirmed
+    Clock::time_point lastReply_;  ///< or the first pending request, if that is later
 };
+
+}  // namespace Sound

@@ -12,51 +12,56 @@
 #include "Sound/PulseLibrary.hpp"
 #include "Sound/PulsePlayer.hpp"
 
+using Posix::FileDescriptor;
+
+namespace Sound {
+
 namespace {
 
-/// What travels through the pipe; without an effect it only asks for the connection.
+/// Sent through the pipe. Without an effect: connect only.
 struct Request {
     std::optional<SoundEffect> effect;
-    PulsePlayer::Clock::time_point asked;
+    PulsePlayer::Clock::time_point requested;
 };
 static_assert(std::is_trivially_copyable_v<Request>);
 
 }  // namespace
 
-/// The thread and the pipe into it. A pipe and not the library's lock: the thread holds that lock
-/// whenever it works, and the caller must not wait even while it does.
-class PulseSoundEffects::Loop {
+/// libpulse's main loop thread, and a pipe to send it requests. Taking libpulse's main loop lock
+/// instead would block the caller while the thread is busy.
+class PulseSoundEffects::Thread {
 public:
-    [[nodiscard]] static std::unique_ptr<Loop> start(const QByteArray& applicationID);
+    [[nodiscard]] static std::unique_ptr<Thread> start(const QByteArray& applicationID);
 
-    Loop(const Loop&) = delete;
-    Loop& operator=(const Loop&) = delete;
-    ~Loop();
+    Thread(const Thread&) = delete;
+    Thread& operator=(const Thread&) = delete;
+    ~Thread();
 
-    /// A full pipe drops the request; it could only have been late.
+    /// Drops the request when the pipe is full: it would be late anyway.
     void send(std::optional<SoundEffect> effect) {
         const Request request{effect, PulsePlayer::Clock::now()};
         static_cast<void>(!::write(sender_.number(), &request, sizeof request));
     }
 
 private:
-    Loop(pa_threaded_mainloop* thread, FileDescriptor receiver, FileDescriptor sender,
-         const QByteArray& applicationID);
+    Thread(pa_threaded_mainloop* loop, FileDescriptor receiver, FileDescriptor sender,
+           const QByteArray& applicationID);
 
-    static void requestsCame(pa_mainloop_api*, pa_io_event*, int, pa_io_event_flags_t, void* self) {
-        static_cast<Loop*>(self)->receive();
+    static void requestsArrived(pa_mainloop_api*, pa_io_event*, int, pa_io_event_flags_t,
+                                void* self) {
+        static_cast<Thread*>(self)->receive();
     }
 
     void receive();
 
-    pa_threaded_mainloop* thread_;
+    pa_threaded_mainloop* loop_;
     FileDescriptor receiver_;
     FileDescriptor sender_;
     PulsePlayer player_;
     pa_io_event* event_;
 };
 
-std::unique_ptr<PulseSoundEffects::Loop> PulseSoundEffects::Loop::start(
+std::unique_ptr<PulseSoundEffects::Thread> PulseSoundEffects::Thread::start(
     const QByteArray& applicationID) {
     std::array<int, 2> ends{};
     if (PulseLibrary::load() == nullptr || ::pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK) != 0) {
@@ -64,39 +69,39 @@ std::unique_ptr<PulseSoundEffects::Loop> PulseSoundEffects::Loop::start(
     }
     FileDescriptor receiver(ends[0]);
     FileDescriptor sender(ends[1]);
-    pa_threaded_mainloop* thread = pulse().threaded_mainloop_new();
-    if (thread == nullptr) {
+    pa_threaded_mainloop* loop = pulse().threaded_mainloop_new();
+    if (loop == nullptr) {
         return nullptr;
     }
-    // Owns the thread from here on, and frees it if it does not start.
-    std::unique_ptr<Loop> loop(
-        new Loop(thread, std::move(receiver), std::move(sender), applicationID));
-    pulse().threaded_mainloop_set_name(thread, "sounds");
-    return pulse().threaded_mainloop_start(thread) == 0 ? std::move(loop) : nullptr;
+    // Owns the loop from here on, and frees it if its thread does not start.
+    std::unique_ptr<Thread> thread(
+        new Thread(loop, std::move(receiver), std::move(sender), applicationID));
+    pulse().threaded_mainloop_set_name(loop, "sounds");
+    return pulse().threaded_mainloop_start(loop) == 0 ? std::move(thread) : nullptr;
 }
 
-PulseSoundEffects::Loop::Loop(pa_threaded_mainloop* thread, FileDescriptor receiver,
-                              FileDescriptor sender, const QByteArray& applicationID)
-    : thread_(thread),
+PulseSoundEffects::Thread::Thread(pa_threaded_mainloop* loop, FileDescriptor receiver,
+                                  FileDescriptor sender, const QByteArray& applicationID)
+    : loop_(loop),
       receiver_(std::move(receiver)),
       sender_(std::move(sender)),
-      player_(*pulse().threaded_mainloop_get_api(thread), applicationID) {
-    pa_mainloop_api& api = *pulse().threaded_mainloop_get_api(thread);
-    event_ = api.io_new(&api, receiver_.number(), PA_IO_EVENT_INPUT, requestsCame, this);
+      player_(*pulse().threaded_mainloop_get_api(loop), applicationID) {
+    pa_mainloop_api& api = *pulse().threaded_mainloop_get_api(loop);
+    event_ = api.io_new(&api, receiver_.number(), PA_IO_EVENT_INPUT, requestsArrived, this);
 }
 
-PulseSoundEffects::Loop::~Loop() {
-    pulse().threaded_mainloop_stop(thread_);
-    pulse().threaded_mainloop_get_api(thread_)->io_free(event_);
+PulseSoundEffects::Thread::~Thread() {
+    pulse().threaded_mainloop_stop(loop_);
+    pulse().threaded_mainloop_get_api(loop_)->io_free(event_);
     player_.disconnect();
-    pulse().threaded_mainloop_free(thread_);
+    pulse().threaded_mainloop_free(loop_);
 }
 
-void PulseSoundEffects::Loop::receive() {
+void PulseSoundEffects::Thread::receive() {
     Request request;
     while (::read(receiver_.number(), &request, sizeof request) == sizeof request) {
         if (request.effect) {
-            player_.play(*request.effect, request.asked);
+            player_.play(*request.effect, request.requested);
         } else {
             player_.prepare();
         }
@@ -110,19 +115,21 @@ PulseSoundEffects::~PulseSoundEffects() = default;
 
 void PulseSoundEffects::prepare() {
     if (start()) {
-        loop_->send(std::nullopt);
+        thread_->send(std::nullopt);
     }
 }
 
 void PulseSoundEffects::play(SoundEffect effect) {
     if (start()) {
-        loop_->send(effect);
+        thread_->send(effect);
     }
 }
 
 bool PulseSoundEffects::start() {
-    if (!loop_) {
-        loop_ = Loop::start(applicationID_);
+    if (!thread_) {
+        thread_ = Thread::start(applicationID_);
     }
-    return loop_ != nullptr;
+    return thread_ != nullptr;
 }
+
+}  // namespace Sound

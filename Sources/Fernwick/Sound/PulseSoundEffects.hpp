@@ -5,29 +5,33 @@
 
 #include "Session/SoundEffects.hpp"
 
-/// Plays through the desktop's sound server (PulseAudio, or PipeWire in its stead). A thread of
-/// its own talks to the server, so that one that is missing, slow or hung is never waited for;
-/// between two effects that thread sleeps. A server that went away is looked for again at the
-/// next effect. An effect that could only be heard late is not played at all.
+namespace Sound {
+
+/// Plays the effects through PulseAudio, or PipeWire's replacement for it. A thread of its own
+/// talks to the server, so a missing, slow or hung server never blocks the caller; between effects
+/// the thread sleeps. Reconnects with the next effect after the server has gone, and drops effects
+/// that would be late. Logs to "fernwick.sound".
 class PulseSoundEffects final : public SoundEffects {
 public:
-    /// Starts neither thread nor connection. `applicationID` is the name by which mixers find the
-    /// program's icon and volume.
+    /// Starts neither the thread nor a connection. `applicationID` names the icon that volume
+    /// mixers show.
     explicit PulseSoundEffects(QByteArray applicationID);
     ~PulseSoundEffects() override;
 
-    /// Connects and hands both effects to the server, in the background. Best called once the
-    /// first frame is on the screen; the first `play` does it otherwise.
+    /// Connects and uploads both effects in the background. Call it after the first frame;
+    /// otherwise the first `play` does it.
     void prepare();
 
     void play(SoundEffect effect) override;
 
 private:
-    class Loop;
+    class Thread;
 
-    /// Starts the thread unless it runs. False where the system cannot give us one.
+    /// Starts the thread if necessary. False when libpulse or the thread is not available.
     [[nodiscard]] bool start();
 
     QByteArray applicationID_;
-    std::unique_ptr<Loop> loop_;
+    std::unique_ptr<Thread> thread_;
 };
+
+}  // namespace Sound

@@ -7,35 +7,37 @@
 #include <numbers>
 #include <span>
 
+namespace Sound {
+
 namespace {
 
-/// One decaying tone. It may begin above its frequency and sink to it, as the note of a struck
-/// hollow body does. Times are in seconds until a part of 1/e is left.
+/// One exponentially decaying tone. Its pitch may start higher and glide down, as that of a struck
+/// hollow body does. Times are in seconds, to 1/e.
 struct Partial {
     float frequency;  ///< Hz
     float level;      ///< relative to the other partials
     float decay;
-    float rise = 0;  ///< how far above it begins, as a part of the frequency
-    float sink = 1;
+    float rise = 0;  ///< how much higher the pitch starts, as a fraction of the frequency
+    float sink = 1;  ///< how long the glide takes
 };
 
 struct Recipe {
     std::span<const Partial> partials;
     float duration;  ///< seconds
-    float attack;    ///< seconds from silence to full level; longer is softer
-    float peak;      ///< of full scale
+    float attack;    ///< seconds from silence to full level
+    float peak;      ///< as a fraction of full scale
 };
 
-/// A fingertip on a small wooden box: a low note that drops at once, the ring of the wood above it
-/// and the short knock of the touch.
+/// A fingertip on a small wooden box: a low note that quickly drops in pitch, the resonance of the
+/// wood above it and a short knock.
 constexpr Partial popPartials[]{
     {.frequency = 392, .level = 1.0F, .decay = 0.030F, .rise = 0.55F, .sink = 0.012F},
     {.frequency = 1046, .level = 0.28F, .decay = 0.014F, .rise = 0.20F, .sink = 0.008F},
     {.frequency = 2350, .level = 0.10F, .decay = 0.005F},
 };
 
-/// A fingernail on a thin glass: the uneven overtones of a rim, the higher the shorter. The two
-/// close notes at the bottom beat slowly, as no glass is quite round.
+/// A fingernail on a thin glass: inharmonic overtones, shorter the higher they are. The two lowest
+/// tones beat slowly, as those of a real glass do.
 constexpr Partial tinkPartials[]{
     {.frequency = 2093, .level = 1.0F, .decay = 0.130F},
     {.frequency = 2098, .level = 0.2F, .decay = 0.130F},
@@ -47,13 +49,13 @@ constexpr Recipe pop{.partials = popPartials, .duration = 0.16F, .attack = 0.002
 constexpr Recipe tink{
     .partials = tinkPartials, .duration = 0.60F, .attack = 0.0012F, .peak = 0.32F};
 
-constexpr float secondsPerSample = 1.0F / static_cast<float>(soundWaveRate);
+constexpr float secondsPerSample = 1.0F / static_cast<float>(sampleRate);
 
-/// Adds one partial: a number that each sample turns and shrinks a little, far cheaper than a sine
-/// a sample. It starts without an imaginary part, so the tone begins in silence by itself.
+/// Adds one partial: the imaginary part of a complex number that is multiplied by a constant with
+/// each sample, which is far cheaper than calling sin(). It starts at 0.
 void add(const Partial& partial, std::span<float> wave) {
     constexpr float turn = 2 * std::numbers::pi_v<float>;
-    constexpr std::size_t steadySamples = 16;  // no ear hears the pitch sink in steps this small
+    constexpr std::size_t steadySamples = 16;  // pitch steps this short are inaudible
     const float decayPerSample = std::exp(-secondsPerSample / partial.decay);
     const float sinkPerStep =
         std::exp(-secondsPerSample * static_cast<float>(steadySamples) / partial.sink);
@@ -71,13 +73,13 @@ void add(const Partial& partial, std::span<float> wave) {
     }
 }
 
-/// Half a cosine from 0 to 1, whose ends have no edge that would be heard as a click.
-float fade(float part) {
-    return 0.5F - 0.5F * std::cos(std::numbers::pi_v<float> * std::clamp(part, 0.0F, 1.0F));
+/// A raised cosine from 0 to 1; a linear fade could be heard as a click.
+float fade(float position) {
+    return 0.5F - 0.5F * std::cos(std::numbers::pi_v<float> * std::clamp(position, 0.0F, 1.0F));
 }
 
 void shapeEnds(std::span<float> wave, float attack) {
-    constexpr float release = 0.25F;  // of the whole, long after the partials have faded
+    constexpr float release = 0.25F;  // fraction of the duration, when the partials have decayed
     const auto attackSamples = static_cast<std::size_t>(attack / secondsPerSample);
     const auto releaseSamples = wave.size() / static_cast<std::size_t>(1 / release);
     for (std::size_t i = 0; i < attackSamples; ++i) {
@@ -110,3 +112,5 @@ std::vector<std::int16_t> soundWave(SoundEffect effect) {
     });
     return samples;
 }
+
+}  // namespace Sound

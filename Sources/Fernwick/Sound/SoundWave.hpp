@@ -5,9 +5,13 @@
 
 #include "Session/SoundEffects.hpp"
 
-/// Samples per second of every wave.
-constexpr std::uint32_t soundWaveRate = 48000;
+namespace Sound {
 
-/// The effect drawn up from a few decaying tones: one channel of 16-bit samples that begins and
-/// ends in silence and stays well below full scale. The same effect is always the same wave.
+/// Samples per second.
+constexpr std::uint32_t sampleRate = 48000;
+
+/// Synthesizes an effect from a few decaying tones: mono 16-bit samples that begin and end in
+/// silence and peak at least 6 dB below full scale. Deterministic.
 [[nodiscard]] std::vector<std::int16_t> soundWave(SoundEffect effect);
+
+}  // namespace Sound

@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 
 #include <array>
+#include <csignal>
 #include <cstdio>
 #include <string>
 #include <string_view>
@@ -12,17 +13,21 @@
 #include <vector>
 
 #include "Posix/FileDescriptor.hpp"
-#include "Storage/FileSizeSignal.hpp"
+#include "Storage/Log.hpp"
 
 namespace fs = std::filesystem;
+using Posix::FileDescriptor;
+using Posix::retryOnInterrupt;
+
+namespace Storage {
 
 namespace {
 
-constexpr std::string_view temporaryMark = ".new-";
+constexpr std::string_view temporaryInfix = ".new-";
 constexpr std::string_view temporaryPlaceholder = "XXXXXX";
-constexpr std::string_view asideMark = ".unreadable-";
+constexpr std::string_view asideInfix = ".unreadable-";
 
-/// Ends at a name that is no symbolic link or, like the kernel, after 40 of them.
+/// Stops after 40 links, like the kernel.
 fs::path followLinks(fs::path path) {
     constexpr int maximumLinks = 40;
     std::error_code error;
@@ -36,12 +41,13 @@ fs::path followLinks(fs::path path) {
     return path;
 }
 
-DurableFile::State stateAfterRefusal(int error) {
-    // ENOTDIR: a file where the folder should be.
+DurableFile::State stateAfterOpenError(int error) {
+    // ENOTDIR: there is a file in the folder's place.
     if (error == ENOENT || error == ENOTDIR) {
         return DurableFile::State::absent;
     }
-    return isLastingRefusal(error) ? DurableFile::State::unusable : DurableFile::State::failed;
+    return Posix::isPermanentOpenError(error) ? DurableFile::State::unusable
+                                              : DurableFile::State::failed;
 }
 
 bool writeAll(int file, const QByteArray& bytes) {
@@ -49,8 +55,8 @@ bool writeAll(int file, const QByteArray& bytes) {
     while (written < bytes.size()) {
         const auto rest = static_cast<std::size_t>(bytes.size() - written);
         const ssize_t count =
-            uninterrupted([&] { return ::write(file, bytes.constData() + written, rest); });
-        if (count <= 0) {
+            retryOnInterrupt([&] { return ::write(file, bytes.constData() + written, rest); });
+        if (!logFailure(count > 0, "write")) {
             return false;
         }
         written += count;
@@ -58,21 +64,26 @@ bool writeAll(int file, const QByteArray& bytes) {
     return true;
 }
 
-/// The last look before the file becomes the only copy.
+/// The last check before the file becomes the only copy.
 bool hasSize(int file, qsizetype size) {
     struct stat status {};
-    return ::fstat(file, &status) == 0 && status.st_size == size;
+    const bool equal = ::fstat(file, &status) == 0 && status.st_size == size;
+    if (!equal) {
+        qCWarning(storageLog, "the temporary file does not have the size written");
+    }
+    return equal;
 }
 
 bool syncFile(int file) {
-    return uninterrupted([&] { return ::fsync(file); }) == 0;
+    return retryOnInterrupt([&] { return ::fsync(file); }) == 0;
 }
 
 bool syncFolder(const fs::path& folder) {
     constexpr int flags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
-    FileDescriptor opened(uninterrupted([&] { return ::open(folder.c_str(), flags); }));
-    // EINVAL: a file system on which folders cannot be synced, and need not be.
-    return opened.valid() && (syncFile(opened.number()) || errno == EINVAL) && opened.close();
+    FileDescriptor opened(retryOnInterrupt([&] { return ::open(folder.c_str(), flags); }));
+    // EINVAL: the file system does not support fsync() on folders.
+    const bool synced = opened.valid() && (syncFile(opened.number()) || errno == EINVAL);
+    return logFailure(synced && opened.close(), "fsync of the folder");
 }
 
 bool createFolders(const fs::path& folder) {
@@ -81,8 +92,9 @@ bool createFolders(const fs::path& folder) {
         return true;
     }
     if (error == std::errc::filename_too_long) {
-        // Nor could it be made; and its thousands of parents would cost gigabytes.
-        return false;
+        // Recursing through the thousands of parents of such a path would take gigabytes.
+        errno = ENAMETOOLONG;
+        return logFailure(false, "creating the folder");
     }
     const fs::path parent = folder.parent_path();
     if (parent == folder || !createFolders(parent)) {
@@ -92,7 +104,7 @@ bool createFolders(const fs::path& folder) {
     if (::mkdir(folder.c_str(), onlyThisUser) == 0) {
         return syncFolder(parent.empty() ? "." : parent);
     }
-    return errno == EEXIST && fs::is_directory(folder, error);
+    return logFailure(errno == EEXIST && fs::is_directory(folder, error), "creating the folder");
 }
 
 bool sameFile(const fs::path& one, const fs::path& other) {
@@ -102,18 +114,18 @@ bool sameFile(const fs::path& one, const fs::path& other) {
            first.st_dev == second.st_dev && first.st_ino == second.st_ino;
 }
 
-/// The temporaries of `file` that lie in `folder`.
+/// The temporary files of `file` in `folder`.
 std::vector<fs::path> orphansOf(const fs::path& file, const fs::path& folder) {
-    std::string beginning = file.filename().native();
-    beginning.append(temporaryMark);
+    std::string prefix = file.filename().native();
+    prefix.append(temporaryInfix);
     std::vector<fs::path> orphans;
     std::error_code error;
     for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
          entry.increment(error)) {
         const std::string name = entry->path().filename().native();
         std::error_code typeError;
-        if (name.starts_with(beginning) &&
-            name.size() == beginning.size() + temporaryPlaceholder.size() &&
+        if (name.starts_with(prefix) &&
+            name.size() == prefix.size() + temporaryPlaceholder.size() &&
             fs::is_regular_file(entry->symlink_status(typeError))) {
             orphans.push_back(entry->path());
         }
@@ -126,14 +138,16 @@ std::vector<fs::path> orphansOf(const fs::path& file, const fs::path& folder) {
 DurableFile::DurableFile(const fs::path& path) : path_(followLinks(path)) {}
 
 DurableFile::Reading DurableFile::read(qsizetype maximumSize) const {
-    // O_NONBLOCK: a pipe in the file's place must not hold us up.
+    // O_NONBLOCK: opening a named pipe in the file's place must not block.
     constexpr int flags = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
-    const FileDescriptor file(uninterrupted([&] { return ::open(path_.c_str(), flags); }));
+    const FileDescriptor file(retryOnInterrupt([&] { return ::open(path_.c_str(), flags); }));
     if (!file.valid()) {
-        return {stateAfterRefusal(errno), {}};
+        const State state = stateAfterOpenError(errno);
+        logFailure(state == State::absent, "open");
+        return {state, {}};
     }
     struct stat status {};
-    if (::fstat(file.number(), &status) != 0) {
+    if (!logFailure(::fstat(file.number(), &status) == 0, "fstat")) {
         return {State::failed, {}};
     }
     if (!S_ISREG(status.st_mode) || status.st_size > maximumSize) {
@@ -143,12 +157,12 @@ DurableFile::Reading DurableFile::read(qsizetype maximumSize) const {
     std::array<char, 65536> piece{};
     while (true) {
         const ssize_t count =
-            uninterrupted([&] { return ::read(file.number(), piece.data(), piece.size()); });
-        if (count < 0) {
+            retryOnInterrupt([&] { return ::read(file.number(), piece.data(), piece.size()); });
+        if (!logFailure(count >= 0, "read")) {
             return {State::failed, {}};
         }
         if (count == 0) {
-            return {State::whole, bytes};
+            return {State::complete, bytes};
         }
         bytes.append(piece.data(), count);
         if (bytes.size() > maximumSize) {
@@ -162,21 +176,22 @@ bool DurableFile::createFolder() const {
 }
 
 bool DurableFile::replace(const QByteArray& bytes) const {
-    const FileSizeSignal held;
+    // Past the file size limit (ulimit -f), write() is to fail instead of killing the process.
+    std::signal(SIGXFSZ, SIG_IGN);
     std::string temporary;
-    FileDescriptor file(uninterrupted([&] {
+    FileDescriptor file(retryOnInterrupt([&] {
         temporary = path_.native();
-        temporary.append(temporaryMark).append(temporaryPlaceholder);
+        temporary.append(temporaryInfix).append(temporaryPlaceholder);
         return ::mkostemp(temporary.data(), O_CLOEXEC);
     }));
-    if (!file.valid()) {
+    if (!logFailure(file.valid(), "creating the temporary file")) {
         return false;
     }
     bool complete = writeAll(file.number(), bytes) && hasSize(file.number(), bytes.size()) &&
-                    syncFile(file.number());
-    complete = file.close() && complete;
+                    logFailure(syncFile(file.number()), "fsync");
+    complete = logFailure(file.close(), "close") && complete;
     const auto rename = [&] { return ::rename(temporary.c_str(), path_.c_str()); };
-    if (!complete || uninterrupted(rename) != 0) {
+    if (!complete || !logFailure(retryOnInterrupt(rename) == 0, "rename")) {
         ::unlink(temporary.c_str());
         return false;
     }
@@ -185,8 +200,9 @@ bool DurableFile::replace(const QByteArray& bytes) const {
 
 bool DurableFile::sync() const {
     constexpr int flags = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
-    FileDescriptor file(uninterrupted([&] { return ::open(path_.c_str(), flags); }));
-    return file.valid() && syncFile(file.number()) && file.close() && syncFolder(folder());
+    FileDescriptor file(retryOnInterrupt([&] { return ::open(path_.c_str(), flags); }));
+    return logFailure(file.valid() && syncFile(file.number()) && file.close(), "fsync") &&
+           syncFolder(folder());
 }
 
 bool DurableFile::setAside() const {
@@ -194,19 +210,23 @@ bool DurableFile::setAside() const {
     std::error_code error;
     for (int number = 1; number <= maximumAside; ++number) {
         std::string aside = path_.native();
-        aside.append(asideMark).append(std::to_string(number));
+        aside.append(asideInfix).append(std::to_string(number));
         if (fs::exists(fs::symlink_status(aside, error))) {
             if (sameFile(path_, aside)) {
                 return true;
             }
             continue;
         }
-        // A second name leaves the file in its place until it is replaced. Where the file system
-        // knows no second names, the file takes the new name instead. Neither ever overwrites.
+        // A hard link keeps the file in place until it is replaced. Folders and some file systems
+        // do not allow hard links: there, rename it. Neither overwrites anything.
         const bool named =
             ::link(path_.c_str(), aside.c_str()) == 0 ||
             ::renameat2(AT_FDCWD, path_.c_str(), AT_FDCWD, aside.c_str(), RENAME_NOREPLACE) == 0;
-        return named && syncFolder(folder());
+        if (!logFailure(named, "setting the file aside")) {
+            return false;
+        }
+        qCDebug(storageLog, "set the unreadable file aside as %s", aside.c_str());
+        return syncFolder(folder());
     }
     return false;
 }
@@ -224,3 +244,5 @@ void DurableFile::removeOrphans() const {
 fs::path DurableFile::folder() const {
     return path_.has_parent_path() ? path_.parent_path() : ".";
 }
+
+}  // namespace Storage

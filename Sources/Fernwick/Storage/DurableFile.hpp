@@ -3,46 +3,49 @@
 #include <QByteArray>
 #include <filesystem>
 
-/// A small file that is only ever replaced as a whole: whoever reads it, also after a crash or a
-/// power failure, finds either the old content or the new. A symbolic link in its place is
-/// followed, so that the link survives and its target is replaced.
+namespace Storage {
+
+/// A small file that is replaced atomically: a reader, also after a crash or power failure, finds
+/// either the old content or the new. A symbolic link is followed, so that the link survives and
+/// its target is replaced. Failing steps are logged with their errno.
 class DurableFile {
 public:
     enum class State {
-        whole,
+        complete,
         absent,
-        unusable,  ///< too large, not allowed, or not a regular file: no later try will read it
-        failed,    ///< the system could not read it this time
+        unusable,  ///< too large, no permission, or not a regular file: retrying is pointless
+        failed,    ///< a read error that may be temporary
     };
     struct Reading {
         State state;
-        QByteArray bytes;  ///< empty unless `whole`
+        QByteArray bytes;  ///< empty unless `complete`
     };
 
     explicit DurableFile(const std::filesystem::path& path);
 
-    /// Where the content lies: the path given, with symbolic links in the file's place resolved.
+    /// The path given, with symbolic links resolved.
     [[nodiscard]] const std::filesystem::path& path() const { return path_; }
 
-    /// Reads up to `maximumSize` bytes; never waits for a pipe or a device in the file's place.
+    /// Reads up to `maximumSize` bytes. Never blocks on a named pipe or a device.
     [[nodiscard]] Reading read(qsizetype maximumSize) const;
 
-    /// Makes the folder and its parents, for this user only. True when it is there afterwards.
+    /// Creates the folder and its parents with mode 0700. True when the folder exists afterwards.
     [[nodiscard]] bool createFolder() const;
 
-    /// Puts `bytes` in the file's place. True when they are there to stay. When false the old
-    /// content still stands, except where only the last step failed: making the new name durable.
+    /// Replaces the content durably: temporary file, fsync, rename, fsync of the folder. When
+    /// false, the old content is intact, unless only the last step failed.
     [[nodiscard]] bool replace(const QByteArray& bytes) const;
 
-    /// Makes what already stands there durable; another process may not have come to that.
+    /// Flushes the existing file and its folder, in case the process that wrote it did not get so
+    /// far.
     [[nodiscard]] bool sync() const;
 
-    /// Gives the content a second name beside the file ("….unreadable-1" and up, none of them
-    /// ever overwritten), so that replacing the file does not lose it.
+    /// Links the content to "<name>.unreadable-1" or the next free number, so that replacing the
+    /// file does not lose it. Never overwrites anything.
     [[nodiscard]] bool setAside() const;
 
-    /// What a process that was killed while in `replace` leaves behind. Removing is only safe
-    /// while no other process can be in `replace`.
+    /// Temporary files left by a process that was killed in `replace`. Remove them only while no
+    /// other process can be in `replace`.
     [[nodiscard]] bool hasOrphans() const;
     void removeOrphans() const;
 
@@ -51,3 +54,5 @@ private:
 
     std::filesystem::path path_;
 };
+
+}  // namespace Storage

@@ -5,29 +5,38 @@
 
 #include <thread>
 
+#include "Storage/Log.hpp"
+
+namespace Storage {
+
 std::optional<FileLock> FileLock::acquire(const std::filesystem::path& path,
-                                          std::chrono::milliseconds patience) {
-    // O_NONBLOCK: a pipe that stands in the file's place must not hold us up.
+                                          std::chrono::milliseconds timeout) {
+    // O_NONBLOCK: opening a named pipe in the file's place must not block.
     constexpr int flags = O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
-    FileDescriptor file(
-        uninterrupted([&] { return ::open(path.c_str(), O_RDWR | O_CREAT | flags, 0600); }));
+    const auto open = [&](int mode) {
+        return Posix::FileDescriptor(
+            Posix::retryOnInterrupt([&] { return ::open(path.c_str(), mode | flags, 0600); }));
+    };
+    Posix::FileDescriptor file = open(O_RDWR | O_CREAT);
     if (!file.valid()) {
-        // A lock made by another user, or a folder in its place, can still be locked.
-        file =
-            FileDescriptor(uninterrupted([&] { return ::open(path.c_str(), O_RDONLY | flags); }));
+        // flock() works on another user's file or on a folder, too, if it can be read.
+        file = open(O_RDONLY);
     }
-    if (!file.valid()) {
-        return isLastingRefusal(errno) ? std::optional(FileLock(std::move(file), false))
-                                       : std::nullopt;
+    if (!logFailure(file.valid(), "opening the lock file")) {
+        return Posix::isPermanentOpenError(errno) ? std::optional(FileLock(std::move(file), false))
+                                                  : std::nullopt;
     }
-    // A blocking flock() knows no time limit, so ask, sleep and ask again.
+    // A blocking flock() has no timeout, so poll.
     constexpr std::chrono::milliseconds pause{5};
-    const auto deadline = std::chrono::steady_clock::now() + patience;
-    while (uninterrupted([&] { return ::flock(file.number(), LOCK_EX | LOCK_NB); }) != 0) {
+    const auto deadline = std::chrono::steady_clock::now() + timeout;
+    const auto lock = [&] { return ::flock(file.number(), LOCK_EX | LOCK_NB); };
+    while (Posix::retryOnInterrupt(lock) != 0) {
         if (errno == ENOLCK || errno == ENOSYS || errno == EOPNOTSUPP || errno == EBADF) {
+            logFailure(false, "locking");
             return FileLock(std::move(file), false);
         }
         if (errno != EWOULDBLOCK || std::chrono::steady_clock::now() >= deadline) {
+            logFailure(false, "locking");
             return std::nullopt;
         }
         std::this_thread::sleep_for(pause);
@@ -35,5 +44,4 @@ std::optional<FileLock> FileLock::acquire(const std::filesystem::path& path,
     return FileLock(std::move(file), true);
 }
 
-FileLock::FileLock(FileDescriptor file, bool excludesOthers)
-    : file_(std::move(file)), excludesOthers_(excludesOthers) {}
+}  // namespace Storage

@@ -6,23 +6,26 @@
 
 #include "Posix/FileDescriptor.hpp"
 
-/// Keeps other processes out for as long as it lives, by a lock on a file made for nothing else.
-/// The system lets go of it when its process ends, however it ends, so a crash leaves nothing
-/// that blocks the next start. The empty file itself stays: removing it would race.
+namespace Storage {
+
+/// An exclusive advisory lock (flock) on a file that exists only for locking. The kernel releases
+/// it when the process ends, even by SIGKILL. The empty file stays: removing it would be a race.
 class FileLock {
 public:
-    /// Nothing when another holds the lock for all of `patience` or when `path` cannot be opened
-    /// this time. What stands at `path` and can never be opened keeps nobody out, nor us.
+    /// Nothing when another process holds the lock for all of `timeout`, or when `path` cannot be
+    /// opened this time. A lock that excludes nobody when locking can never work there.
     [[nodiscard]] static std::optional<FileLock> acquire(const std::filesystem::path& path,
-                                                         std::chrono::milliseconds patience);
+                                                         std::chrono::milliseconds timeout);
 
-    /// False where there is nothing to hold: on a file system that knows no locks, or where what
-    /// stands in the lock's place cannot be opened.
+    /// False when the file system does not support locks, or `path` can never be opened.
     [[nodiscard]] bool excludesOthers() const { return excludesOthers_; }
 
 private:
-    FileLock(FileDescriptor file, bool excludesOthers);
+    FileLock(Posix::FileDescriptor file, bool excludesOthers)
+        : file_(std::move(file)), excludesOthers_(excludesOthers) {}
 
-    FileDescriptor file_;
+    Posix::FileDescriptor file_;
     bool excludesOthers_;
 };
+
+}  // namespace Storage

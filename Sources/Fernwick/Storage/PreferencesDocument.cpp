@@ -3,12 +3,14 @@
 #include <QCborStreamReader>
 #include <QCborStreamWriter>
 
+namespace Storage {
+
 namespace {
 
 constexpr std::size_t maximumKeys = 4096;
 constexpr int maximumDepth = 512;
 
-/// Moves past one whole item and returns its bytes; nothing when it is malformed or too deep.
+/// Skips one data item and returns its bytes; nothing when it is malformed or too deeply nested.
 std::optional<QByteArray> takeItem(QCborStreamReader& reader, const QByteArray& bytes) {
     const qint64 start = reader.currentOffset();
     while (reader.isTag()) {
@@ -20,8 +22,8 @@ std::optional<QByteArray> takeItem(QCborStreamReader& reader, const QByteArray& 
     return bytes.mid(start, reader.currentOffset() - start);
 }
 
-/// One text can be encoded in several ways; under one of them it is found again.
-QByteArray plainKey(const QByteArray& key) {
+/// CBOR can encode one string in several ways; lookups need a single one.
+QByteArray canonicalKey(const QByteArray& key) {
     const QCborValue value = QCborValue::fromCbor(key);
     return value.isString() ? value.toCbor() : key;
 }
@@ -41,19 +43,19 @@ std::optional<PreferencesDocument> PreferencesDocument::read(const QByteArray& b
     while (reader.lastError() == QCborError::NoError && reader.hasNext()) {
         const auto key = takeItem(reader, bytes);
         const auto value = key ? takeItem(reader, bytes) : std::nullopt;
-        if (!value || !document.entries_.emplace(plainKey(*key), *value).second ||
+        if (!value || !document.entries_.emplace(canonicalKey(*key), *value).second ||
             document.entries_.size() > maximumKeys) {
             return std::nullopt;
         }
     }
-    const bool whole = reader.lastError() == QCborError::NoError && reader.leaveContainer() &&
-                       reader.currentOffset() == bytes.size();
-    return whole ? std::optional(document) : std::nullopt;
+    const bool complete = reader.lastError() == QCborError::NoError && reader.leaveContainer() &&
+                          reader.currentOffset() == bytes.size();
+    return complete ? std::optional(document) : std::nullopt;
 }
 
 QByteArray PreferencesDocument::encoded() const {
     QByteArray bytes;
-    // The writer only makes the map's head: it cannot copy items that are encoded already.
+    // QCborStreamWriter cannot append encoded items, so it writes only the head of the map.
     QCborStreamWriter(&bytes).startMap(entries_.size());
     for (const auto& [key, value] : entries_) {
         bytes.append(key).append(value);
@@ -66,10 +68,10 @@ QCborValue PreferencesDocument::value(const QString& key) const {
     if (entry == entries_.end()) {
         return {};
     }
-    // No setting is a list, and taking a hostile one apart could cost a gigabyte.
+    // No setting is a container, and decoding a malicious one could take a gigabyte.
     const QCborStreamReader reader(entry->second);
-    const bool single = !reader.isContainer() && !reader.isTag();
-    return single ? QCborValue::fromCbor(entry->second) : QCborValue();
+    const bool scalar = !reader.isContainer() && !reader.isTag();
+    return scalar ? QCborValue::fromCbor(entry->second) : QCborValue();
 }
 
 void PreferencesDocument::insert(const QString& key, const QCborValue& value) {
@@ -81,3 +83,5 @@ void PreferencesDocument::insert(const PreferencesDocument& newer) {
         entries_.insert_or_assign(key, value);
     }
 }
+
+}  // namespace Storage

@@ -6,30 +6,34 @@
 #include <map>
 #include <optional>
 
-/// The settings as they lie in the file: one CBOR map. Each value is kept as the bytes it came
-/// in, so that what other programs or later versions stored is handed on exactly as it was.
+namespace Storage {
+
+/// The settings as stored: one CBOR map. Each value is kept in its original encoding, so that what
+/// other versions of the program stored is written back unchanged.
 class PreferencesDocument {
 public:
-    /// The largest file that is read or written, in bytes: some 400,000 results.
+    /// The largest file that is read or written, in bytes: about 400,000 scores.
     static constexpr qsizetype maximumSize = 64 * 1024 * 1024;
 
-    /// Nothing unless `bytes` are exactly one map with each key once, within sensible bounds
-    /// (`maximumSize`, 4096 keys, 512 containers deep).
+    /// Nothing unless `bytes` are exactly one map with unique keys, within limits (`maximumSize`,
+    /// 4096 keys, 512 nested containers).
     [[nodiscard]] static std::optional<PreferencesDocument> read(const QByteArray& bytes);
 
-    /// The same settings always give the same bytes. What `read` would refuse can be encoded.
+    /// Deterministic: equal documents give equal bytes. Does not check the limits of `read`.
     [[nodiscard]] QByteArray encoded() const;
 
-    /// The single value under `key`; an undefined one when absent, and for a list or map.
+    /// The value under `key`; undefined when absent, and for an array, map or tagged value.
     [[nodiscard]] QCborValue value(const QString& key) const;
 
     void insert(const QString& key, const QCborValue& value);
-    /// Lays the values of `newer` over these.
+    /// Inserts all entries of `newer`, replacing those with the same key.
     void insert(const PreferencesDocument& newer);
 
     friend bool operator==(const PreferencesDocument&, const PreferencesDocument&) = default;
 
 private:
-    /// Encoded key to encoded value, in the order of the keys' bytes.
+    /// Encoded keys and values, sorted by the bytes of the keys.
     std::map<QByteArray, QByteArray> entries_;
 };
+
+}  // namespace Storage

@@ -9,45 +9,48 @@
 
 #include "Storage/DurableFile.hpp"
 #include "Storage/FileLock.hpp"
+#include "Storage/Log.hpp"
 
 namespace fs = std::filesystem;
 
+namespace Storage {
+
 namespace {
 
+/// Empty unless the variable holds an absolute path.
 fs::path environmentPath(const char* name) {
     fs::path path = qgetenv(name).toStdString();
     return path.is_absolute() ? path : fs::path();
 }
 
-fs::path homeOfUser() {
+fs::path homeFromPasswd() {
     passwd entry{};
     passwd* found = nullptr;
-    constexpr std::size_t ampleForOneUser = 16384;
-    std::array<char, ampleForOneUser> texts{};
-    getpwuid_r(getuid(), &entry, texts.data(), texts.size(), &found);
+    constexpr std::size_t bufferSize = 16384;
+    std::array<char, bufferSize> buffer{};
+    getpwuid_r(getuid(), &entry, buffer.data(), buffer.size(), &found);
     const fs::path home = found != nullptr ? found->pw_dir : "";
     return home.is_absolute() ? home : fs::path();
 }
 
-/// Beside the file and not the file itself, which is another one after each store.
-std::optional<FileLock> lockOf(const DurableFile& file, std::chrono::milliseconds patience) {
+/// Locks a file beside the settings, whose own inode changes with every store.
+std::optional<FileLock> lockOf(const DurableFile& file, std::chrono::milliseconds timeout) {
     fs::path path = file.path();
     path += ".lock";
-    return FileLock::acquire(path, patience);
+    return FileLock::acquire(path, timeout);
 }
 
 std::optional<PreferencesDocument> documentOf(const DurableFile::Reading& reading) {
-    return reading.state == DurableFile::State::whole ? PreferencesDocument::read(reading.bytes)
-                                                      : std::nullopt;
+    return reading.state == DurableFile::State::complete ? PreferencesDocument::read(reading.bytes)
+                                                         : std::nullopt;
 }
 
 void removeOrphansOf(const DurableFile& file) {
     if (!file.hasOrphans()) {
         return;
     }
-    // Another process may be writing just now; the next start can do this as well.
-    constexpr std::chrono::milliseconds noPatience{0};
-    const auto lock = lockOf(file, noPatience);
+    // If another process is writing right now, leave it to the next start.
+    const auto lock = lockOf(file, std::chrono::milliseconds(0));
     if (lock && lock->excludesOthers()) {
         file.removeOrphans();
     }
@@ -57,18 +60,24 @@ void removeOrphansOf(const DurableFile& file) {
 
 PreferencesFile::PreferencesFile(fs::path path) : path_(std::move(path)) {
     if (path_.empty()) {
+        qCWarning(storageLog, "no home folder: settings are kept in memory only");
         return;
     }
     const DurableFile file(path_);
     removeOrphansOf(file);
     const auto reading = file.read(PreferencesDocument::maximumSize);
     const auto stored = documentOf(reading);
+    const bool absent = reading.state == DurableFile::State::absent;
     known_ = stored.value_or(PreferencesDocument());
-    seen_ = stored || reading.state == DurableFile::State::absent;
+    loaded_ = stored || absent;
+    qCDebug(storageLog, "%s: %s", file.path().c_str(),
+            stored   ? "loaded"
+            : absent ? "absent"
+                     : "unreadable, starting with defaults");
 }
 
 PreferencesFile::~PreferencesFile() {
-    // The disk may have room again by now.
+    // Retry: the disk may have free space again.
     if (!path_.empty() && unsaved_ != PreferencesDocument()) {
         static_cast<void>(writeUnsaved());
     }
@@ -79,7 +88,7 @@ fs::path PreferencesFile::defaultPath() {
     if (folder.empty()) {
         fs::path home = environmentPath("HOME");
         if (home.empty()) {
-            home = homeOfUser();
+            home = homeFromPasswd();
         }
         if (home.empty()) {
             return {};
@@ -93,6 +102,7 @@ bool PreferencesFile::store(const QString& key, const QCborValue& value) {
     known_.insert(key, value);
     unsaved_.insert(key, value);
     if (path_.empty() || !writeUnsaved()) {
+        qCWarning(storageLog, "could not store \"%s\"", qUtf8Printable(key));
         return false;
     }
     unsaved_ = {};
@@ -104,12 +114,12 @@ QCborValue PreferencesFile::value(const QString& key) const {
 }
 
 bool PreferencesFile::writeUnsaved() {
-    constexpr std::chrono::milliseconds lockPatience{200};
+    constexpr std::chrono::milliseconds lockTimeout{200};
     const DurableFile file(path_);
     if (!file.createFolder()) {
         return false;
     }
-    const auto lock = lockOf(file, lockPatience);
+    const auto lock = lockOf(file, lockTimeout);
     if (!lock) {
         return false;
     }
@@ -117,8 +127,8 @@ bool PreferencesFile::writeUnsaved() {
     if (reading.state == DurableFile::State::failed) {
         return false;
     }
-    // Read anew, so that what another process stored meanwhile survives. Where there is nothing
-    // to read any more, what this process remembers is the best copy left.
+    // Start from the file, to keep what other processes have stored since. If it has become
+    // unreadable, what this process has in memory is the best copy left.
     const auto stored = documentOf(reading);
     known_ = stored.value_or(known_);
     known_.insert(unsaved_);
@@ -127,14 +137,17 @@ bool PreferencesFile::writeUnsaved() {
     }
     const QByteArray bytes = known_.encoded();
     if (PreferencesDocument::read(bytes) != known_) {
+        qCWarning(storageLog, "the settings exceed the limits of the file format");
         return false;
     }
-    // A value the player never saw may be about to be replaced: even if it can be read by now,
-    // it is kept like one that cannot.
-    const bool worthKeeping = reading.state != DurableFile::State::absent && (!stored || !seen_);
+    // Also keep a file that was unreadable at the start and is readable now: the player has not
+    // seen the values that are about to be replaced.
+    const bool worthKeeping = reading.state != DurableFile::State::absent && (!stored || !loaded_);
     if (worthKeeping && !file.setAside()) {
         return false;
     }
-    seen_ = true;
+    loaded_ = true;
     return file.replace(bytes);
 }
+
+}  // namespace Storage

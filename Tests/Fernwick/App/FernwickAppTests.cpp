@@ -15,7 +15,7 @@ protected:
     }
 
     TemporaryFolder folder;
-    PreferencesFile preferences{folder.path() / "preferences.cbor"};
+    Storage::PreferencesFile preferences{folder.path() / "preferences.cbor"};
     HeardSounds sounds;
     FernwickApp fernwick{preferences, sounds};
     Session& session{fernwick.session()};

@@ -5,24 +5,24 @@
 
 namespace {
 
-bool everybodyIsAnotherUser = false;
+bool reportsOtherUser = false;
 
 }  // namespace
 
 OtherUsers::OtherUsers() {
-    everybodyIsAnotherUser = true;
+    reportsOtherUser = true;
 }
 
 OtherUsers::~OtherUsers() {
-    everybodyIsAnotherUser = false;
+    reportsOtherUser = false;
 }
 
-// Takes the place of the system's own, which comes next in the order of libraries.
+// Replaces the function of libc, which dlsym(RTLD_NEXT) finds.
 extern "C" int getsockopt(int socket, int level, int name, void* value, socklen_t* size) noexcept {
     using Function = int(int, int, int, void*, socklen_t*);
     const auto next = reinterpret_cast<Function*>(::dlsym(RTLD_NEXT, "getsockopt"));
     const int result = next(socket, level, name, value, size);
-    if (everybodyIsAnotherUser && result == 0 && level == SOL_SOCKET && name == SO_PEERCRED) {
+    if (reportsOtherUser && result == 0 && level == SOL_SOCKET && name == SO_PEERCRED) {
         ++static_cast<ucred*>(value)->uid;
     }
     return result;

@@ -1,7 +1,7 @@
 #pragma once
 
-/// Until it goes, this process takes everybody on its local connections for another user: the
-/// system tells it so. Only the superuser could have a process of another user for the same.
+/// While it lives, SO_PEERCRED reports another user for every connection of this process. Only root
+/// could start a real process of another user.
 class OtherUsers {
 public:
     OtherUsers();

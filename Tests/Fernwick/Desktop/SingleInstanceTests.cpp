@@ -10,9 +10,11 @@
 #include "Fernwick/Desktop/OtherUsers.hpp"
 #include "Support/EnvironmentVariable.hpp"
 #include "Support/ForkedProcess.hpp"
+#include "Support/LogCapture.hpp"
 #include "Support/TemporaryFolder.hpp"
 
-using Place = SingleInstance::Place;
+using Desktop::SingleInstance;
+using Role = SingleInstance::Role;
 
 namespace {
 
@@ -22,18 +24,18 @@ protected:
         return folder_.path() / "fernwick" / "preferences.cbor";
     }
 
-    /// What a start of the game does in a process of its own: it reports its place and stays.
+    /// Runs in a forked process: reports its role and keeps running.
     [[nodiscard]] auto start() const {
         return [this](const auto& report) {
-            const SingleInstance game(settings());
-            report(static_cast<ForkedProcess::Report>(game.place()));
+            const SingleInstance instance(settings());
+            report(static_cast<ForkedProcess::Report>(instance.role()));
             ::pause();
         };
     }
 
-    [[nodiscard]] static Place placeOf(const ForkedProcess& game) {
+    [[nodiscard]] static Role roleOf(const ForkedProcess& process) {
         constexpr ForkedProcess::Report none = -1;
-        return static_cast<Place>(game.nextReport(none));
+        return static_cast<Role>(process.nextReport(none));
     }
 
 private:
@@ -42,155 +44,182 @@ private:
 
 }  // namespace
 
-TEST_F(SingleInstanceTest, theFirstStartIsFirst) {
-    EXPECT_EQ(SingleInstance(settings()).place(), Place::first);
+TEST_F(SingleInstanceTest, theFirstStartIsTheFirstInstance) {
+    EXPECT_EQ(SingleInstance(settings()).role(), Role::first);
 }
 
-TEST_F(SingleInstanceTest, aSecondStartIsSecondAndTheFirstIsTold) {
+TEST_F(SingleInstanceTest, aSecondStartRequestsActivationOfTheFirst) {
     SingleInstance first(settings());
-    const QSignalSpy startedAgain(&first, &SingleInstance::startedAgain);
-    first.answer();
+    const QSignalSpy requests(&first, &SingleInstance::activationRequested);
+    first.listen();
 
     const ForkedProcess second(start());
 
-    while (startedAgain.empty()) {
+    while (requests.empty()) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
-    EXPECT_EQ(placeOf(second), Place::second);
-    EXPECT_EQ(startedAgain.count(), 1);
-    EXPECT_EQ(startedAgain.at(0).at(0), QByteArray());
+    EXPECT_EQ(roleOf(second), Role::second);
+    EXPECT_EQ(requests.count(), 1);
+    EXPECT_EQ(requests.at(0).at(0), QByteArray());
 }
 
-TEST_F(SingleInstanceTest, theFirstIsHandedTheTokenOfTheSecondStart) {
+TEST_F(SingleInstanceTest, passesTheActivationTokenToTheFirst) {
     SingleInstance first(settings());
-    const QSignalSpy startedAgain(&first, &SingleInstance::startedAgain);
-    first.answer();
+    const QSignalSpy requests(&first, &SingleInstance::activationRequested);
+    first.listen();
     for (const char* name : {"DESKTOP_STARTUP_ID", "XDG_ACTIVATION_TOKEN"}) {
         const EnvironmentVariable token(name, name);
-        const qsizetype before = startedAgain.count();
+        const qsizetype before = requests.count();
 
         const ForkedProcess second(start());
 
-        while (startedAgain.count() == before) {
+        while (requests.count() == before) {
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         }
-        EXPECT_EQ(startedAgain.last().at(0), QByteArray(name));
+        EXPECT_EQ(requests.last().at(0), QByteArray(name));
     }
 }
 
-TEST_F(SingleInstanceTest, aStartThatCameTooEarlyIsAnsweredLater) {
+TEST_F(SingleInstanceTest, handlesARequestThatArrivedBeforeListening) {
     SingleInstance first(settings());
-    const QSignalSpy startedAgain(&first, &SingleInstance::startedAgain);
+    const QSignalSpy requests(&first, &SingleInstance::activationRequested);
     const ForkedProcess second(start());
-    EXPECT_EQ(placeOf(second), Place::second);
+    EXPECT_EQ(roleOf(second), Role::second);
 
-    first.answer();
+    first.listen();
     QCoreApplication::processEvents();
 
-    EXPECT_EQ(startedAgain.count(), 1);
+    EXPECT_EQ(requests.count(), 1);
 }
 
-TEST_F(SingleInstanceTest, aGameThatDoesNotAnswerStillKeepsOthersFromStarting) {
-    const SingleInstance hung(settings());
-    constexpr int moreThanCanWait = 20;
+TEST_F(SingleInstanceTest, anInstanceThatDoesNotRespondIsStillTheFirst) {
+    const SingleInstance first(settings());
+    constexpr int moreThanTheBacklog = 20;
     const auto began = std::chrono::steady_clock::now();
     std::deque<ForkedProcess> starts;
-    for (int time = 0; time < moreThanCanWait; ++time) {
+    for (int time = 0; time < moreThanTheBacklog; ++time) {
         starts.emplace_back(start());
     }
 
-    for (const ForkedProcess& game : starts) {
-        EXPECT_EQ(placeOf(game), Place::second);
+    for (const ForkedProcess& process : starts) {
+        EXPECT_EQ(roleOf(process), Role::second);
     }
     EXPECT_LT(std::chrono::steady_clock::now() - began, std::chrono::seconds(5));
 }
 
-TEST_F(SingleInstanceTest, aGameThatWasKilledStopsNoStart) {
+TEST_F(SingleInstanceTest, aStartAfterAKillIsTheFirst) {
     for (int round = 0; round < 20; ++round) {
-        ForkedProcess game(start());
-        ASSERT_EQ(placeOf(game), Place::first);
-        game.kill();
+        ForkedProcess process(start());
+        ASSERT_EQ(roleOf(process), Role::first);
+        process.kill();
 
-        EXPECT_EQ(SingleInstance(settings()).place(), Place::first);
+        EXPECT_EQ(SingleInstance(settings()).role(), Role::first);
     }
 }
 
-TEST_F(SingleInstanceTest, aGameThatLeavesMakesRoomAtOnce) {
+TEST_F(SingleInstanceTest, aStartAfterReleaseIsTheFirst) {
     SingleInstance leaving(settings());
-    leaving.leave();
+    leaving.release();
 
-    EXPECT_EQ(SingleInstance(settings()).place(), Place::first);
+    EXPECT_EQ(SingleInstance(settings()).role(), Role::first);
 }
 
-TEST_F(SingleInstanceTest, aStartThatTheLeavingGameHadNoTimeForIsFirst) {
-    constexpr auto untilTheGameIsThere = std::chrono::milliseconds(50);
-    // Made before the game, or it would hold a copy of the game's address.
+TEST_F(SingleInstanceTest, aStartWhoseRequestWasNotAcceptedBeforeReleaseIsTheFirst) {
+    constexpr auto untilTheFirstHasStarted = std::chrono::milliseconds(50);
+    // Forked before the first instance binds, or it would inherit the socket.
     const ForkedProcess waiting([&](const auto& report) {
-        std::this_thread::sleep_for(untilTheGameIsThere);
+        std::this_thread::sleep_for(untilTheFirstHasStarted);
         start()(report);
     });
     SingleInstance leaving(settings());
-    std::this_thread::sleep_for(3 * untilTheGameIsThere);
+    std::this_thread::sleep_for(3 * untilTheFirstHasStarted);
 
-    leaving.leave();
+    leaving.release();
 
-    EXPECT_EQ(placeOf(waiting), Place::first);
+    EXPECT_EQ(roleOf(waiting), Role::first);
 }
 
-TEST_F(SingleInstanceTest, ofManyStartsAtOnceExactlyOneIsFirst) {
+TEST_F(SingleInstanceTest, ofManySimultaneousStartsExactlyOneIsTheFirst) {
     constexpr int starts = 8;
     for (int round = 0; round < 3; ++round) {
-        std::deque<ForkedProcess> games;
-        for (int game = 0; game < starts; ++game) {
-            games.emplace_back(start());
+        std::deque<ForkedProcess> processes;
+        for (int i = 0; i < starts; ++i) {
+            processes.emplace_back(start());
         }
         int first = 0;
-        for (const ForkedProcess& game : games) {
-            const Place place = placeOf(game);
-            ASSERT_NE(place, Place::unknown);
-            first += place == Place::first ? 1 : 0;
+        for (const ForkedProcess& process : processes) {
+            const Role role = roleOf(process);
+            ASSERT_NE(role, Role::unknown);
+            first += role == Role::first ? 1 : 0;
         }
         ASSERT_EQ(first, 1);
     }
 }
 
-TEST_F(SingleInstanceTest, gamesOverOtherSettingsStayApart) {
-    const SingleInstance game(settings());
+TEST_F(SingleInstanceTest, instancesWithOtherSettingsAreIndependent) {
+    const SingleInstance first(settings());
     const TemporaryFolder elsewhere;
 
-    EXPECT_EQ(SingleInstance(elsewhere.path() / "preferences.cbor").place(), Place::first);
+    EXPECT_EQ(SingleInstance(elsewhere.path() / "preferences.cbor").role(), Role::first);
 }
 
-TEST_F(SingleInstanceTest, theSameSettingsByAnotherPathAreTheSameGame) {
+TEST_F(SingleInstanceTest, aSymbolicLinkToTheSameSettingsIsTheSameInstance) {
     const TemporaryFolder elsewhere;
     const auto link = elsewhere.path() / "link";
     std::filesystem::create_directory_symlink(settings().parent_path().parent_path(), link);
-    const SingleInstance game(settings());
+    const SingleInstance first(settings());
 
-    EXPECT_EQ(SingleInstance(link / "fernwick" / "preferences.cbor").place(), Place::second);
+    EXPECT_EQ(SingleInstance(link / "fernwick" / "preferences.cbor").role(), Role::second);
 }
 
-TEST_F(SingleInstanceTest, aStrangerOnTheAddressStopsNoStart) {
-    const ForkedProcess stranger(start());
-    ASSERT_EQ(placeOf(stranger), Place::first);
-    const OtherUsers all;
+TEST_F(SingleInstanceTest, startsEvenIfAnotherUserHasBoundTheSocket) {
+    const ForkedProcess otherUser(start());
+    ASSERT_EQ(roleOf(otherUser), Role::first);
+    const OtherUsers otherUsers;
 
-    EXPECT_EQ(SingleInstance(settings()).place(), Place::unknown);
+    EXPECT_EQ(SingleInstance(settings()).role(), Role::unknown);
 }
 
-TEST_F(SingleInstanceTest, aStrangerWhoCallsIsNotListenedTo) {
+TEST_F(SingleInstanceTest, ignoresRequestsOfOtherUsers) {
     SingleInstance first(settings());
-    const QSignalSpy startedAgain(&first, &SingleInstance::startedAgain);
-    first.answer();
-    const ForkedProcess stranger(start());
-    const OtherUsers all;
+    const QSignalSpy requests(&first, &SingleInstance::activationRequested);
+    first.listen();
+    const ForkedProcess otherUser(start());
+    const OtherUsers otherUsers;
 
-    while (!stranger.hasReported()) {
+    while (!otherUser.hasReported()) {
         QCoreApplication::processEvents();
     }
 
-    EXPECT_EQ(placeOf(stranger), Place::unknown);
-    EXPECT_EQ(startedAgain.count(), 0);
+    EXPECT_EQ(roleOf(otherUser), Role::unknown);
+    EXPECT_EQ(requests.count(), 0);
+}
+
+TEST_F(SingleInstanceTest, logsItsRoleAndRequests) {
+    const LogCapture log(QStringLiteral("fernwick.instance"));
+    SingleInstance first(settings());
+    EXPECT_TRUE(log.contains(QStringLiteral("fernwick.instance: first instance")));
+
+    const SingleInstance second(settings());
+    EXPECT_TRUE(log.contains(QStringLiteral("second instance: the first one does not respond")));
+
+    const ForkedProcess third(start());
+    first.listen();
+    while (!third.hasReported()) {
+        QCoreApplication::processEvents();
+    }
+    EXPECT_TRUE(log.contains(QStringLiteral("activation requested by a later start")));
+}
+
+TEST_F(SingleInstanceTest, logsWhyItsRoleIsUnknown) {
+    const ForkedProcess otherUser(start());
+    ASSERT_EQ(roleOf(otherUser), Role::first);
+    const OtherUsers otherUsers;
+    const LogCapture log(QStringLiteral("fernwick.instance"));
+
+    const SingleInstance instance(settings());
+
+    EXPECT_TRUE(log.contains(QStringLiteral("unknown: another user has bound the socket")));
 }
 
 int main(int argc, char* argv[]) {

@@ -57,7 +57,9 @@ protected:
     }
 
     /// The settings as a program started now would find them.
-    [[nodiscard]] PreferencesFile onDisk() const { return PreferencesFile(settingsPath()); }
+    [[nodiscard]] Storage::PreferencesFile onDisk() const {
+        return Storage::PreferencesFile(settingsPath());
+    }
 
     [[nodiscard]] QTimer* timer() const { return session.findChild<QTimer*>(); }
     [[nodiscard]] bool timerRuns() const { return timer() != nullptr && timer()->isActive(); }
@@ -113,7 +115,7 @@ private:
     std::optional<SnakeCore::Game> next_;
 
 protected:
-    PreferencesFile preferences{settingsPath()};
+    Storage::PreferencesFile preferences{settingsPath()};
     HeardSounds sounds;
     Session session;
 };

@@ -8,7 +8,7 @@ protected:
     struct NextStart {
         explicit NextStart(const std::filesystem::path& path) : preferences(path) {}
 
-        PreferencesFile preferences;
+        Storage::PreferencesFile preferences;
         HeardSounds sounds;
         Session session{preferences, sounds};
     };

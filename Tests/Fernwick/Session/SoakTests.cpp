@@ -22,7 +22,7 @@ protected:
     static constexpr double secondsInAnHour = 3600;
 
     /// Nothing is stored: what this plays through in seconds, a disk would take hours for.
-    PreferencesFile preferences{std::filesystem::path()};
+    Storage::PreferencesFile preferences{std::filesystem::path()};
     HeardSounds sounds;
     std::optional<Session> launched{std::in_place, preferences, sounds};
     SessionModel model;

@@ -13,12 +13,12 @@
 
 #include "Sound/SoundWave.hpp"
 
-/// Records what the loudspeaker of the running `SoundServer` plays, in the background.
+/// Records the output of the running `SoundServer` in the background.
 class LoudspeakerRecorder {
 public:
     LoudspeakerRecorder() {
         constexpr pa_sample_spec format{
-            .format = PA_SAMPLE_S16NE, .rate = soundWaveRate, .channels = 1};
+            .format = PA_SAMPLE_S16NE, .rate = Sound::sampleRate, .channels = 1};
         constexpr auto unset = static_cast<std::uint32_t>(-1);
         constexpr pa_buffer_attr buffer{.maxlength = unset,
                                         .tlength = unset,
@@ -28,7 +28,7 @@ public:
         stream_ = pa_simple_new(nullptr, "recorder", PA_STREAM_RECORD, "quiet.monitor", "recorder",
                                 &format, nullptr, &buffer, nullptr);
         if (stream_ == nullptr) {
-            throw std::runtime_error("nothing to record");
+            throw std::runtime_error("cannot record");
         }
         thread_ = std::thread(&LoudspeakerRecorder::record, this);
     }
@@ -40,7 +40,7 @@ public:
         pa_simple_free(stream_);
     }
 
-    /// From the first sound to the last, without the silence around; empty while there is none.
+    /// What was recorded, without leading and trailing silence.
     [[nodiscard]] std::vector<std::int16_t> sound() {
         const std::scoped_lock lock(guard_);
         const auto loud = [](std::int16_t sample) { return sample != 0; };
@@ -49,7 +49,7 @@ public:
         return first < last ? std::vector(first, last) : std::vector<std::int16_t>();
     }
 
-    /// True when the recording has gone on in silence for `samples` after the last sound.
+    /// Whether the last `samples` recorded are silent.
     [[nodiscard]] bool endsInSilence(std::size_t samples) {
         const std::scoped_lock lock(guard_);
         return recorded_.size() >= samples &&
@@ -58,7 +58,7 @@ public:
     }
 
 private:
-    static constexpr std::size_t pieceSize = soundWaveRate / 100;
+    static constexpr std::size_t pieceSize = Sound::sampleRate / 100;
 
     void record() {
         std::array<std::int16_t, pieceSize> piece{};

@@ -11,7 +11,7 @@
 #include "Support/EnvironmentVariable.hpp"
 #include "Support/TemporaryFolder.hpp"
 
-/// Asks `condition` again and again for up to ten seconds; its last answer.
+/// Polls `condition` until it is true, for at most ten seconds. Returns its last value.
 template <typename Condition>
 [[nodiscard]] bool eventually(Condition condition) {
     constexpr std::chrono::seconds patience{10};
@@ -26,8 +26,8 @@ template <typename Condition>
     return true;
 }
 
-/// A desktop session of its own, as far as sound goes: while it lives, this process finds no
-/// sound server but the one started here, whose only loudspeaker is silent and can be recorded.
+/// A private PulseAudio server with a null sink that can be recorded. While it lives, this process
+/// finds no other sound server, and none before `start`.
 class SoundServer {
 public:
     SoundServer()
@@ -35,9 +35,9 @@ public:
           home_("HOME", folder_.path().c_str()),
           address_("PULSE_SERVER", ("unix:" + socket().native()).c_str()) {}
 
-    /// False when it does not come up.
+    /// False when the server does not start.
     [[nodiscard]] bool start() {
-        // Without rewinding, what has been recorded is what was played.
+        // norewinds: otherwise the server may rewrite samples that have been recorded.
         process_ = std::make_unique<ChildProcess>(std::vector<std::string>{
             "pulseaudio", "-n", "--daemonize=no", "--use-pid-file=no", "--exit-idle-time=-1",
             "--disable-shm=yes", "-L",
@@ -51,27 +51,24 @@ public:
         std::filesystem::remove(socket());
     }
     void hang() { process_->send(SIGSTOP); }
-    void goOn() { process_->send(SIGCONT); }
+    void resume() { process_->send(SIGCONT); }
 
-    /// True once the server holds both effects.
+    /// Whether both effects have been uploaded.
     [[nodiscard]] static bool hasBothEffects() {
         const std::string samples = ask({"list", "short", "samples"});
         return samples.find("fernwick-pop") != std::string::npos &&
                samples.find("fernwick-tink") != std::string::npos;
     }
 
-    /// What the server tells mixers of those who use it.
+    /// The clients as volume mixers see them.
     [[nodiscard]] static std::string clients() { return ask({"list", "clients"}); }
-
-    /// The folder in which programs look for the server.
-    [[nodiscard]] const std::filesystem::path& folder() const { return folder_.path(); }
 
 private:
     [[nodiscard]] std::filesystem::path socket() const { return folder_.path() / "native"; }
 
-    [[nodiscard]] static std::string ask(std::vector<std::string> question) {
-        question.insert(question.begin(), "pactl");
-        ChildProcess tool(question);
+    [[nodiscard]] static std::string ask(std::vector<std::string> command) {
+        command.insert(command.begin(), "pactl");
+        ChildProcess tool(command);
         return tool.output();
     }
 

@@ -10,6 +10,9 @@
 
 #include "Sound/SoundWave.hpp"
 
+using Sound::sampleRate;
+using Sound::soundWave;
+
 namespace {
 
 using Wave = std::vector<std::int16_t>;
@@ -26,9 +29,9 @@ double loudness(std::span<const std::int16_t> wave) {
     return std::sqrt(sum / static_cast<double>(wave.size()));
 }
 
-/// How much of one frequency the wave holds (the Goertzel sum), in no particular unit.
+/// The magnitude of one frequency (Goertzel algorithm), in arbitrary units.
 double strength(const Wave& wave, double frequency) {
-    const double step = 2 * std::numbers::pi * frequency / soundWaveRate;
+    const double step = 2 * std::numbers::pi * frequency / sampleRate;
     double real = 0;
     double imaginary = 0;
     for (std::size_t i = 0; i < wave.size(); ++i) {
@@ -50,7 +53,7 @@ double strongestFrequency(const Wave& wave) {
     return strongest;
 }
 
-/// Of this thread alone, so that other programs do not count.
+/// CPU time of this thread, which the load of the machine does not change.
 std::chrono::nanoseconds processorTime() {
     timespec time{};
     ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
@@ -58,7 +61,7 @@ std::chrono::nanoseconds processorTime() {
 }
 
 double seconds(const Wave& wave) {
-    return static_cast<double>(wave.size()) / soundWaveRate;
+    return static_cast<double>(wave.size()) / sampleRate;
 }
 
 }  // namespace
@@ -71,7 +74,7 @@ TEST_P(SoundWaveOf, beginsAndEndsInSilence) {
     EXPECT_LT(loudness(std::span(wave).last(wave.size() / 20)), 0.001);
 }
 
-TEST_P(SoundWaveOf, staysSixDecibelsBelowFullScaleAndCanBeHeard) {
+TEST_P(SoundWaveOf, peaksSixDecibelsBelowFullScaleAndIsAudible) {
     const Wave wave = soundWave(GetParam());
     const auto [lowest, highest] = std::minmax_element(wave.begin(), wave.end());
 
@@ -81,20 +84,20 @@ TEST_P(SoundWaveOf, staysSixDecibelsBelowFullScaleAndCanBeHeard) {
     EXPECT_GT(peak, 0.1);
 }
 
-TEST_P(SoundWaveOf, hasNoStepThatItsTonesDoNotExplain) {
+TEST_P(SoundWaveOf, hasNoDiscontinuity) {
     const Wave wave = soundWave(GetParam());
     constexpr double highestTone = 3000;
     constexpr double peak = 0.5 * fullScale;
-    const double steepest = peak * 2 * std::numbers::pi * highestTone / soundWaveRate;
+    const double steepest = peak * 2 * std::numbers::pi * highestTone / sampleRate;
 
     for (std::size_t i = 1; i < wave.size(); ++i) {
         ASSERT_LT(std::abs(wave[i] - wave[i - 1]), steepest) << "at sample " << i;
     }
 }
 
-TEST_P(SoundWaveOf, risesOverMoreThanHalfAMillisecond) {
+TEST_P(SoundWaveOf, hasASoftAttack) {
     const Wave wave = soundWave(GetParam());
-    const auto soft = std::span(wave).first(soundWaveRate / 4000);
+    const auto soft = std::span(wave).first(sampleRate / 4000);
 
     const auto loud = *std::max_element(wave.begin(), wave.end());
     for (const std::int16_t sample : soft) {
@@ -102,7 +105,7 @@ TEST_P(SoundWaveOf, risesOverMoreThanHalfAMillisecond) {
     }
 }
 
-TEST_P(SoundWaveOf, fadesFromItsFirstTenthOn) {
+TEST_P(SoundWaveOf, decaysSteadily) {
     const Wave wave = soundWave(GetParam());
     const std::size_t tenth = wave.size() / 10;
     double before = 1;
@@ -114,11 +117,11 @@ TEST_P(SoundWaveOf, fadesFromItsFirstTenthOn) {
     }
 }
 
-TEST_P(SoundWaveOf, isTheSameEveryTime) {
+TEST_P(SoundWaveOf, isDeterministic) {
     EXPECT_EQ(soundWave(GetParam()), soundWave(GetParam()));
 }
 
-TEST_P(SoundWaveOf, takesLessThanAFrameToDrawUp) {
+TEST_P(SoundWaveOf, isComputedWithinAFrame) {
     const auto before = processorTime();
 
     EXPECT_FALSE(soundWave(GetParam()).empty());
@@ -137,7 +140,7 @@ TEST(SoundWave, popIsShortAndLow) {
     EXPECT_LT(strongestFrequency(pop), 700);
 }
 
-TEST(SoundWave, tinkIsHighAndRingsOnLongerThanPop) {
+TEST(SoundWave, tinkIsHigherAndLongerThanPop) {
     const Wave tink = soundWave(SoundEffect::tink);
 
     EXPECT_GT(seconds(tink), 2 * seconds(soundWave(SoundEffect::pop)));

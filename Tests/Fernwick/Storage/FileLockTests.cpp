@@ -6,13 +6,14 @@
 #include "Support/TemporaryFolder.hpp"
 
 using std::chrono::milliseconds;
+using Storage::FileLock;
 
 namespace {
 
-constexpr milliseconds noPatience{0};
-constexpr milliseconds amplePatience{60'000};
+constexpr milliseconds immediately{0};
+constexpr milliseconds longTimeout{60'000};
 
-class FileLocks : public testing::Test {
+class FileLockTest : public testing::Test {
 protected:
     [[nodiscard]] std::filesystem::path path() const { return folder_.path() / "file.lock"; }
 
@@ -22,25 +23,25 @@ private:
 
 }  // namespace
 
-TEST_F(FileLocks, keepOthersOutForAsLongAsTheyLive) {
-    auto held = FileLock::acquire(path(), noPatience);
+TEST_F(FileLockTest, excludesOthersUntilDestroyed) {
+    auto held = FileLock::acquire(path(), immediately);
     ASSERT_TRUE(held && held->excludesOthers());
 
-    EXPECT_FALSE(FileLock::acquire(path(), noPatience));
+    EXPECT_FALSE(FileLock::acquire(path(), immediately));
     held.reset();
-    EXPECT_TRUE(FileLock::acquire(path(), noPatience));
+    EXPECT_TRUE(FileLock::acquire(path(), immediately));
 }
 
-TEST_F(FileLocks, areWaitedForWhileAnotherIsAtWork) {
-    auto held = FileLock::acquire(path(), noPatience);
+TEST_F(FileLockTest, isWaitedForUntilTheTimeout) {
+    auto held = FileLock::acquire(path(), immediately);
     ASSERT_TRUE(held);
     std::thread other([&held] {
         std::this_thread::sleep_for(milliseconds(50));
         held.reset();
     });
 
-    const auto awaited = FileLock::acquire(path(), amplePatience);
+    const auto lock = FileLock::acquire(path(), longTimeout);
 
     other.join();
-    EXPECT_TRUE(awaited);
+    EXPECT_TRUE(lock);
 }

@@ -9,6 +9,7 @@
 #include "Storage/PreferencesDocument.hpp"
 
 using namespace Qt::StringLiterals;
+using Storage::PreferencesDocument;
 
 namespace {
 
@@ -34,14 +35,14 @@ QByteArray mapOfSize(int size) {
     return QCborValue(map).toCbor();
 }
 
-/// One key, "a", over so many lists in each other.
-QByteArray listsInEachOther(qsizetype count) {
+/// One key, "a", with `count` nested arrays.
+QByteArray nestedArrays(qsizetype count) {
     return QByteArray::fromHex("a16161") + QByteArray(count, '\x81') + QByteArray(1, '\0');
 }
 
 }  // namespace
 
-RC_GTEST_PROP(PreferencesDocument, readsBackWhatItEncoded, (const Numbers& numbers)) {
+RC_GTEST_PROP(PreferencesDocumentProperty, readsBackWhatItEncoded, (const Numbers& numbers)) {
     const PreferencesDocument document = documentOf(numbers);
 
     const auto read = PreferencesDocument::read(document.encoded());
@@ -52,7 +53,7 @@ RC_GTEST_PROP(PreferencesDocument, readsBackWhatItEncoded, (const Numbers& numbe
     }
 }
 
-RC_GTEST_PROP(PreferencesDocument, isNoDocumentWithoutItsEndOrWithMoreBehind,
+RC_GTEST_PROP(PreferencesDocumentProperty, rejectsTruncatedBytesAndTrailingBytes,
               (const Numbers& numbers, std::uint16_t cut, std::uint8_t more)) {
     const QByteArray bytes = documentOf(numbers).encoded();
 
@@ -60,30 +61,30 @@ RC_GTEST_PROP(PreferencesDocument, isNoDocumentWithoutItsEndOrWithMoreBehind,
     RC_ASSERT(!PreferencesDocument::read(bytes + static_cast<char>(more)));
 }
 
-RC_GTEST_PROP(PreferencesDocument, handsOnADamagedDocumentIfItAcceptsIt,
+RC_GTEST_PROP(PreferencesDocumentProperty, reencodesADamagedDocumentThatItAccepts,
               (const Numbers& numbers, std::uint16_t where, std::uint8_t damage)) {
     QByteArray bytes = documentOf(numbers).encoded();
     bytes[where % bytes.size()] = static_cast<char>(damage);
 
     const auto document = PreferencesDocument::read(bytes);
 
-    RC_TAG(document ? "accepted" : "refused");
+    RC_TAG(document ? "accepted" : "rejected");
     if (document) {
         RC_ASSERT(PreferencesDocument::read(document->encoded()) == document);
     }
 }
 
-TEST(PreferencesDocumentTest, takesFourThousandAndNinetySixKeysAndNoMore) {
+TEST(PreferencesDocumentTest, accepts4096KeysAndNoMore) {
     EXPECT_TRUE(PreferencesDocument::read(mapOfSize(4096)).has_value());
     EXPECT_FALSE(PreferencesDocument::read(mapOfSize(4097)).has_value());
 }
 
-TEST(PreferencesDocumentTest, takesFiveHundredAndTwelveListsInEachOtherAndNoMore) {
-    EXPECT_TRUE(PreferencesDocument::read(listsInEachOther(512)).has_value());
-    EXPECT_FALSE(PreferencesDocument::read(listsInEachOther(513)).has_value());
+TEST(PreferencesDocumentTest, accepts512NestedArraysAndNoMore) {
+    EXPECT_TRUE(PreferencesDocument::read(nestedArrays(512)).has_value());
+    EXPECT_FALSE(PreferencesDocument::read(nestedArrays(513)).has_value());
 }
 
-TEST(PreferencesDocumentTest, keepsTheBytesOfAValueExactly) {
+TEST(PreferencesDocumentTest, keepsTheOriginalEncodingOfAValue) {
     const QByteArray unusual = QByteArray::fromHex(
         "a16161"
         "1b0000000000000007");
@@ -94,7 +95,7 @@ TEST(PreferencesDocumentTest, keepsTheBytesOfAValueExactly) {
     EXPECT_EQ(document->value(u"a"_s), QCborValue(7));
 }
 
-TEST(PreferencesDocumentTest, laysNewerValuesOverOlder) {
+TEST(PreferencesDocumentTest, insertReplacesOlderValues) {
     PreferencesDocument older = documentOf({{"kept", 1}, {"replaced", 2}});
 
     older.insert(documentOf({{"replaced", 3}, {"added", 4}}));

@@ -5,10 +5,12 @@
 #include "Storage/PreferencesFile.hpp"
 #include "Support/AsOrdinaryUser.hpp"
 #include "Support/FileContent.hpp"
+#include "Support/LogCapture.hpp"
 #include "Support/TemporaryFolder.hpp"
 
 namespace fs = std::filesystem;
 using namespace Qt::StringLiterals;
+using Storage::PreferencesFile;
 
 namespace {
 
@@ -26,7 +28,7 @@ private:
 
 const Settings soundOff = settingsOf({{u"sound"_s, false}});
 
-/// Every write to a file beyond `size` bytes fails while it lives, as on a full disk.
+/// While it lives, writing past `size` bytes of a file fails, as on a full disk.
 class FileSizeLimit {
 public:
     explicit FileSizeLimit(rlim_t size) {
@@ -47,7 +49,7 @@ private:
 class UnreadableContent : public PreferencesFault,
                           public testing::WithParamInterface<QByteArray> {};
 
-TEST_P(UnreadableContent, countsAsNoSettingsAndIsKeptBesideTheNewFile) {
+TEST_P(UnreadableContent, readsAsNoSettingsAndIsSetAsideByTheNextStore) {
     writeFile(path(), GetParam());
     PreferencesFile preferences(path());
     EXPECT_EQ(preferences.boolean(u"sound"_s), std::nullopt);
@@ -62,16 +64,16 @@ TEST_P(UnreadableContent, countsAsNoSettingsAndIsKeptBesideTheNewFile) {
 INSTANTIATE_TEST_SUITE_P(
     PreferencesFault, UnreadableContent,
     testing::Values(QByteArray(""), QByteArray("[General]\nsound=false\n"),
-                    QByteArray::fromHex("a165736f756e64f400"),  // a byte after the end
-                    QByteArray::fromHex("a165736f756e64"),      // a key without its value
-                    QByteArray::fromHex("a265736f756e64f4"),    // one entry of two
-                    QByteArray::fromHex("bf65736f756e64f4"),    // no end mark
-                    QByteArray::fromHex("a265736f756e64f465736f756e64f5"),  // one key twice
-                    QByteArray::fromHex("8165736f756e64"),                  // a list
-                    QByteArray::fromHex("a161ff5b7fffffffffffffff"),  // a length beyond all memory
-                    QByteArray("\xa1\x61x", 3) + QByteArray(100000, '\x81')));  // endlessly deep
+                    QByteArray::fromHex("a165736f756e64f400"),              // a trailing byte
+                    QByteArray::fromHex("a165736f756e64"),                  // a key without a value
+                    QByteArray::fromHex("a265736f756e64f4"),                // one entry of two
+                    QByteArray::fromHex("bf65736f756e64f4"),                // no break byte
+                    QByteArray::fromHex("a265736f756e64f465736f756e64f5"),  // a duplicate key
+                    QByteArray::fromHex("8165736f756e64"),                  // an array
+                    QByteArray::fromHex("a161ff5b7fffffffffffffff"),  // a length larger than memory
+                    QByteArray("\xa1\x61x", 3) + QByteArray(100000, '\x81')));  // too deeply nested
 
-TEST_F(PreferencesFault, aFileTooLargeToBeSettingsIsKeptBesideTheNewOne) {
+TEST_F(PreferencesFault, setsAFileAsideThatIsTooLarge) {
     writeFile(path(), "");
     fs::resize_file(path(), 10'000'000'000);
 
@@ -81,7 +83,7 @@ TEST_F(PreferencesFault, aFileTooLargeToBeSettingsIsKeptBesideTheNewOne) {
     EXPECT_EQ(fs::file_size(aside()), 10'000'000'000u);
 }
 
-TEST_F(PreferencesFault, whatWasSetAsideBeforeIsNeverOverwritten) {
+TEST_F(PreferencesFault, neverOverwritesAFileThatWasSetAside) {
     for (const char* content : {"first", "second", "third"}) {
         writeFile(path(), content);
         EXPECT_TRUE(PreferencesFile(path()).store(u"sound"_s, false));
@@ -92,7 +94,7 @@ TEST_F(PreferencesFault, whatWasSetAsideBeforeIsNeverOverwritten) {
     EXPECT_EQ(readFile(folder() / "preferences.cbor.unreadable-3"), "third");
 }
 
-TEST_F(PreferencesFault, aFolderInTheFilesPlaceIsMovedAside) {
+TEST_F(PreferencesFault, setsAFolderAsideThatIsInTheFilesPlace) {
     writeFile(path() / "inside", "kept");
 
     EXPECT_TRUE(PreferencesFile(path()).store(u"sound"_s, false));
@@ -101,7 +103,7 @@ TEST_F(PreferencesFault, aFolderInTheFilesPlaceIsMovedAside) {
     EXPECT_EQ(readFile(aside() / "inside"), "kept");
 }
 
-TEST_F(PreferencesFault, aPipeInTheFilesPlaceHoldsNothingUp) {
+TEST_F(PreferencesFault, doesNotBlockOnANamedPipeInTheFilesPlace) {
     ASSERT_EQ(::mkfifo(path().c_str(), 0600), 0);
 
     EXPECT_TRUE(PreferencesFile(path()).store(u"sound"_s, false));
@@ -110,7 +112,7 @@ TEST_F(PreferencesFault, aPipeInTheFilesPlaceHoldsNothingUp) {
     EXPECT_TRUE(fs::is_fifo(aside()));
 }
 
-TEST_F(PreferencesFault, aFileThatMayNotBeReadIsKeptBesideTheNewOne) {
+TEST_F(PreferencesFault, setsAFileAsideThatItHasNoPermissionToRead) {
     writeFile(path(), "secret");
     const AsOrdinaryUser ordinary(folder().parent_path());
     fs::permissions(path(), fs::perms::none);
@@ -122,7 +124,7 @@ TEST_F(PreferencesFault, aFileThatMayNotBeReadIsKeptBesideTheNewOne) {
     EXPECT_EQ(readFile(aside()), "secret");
 }
 
-TEST_F(PreferencesFault, aFileThatCouldNotBeReadAtTheStartIsKeptEvenIfItCanBeReadLater) {
+TEST_F(PreferencesFault, setsAFileAsideThatBecameReadableOnlyAfterTheStart) {
     const QByteArray old = QCborValue(QCborMap{{u"best-Swift"_s, 900}}).toCbor();
     writeFile(path(), old);
     const AsOrdinaryUser ordinary(folder().parent_path());
@@ -136,7 +138,7 @@ TEST_F(PreferencesFault, aFileThatCouldNotBeReadAtTheStartIsKeptEvenIfItCanBeRea
     EXPECT_EQ(readFile(aside()), old);
 }
 
-TEST_F(PreferencesFault, inAFolderThatMayNotBeWrittenTheLastGoodFileStays) {
+TEST_F(PreferencesFault, keepsTheOldFileInAFolderWithoutWritePermission) {
     ASSERT_TRUE(PreferencesFile(path()).store(u"sound"_s, true));
     const QByteArray before = readFile(path());
     const AsOrdinaryUser ordinary(folder().parent_path());
@@ -152,7 +154,7 @@ TEST_F(PreferencesFault, inAFolderThatMayNotBeWrittenTheLastGoodFileStays) {
     EXPECT_EQ(settingsIn(path()), settingsOf({{u"sound"_s, false}, {u"best-Swift"_s, 10}}));
 }
 
-TEST_F(PreferencesFault, aLockFileThatMayNotBeWrittenStillAllowsSaving) {
+TEST_F(PreferencesFault, storesWithALockFileThatIsReadOnly) {
     writeFile(path().native() + ".lock", "");
     const AsOrdinaryUser ordinary(folder().parent_path());
     fs::permissions(path().native() + ".lock", fs::perms::owner_read);
@@ -160,7 +162,7 @@ TEST_F(PreferencesFault, aLockFileThatMayNotBeWrittenStillAllowsSaving) {
     EXPECT_TRUE(PreferencesFile(path()).store(u"sound"_s, false));
 }
 
-TEST_F(PreferencesFault, aLockFileThatMayNotBeOpenedStillAllowsSaving) {
+TEST_F(PreferencesFault, storesWithALockFileThatItHasNoPermissionToOpen) {
     writeFile(path().native() + ".lock", "");
     const AsOrdinaryUser ordinary(folder().parent_path());
     fs::permissions(path().native() + ".lock", fs::perms::none);
@@ -168,13 +170,13 @@ TEST_F(PreferencesFault, aLockFileThatMayNotBeOpenedStillAllowsSaving) {
     EXPECT_TRUE(PreferencesFile(path()).store(u"sound"_s, false));
 }
 
-TEST_F(PreferencesFault, aLinkToItselfInTheLocksPlaceStillAllowsSaving) {
+TEST_F(PreferencesFault, storesWithASymbolicLinkLoopInTheLockFilesPlace) {
     fs::create_symlink("preferences.cbor.lock", path().native() + ".lock");
 
     EXPECT_TRUE(PreferencesFile(path()).store(u"sound"_s, false));
 }
 
-TEST_F(PreferencesFault, onAFullDiskTheLastGoodFileStaysAndTheNextSaveCatchesUp) {
+TEST_F(PreferencesFault, keepsTheOldFileOnAFullDiskAndWritesEverythingWithTheNextStore) {
     PreferencesFile preferences(path());
     ASSERT_TRUE(preferences.store(u"best-Swift"_s, 10));
     const QByteArray before = readFile(path());
@@ -194,7 +196,7 @@ TEST_F(PreferencesFault, onAFullDiskTheLastGoodFileStaysAndTheNextSaveCatchesUp)
         settingsOf({{u"best-Swift"_s, 20}, {u"player-name"_s, u"Ada"_s}, {u"sound"_s, false}}));
 }
 
-TEST_F(PreferencesFault, whatCouldNotBeSavedIsSavedAtTheEndIfItCanBeByThen) {
+TEST_F(PreferencesFault, writesUnsavedValuesOnDestruction) {
     {
         PreferencesFile preferences(path());
         ASSERT_TRUE(preferences.store(u"best-Swift"_s, 10));
@@ -209,14 +211,14 @@ TEST_F(PreferencesFault, whatCouldNotBeSavedIsSavedAtTheEndIfItCanBeByThen) {
     EXPECT_EQ(settingsIn(path()), settingsOf({{u"best-Swift"_s, 20}, {u"sound"_s, false}}));
 }
 
-TEST_F(PreferencesFault, anEndWithNothingLeftToSaveWritesNothing) {
+TEST_F(PreferencesFault, writesNothingOnDestructionWithoutUnsavedValues) {
     { const PreferencesFile preferences(path()); }
 
     EXPECT_FALSE(fs::exists(path()));
 }
 
-TEST_F(PreferencesFault, aFolderDeeperThanAnyPathReachesOnlyCostsTheSave) {
-    // One step for each of its levels, each with the path in hand, would take all memory.
+TEST_F(PreferencesFault, failsToStoreInAFolderWithTooLongAPath) {
+    // Recursing into each level with a copy of the path would take all memory.
     std::string deep = folder().native();
     for (int level = 0; level < 50'000; ++level) {
         deep += "/x";
@@ -225,7 +227,7 @@ TEST_F(PreferencesFault, aFolderDeeperThanAnyPathReachesOnlyCostsTheSave) {
     EXPECT_FALSE(PreferencesFile(deep + "/preferences.cbor").store(u"sound"_s, false));
 }
 
-TEST_F(PreferencesFault, missingFoldersAreMadeAndAnUnmakeableOneOnlyCostsTheSave) {
+TEST_F(PreferencesFault, createsMissingFoldersAndFailsToStoreWhereItCannot) {
     EXPECT_TRUE(PreferencesFile(folder() / "a/b/c/preferences.cbor").store(u"sound"_s, false));
     writeFile(folder() / "plain", "a file");
     PreferencesFile preferences(folder() / "plain/fernwick/preferences.cbor");
@@ -237,7 +239,7 @@ TEST_F(PreferencesFault, missingFoldersAreMadeAndAnUnmakeableOneOnlyCostsTheSave
     EXPECT_EQ(readFile(folder() / "plain"), "a file");
 }
 
-TEST_F(PreferencesFault, aDeletedFileIsWrittenAnewWithEverythingKnown) {
+TEST_F(PreferencesFault, rewritesADeletedFileWithAllKnownSettings) {
     PreferencesFile preferences(path());
     ASSERT_TRUE(preferences.store(u"best-Swift"_s, 10));
     fs::remove_all(folder());
@@ -245,4 +247,43 @@ TEST_F(PreferencesFault, aDeletedFileIsWrittenAnewWithEverythingKnown) {
     EXPECT_TRUE(preferences.store(u"sound"_s, false));
 
     EXPECT_EQ(settingsIn(path()), settingsOf({{u"best-Swift"_s, 10}, {u"sound"_s, false}}));
+}
+
+TEST_F(PreferencesFault, logsWhatItReadAndWhereFrom) {
+    const LogCapture log(u"fernwick.storage"_s);
+    const QString expected = u"fernwick.storage: "_s + QString::fromStdString(path()) + u": "_s;
+
+    const PreferencesFile absent(path());
+    EXPECT_TRUE(log.contains(expected + u"absent"_s)) << log.all().toStdString();
+
+    EXPECT_TRUE(PreferencesFile(path()).store(u"sound"_s, false));
+    const PreferencesFile loaded(path());
+    EXPECT_TRUE(log.contains(expected + u"loaded"_s)) << log.all().toStdString();
+
+    writeFile(path(), "unreadable");
+    EXPECT_TRUE(PreferencesFile(path()).store(u"sound"_s, false));
+    EXPECT_TRUE(log.contains(expected + u"unreadable"_s)) << log.all().toStdString();
+    EXPECT_TRUE(log.contains(u"aside as "_s + QString::fromStdString(aside())));
+}
+
+TEST_F(PreferencesFault, logsWhyAStoreFailed) {
+    PreferencesFile preferences(path());
+    const LogCapture log(u"fernwick.storage"_s);
+    {
+        const FileSizeLimit full(0);
+        EXPECT_FALSE(preferences.store(u"best-Swift"_s, 20));
+    }
+
+    EXPECT_TRUE(log.contains(u"write failed: File too large"_s)) << log.all().toStdString();
+    EXPECT_TRUE(log.contains(u"could not store \"best-Swift\""_s)) << log.all().toStdString();
+}
+
+TEST_F(PreferencesFault, printsNothingUnlessTheLogIsEnabled) {
+    testing::internal::CaptureStderr();
+    {
+        PreferencesFile preferences(path());
+        const FileSizeLimit full(0);
+        EXPECT_FALSE(preferences.store(u"best-Swift"_s, 20));
+    }
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }

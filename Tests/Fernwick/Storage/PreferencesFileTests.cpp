@@ -11,6 +11,7 @@
 
 namespace fs = std::filesystem;
 using namespace Qt::StringLiterals;
+using Storage::PreferencesFile;
 
 namespace {
 
@@ -31,7 +32,7 @@ mode_t permissionsOf(const fs::path& path) {
 
 }  // namespace
 
-TEST_F(PreferencesFileTest, aFirstStartFindsNothingAndLeavesNothingBehind) {
+TEST_F(PreferencesFileTest, readingCreatesNoFiles) {
     const PreferencesFile preferences(path());
 
     EXPECT_EQ(preferences.integer(u"best-Classic"_s), 0);
@@ -41,7 +42,7 @@ TEST_F(PreferencesFileTest, aFirstStartFindsNothingAndLeavesNothingBehind) {
     EXPECT_FALSE(fs::exists(folder()));
 }
 
-TEST_F(PreferencesFileTest, everyTypeIsFoundAgainAtTheNextStart) {
+TEST_F(PreferencesFileTest, readsBackEveryType) {
     const QByteArray everyByte = [] {
         QByteArray bytes;
         for (int byte = 0; byte < 256; ++byte) {
@@ -74,7 +75,7 @@ TEST_F(PreferencesFileTest, everyTypeIsFoundAgainAtTheNextStart) {
     EXPECT_EQ(preferences.bytes(u"no bytes"_s), QByteArray(""));
 }
 
-TEST_F(PreferencesFileTest, oneTypeIsNeverReadAsAnother) {
+TEST_F(PreferencesFileTest, neverReadsOneTypeAsAnother) {
     PreferencesFile preferences(path());
     const QList<QCborValue> values{true,
                                    7,
@@ -95,7 +96,7 @@ TEST_F(PreferencesFileTest, oneTypeIsNeverReadAsAnother) {
     }
 }
 
-TEST_F(PreferencesFileTest, aNumberWithAFractionReadsAsItsWholePart) {
+TEST_F(PreferencesFileTest, readsAFractionAsItsIntegerPart) {
     PreferencesFile preferences(path());
     const std::pair<double, std::int64_t> cases[]{
         {250.9, 250}, {-3.5, -3}, {1e300, 0}, {std::numeric_limits<double>::quiet_NaN(), 0}};
@@ -106,7 +107,7 @@ TEST_F(PreferencesFileTest, aNumberWithAFractionReadsAsItsWholePart) {
     }
 }
 
-TEST_F(PreferencesFileTest, keysOfOthersOfAnyTypeAreKept) {
+TEST_F(PreferencesFileTest, keepsUnknownKeysOfAnyType) {
     QCborMap others{{u"later-version"_s, QCborArray{1, u"two"_s, QCborMap{{3, 4.5}}}},
                     {u"nothing"_s, nullptr},
                     {12, u"a number as the key"_s},
@@ -121,7 +122,7 @@ TEST_F(PreferencesFileTest, keysOfOthersOfAnyTypeAreKept) {
     EXPECT_EQ(settingsIn(path()), settingsOf(others));
 }
 
-TEST_F(PreferencesFileTest, aKeyEncodedInAnUnusualWayIsFoundAndReplaced) {
+TEST_F(PreferencesFileTest, findsAndReplacesAKeyInANonCanonicalEncoding) {
     writeFile(path(), QByteArray::fromHex("bf7f62736f63756e64fff4ff"));
     PreferencesFile preferences(path());
     EXPECT_EQ(preferences.boolean(u"sound"_s), false);
@@ -131,7 +132,7 @@ TEST_F(PreferencesFileTest, aKeyEncodedInAnUnusualWayIsFoundAndReplaced) {
     EXPECT_EQ(settingsIn(path()), settingsOf({{u"sound"_s, true}}));
 }
 
-TEST_F(PreferencesFileTest, whatAnotherProgramStoredMeanwhileSurvives) {
+TEST_F(PreferencesFileTest, keepsWhatAnotherProcessHasStoredSince) {
     PreferencesFile one(path());
     PreferencesFile other(path());
     EXPECT_TRUE(one.store(u"best-Swift"_s, 40));
@@ -142,14 +143,14 @@ TEST_F(PreferencesFileTest, whatAnotherProgramStoredMeanwhileSurvives) {
     EXPECT_EQ(other.integer(u"best-Swift"_s), 40);
 }
 
-TEST_F(PreferencesFileTest, onlyThisUserMayReadTheFileAndItsFolder) {
+TEST_F(PreferencesFileTest, createsTheFileAndItsFolderForTheUserOnly) {
     EXPECT_TRUE(PreferencesFile(path()).store(u"player-name"_s, u"Ada"_s));
 
     EXPECT_EQ(permissionsOf(folder()), 0700u);
     EXPECT_EQ(permissionsOf(path()), 0600u);
 }
 
-TEST_F(PreferencesFileTest, nothingButTheFileAndItsLockIsLeftInTheFolder) {
+TEST_F(PreferencesFileTest, leavesOnlyTheFileAndItsLockInTheFolder) {
     PreferencesFile preferences(path());
     for (int score = 0; score < 20; ++score) {
         EXPECT_TRUE(preferences.store(u"best-Classic"_s, score));
@@ -159,7 +160,7 @@ TEST_F(PreferencesFileTest, nothingButTheFileAndItsLockIsLeftInTheFolder) {
               (std::vector<std::string>{"preferences.cbor", "preferences.cbor.lock"}));
 }
 
-TEST_F(PreferencesFileTest, withoutAPathTheSettingsLiveInMemoryOnly) {
+TEST_F(PreferencesFileTest, keepsSettingsInMemoryWithoutAPath) {
     PreferencesFile preferences{fs::path()};
 
     EXPECT_FALSE(preferences.store(u"sound"_s, false));
@@ -167,14 +168,14 @@ TEST_F(PreferencesFileTest, withoutAPathTheSettingsLiveInMemoryOnly) {
     EXPECT_EQ(preferences.boolean(u"sound"_s), false);
 }
 
-TEST(PreferencesFilePath, liesInTheUsersConfigurationFolder) {
+TEST(PreferencesFilePath, isInTheConfigurationFolder) {
     const EnvironmentVariable home("HOME", "/home/ada");
     const EnvironmentVariable configuration("XDG_CONFIG_HOME", "/settings");
 
     EXPECT_EQ(PreferencesFile::defaultPath(), "/settings/fernwick/preferences.cbor");
 }
 
-TEST(PreferencesFilePath, isBelowTheHomeFolderWhenNoneIsSetOrARelativeOne) {
+TEST(PreferencesFilePath, isInTheHomeFolderUnlessTheConfigurationFolderIsAbsolute) {
     const EnvironmentVariable home("HOME", "/home/ada");
     for (const char* ignored : {static_cast<const char*>(nullptr), "", "settings", "./settings"}) {
         const EnvironmentVariable configuration("XDG_CONFIG_HOME", ignored);
@@ -183,7 +184,7 @@ TEST(PreferencesFilePath, isBelowTheHomeFolderWhenNoneIsSetOrARelativeOne) {
     }
 }
 
-TEST(PreferencesFilePath, isAbsoluteForAUserWithoutAHomeVariable) {
+TEST(PreferencesFilePath, isAbsoluteOrEmptyWithoutAHomeVariable) {
     const EnvironmentVariable configuration("XDG_CONFIG_HOME", nullptr);
     const EnvironmentVariable home("HOME", nullptr);
 

@@ -13,15 +13,16 @@
 
 namespace fs = std::filesystem;
 using namespace Qt::StringLiterals;
+using Storage::PreferencesFile;
 
 namespace {
 
-/// Large enough to take several writes of the disk, and different each time.
+/// Several disk blocks, different for each count.
 QByteArray tableOf(std::int64_t count) {
     return QByteArray::number(static_cast<qlonglong>(count)).repeated(5000);
 }
 
-// What a program reports of its saves, each of which has a number from 1 on.
+// Each process numbers its saves from 1 and reports when each begins and returns.
 constexpr std::int64_t beginningOf(std::int64_t save) {
     return 2 * save - 1;
 }
@@ -43,13 +44,13 @@ protected:
     [[nodiscard]] fs::path folder() const { return folder_.path() / "fernwick"; }
     [[nodiscard]] fs::path path() const { return folder() / "preferences.cbor"; }
 
-    /// A save in two steps, so that a program can also end between them.
+    /// Two stores, so that a process can also be killed between them.
     [[nodiscard]] static bool save(PreferencesFile& preferences, std::int64_t count) {
         return preferences.store(u"table"_s, tableOf(count)) &&
                preferences.store(u"count"_s, static_cast<qint64>(count));
     }
 
-    /// On this machine, with its disk as busy as it is now.
+    /// The time of a save on this machine at its current load.
     [[nodiscard]] static std::int64_t microsecondsOfASave() {
         constexpr int saves = 20;
         const TemporaryFolder elsewhere;
@@ -67,15 +68,15 @@ private:
 
 }  // namespace
 
-// FERNWICK_KILL_ROUNDS programs are killed.
-TEST_F(PreferencesKill, everySaveThatHadReturnedIsThereAndTheFileIsWhole) {
+// Kills as many processes as FERNWICK_KILL_ROUNDS says.
+TEST_F(PreferencesKill, keepsEverySaveThatHasReturned) {
     const auto rounds = static_cast<int>(environmentNumber("FERNWICK_KILL_ROUNDS", 300));
     std::mt19937 random(std::random_device{}());
     std::uniform_int_distribution<std::int64_t> lifetime(0, 2 * microsecondsOfASave());
     std::int64_t saved = 0;
     int insideASave = 0;
     for (int round = 0; round < rounds; ++round) {
-        ForkedProcess game([&](const auto& report) {
+        ForkedProcess process([&](const auto& report) {
             report(returnOf(saved));
             PreferencesFile preferences(path());
             for (std::int64_t count = saved + 1;; ++count) {
@@ -85,15 +86,15 @@ TEST_F(PreferencesKill, everySaveThatHadReturnedIsThereAndTheFileIsWhole) {
                 }
             }
         });
-        // Half of the programs die anywhere, half after a save however slow the machine is.
-        std::int64_t last = game.nextReport(returnOf(saved));
+        // Kill half of the processes at any time, the other half after at least one save.
+        std::int64_t last = process.nextReport(returnOf(saved));
         if (round % 2 == 1) {
-            const std::int64_t begun = game.nextReport(last);
-            last = game.nextReport(begun);
+            const std::int64_t begun = process.nextReport(last);
+            last = process.nextReport(begun);
         }
         std::this_thread::sleep_for(std::chrono::microseconds(lifetime(random)));
-        game.kill();
-        last = game.lastReport(last);
+        process.kill();
+        last = process.lastReport(last);
         insideASave += isBeginning(last) ? 1 : 0;
         const std::int64_t returned = lastReturned(last);
 
@@ -110,13 +111,13 @@ TEST_F(PreferencesKill, everySaveThatHadReturnedIsThereAndTheFileIsWhole) {
     }
     EXPECT_GE(saved, rounds / 2);
     EXPECT_GE(insideASave, rounds / 2);
-    std::cout << rounds << " programs killed, " << insideASave << " of them while they saved; "
+    std::cout << rounds << " processes killed, " << insideASave << " of them during a save; "
               << saved << " saves, none lost\n";
     EXPECT_EQ(namesIn(folder()),
               (std::vector<std::string>{"preferences.cbor", "preferences.cbor.lock"}));
 }
 
-TEST_F(PreferencesKill, twoProgramsThatSaveAtOnceLoseNothingOfEachOther) {
+TEST_F(PreferencesKill, concurrentProcessesKeepEachOthersSettings) {
     constexpr qint64 saves = 150;
     const auto saveUnder = [&](const QString& key) {
         return [this, key](const auto&) {
@@ -127,18 +128,18 @@ TEST_F(PreferencesKill, twoProgramsThatSaveAtOnceLoseNothingOfEachOther) {
             }
         };
     };
-    ForkedProcess one(saveUnder(u"one"_s));
-    ForkedProcess other(saveUnder(u"other"_s));
+    ForkedProcess first(saveUnder(u"one"_s));
+    ForkedProcess second(saveUnder(u"other"_s));
 
-    EXPECT_EQ(one.wait(), 0);
-    EXPECT_EQ(other.wait(), 0);
+    EXPECT_EQ(first.wait(), 0);
+    EXPECT_EQ(second.wait(), 0);
 
     EXPECT_EQ(settingsIn(path()), settingsOf({{u"one"_s, saves}, {u"other"_s, saves}}));
 }
 
-TEST_F(PreferencesKill, whoReadsWhileAnotherSavesFindsOneSaveOrTheNext) {
+TEST_F(PreferencesKill, aReaderNeverSeesAPartOfASave) {
     ASSERT_TRUE(PreferencesFile(path()).store(u"table"_s, tableOf(1)));
-    const ForkedProcess game([this](const auto&) {
+    const ForkedProcess process([this](const auto&) {
         PreferencesFile preferences(path());
         for (std::int64_t count = 1;; count = count % 9 + 1) {
             static_cast<void>(preferences.store(u"table"_s, tableOf(count)));

@@ -8,11 +8,13 @@
 #include "Storage/PreferencesFile.hpp"
 #include "Support/FileContent.hpp"
 #include "Support/ForkedProcess.hpp"
+#include "Support/LogCapture.hpp"
 #include "Support/TemporaryFolder.hpp"
 
 namespace fs = std::filesystem;
 using namespace Qt::StringLiterals;
-using SystemCalls::Fate;
+using Storage::PreferencesFile;
+using SystemCalls::Outcome;
 
 namespace {
 
@@ -20,7 +22,7 @@ const QString table = u"table"_s;
 const QByteArray oldTable(70000, 'o');
 const QByteArray newTable(90000, 'n');
 
-/// A disk on which the old table is stored.
+/// A temporary folder in which the old table is stored.
 class Disk {
 public:
     Disk() { EXPECT_TRUE(PreferencesFile(path()).store(table, oldTable)); }
@@ -36,12 +38,12 @@ private:
     TemporaryFolder folder_;
 };
 
-struct Outcome {
+struct Result {
     bool stored;
     std::vector<std::string> calls;
 };
 
-Outcome storeNew(PreferencesFile& preferences, const SystemCalls::Plan& plan) {
+Result storeNew(PreferencesFile& preferences, const SystemCalls::Plan& plan) {
     SystemCalls::watch(plan);
     const bool stored = preferences.store(table, newTable);
     return {stored, SystemCalls::unwatch()};
@@ -57,7 +59,7 @@ class PreferencesSystemCall : public testing::TestWithParam<int> {};
 
 }  // namespace
 
-TEST(PreferencesSystemCalls, theContentIsOnTheDiskBeforeItTakesItsNameAndTheNameAfter) {
+TEST(PreferencesSystemCalls, syncsTheContentBeforeTheRenameAndTheFolderAfter) {
     std::vector<std::string> calls = callsOfAStore();
     std::erase_if(calls, [](const std::string& call) {
         return call != "mkostemp" && call != "write" && call != "fsync" && call != "rename";
@@ -66,7 +68,7 @@ TEST(PreferencesSystemCalls, theContentIsOnTheDiskBeforeItTakesItsNameAndTheName
     EXPECT_EQ(calls, (std::vector<std::string>{"mkostemp", "write", "fsync", "rename", "fsync"}));
 }
 
-TEST_P(PreferencesSystemCall, thatFailsLeavesTheOldContentOrTheNewAndTheNextSaveCatchesUp) {
+TEST_P(PreferencesSystemCall, failingOnceLeavesTheOldContentOrTheNew) {
     const std::size_t count = callsOfAStore().size();
     ASSERT_GT(count, 10u);
     for (std::size_t call = 0; call < count; ++call) {
@@ -74,7 +76,7 @@ TEST_P(PreferencesSystemCall, thatFailsLeavesTheOldContentOrTheNewAndTheNextSave
         PreferencesFile preferences(disk.path());
 
         const auto [stored, calls] =
-            storeNew(preferences, {.call = call, .fate = Fate::fails, .error = GetParam()});
+            storeNew(preferences, {.call = call, .outcome = Outcome::fails, .error = GetParam()});
 
         SCOPED_TRACE(calls[call] + ", call " + std::to_string(call));
         EXPECT_EQ(preferences.bytes(table), newTable);
@@ -86,14 +88,15 @@ TEST_P(PreferencesSystemCall, thatFailsLeavesTheOldContentOrTheNewAndTheNextSave
     }
 }
 
-TEST_P(PreferencesSystemCall, thatKeepsFailingLeavesTheOldContentOrTheNew) {
+TEST_P(PreferencesSystemCall, failingRepeatedlyLeavesTheOldContentOrTheNew) {
     const std::size_t count = callsOfAStore().size();
     for (std::size_t call = 0; call < count; ++call) {
         const Disk disk;
         PreferencesFile preferences(disk.path());
 
         const auto [stored, calls] = storeNew(
-            preferences, {.call = call, .fate = Fate::fails, .error = GetParam(), .lasts = true});
+            preferences,
+            {.call = call, .outcome = Outcome::fails, .error = GetParam(), .repeats = true});
 
         SCOPED_TRACE(calls[call] + ", call " + std::to_string(call));
         EXPECT_TRUE(disk.stored() == newTable || (!stored && disk.stored() == oldTable));
@@ -102,67 +105,86 @@ TEST_P(PreferencesSystemCall, thatKeepsFailingLeavesTheOldContentOrTheNew) {
     }
 }
 
+TEST_P(PreferencesSystemCall, isLoggedWithItsErrorWhenTheStoreFails) {
+    const QString reason = QString::fromLatin1(std::strerror(GetParam()));
+    const std::size_t count = callsOfAStore().size();
+    int failures = 0;
+    for (std::size_t call = 0; call < count; ++call) {
+        const Disk disk;
+        PreferencesFile preferences(disk.path());
+        const LogCapture log(u"fernwick.storage"_s);
+
+        const auto [stored, calls] = storeNew(
+            preferences,
+            {.call = call, .outcome = Outcome::fails, .error = GetParam(), .repeats = true});
+
+        failures += stored ? 0 : 1;
+        EXPECT_TRUE(stored || log.contains(reason)) << calls[call] << ", call " << call;
+    }
+    EXPECT_GT(failures, 3);
+}
+
 INSTANTIATE_TEST_SUITE_P(PreferencesSystemCalls, PreferencesSystemCall,
                          testing::Values(ENOSPC, EDQUOT, EIO, EACCES, EROFS, EMFILE),
                          [](const auto& instance) {
                              return std::string(::strerrorname_np(instance.param));
                          });
 
-TEST(PreferencesSystemCalls, anInterruptedCallIsMadeAgain) {
+TEST(PreferencesSystemCalls, retriesInterruptedCalls) {
     const std::size_t count = callsOfAStore().size();
     for (std::size_t call = 0; call < count; ++call) {
         const Disk disk;
         PreferencesFile preferences(disk.path());
 
         const auto [stored, calls] =
-            storeNew(preferences, {.call = call, .fate = Fate::fails, .error = EINTR});
+            storeNew(preferences, {.call = call, .outcome = Outcome::fails, .error = EINTR});
 
         EXPECT_TRUE(stored) << calls[call] << ", call " << call;
         EXPECT_EQ(disk.stored(), newTable);
     }
 }
 
-TEST(PreferencesSystemCalls, whatAShortWriteLeavesOutIsWrittenNext) {
+TEST(PreferencesSystemCalls, continuesAfterAShortWrite) {
     const Disk disk;
     PreferencesFile preferences(disk.path());
     const std::vector<std::string> calls = callsOfAStore();
     const auto write = std::find(calls.begin(), calls.end(), "write") - calls.begin();
 
-    const auto [stored, callsMade] =
-        storeNew(preferences,
-                 {.call = static_cast<std::size_t>(write), .fate = Fate::isShort, .lasts = true});
+    const auto [stored, callsMade] = storeNew(
+        preferences,
+        {.call = static_cast<std::size_t>(write), .outcome = Outcome::shortWrite, .repeats = true});
 
     EXPECT_TRUE(stored);
     EXPECT_EQ(disk.stored(), newTable);
     EXPECT_GT(std::count(callsMade.begin(), callsMade.end(), "write"), 5);
 }
 
-TEST(PreferencesSystemCalls, aFileSystemWithoutLocksIsWrittenAllTheSame) {
+TEST(PreferencesSystemCalls, storesOnAFileSystemWithoutLocks) {
     const std::vector<std::string> calls = callsOfAStore();
     const auto flock = std::find(calls.begin(), calls.end(), "flock") - calls.begin();
     for (const int error : {ENOLCK, ENOSYS, EOPNOTSUPP}) {
         const Disk disk;
         PreferencesFile preferences(disk.path());
 
-        EXPECT_TRUE(
-            storeNew(preferences,
-                     {.call = static_cast<std::size_t>(flock), .fate = Fate::fails, .error = error})
-                .stored);
+        EXPECT_TRUE(storeNew(preferences, {.call = static_cast<std::size_t>(flock),
+                                           .outcome = Outcome::fails,
+                                           .error = error})
+                        .stored);
         EXPECT_EQ(disk.stored(), newTable);
     }
 }
 
-TEST(PreferencesSystemCalls, aProgramThatEndsAtAnyCallLeavesTheOldContentOrTheNew) {
+TEST(PreferencesSystemCalls, exitingAtAnyCallLeavesTheOldContentOrTheNew) {
     const std::size_t count = callsOfAStore().size();
     bool renamed = false;
     for (std::size_t call = 0; call < count; ++call) {
-        for (const Fate fate : {Fate::endsUs, Fate::endsAfter}) {
+        for (const Outcome outcome : {Outcome::exitsBefore, Outcome::exitsAfter}) {
             const Disk disk;
-            ForkedProcess game([&](const auto&) {
+            ForkedProcess process([&](const auto&) {
                 PreferencesFile preferences(disk.path());
-                static_cast<void>(storeNew(preferences, {.call = call, .fate = fate}));
+                static_cast<void>(storeNew(preferences, {.call = call, .outcome = outcome}));
             });
-            EXPECT_EQ(game.wait(), 1);
+            EXPECT_EQ(process.wait(), 1);
 
             const QByteArray stored = disk.stored();
 
@@ -174,14 +196,14 @@ TEST(PreferencesSystemCalls, aProgramThatEndsAtAnyCallLeavesTheOldContentOrTheNe
     EXPECT_TRUE(renamed);
 }
 
-TEST(PreferencesSystemCalls, anUnreadableFileIsKeptWhicheverCallFails) {
+TEST(PreferencesSystemCalls, keepsAnUnreadableFileWhicheverCallFails) {
     for (std::size_t call = 0;; ++call) {
         const Disk disk;
         writeFile(disk.path(), "unreadable");
         PreferencesFile preferences(disk.path());
 
         const auto [stored, calls] =
-            storeNew(preferences, {.call = call, .fate = Fate::fails, .error = ENOSPC});
+            storeNew(preferences, {.call = call, .outcome = Outcome::fails, .error = ENOSPC});
 
         if (call >= calls.size()) {
             break;

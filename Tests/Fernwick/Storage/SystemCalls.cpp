@@ -13,40 +13,39 @@
 
 namespace {
 
-using SystemCalls::Fate;
+using SystemCalls::Outcome;
 
 bool watched = false;
 SystemCalls::Plan plan;
 std::vector<std::string> calls;
 
-Fate fateOf(const char* name) {
+Outcome outcomeOf(const char* name) {
     const std::size_t number = calls.size();
     calls.emplace_back(name);
     const bool planned = number == plan.call ||
-                         (plan.lasts && number > plan.call && calls[number] == calls[plan.call]);
-    return planned ? plan.fate : Fate::passes;
+                         (plan.repeats && number > plan.call && calls[number] == calls[plan.call]);
+    return planned ? plan.outcome : Outcome::normal;
 }
 
-/// Makes the call, whose own implementation comes next in the order of libraries, or does what
-/// the plan has for it.
+/// Calls the function of libc, or does what the plan says instead.
 template <typename Function, typename... Arguments>
-auto pass(const char* name, Arguments... arguments) {
+auto call(const char* name, Arguments... arguments) {
     const auto next = reinterpret_cast<Function*>(::dlsym(RTLD_NEXT, name));
     using Result = decltype(next(arguments...));
     if (!watched) {
         return next(arguments...);
     }
-    switch (fateOf(name)) {
-        case Fate::fails:
+    switch (outcomeOf(name)) {
+        case Outcome::fails:
             errno = plan.error;
             return static_cast<Result>(-1);
-        case Fate::endsUs:
+        case Outcome::exitsBefore:
             ::_exit(1);
-        case Fate::endsAfter:
+        case Outcome::exitsAfter:
             static_cast<void>(next(arguments...));
             ::_exit(1);
-        case Fate::isShort:
-        case Fate::passes:
+        case Outcome::shortWrite:
+        case Outcome::normal:
             break;
     }
     return next(arguments...);
@@ -75,52 +74,52 @@ int open(const char* path, int flags, ...) {
         mode = va_arg(arguments, mode_t);
         va_end(arguments);
     }
-    return pass<int(const char*, int, ...)>("open", path, flags, mode);
+    return call<int(const char*, int, ...)>("open", path, flags, mode);
 }
 
 int mkostemp(char* pattern, int flags) {
-    return pass<int(char*, int)>("mkostemp", pattern, flags);
+    return call<int(char*, int)>("mkostemp", pattern, flags);
 }
 
 ssize_t read(int file, void* bytes, std::size_t size) {
-    return pass<ssize_t(int, void*, std::size_t)>("read", file, bytes, size);
+    return call<ssize_t(int, void*, std::size_t)>("read", file, bytes, size);
 }
 
 ssize_t write(int file, const void* bytes, std::size_t size) {
-    const bool halved = watched && plan.fate == Fate::isShort && size > 1 &&
-                        (calls.size() == plan.call || plan.lasts);
-    return pass<ssize_t(int, const void*, std::size_t)>("write", file, bytes,
+    const bool halved = watched && plan.outcome == Outcome::shortWrite && size > 1 &&
+                        (calls.size() == plan.call || plan.repeats);
+    return call<ssize_t(int, const void*, std::size_t)>("write", file, bytes,
                                                         halved ? size / 2 : size);
 }
 
 int fsync(int file) {
-    return pass<int(int)>("fsync", file);
+    return call<int(int)>("fsync", file);
 }
 
 int flock(int file, int operation) noexcept {
-    return pass<int(int, int)>("flock", file, operation);
+    return call<int(int, int)>("flock", file, operation);
 }
 
 int rename(const char* from, const char* to) noexcept {
-    return pass<int(const char*, const char*)>("rename", from, to);
+    return call<int(const char*, const char*)>("rename", from, to);
 }
 
 int link(const char* from, const char* to) noexcept {
-    return pass<int(const char*, const char*)>("link", from, to);
+    return call<int(const char*, const char*)>("link", from, to);
 }
 
 int unlink(const char* path) noexcept {
-    return pass<int(const char*)>("unlink", path);
+    return call<int(const char*)>("unlink", path);
 }
 
 int mkdir(const char* path, mode_t mode) noexcept {
-    return pass<int(const char*, mode_t)>("mkdir", path, mode);
+    return call<int(const char*, mode_t)>("mkdir", path, mode);
 }
 
 int close(int file) {
-    const int result = pass<int(int)>("close", file);
+    const int result = call<int(int)>("close", file);
     if (watched && result != 0) {
-        // Even a close() that reports an error has closed the file.
+        // On Linux, a close() that fails has closed the file all the same.
         watched = false;
         close(file);
         watched = true;

@@ -4,31 +4,30 @@
 #include <string>
 #include <vector>
 
-/// Stands between the test program and the system: the calls that touch files can be listed and
-/// made to fail one by one, as no real disk does on demand. Only calls by this thread, between
-/// `watch` and `unwatch`, are counted; all others pass.
+/// Replaces libc's file functions in the test program, to record the calls and let each of them
+/// fail. Only calls between `watch` and `unwatch` count; for programs with one thread.
 namespace SystemCalls {
 
-enum class Fate {
-    passes,
-    fails,      ///< with the error given; does nothing
-    isShort,    ///< writes half of what it should; a call that does not write passes
-    endsUs,     ///< the process is gone before the call does anything
-    endsAfter,  ///< the process is gone once the call is done
+enum class Outcome {
+    normal,
+    fails,        ///< sets errno to `Plan::error` and does nothing
+    shortWrite,   ///< write() writes half of the bytes
+    exitsBefore,  ///< the process exits instead of making the call
+    exitsAfter,   ///< the process exits after the call
 };
 
-/// What happens to call number `call`, counted from 0, and if it `lasts` to all later ones
-/// of the same name.
+/// The outcome of call number `call`, counted from 0, and with `repeats` of all later calls of the
+/// same function.
 struct Plan {
     std::size_t call = 0;
-    Fate fate = Fate::passes;
+    Outcome outcome = Outcome::normal;
     int error = 0;
-    bool lasts = false;
+    bool repeats = false;
 };
 
 void watch(const Plan& plan);
 
-/// The names of the calls that were made, in order.
+/// The names of the functions that were called, in order.
 std::vector<std::string> unwatch();
 
 }  // namespace SystemCalls

@@ -40,7 +40,7 @@ Contrast::Contrast(QObject* parent) : QObject(parent) {
 }
 
 void Contrast::follow() {
-    if (!sessionBusExists()) {
+    if (!Desktop::sessionBusExists()) {
         return;
     }
     auto* setting = new Desktop::PortalSwitch(QDBusConnection::sessionBus(), settings, this);

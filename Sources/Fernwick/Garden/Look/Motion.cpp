@@ -33,7 +33,7 @@ Desktop::PortalSwitch* reducedMotionSetting(const QDBusConnection& bus, QObject*
 
 bool reducedMotion() {
     static QPointer<Desktop::PortalSwitch> setting;
-    if (setting == nullptr && sessionBusExists()) {
+    if (setting == nullptr && Desktop::sessionBusExists()) {
         setting = reducedMotionSetting(QDBusConnection::sessionBus(), qApp);
     }
     return (setting != nullptr && setting->isOn()) ||

@@ -11,12 +11,14 @@
 
 namespace fs = std::filesystem;
 using namespace Qt::StringLiterals;
+using Posix::FileDescriptor;
+using Storage::PreferencesFile;
 
 namespace {
 
-class PreferencesNeighbours : public testing::Test {
+class PreferencesSharing : public testing::Test {
 protected:
-    PreferencesNeighbours() { fs::create_directories(folder()); }
+    PreferencesSharing() { fs::create_directories(folder()); }
 
     [[nodiscard]] fs::path folder() const { return folder_.path() / "fernwick"; }
     [[nodiscard]] fs::path path() const { return folder() / "preferences.cbor"; }
@@ -25,8 +27,7 @@ private:
     TemporaryFolder folder_;
 };
 
-/// Holds the lock as another running program would: a lock belongs to the opened file, not to
-/// the process.
+/// Holds the lock as another process would: flock() locks belong to the open file description.
 FileDescriptor heldLock(const fs::path& path) {
     const std::string lock = path.native() + ".lock";
     FileDescriptor file(::open(lock.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600));
@@ -36,7 +37,7 @@ FileDescriptor heldLock(const fs::path& path) {
 
 }  // namespace
 
-TEST_F(PreferencesNeighbours, aLockThatStaysHeldIsNotWaitedForLongAndTheNextSaveCatchesUp) {
+TEST_F(PreferencesSharing, givesUpOnAHeldLockAndWritesTheValueWithTheNextStore) {
     PreferencesFile preferences(path());
     ASSERT_TRUE(preferences.store(u"best-Swift"_s, 10));
     FileDescriptor held = heldLock(path());
@@ -52,14 +53,14 @@ TEST_F(PreferencesNeighbours, aLockThatStaysHeldIsNotWaitedForLongAndTheNextSave
     EXPECT_EQ(settingsIn(path()), settingsOf({{u"best-Swift"_s, 20}, {u"sound"_s, false}}));
 }
 
-TEST_F(PreferencesNeighbours, aStartReadsEverythingWhileTheLockIsHeld) {
+TEST_F(PreferencesSharing, readsWhileTheLockIsHeld) {
     ASSERT_TRUE(PreferencesFile(path()).store(u"best-Swift"_s, 10));
     const FileDescriptor held = heldLock(path());
 
     EXPECT_EQ(PreferencesFile(path()).integer(u"best-Swift"_s), 10);
 }
 
-TEST_F(PreferencesNeighbours, temporariesOfAKilledProgramAreSweptAtStart) {
+TEST_F(PreferencesSharing, removesTemporaryFilesOfAKilledProcess) {
     writeFile(folder() / "preferences.cbor.new-a1B2c3", "half");
 
     const PreferencesFile preferences(path());
@@ -67,7 +68,7 @@ TEST_F(PreferencesNeighbours, temporariesOfAKilledProgramAreSweptAtStart) {
     EXPECT_FALSE(fs::exists(folder() / "preferences.cbor.new-a1B2c3"));
 }
 
-TEST_F(PreferencesNeighbours, aTemporaryThatALivingProgramMayBeWritingIsLeftAlone) {
+TEST_F(PreferencesSharing, keepsTemporaryFilesWhileTheLockIsHeld) {
     writeFile(folder() / "preferences.cbor.new-a1B2c3", "half");
     const FileDescriptor held = heldLock(path());
 
@@ -76,24 +77,24 @@ TEST_F(PreferencesNeighbours, aTemporaryThatALivingProgramMayBeWritingIsLeftAlon
     EXPECT_TRUE(fs::exists(folder() / "preferences.cbor.new-a1B2c3"));
 }
 
-TEST_F(PreferencesNeighbours, filesThatOnlyLookAlikeAreNotSwept) {
-    const std::vector<std::string> lookAlikes{"other.cbor.new-a1B2c3", "preferences.cbor.new-",
-                                              "preferences.cbor.new-a1B2c3d",
-                                              "preferences.cbor.unreadable-1"};
-    for (const std::string& name : lookAlikes) {
+TEST_F(PreferencesSharing, keepsFilesWithSimilarNames) {
+    const std::vector<std::string> similar{"other.cbor.new-a1B2c3", "preferences.cbor.new-",
+                                           "preferences.cbor.new-a1B2c3d",
+                                           "preferences.cbor.unreadable-1"};
+    for (const std::string& name : similar) {
         writeFile(folder() / name, "kept");
     }
     fs::create_directory(folder() / "preferences.cbor.new-folder");
 
     const PreferencesFile preferences(path());
 
-    for (const std::string& name : lookAlikes) {
+    for (const std::string& name : similar) {
         EXPECT_EQ(readFile(folder() / name), "kept") << name;
     }
     EXPECT_TRUE(fs::is_directory(folder() / "preferences.cbor.new-folder"));
 }
 
-TEST_F(PreferencesNeighbours, aSymbolicLinkStaysAndItsTargetIsReplaced) {
+TEST_F(PreferencesSharing, replacesTheTargetOfASymbolicLink) {
     writeFile(folder() / "elsewhere/settings", QCborValue(QCborMap{{1, 2}}).toCbor());
     fs::create_symlink("elsewhere/second", path());
     fs::create_symlink("settings", folder() / "elsewhere/second");
@@ -106,7 +107,7 @@ TEST_F(PreferencesNeighbours, aSymbolicLinkStaysAndItsTargetIsReplaced) {
               settingsOf({{1, 2}, {u"sound"_s, false}}));
 }
 
-TEST_F(PreferencesNeighbours, aSymbolicLinkToNothingGetsItsTarget) {
+TEST_F(PreferencesSharing, createsTheTargetOfADanglingSymbolicLink) {
     fs::create_symlink("not/there/yet", path());
 
     EXPECT_TRUE(PreferencesFile(path()).store(u"sound"_s, false));
@@ -115,7 +116,7 @@ TEST_F(PreferencesNeighbours, aSymbolicLinkToNothingGetsItsTarget) {
     EXPECT_EQ(settingsIn(folder() / "not/there/yet"), settingsOf({{u"sound"_s, false}}));
 }
 
-TEST_F(PreferencesNeighbours, aSymbolicLinkToItselfIsMovedAside) {
+TEST_F(PreferencesSharing, setsASymbolicLinkLoopAside) {
     fs::create_symlink("preferences.cbor", path());
 
     EXPECT_TRUE(PreferencesFile(path()).store(u"sound"_s, false));

@@ -1,4 +1,4 @@
-#include "Desktop/UnixSignals.hpp"
+#include "Desktop/QuitOnSignals.hpp"
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -9,52 +9,47 @@
 #include <cerrno>
 #include <csignal>
 
+namespace Desktop {
+
 namespace {
 
-constexpr std::array endingSignals{SIGTERM, SIGINT, SIGHUP};
+constexpr std::array terminationSignals{SIGTERM, SIGINT, SIGHUP};
 
-// A signal handler may do next to nothing: it leaves a byte that wakes the event loop.
+// The self-pipe trick: write() is async-signal-safe, QCoreApplication::quit() is not.
 volatile std::sig_atomic_t writeEnd = -1;
 
-/// Some programs block signals in what they start, which would leave only a kill to end the game.
-void letThrough() {
-    sigset_t ending{};
-    sigemptyset(&ending);
-    for (const int number : endingSignals) {
-        sigaddset(&ending, number);
-    }
-    pthread_sigmask(SIG_UNBLOCK, &ending, nullptr);
-}
-
-void leaveByte(int) {
-    // What it interrupted may be about to ask why its own call failed.
-    const int interrupted = errno;
+void wakeEventLoop(int) {
+    const int savedErrno = errno;
     const char byte = 0;
     [[maybe_unused]] const auto written = ::write(writeEnd, &byte, sizeof byte);
-    errno = interrupted;
+    errno = savedErrno;
 }
 
-void endAtOnce(int) {
+void exitNow(int) {
     ::_exit(0);
 }
 
-void answerWith(void (*handler)(int)) {
+void install(void (*handler)(int)) {
     struct sigaction action {};
     action.sa_handler = handler;
     action.sa_flags = SA_RESTART;
-    for (const int number : endingSignals) {
+    sigset_t blocked{};
+    sigemptyset(&blocked);
+    for (const int number : terminationSignals) {
         ::sigaction(number, &action, nullptr);
+        sigaddset(&blocked, number);
     }
-    letThrough();
+    // The signal mask is inherited, and some launchers start programs with these signals blocked.
+    pthread_sigmask(SIG_UNBLOCK, &blocked, nullptr);
 }
 
 }  // namespace
 
-void endAtOnceOnSignals() {
-    answerWith(endAtOnce);
+void exitOnSignals() {
+    install(exitNow);
 }
 
-UnixSignals::UnixSignals() {
+QuitOnSignals::QuitOnSignals() {
     std::array<int, 2> ends{};
     if (::pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK) != 0) {
         return;
@@ -64,11 +59,11 @@ UnixSignals::UnixSignals() {
     notifier_ = new QSocketNotifier(readEnd_, QSocketNotifier::Read, this);
     connect(notifier_, &QSocketNotifier::activated, QCoreApplication::instance(),
             &QCoreApplication::quit);
-    answerWith(leaveByte);
+    install(wakeEventLoop);
 }
 
-UnixSignals::~UnixSignals() {
-    for (const int number : endingSignals) {
+QuitOnSignals::~QuitOnSignals() {
+    for (const int number : terminationSignals) {
         std::signal(number, SIG_IGN);
     }
     if (readEnd_ >= 0) {
@@ -78,3 +73,5 @@ UnixSignals::~UnixSignals() {
         writeEnd = -1;
     }
 }
+
+}  // namespace Desktop
