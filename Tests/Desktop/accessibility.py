@@ -1,4 +1,4 @@
-"""The screen as assistive programs read it, from the accessibility bus."""
+"""Reads and operates the program over AT-SPI, as a screen reader does."""
 
 from gi.repository import Gio, GLib
 
@@ -10,9 +10,9 @@ TEXT = "org.a11y.atspi.Text"
 PROPERTIES = "org.freedesktop.DBus.Properties"
 REGISTRY = "org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root"
 ON_SCREEN = 0
-ANSWER_WITHIN_MS = 10_000
+TIMEOUT_MS = 10_000
 
-# Numbers of states, as the bus counts them.
+# AtspiStateType.
 ACTIVE = 1
 CHECKED = 4
 EDITABLE = 7
@@ -31,22 +31,22 @@ def connect(address):
 
 
 def call(bus, place, interface, method, signature="()", *arguments):
-    """The answer of an object on the bus, as a list of plain values."""
+    """Calls a D-Bus method of an object and returns its unpacked reply."""
     owner, path = place
-    answer = bus.call_sync(owner, path, interface, method, GLib.Variant(signature, arguments),
-                           None, Gio.DBusCallFlags.NONE, ANSWER_WITHIN_MS, None)
-    return answer.unpack()
+    reply = bus.call_sync(owner, path, interface, method, GLib.Variant(signature, arguments),
+                           None, Gio.DBusCallFlags.NONE, TIMEOUT_MS, None)
+    return reply.unpack()
 
 
 def accessibility_bus(session_bus_address):
-    """A connection to the accessibility bus, which a session bus knows; it starts if need be."""
+    """A connection to the accessibility bus of a session, which is started if necessary."""
     session = connect(session_bus_address)
     address, = call(session, ("org.a11y.Bus", "/org/a11y/bus"), "org.a11y.Bus", "GetAddress")
     return connect(address)
 
 
 def application(bus, process):
-    """The top of a process's tree, or None while the bus does not know it."""
+    """The root element of a process; None while it is not on the bus."""
     for child in Element(bus, REGISTRY).children():
         owner, = call(bus, ("org.freedesktop.DBus", "/"), "org.freedesktop.DBus",
                       "GetConnectionUnixProcessID", "(s)", child.place[0])
@@ -56,7 +56,7 @@ def application(bus, process):
 
 
 class Element:
-    """One control, text or picture of a program; asks the program each time."""
+    """One accessible object. Nothing is cached: each property is a call to the program."""
 
     def __init__(self, bus, place):
         self._bus = bus
@@ -66,13 +66,13 @@ class Element:
         return [Element(self._bus, place) for place in self._ask(ACCESSIBLE, "GetChildren")[0]]
 
     def everything(self):
-        """This element and all below it, from front to end."""
+        """This element and all its descendants, depth first."""
         yield self
         for child in self.children():
             yield from child.everything()
 
     def everything_showing(self):
-        """The same without what is hidden."""
+        """The same, without hidden elements."""
         if self.is_showing():
             yield self
             for child in self.children():
@@ -84,39 +84,39 @@ class Element:
 
     @property
     def role(self):
-        """What it is, such as "push button"."""
+        """The name of its role, such as "push button"."""
         return self._ask(ACCESSIBLE, "GetRoleName")[0]
 
     @property
     def actions(self):
-        """The names of what can be done with it."""
+        """The names of its actions."""
         if ACTION not in self._ask(ACCESSIBLE, "GetInterfaces")[0]:
             return []
         return [name for name, _, _ in self._ask(ACTION, "GetActions")[0]]
 
     def do(self, action):
-        """Does what one of its actions says."""
+        """Performs the action with this name."""
         self._ask(ACTION, "DoAction", "(i)", self.actions.index(action))
 
     def write(self, text):
-        """Puts a text into a field in place of what was there."""
+        """Replaces the text of a field."""
         self._ask(EDITABLE_TEXT, "SetTextContents", "(s)", text)
 
     @property
     def text(self):
-        """What is written in a field."""
+        """The text of a field."""
         return self._ask(TEXT, "GetText", "(ii)", 0, -1)[0]
 
     def use(self):
-        """Does what a press on the control does."""
+        """Performs the first action, such as a press."""
         self._ask(ACTION, "DoAction", "(i)", 0)
 
     def can_be_used(self):
-        """Whether it is not greyed."""
+        """Whether it is enabled."""
         return self._has(SENSITIVE)
 
     def is_active(self):
-        """Whether it is the window that has the keyboard."""
+        """Whether it is the active window."""
         return self._has(ACTIVE)
 
     def is_checked(self):
@@ -129,7 +129,7 @@ class Element:
         return self._has(FOCUSABLE)
 
     def is_modal(self):
-        """Whether everything else waits for it."""
+        """Whether it is modal."""
         return self._has(MODAL)
 
     def is_focused(self):
@@ -139,7 +139,7 @@ class Element:
         return self._has(SHOWING)
 
     def place_on_screen(self):
-        """Left, top, width and height in pixels."""
+        """Left, top, width and height in pixels of the screen."""
         return self._ask(COMPONENT, "GetExtents", "(u)", ON_SCREEN)[0]
 
     def _has(self, state):
@@ -151,7 +151,7 @@ class Element:
 
 
 class Listener:
-    """The new names that an assistive program is told of while this listens, in order."""
+    """Records the names that changed, in order, as a screen reader is notified of them."""
 
     def __init__(self, bus):
         self._bus = bus
@@ -161,10 +161,10 @@ class Listener:
              "Object:PropertyChange", [], "")
         self._subscription = bus.signal_subscribe(
             None, "org.a11y.atspi.Event.Object", "PropertyChange", None, "accessible-name",
-            Gio.DBusSignalFlags.NONE, self._hear)
+            Gio.DBusSignalFlags.NONE, self._name_changed)
 
     def names(self):
-        """What has been told up to now: a status, a score, a title."""
+        """The names recorded so far."""
         while GLib.MainContext.default().iteration(False):
             pass
         return self._names
@@ -172,8 +172,8 @@ class Listener:
     def close(self):
         self._bus.signal_unsubscribe(self._subscription)
 
-    def _hear(self, bus, sender, path, interface, signal, parameters):
-        # Told is only that the name is new; a screen reader then asks for it, too.
+    def _name_changed(self, bus, sender, path, interface, signal, parameters):
+        # The event does not carry the name; screen readers query it, too.
         try:
             self._names.append(Element(self._bus, (sender, path)).name)
         except GLib.Error:

@@ -1,4 +1,4 @@
-"""A private desktop that can be read as assistive programs read it."""
+"""A private desktop with an accessibility bus."""
 
 import contextlib
 import pathlib
@@ -10,8 +10,8 @@ from desktop import Desktop
 
 @contextlib.contextmanager
 def accessible_desktop():
-    """Until the end of the block; `accessibility` is its bus."""
-    # A short path: sockets live in it.
+    """A context manager; `accessibility` is the connection to the accessibility bus."""
+    # Not under tmp_path: the paths of sockets are limited to 107 bytes.
     desktop = Desktop(pathlib.Path(tempfile.mkdtemp(prefix="fernwick-")))
     try:
         desktop.start()

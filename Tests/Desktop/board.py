@@ -1,4 +1,4 @@
-"""The board, read from the pixels of the screen."""
+"""Reads the board from the pixels of the screen."""
 
 from dataclasses import dataclass
 
@@ -7,12 +7,13 @@ ROWS = 22
 
 FRUIT = (255, 133, 99)
 TAIL = (59, 148, 102)
-# Every colour of the band lies above this, everything else on the board below it.
-BAND_GREEN_FROM = 140
-BAND_RED_UP_TO = 200
-# The eyes are black at an opacity of 0.75 on the bright head.
+# The snake's gradient is greener than this, everything else on the board less green.
+SNAKE_GREEN_FROM = 140
+SNAKE_RED_UP_TO = 200
+# The eyes are black with 75 % opacity on the bright head.
 EYE_GREEN_UP_TO = 100
 
+# The eyes' offsets from the centre of the head, in cells, by direction.
 EYES = {
     "up": ((-0.16, -0.15), (0.16, -0.15)),
     "down": ((-0.16, 0.15), (0.16, 0.15)),
@@ -29,18 +30,18 @@ class Snake:
 
 
 class Board:
-    """Knows where the cells lie; `place` is left, top, width and height on the screen."""
+    """The board at `place`: left, top, width and height in pixels of the screen."""
 
     def __init__(self, place):
         self._left, self._top, width, height = place
         self._cell = min(width / COLUMNS, height / ROWS)
 
     def snake(self, picture):
-        """The snake, or None when none is to be seen clearly."""
+        """The snake, or None unless exactly one head is recognised."""
         cells = {(x, y) for y in range(ROWS) for x in range(COLUMNS)
-                 if self._is_band(self._colour(picture, x, y))}
+                 if self._is_snake(self._colour(picture, x, y))}
         heads = [(cell, direction) for cell in cells for direction in EYES
-                 if self._looks(picture, cell, direction)]
+                 if self._has_eyes(picture, cell, direction)]
         if len(heads) != 1:
             return None
         (head, direction), = heads
@@ -48,11 +49,11 @@ class Board:
 
     @staticmethod
     def is_moving(picture):
-        """Whether a run is moving: at rest the board is blurred and dimmed, its colours gone."""
-        # Either is enough: the snake's glow may tint the fruit.
+        """Whether a run is in progress: otherwise the board is blurred and dimmed."""
+        # Check for both colours, as the glow of the snake may tint the fruit.
         return picture.shows(TAIL) or picture.shows(FRUIT)
 
-    def _looks(self, picture, cell, direction):
+    def _has_eyes(self, picture, cell, direction):
         return all(self._colour(picture, *cell, *eye)[1] <= EYE_GREEN_UP_TO
                    for eye in EYES[direction])
 
@@ -61,6 +62,6 @@ class Board:
                               self._top + (y + 0.5 + dy) * self._cell)
 
     @staticmethod
-    def _is_band(colour):
+    def _is_snake(colour):
         red, green, blue = colour
-        return green >= BAND_GREEN_FROM and red <= BAND_RED_UP_TO and green > blue
+        return green >= SNAKE_GREEN_FROM and red <= SNAKE_RED_UP_TO and green > blue

@@ -1,10 +1,10 @@
-"""A Wayland desktop in a window of the private one, where real keys and a real pointer reach it."""
+"""Runs weston in a window on the private X server, so that xdotool can drive it."""
 
 from waiting import eventually
 
 SOCKET = "fernwick-wayland"
-# What lies around the game's window; nothing in the game has this colour.
-GROUND = 255, 0, 255
+# A colour that does not occur in the game.
+BACKGROUND = 255, 0, 255
 SETTINGS = """
 [shell]
 panel-position=none
@@ -16,14 +16,14 @@ startup-animation=none
 
 
 class Compositor:
-    """Runs from `start` to `stop`."""
+    """A weston that runs from `start` to `stop`."""
 
     def __init__(self, desktop, size):
         self._desktop = desktop
         self.size = size
         self._process = None
         self.window = None
-        # What tells programs of it.
+        # With these variables, programs connect to it.
         self.environment = {"QT_QPA_PLATFORM": "wayland", "WAYLAND_DISPLAY": SOCKET,
                             "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
 
@@ -36,10 +36,10 @@ class Compositor:
             "--idle-time=0", f"--socket={SOCKET}", f"--width={width}", f"--height={height}")
         socket = self._desktop.run_folder() / SOCKET
         assert not socket.exists()
-        eventually(socket.exists, "the compositor is up")
-        self.window = eventually(self._active_window, "the compositor is in front")
-        eventually(self._fills_the_screen, "the compositor is drawn all over")
-        self._sweep_pointer()
+        eventually(socket.exists, "the compositor has started")
+        self.window = eventually(self._active_window, "the compositor is active")
+        eventually(self._fills_the_screen, "the compositor fills the screen")
+        self._synchronise_pointer()
 
     def stop(self):
         self._process.terminate()
@@ -48,15 +48,15 @@ class Compositor:
     def _fills_the_screen(self):
         picture = self._desktop.screen.picture()
         width, height = self.size
-        # Away from the corners, where a pointer may be.
+        # Not in the corners, where the pointer may be.
         edges = (0, height // 2), (width - 1, height // 2), (width // 2, 0)
-        return all(picture.colour(x, y) == GROUND for x, y in edges)
+        return all(picture.colour(x, y) == BACKGROUND for x, y in edges)
 
-    def _sweep_pointer(self):
-        """Brings its pointer to where the real one is.
+    def _synchronise_pointer(self):
+        """Makes weston's pointer agree with the one of the X server.
 
-        It adds up movements from where it first saw the pointer, which was before its window had
-        its place; at the edges it cannot go wrong by more."""
+        weston tracks relative motion from where it first saw the pointer, which was before its
+        window was placed. Moving to opposite corners removes the offset."""
         width, height = self.size
         for x, y in ((0, 0), (width - 1, height - 1)):
             self._desktop.run("xdotool", "mousemove", str(x), str(y))

@@ -5,8 +5,8 @@ from home import Home
 from other_window import OtherWindow
 from screen import Screen
 
-# Below everything that answers to the pointer.
-POINTER_AT_REST = str(Screen.WIDTH // 2), str(Screen.HEIGHT - 2)
+# Below all controls.
+POINTER_AWAY = str(Screen.WIDTH // 2), str(Screen.HEIGHT - 2)
 
 
 @pytest.fixture(scope="session")
@@ -22,9 +22,9 @@ def home(tmp_path):
 
 @pytest.fixture
 def start(desktop, home, tmp_path):
-    """Starts the program, which may never print anything.
+    """Starts the program and checks afterwards that it has printed nothing.
 
-    What is None is taken out of its environment."""
+    Keyword arguments are environment variables; None unsets one."""
     games = []
 
     def start(**environment):
@@ -42,9 +42,9 @@ def start(desktop, home, tmp_path):
 
 @pytest.fixture
 def launch(desktop, start):
-    """Starts the program as `start` does, and waits until it can be played."""
+    """Starts the program as `start` does and waits for its window."""
     def launch(**environment):
-        desktop.run("xdotool", "mousemove", *POINTER_AT_REST)
+        desktop.run("xdotool", "mousemove", *POINTER_AWAY)
         game = start(**environment)
         game.wait_until_shown()
         return game

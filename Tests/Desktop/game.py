@@ -1,4 +1,4 @@
-"""One run of the program on the private desktop, seen and driven from outside."""
+"""Starts, drives and inspects the program on the private desktop."""
 
 import os
 import pathlib
@@ -14,7 +14,7 @@ from waiting import PATIENCE, eventually
 PROGRAM = os.environ.get(
     "FERNWICK", str(pathlib.Path(__file__).resolve().parents[2] / "build/release/fernwick"))
 
-# Places of keys on the keyboard, whatever the layout writes there.
+# X11 key codes, which do not depend on the keyboard layout.
 W, A, S, D = "25", "38", "39", "40"
 
 FRESH = "THE CLASSIC, REPLANTED"
@@ -33,7 +33,7 @@ class Game:
         self.window = None
         self._top = None
 
-    # What a player does.
+    # Input.
 
     def press(self, *keys):
         self.desktop.run("xdotool", "key", *keys)
@@ -46,7 +46,7 @@ class Game:
         self.wait_for(MOVING)
 
     def save_a_run(self, name):
-        """Plays into the wall above and leaves a name."""
+        """Steers into the wall above and saves the score under a name."""
         self.start_run()
         self.press("Up")
         self.wait_for("Game over.")
@@ -55,8 +55,8 @@ class Game:
         self.wait_for("Score saved · Top 10")
 
     def click(self, element):
-        """Presses the left button of the mouse in the middle of a control."""
-        eventually(self._knows_its_place, "the window has settled")
+        """Clicks in the middle of a control."""
+        eventually(self._geometry_is_current, "AT-SPI reports the geometry of the window")
         left, top, width, height = element.place_on_screen()
         self.point_at(left + width // 2, top + height // 2)
         self.desktop.run("xdotool", "click", "1")
@@ -64,29 +64,29 @@ class Game:
     def point_at(self, x, y):
         self.desktop.run("xdotool", "mousemove", str(x), str(y))
 
-    # What a player sees.
+    # What is shown.
 
     def wait_for(self, *texts):
-        """Until all these texts are to be seen at once."""
-        eventually(lambda: self.shows(*texts), f"{texts} to be seen")
+        """Waits until all these texts are shown at the same time."""
+        eventually(lambda: self.shows(*texts), f"{texts} are shown")
 
     def shows(self, *texts):
         try:
             return set(texts) <= set(self.texts())
         except GLib.Error:
-            # A control was taken away while it was asked.
+            # An element was removed during the query.
             return False
 
     def texts(self):
-        """The names of all that is to be seen."""
+        """The names of all visible elements."""
         return [element.name for element in self.top().everything_showing()]
 
     def find(self, name):
-        """The control or text of that name, to be seen or not."""
+        """The element with this name, visible or not."""
         return next(element for element in self.top().everything() if element.name == name)
 
     def find_showing(self, name):
-        """All of that name that are to be seen, those in front last."""
+        """All visible elements with this name; those in front come last."""
         return [each for each in self.top().everything_showing() if each.name == name]
 
     def top(self):
@@ -101,16 +101,16 @@ class Game:
                      if element.name.startswith("Snake board."))
         return Board(named.place_on_screen())
 
-    # The window as the desktop sees it.
+    # The window.
 
     def wait_until_shown(self):
-        """Until the window is up, in front and in full screen."""
-        eventually(self._has_window, "the window is up")
-        eventually(self.is_full_screen, "full screen is reached")
-        eventually(self.is_active, "the window is in front")
+        """Waits until the window is shown, active and in full screen."""
+        eventually(self._has_window, "the window is shown")
+        eventually(self.is_full_screen, "the window is in full screen")
+        eventually(self.is_active, "the window is active")
 
     def state(self):
-        """What the window manager says of the window, such as that it is minimised."""
+        """The _NET_WM_STATE of the window."""
         return self.desktop.property(self.window, "_NET_WM_STATE")
 
     def is_full_screen(self):
@@ -131,12 +131,12 @@ class Game:
         values = dict(line.split("=") for line in lines.split())
         return tuple(int(values[key]) for key in ("X", "Y", "WIDTH", "HEIGHT"))
 
-    def _knows_its_place(self):
+    def _geometry_is_current(self):
         window = self.top().children()[0]
         return tuple(window.place_on_screen()) == self.geometry()
 
     def _has_window(self):
-        assert self.process.poll() is None, f"ended at once: {self.printed()}"
+        assert self.process.poll() is None, f"exited: {self.printed()}"
         found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "^Fernwick$"],
                                env=self.desktop.environment, text=True, stdout=subprocess.PIPE)
         for number in found.stdout.split():
@@ -144,10 +144,10 @@ class Game:
                 self.window = int(number)
         return self.window is not None
 
-    # Its end.
+    # Exit.
 
     def exit_status(self):
-        """Waits for the end of the program, which someone has asked for."""
+        """Waits for the program to exit."""
         return self.process.wait(PATIENCE)
 
     def quit(self):
@@ -160,5 +160,5 @@ class Game:
             self.process.wait()
 
     def printed(self):
-        """All that the program wrote to its output and its error output."""
+        """What the program has written to stdout and stderr."""
         return self._printed.read_text()

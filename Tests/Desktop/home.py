@@ -1,4 +1,4 @@
-"""A player's home folder, with the settings that the game keeps in it."""
+"""A temporary home folder, and the game's settings in it."""
 
 import json
 
@@ -16,12 +16,12 @@ class Home:
         }
 
     def preferences(self):
-        """All stored settings by their keys; none when there is no file."""
+        """All stored settings; empty when there is no file."""
         try:
             return cbor2.loads((self._settings / "fernwick/preferences.cbor").read_bytes())
         except FileNotFoundError:
             return {}
 
     def high_scores(self):
-        """The stored table, oldest entry first."""
+        """The stored entries, oldest first."""
         return json.loads(self.preferences().get("high-scores-v1", b"[]"))

@@ -1,4 +1,4 @@
-"""A window of another program."""
+"""A window of another program, to take the focus."""
 
 from waiting import eventually
 
@@ -11,11 +11,11 @@ class OtherWindow:
     def take_focus_from(self, game):
         self._process = self._desktop.spawn("xmessage", "Another window")
         eventually(lambda: self._desktop.active_window() not in (0, game.window),
-                   "the other window has the focus")
+                   "the other window is active")
 
     def give_focus_back_to(self, game):
         self.close()
-        eventually(game.is_active, "the game has the focus again")
+        eventually(game.is_active, "the game is active again")
 
     def close(self):
         if self._process is not None:

@@ -1,6 +1,6 @@
-"""A desktop's settings portal: tells programs what the player has chosen.
+"""A settings portal for tests (org.freedesktop.portal.Settings).
 
-portal.py GROUP KEY VALUE   answers with that one setting, such as "uint32 1", until it is ended
+portal.py GROUP KEY VALUE   serves this one setting, such as "uint32 1", until it is terminated
 """
 
 import sys
@@ -30,17 +30,17 @@ INTERFACE = """
 def main():
     group, key, value = sys.argv[1:]
 
-    def answer(bus, sender, path, interface, method, question, invocation):
-        if question.unpack() == (group, key):
-            # In two envelopes, as portals really answer.
+    def read(bus, sender, path, interface, method, arguments, invocation):
+        if arguments.unpack() == (group, key):
+            # Wrapped in two variants, as by real portals.
             setting = GLib.Variant("v", GLib.Variant.parse(None, value))
             invocation.return_value(GLib.Variant("(v)", (setting,)))
         else:
-            invocation.return_dbus_error("org.freedesktop.portal.Error.NotFound", "not kept here")
+            invocation.return_dbus_error("org.freedesktop.portal.Error.NotFound", "no such setting")
 
     def serve(bus, name):
         interface, = Gio.DBusNodeInfo.new_for_xml(INTERFACE).interfaces
-        bus.register_object(PATH, interface, answer, None, None)
+        bus.register_object(PATH, interface, read, None, None)
 
     Gio.bus_own_name(Gio.BusType.SESSION, NAME, Gio.BusNameOwnerFlags.NONE, serve,
                      lambda bus, name: print("ready", flush=True), None)

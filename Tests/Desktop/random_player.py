@@ -1,4 +1,4 @@
-"""A player who does whatever comes to mind, by real keys and clicks, and looks closely at rest."""
+"""Plays with random keys and clicks, and checks the screen for contradictions."""
 
 import pathlib
 import re
@@ -21,37 +21,37 @@ CLICKABLE = ["Gentle", "Classic", "Swift", "Toggle sound effects", "High scores"
 CIRCLE = ["Up", "Left", "Down", "Right"]
 TURNS = [*CIRCLE, "w", "a", "s", "d"]
 KILOBYTES_PER_MEGABYTE = 1024
-# What the kernel takes as the order to measure a peak anew.
-FORGET_PEAK = "5"
+# Written to clear_refs, this resets VmHWM.
+RESET_PEAK = "5"
 
 
 class RandomPlayer:
-    """Plays one game; all chance comes from `random`."""
+    """Plays one game with the random numbers of `random`."""
 
     def __init__(self, game, other_window, random):
         self._game = game
         self._other_window = other_window
         self._random = random
         self.actions = 0
-        self.looks = 0
+        self.checks = 0
 
     def play(self, seconds):
         end = time.monotonic() + seconds
         while time.monotonic() < end:
-            assert self._game.process.poll() is None, "the game has ended"
+            assert self._game.process.poll() is None, "the program has exited"
             self._act()
             self.actions += 1
             time.sleep(self._random.uniform(0, 0.3))
             if self._random.random() < 0.2:
-                self.look()
+                self.check()
 
     def see_everything(self):
-        """Brings up once what is made when it first comes up."""
-        for deal_with_it in (self._save, self._skip):
+        """Shows every screen once, as some are created when first shown."""
+        for finish in (self._save, self._skip):
             self._game.press("space", "Up")
             self._game.wait_for("Save score")
-            deal_with_it()
-            eventually(lambda: not self._awaits_name(self._texts()), "the run is dealt with")
+            finish()
+            eventually(lambda: not self._awaits_name(self._texts()), "the name entry is closed")
         for _ in range(2):
             for action in (self._open_sheet, self._come_to_rest, self._lose_focus,
                            self._press_menu, self._switch_screen):
@@ -61,14 +61,13 @@ class RandomPlayer:
             self._come_to_rest()
 
     def memory(self):
-        """The most that the game holds of the machine's memory, in MB, on one walk that is always
-        the same: from the window to full screen, and to the sheet and back.
+        """The peak resident memory in MB during a fixed sequence: full screen, window, sheet.
 
-        How much of what it gave back it still holds at rest depends on the way it came there.
+        The peak is more stable than the memory at rest, which depends on what was freed before.
         """
         process = pathlib.Path(f"/proc/{self._game.process.pid}")
         self._come_to_rest()
-        process.joinpath("clear_refs").write_text(FORGET_PEAK)
+        process.joinpath("clear_refs").write_text(RESET_PEAK)
         for _ in range(2 if self._game.is_full_screen() else 1):
             self._switch_screen()
         self._open_sheet()
@@ -77,8 +76,8 @@ class RandomPlayer:
         peak = re.search(r"VmHWM:\s+(\d+) kB", process.joinpath("status").read_text())
         return int(peak.group(1)) / KILOBYTES_PER_MEGABYTE
 
-    def look(self):
-        """What is shown at rest must not contradict itself."""
+    def check(self):
+        """Pauses and checks that what is shown is consistent."""
         self._come_to_rest()
         texts = self._texts()
         state, = [text for text in texts if text in STATES]
@@ -93,9 +92,9 @@ class RandomPlayer:
         assert [self._game.find(name).can_be_used() for name in ("Gentle", "Classic", "Swift")] \
             == [state != PAUSED and not self._awaits_name(texts)] * 3
         assert self._game.find("New Game").can_be_used() == (not self._awaits_name(texts))
-        self.looks += 1
+        self.checks += 1
 
-    # What it does.
+    # Actions.
 
     def _act(self):
         texts = self._texts()
@@ -112,7 +111,7 @@ class RandomPlayer:
     def _steer_or_start(self, texts):
         if MOVING not in texts:
             self._game.press("space")
-        # In circles, mostly: whoever turns at random alone is in a wall at once.
+        # Mostly in circles: purely random turns soon hit a wall.
         first = self._random.randrange(len(CIRCLE))
         for step in range(self._random.randint(4, 16)):
             self._game.press(CIRCLE[(first + step) % len(CIRCLE)])
@@ -133,7 +132,7 @@ class RandomPlayer:
     def _switch_screen(self):
         was = self._game.is_full_screen()
         self._game.press("F11")
-        eventually(lambda: self._game.is_full_screen() != was, "the screen is switched")
+        eventually(lambda: self._game.is_full_screen() != was, "full screen is toggled")
 
     def _lose_focus(self):
         self._other_window.take_focus_from(self._game)
@@ -160,7 +159,7 @@ class RandomPlayer:
         if shown and shown[-1].can_be_used():
             self._game.click(shown[-1])
 
-    # What it sees.
+    # Observations.
 
     def _texts(self):
         return eventually(self._texts_or_none, "the screen can be read")
@@ -169,12 +168,12 @@ class RandomPlayer:
         try:
             return self._game.texts()
         except GLib.Error:
-            # A control was taken away while it was asked.
+            # An element was removed during the query.
             return None
 
     def _come_to_rest(self):
-        """Until no run moves and no sheet is up."""
-        def rests():
+        """Pauses the run and closes the sheet."""
+        def is_at_rest():
             texts = self._texts()
             if SHEET in texts or MOVING in texts:
                 self._game.press("Escape")
@@ -182,7 +181,7 @@ class RandomPlayer:
                 return sum(text in STATES for text in texts) == 1
             time.sleep(0.1)
             return False
-        eventually(rests, "the game rests")
+        eventually(is_at_rest, "the game is at rest")
 
     @staticmethod
     def _awaits_name(texts):

@@ -1,9 +1,9 @@
-"""What is to be seen on the private screen, read from the X server's own picture memory."""
+"""Reads the pixels of the private X server from its memory-mapped framebuffer."""
 
 import mmap
 import struct
 
-# The file begins with a header of big-endian words, as X window dumps do.
+# The file is an X window dump (xwd), which begins with a header of big-endian words.
 WORDS = 25
 HEADER_SIZE = 0
 BYTES_PER_LINE = 12
@@ -13,7 +13,7 @@ BYTES_PER_PIXEL = 4
 
 
 class Screen:
-    """An X server's screen of depth 24, mapped into memory by its file."""
+    """The screen of Xvfb, started with -fbdir and depth 24."""
 
     WIDTH = 1920
     HEIGHT = 1080
@@ -26,36 +26,36 @@ class Screen:
         self._stride = header[BYTES_PER_LINE]
 
     def picture(self):
-        """What is shown now."""
+        """A copy of the current pixels."""
         return Picture(self._memory[self._begin:], self._stride)
 
 
 class Picture:
-    """The whole screen as it was at one moment."""
+    """A copy of the whole screen."""
 
     def __init__(self, pixels, stride):
         self._pixels = pixels
         self._stride = stride
 
     def colour(self, x, y):
-        """Red, green and blue at a place, 0 to 255 each."""
+        """Red, green and blue of a pixel, 0 to 255."""
         at = int(y) * self._stride + int(x) * BYTES_PER_PIXEL
         blue, green, red = self._pixels[at:at + 3]
         return red, green, blue
 
     def shows(self, colour):
-        """Whether a pixel anywhere has exactly this colour."""
+        """Whether any pixel has exactly this colour."""
         red, green, blue = colour
         return bytes((blue, green, red)) in self._pixels
 
-    def place_of_all_but(self, ground):
-        """Left, top, width and height of what covers the middle line, on a ground of this colour.
+    def bounds_without(self, background):
+        """Left, top, width and height of what is not background on the middle row and column.
 
-        None when nothing does. Small things elsewhere, such as a pointer, do not count."""
+        None when there is only background. Ignores small things elsewhere, such as the pointer."""
         columns = [x for x in range(Screen.WIDTH)
-                   if self.colour(x, Screen.HEIGHT // 2) != ground]
+                   if self.colour(x, Screen.HEIGHT // 2) != background]
         if not columns:
             return None
         rows = [y for y in range(Screen.HEIGHT)
-                if self.colour(columns[len(columns) // 2], y) != ground]
+                if self.colour(columns[len(columns) // 2], y) != background]
         return (columns[0], rows[0], columns[-1] - columns[0] + 1, rows[-1] - rows[0] + 1)

@@ -1,4 +1,4 @@
-"""How well texts stand out from their ground, measured on the pixels of the screen."""
+"""The contrast of all texts, measured on the pixels of the screen."""
 
 import pathlib
 import subprocess
@@ -9,19 +9,19 @@ import pytest
 from game import PAUSED
 from waiting import eventually
 
-# What the accessibility guidelines ask of texts: at least, and at best.
-LEAST = 4.5
-BEST = 7
-# Below this there is nothing to be seen yet.
+# WCAG contrast ratios.
+LEVEL_AA = 4.5
+LEVEL_AAA = 7
+# Below this, the text has not been drawn yet.
 DRAWN = 1.5
-# The left end of a row of scores, up to the name.
+# The part of a score row to the left of the name.
 RANK_WIDTH = 40
-# Inside the name field, past its edge and the text cursor.
+# Inside the name field, without its frame and cursor.
 INSET = 18
-PART_OF_PLACEHOLDER = 60
+PLACEHOLDER_WIDTH = 60
 
-# Below LEAST in the calm look, which is as designed; the desktop's setting lifts them.
-QUIETER_BY_DESIGN = {"Your name"}
+# Below level AA by design; the desktop's high-contrast setting raises it.
+LOW_BY_DESIGN = {"Your name"}
 
 
 SHEET = "The high scores.", "Done"
@@ -44,12 +44,12 @@ def ratio(one, other):
 
 
 def contrast(picture, place):
-    """The best contrast to the most common colour there: that of the text to its ground."""
+    """The highest contrast with the most common colour, which is the background."""
     left, top, width, height = place
     colours = Counter(picture.colour(x, y) for x in range(left, left + width)
                       for y in range(top, top + height))
-    ground, _ = colours.most_common(1)[0]
-    return max(ratio(colour, ground) for colour in colours)
+    background, _ = colours.most_common(1)[0]
+    return max(ratio(colour, background) for colour in colours)
 
 
 def is_text(element):
@@ -59,20 +59,20 @@ def is_text(element):
 
 
 def contrasts(game):
-    """The contrast of each text that is to be seen now; under the sheet, of its own alone."""
+    """The contrast of each visible text; with the sheet open, of the texts on the sheet."""
     picture = game.desktop.screen.picture()
     measured = {}
     showing = list(game.top().everything_showing())
     on_sheet = {element.name for element in showing} & set(SHEET)
-    # Those in front come last, and what is behind the sheet is not on it.
+    # Elements in front come last and overwrite those behind the sheet.
     for element in showing:
         if is_text(element) and (not on_sheet or element.name in ON_SHEET):
             left, top, width, height = element.place_on_screen()
             name = element.name
             if name == "Player name":
-                # Its blinking cursor is not what is to be read.
+                # Measure the placeholder without the blinking cursor.
                 name = "Your name"
-                place = left + INSET, top + INSET, PART_OF_PLACEHOLDER, height - 2 * INSET
+                place = left + INSET, top + INSET, PLACEHOLDER_WIDTH, height - 2 * INSET
             else:
                 place = left, top, width, height
             measured[name] = contrast(picture, place)
@@ -86,13 +86,13 @@ def is_drawn(screens):
 
 
 def measured_on_every_screen(game):
-    """The lowest contrast of each text over the screens of a run."""
+    """The lowest contrast of each text on all screens."""
     screens, lowest = [], {}
 
     def measure():
-        # Digits roll and glows fade for a moment.
+        # Wait for the end of animations.
         eventually(lambda: is_drawn(screens) and screens[-1] == contrasts(game)
-                   or screens.append(contrasts(game)), "the screen has settled")
+                   or screens.append(contrasts(game)), "the screen is stable")
         last = screens.pop()
         screens.clear()
         for name, value in last.items():
@@ -116,10 +116,10 @@ def measured_on_every_screen(game):
     return lowest
 
 
-# Desktops say it in one of two ways.
+# Desktops use one of two keys.
 @pytest.fixture(params=["org.freedesktop.appearance contrast uint32 1",
                         "org.gnome.desktop.a11y.interface high-contrast true"])
-def asking_for_high_contrast(request, desktop):
+def high_contrast_setting(request, desktop):
     portal = subprocess.Popen(
         [sys.executable, pathlib.Path(__file__).parent / "portal.py",
          *request.param.split(maxsplit=2)],
@@ -130,11 +130,11 @@ def asking_for_high_contrast(request, desktop):
     portal.wait()
 
 
-def test_every_text_but_those_quieter_by_design_stands_out_enough(game):
+def test_texts_reach_level_aa(game):
     lowest = measured_on_every_screen(game)
-    assert {name for name, value in lowest.items() if value < LEAST} == QUIETER_BY_DESIGN, lowest
+    assert {name for name, value in lowest.items() if value < LEVEL_AA} == LOW_BY_DESIGN, lowest
 
 
-def test_the_desktop_s_setting_makes_every_text_stand_out_best(asking_for_high_contrast, launch):
+def test_texts_reach_level_aaa_with_the_high_contrast_setting(high_contrast_setting, launch):
     lowest = measured_on_every_screen(launch())
-    assert {name: value for name, value in lowest.items() if value < BEST} == {}
+    assert {name: value for name, value in lowest.items() if value < LEVEL_AAA} == {}

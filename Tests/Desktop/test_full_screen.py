@@ -1,4 +1,4 @@
-"""Full screen: entered once at launch, left for good when the player leaves it."""
+"""Full screen: entered at launch, and not again once the player has left it."""
 
 import pytest
 from game import MOVING, PAUSED
@@ -14,11 +14,11 @@ def leave_by_key(game, keys):
 
 
 def choose(game, steps, item):
-    """Opens the menu, goes to an item key by key and takes it."""
+    """Opens the menu, navigates to an item and activates it."""
     game.press("F10")
     eventually(game.find("New Game").is_showing, "the first menu is open")
     game.press(*steps)
-    eventually(game.find(item).is_focused, f"{item} is reached")
+    eventually(game.find(item).is_focused, f"{item} has the focus")
     game.press("Return")
 
 
@@ -26,14 +26,14 @@ def menu_bar_shown(game):
     return game.find("File").is_showing()
 
 
-def test_full_screen_is_reached_on_launch(game):
+def test_starts_in_full_screen(game):
     assert game.is_full_screen()
     eventually(lambda: game.geometry() == WHOLE_SCREEN, "the window covers the screen")
     assert game.is_active()
 
 
 @pytest.mark.parametrize("keys", ["F11", "ctrl+super+f"])
-def test_left_by_its_keys_it_stays_left_through_a_restart_of_the_run(game, keys):
+def test_a_new_run_does_not_enter_full_screen_after_leaving_by_key(game, keys):
     leave_by_key(game, keys)
     game.start_run()
     game.press("r")
@@ -42,7 +42,7 @@ def test_left_by_its_keys_it_stays_left_through_a_restart_of_the_run(game, keys)
     assert not game.is_full_screen()
 
 
-def test_left_by_the_menu_it_stays_left_through_a_restart_of_the_run(game):
+def test_a_new_run_does_not_enter_full_screen_after_leaving_by_menu(game):
     choose(game, ["Down", "Right"], "Toggle Full Screen")
     eventually(lambda: not game.is_full_screen(), "full screen is left")
     game.press("ctrl+n")
@@ -52,47 +52,47 @@ def test_left_by_the_menu_it_stays_left_through_a_restart_of_the_run(game):
     assert not game.is_full_screen()
 
 
-def test_outside_full_screen_the_window_is_940_by_860(game):
+def test_the_window_is_940_by_860_outside_full_screen(game):
     leave_by_key(game, "F11")
-    eventually(lambda: game.geometry()[2:] == (940, 860), "the window has its own size")
+    eventually(lambda: game.geometry()[2:] == (940, 860), "the window has its default size")
 
 
-def test_the_same_key_enters_it_again(game):
+def test_f11_enters_full_screen_again(game):
     leave_by_key(game, "F11")
     game.press("F11")
     eventually(game.is_full_screen, "full screen is reached again")
 
 
-def test_leaving_it_leaves_a_moving_snake_moving(game):
+def test_leaving_full_screen_does_not_pause(game):
     game.start_run()
     leave_by_key(game, "F11")
     game.wait_for(MOVING)
 
 
-def test_the_menu_bar_hides_until_the_pointer_touches_the_top_edge(game):
+def test_the_menu_bar_is_shown_when_the_pointer_touches_the_top_edge(game):
     assert not menu_bar_shown(game)
     game.point_at(Screen.WIDTH // 2, 0)
-    eventually(lambda: menu_bar_shown(game), "the menu bar is there")
+    eventually(lambda: menu_bar_shown(game), "the menu bar is shown")
     game.point_at(Screen.WIDTH // 2, Screen.HEIGHT // 2)
-    eventually(lambda: not menu_bar_shown(game), "the menu bar hides again")
+    eventually(lambda: not menu_bar_shown(game), "the menu bar is hidden again")
 
 
 @pytest.mark.parametrize("key", ["F10", "alt"])
-def test_a_key_opens_the_menu_and_escape_hides_it(game, key):
+def test_a_key_opens_the_menu_and_escape_hides_the_menu_bar(game, key):
     game.press(key)
-    eventually(lambda: menu_bar_shown(game), "the menu bar is there")
+    eventually(lambda: menu_bar_shown(game), "the menu bar is shown")
     eventually(game.find("New Game").is_showing, "the first menu is open")
     game.press("Escape")
-    eventually(lambda: not menu_bar_shown(game), "the menu bar hides again")
+    eventually(lambda: not menu_bar_shown(game), "the menu bar is hidden again")
 
 
-def test_an_open_menu_keeps_its_keys_from_the_game(game):
+def test_an_open_menu_handles_the_arrow_keys(game):
     choose(game, ["Down", "Down"], "Quit")
     assert game.exit_status() == 0
 
 
-def test_outside_full_screen_the_menu_bar_and_the_window_marks_are_there(game):
-    marks = ["Minimise", "Maximise", "Close"]
-    assert not game.shows(*marks)
+def test_the_menu_bar_and_window_buttons_are_shown_outside_full_screen(game):
+    buttons = ["Minimise", "Maximise", "Close"]
+    assert not game.shows(*buttons)
     leave_by_key(game, "F11")
-    game.wait_for("File", "Game", *marks)
+    game.wait_for("File", "Game", *buttons)

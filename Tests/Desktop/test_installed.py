@@ -1,4 +1,4 @@
-"""The program as it is installed, away from where it was built."""
+"""The installed program."""
 
 import pathlib
 import subprocess
@@ -9,14 +9,14 @@ from game import PAUSED, PROGRAM, Game
 
 @pytest.fixture
 def installed(tmp_path):
-    """The program under a prefix of its own."""
+    """The program, installed under a temporary prefix."""
     prefix = tmp_path / "prefix"
     subprocess.run(["cmake", "--install", pathlib.Path(PROGRAM).parent, "--prefix", prefix],
                    check=True, stdout=subprocess.DEVNULL)
     return prefix / "bin/fernwick"
 
 
-def test_it_plays_under_any_prefix(desktop, home, tmp_path, installed):
+def test_runs_from_any_prefix(desktop, home, tmp_path, installed):
     game = Game(desktop, tmp_path, desktop.environment | home.environment
                 | {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}, command=[installed])
     try:

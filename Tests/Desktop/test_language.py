@@ -1,4 +1,4 @@
-"""The program speaks the language of the desktop."""
+"""The language of the user interface."""
 
 import pytest
 from game import FRESH
@@ -9,7 +9,7 @@ IN_ARABIC = "الكلاسيكية، بغرس جديد"
 
 
 def launched(launch, **environment):
-    """The program, under the window manager, once its texts can be read."""
+    """The program, once its texts can be read."""
     game = launch(**environment)
     eventually(game.texts, "the screen can be read")
     return game
@@ -21,7 +21,7 @@ def launched(launch, **environment):
     {"LANGUAGE": "de", "LANG": "C.UTF-8"},
     {"LANGUAGE": "nl:de:fr", "LANG": "fr_FR.UTF-8"},
 ], ids=str)
-def test_the_environment_names_the_language(launch, environment):
+def test_the_environment_selects_the_language(launch, environment):
     game = launched(launch, **environment)
     game.wait_for(IN_GERMAN, "Finde deinen Rhythmus.", "Lass uns wachsen")
     assert game.find("Spielername") is not None
@@ -31,12 +31,12 @@ def test_the_environment_names_the_language(launch, environment):
     {"LANG": "nl_NL.UTF-8"},
     {"LANGUAGE": "en_GB:de", "LANG": "de_DE.UTF-8"},
 ], ids=str)
-def test_english_serves_who_speaks_none_of_its_languages(launch, environment):
+def test_falls_back_to_english(launch, environment):
     game = launched(launch, **environment)
     game.wait_for(FRESH, "Find your flow.")
 
 
-def test_a_run_in_arabic_is_played_and_saved_from_right_to_left(launch, home):
+def test_a_run_in_arabic_can_be_played_and_saved(launch, home):
     game = launched(launch, LANGUAGE="ar")
     game.wait_for(IN_ARABIC)
     left, _, width, _ = game.find("FERNWICK").place_on_screen()
@@ -52,7 +52,7 @@ def test_a_run_in_arabic_is_played_and_saved_from_right_to_left(launch, home):
     assert home.high_scores()[0]["pace"] == "Classic"
 
 
-def test_a_script_that_its_own_fonts_lack_prints_nothing(launch):
+def test_prints_nothing_for_a_script_that_the_embedded_fonts_lack(launch):
     game = launched(launch, LANGUAGE="hi")
     game.wait_for("पुराना खेल, नई मिट्टी में")
     game.quit()

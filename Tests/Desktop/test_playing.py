@@ -1,4 +1,4 @@
-"""A run, from the first key to the wall."""
+"""Playing a run."""
 
 import pytest
 from game import FRESH, MOVING, OVER, PAUSED, A, D, S, W
@@ -6,31 +6,31 @@ from waiting import eventually
 
 ARROWS = {"up": "Up", "down": "Down", "left": "Left", "right": "Right"}
 LETTERS = {"up": W, "down": S, "left": A, "right": D}
-# A square: every turn is legal, and no wall is near.
-ROUND = ["up", "left", "down", "right"]
+# A square, away from the walls.
+SQUARE = ["up", "left", "down", "right"]
 
 
 def snake_heading(game, board, direction):
-    """The snake, as soon as it is seen moving that way."""
+    """Waits until the snake moves in this direction and returns it."""
 
-    def look():
+    def snake_or_none():
         snake = board.snake(game.desktop.screen.picture())
         return snake if snake is not None and snake.direction == direction else None
 
-    return eventually(look, f"the snake heads {direction}")
+    return eventually(snake_or_none, f"the snake heads {direction}")
 
 
-def steer_round(game, keys):
+def steer_in_a_square(game, keys):
     board = game.board()
     game.start_run()
     snake_heading(game, board, "right")
-    for direction in ROUND:
+    for direction in SQUARE:
         game.press(keys[direction])
         snake_heading(game, board, direction)
 
 
 @pytest.fixture
-def french_keyboard(desktop):
+def french_layout(desktop):
     desktop.run("setxkbmap", "fr")
     yield
     desktop.run("setxkbmap", "us")
@@ -43,18 +43,18 @@ def test_space_starts_the_first_run(game):
 
 
 def test_arrows_steer_the_snake(game):
-    steer_round(game, ARROWS)
+    steer_in_a_square(game, ARROWS)
 
 
-def test_the_letters_w_a_s_d_steer_the_snake(game):
-    steer_round(game, LETTERS)
+def test_w_a_s_d_steer_the_snake(game):
+    steer_in_a_square(game, LETTERS)
 
 
-def test_the_same_places_steer_on_a_french_keyboard(game, french_keyboard):
-    steer_round(game, LETTERS)
+def test_the_same_physical_keys_steer_with_a_french_layout(game, french_layout):
+    steer_in_a_square(game, LETTERS)
 
 
-def test_two_quick_turns_are_both_taken(game):
+def test_two_quick_turns_both_count(game):
     board = game.board()
     game.start_run()
     row = snake_heading(game, board, "right").head[1]
@@ -73,18 +73,18 @@ def test_space_pauses_and_resumes_while_escape_only_pauses(game):
     game.wait_for(PAUSED)
 
 
-def test_a_paused_snake_stays_where_it_is(game):
+def test_turns_do_not_count_while_paused(game):
     board = game.board()
     game.start_run()
     game.press("Up", "space")
     game.wait_for(PAUSED)
     game.press("Left", "space")
     row = snake_heading(game, board, "up").head[1]
-    # Had the pressed arrow counted, the snake would leave its column.
+    # If the arrow key had counted, the snake would move left.
     eventually(lambda: snake_heading(game, board, "up").head[1] < row, "the snake moves up")
 
 
-def test_r_starts_afresh_in_the_middle_of_a_run(game):
+def test_r_restarts_during_a_run(game):
     board = game.board()
     game.start_run()
     game.press("Up")
@@ -99,12 +99,12 @@ def test_running_into_a_wall_ends_the_run(game):
     game.wait_for(OVER, "Game over.", "0 POINTS  ·  Classic", "Leave your name in the garden.")
 
 
-def test_a_fruit_counts_ten_points_and_lifts_the_stored_best_at_once(game, home):
+def test_a_fruit_gives_ten_points_and_stores_the_best_at_once(game, home):
     game.start_run()
     eventually(lambda: "best-Classic" in home.preferences(), "the best is on disk")
     game.press("space")
     game.wait_for(PAUSED)
-    # Seldom, chance lays the next fruit right before the snake.
+    # The next fruit may happen to be right in front of the snake.
     score = home.preferences()["best-Classic"]
     assert score in (10, 20)
     game.wait_for(f"SCORE: {score}", f"PERSONAL BEST: {score}",

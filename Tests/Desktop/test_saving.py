@@ -1,18 +1,18 @@
-"""A finished run is kept under a name and found again."""
+"""Saving a score under a name."""
 
 from game import FRESH, MOVING, OVER, PAUSED
 from waiting import eventually
 
 
 def end_run(game):
-    """Plays into the nearest wall, past no fruit: the first one lies in another row."""
+    """Steers into the nearest wall. The first fruit is in another row."""
     game.start_run()
     game.press("Up")
     game.wait_for("Game over.", "0 POINTS  ·  Classic")
 
 
 def end_run_over_fruit(game):
-    """Plays straight over the first fruit into the wall; the score, for chance may add fruit."""
+    """Plays over the first fruit into the wall. Returns the score, as there may be more fruit."""
     game.start_run()
     game.wait_for("Game over.")
     line, = (text for text in game.texts() if text.endswith(" POINTS  ·  Classic"))
@@ -27,7 +27,7 @@ def save(game, name):
     game.wait_for("Score saved · Top 10")
 
 
-def test_a_name_and_return_store_the_table_the_name_and_the_best(game, home):
+def test_return_saves_the_table_the_name_and_the_best(game, home):
     score = end_run_over_fruit(game)
     save(game, "  Pip   of the Garden ")
     preferences = home.preferences()
@@ -45,7 +45,7 @@ def test_the_saved_row_is_shown_at_once(game):
     game.wait_for("01 Pip 0", "Play again", "SPACE TO PLAY AGAIN")
 
 
-def test_the_program_started_again_knows_best_name_and_row(launch):
+def test_the_next_start_finds_the_best_the_name_and_the_score(launch):
     first = launch()
     score = end_run_over_fruit(first)
     save(first, "Pip")
@@ -67,7 +67,7 @@ def test_a_run_that_ends_without_fruit_stores_no_best(game, home):
     assert "best-Classic" not in home.preferences()
 
 
-def test_space_and_letters_go_into_the_name(game):
+def test_space_and_letters_are_typed_into_the_name(game):
     end_run(game)
     game.type("w a s d r")
     eventually(lambda: game.find("Player name").text == "w a s d r", "the name is typed")
@@ -84,13 +84,13 @@ def test_a_name_of_blanks_is_not_saved(game, home):
     assert home.high_scores() == []
 
 
-def test_a_name_ends_at_24_characters(game):
+def test_a_name_is_cut_at_24_characters(game):
     end_run(game)
     save(game, "abcdefghijklmnopqrstuvwxyz")
     game.wait_for("01 abcdefghijklmnopqrstuvwx 0")
 
 
-def test_skipping_keeps_nothing_and_space_plays_again(game, home):
+def test_skipping_saves_nothing_and_space_plays_again(game, home):
     end_run(game)
     game.click(game.find("Skip saving"))
     game.wait_for("Top 10", "A fresh start. Be the first on the board.")
@@ -99,23 +99,23 @@ def test_skipping_keeps_nothing_and_space_plays_again(game, home):
     game.wait_for(MOVING)
 
 
-def test_new_game_is_greyed_and_without_effect_while_a_name_is_awaited(game):
+def test_new_game_is_disabled_during_name_entry(game):
     new_game = game.find("New Game")
     assert new_game.can_be_used()
     end_run(game)
-    eventually(lambda: not new_game.can_be_used(), "New Game is greyed")
+    eventually(lambda: not new_game.can_be_used(), "New Game is disabled")
     game.press("ctrl+n")
-    # Keys are taken in order: once this one is seen, the one before has had its say.
+    # Keys are handled in order: once this one is shown, Ctrl+N has been handled.
     game.type("x")
     eventually(lambda: game.find("Player name").text == "x", "the name is typed")
     assert game.shows(OVER, "Leave your name in the garden.")
     game.press("Return")
-    eventually(new_game.can_be_used, "New Game is back")
+    eventually(new_game.can_be_used, "New Game is enabled again")
     game.press("ctrl+n")
     game.wait_for(MOVING)
 
 
-def test_new_game_starts_a_run_and_pause_stops_it(game):
+def test_ctrl_n_starts_a_run_and_ctrl_p_pauses_it(game):
     game.press("ctrl+n")
     game.wait_for(MOVING)
     game.press("ctrl+p")

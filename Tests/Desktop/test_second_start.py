@@ -1,4 +1,4 @@
-"""One running game a player: a second start brings the first window forward and ends."""
+"""Single instance: a second start activates the first window and exits."""
 
 import signal
 import subprocess
@@ -16,7 +16,7 @@ NO_BUS = {"DBUS_SESSION_BUS_ADDRESS": "unix:path=/nonexistent/bus"}
 
 @pytest.fixture
 def start_again(desktop, home):
-    """Starts the program once more in the same home; the process."""
+    """Starts the program again in the same home. Returns the process."""
     started = []
 
     def start_again(**environment):
@@ -31,50 +31,50 @@ def start_again(desktop, home):
         assert process.communicate()[0] == b""
 
 
-def ends_at_once(process):
+def exits_normally(process):
     return process.wait(PATIENCE) == 0
 
 
 @pytest.mark.parametrize("environment", [{}, NO_BUS], ids=["session bus", "no session bus"])
-def test_a_second_start_brings_the_first_to_the_front_and_ends(
+def test_a_second_start_activates_the_first_window_and_exits(
         launch, other_window, start_again, environment):
     game = launch(**environment)
     other_window.take_focus_from(game)
-    assert ends_at_once(start_again(**environment))
-    eventually(game.is_active, "the first window is in front")
+    assert exits_normally(start_again(**environment))
+    eventually(game.is_active, "the first window is active")
     assert game.is_full_screen()
 
 
-def test_a_second_start_comes_before_the_window_that_was_last_typed_into(
+def test_a_second_start_activates_despite_focus_stealing_prevention(
         game, other_window, start_again):
-    """Window managers keep from the front what was asked for before the player's last key."""
+    """Window managers refuse activation requests older than the last user input."""
     game.press("shift")
     other_window.take_focus_from(game)
     game.press("shift", "a")
-    assert ends_at_once(start_again())
-    eventually(game.is_active, "the first window is in front")
+    assert exits_normally(start_again())
+    eventually(game.is_active, "the first window is active")
 
 
-def test_a_second_start_changes_nothing_of_a_run(game, start_again):
+def test_a_second_start_does_not_affect_the_run(game, start_again):
     game.start_run()
     game.press("space")
     game.wait_for(PAUSED)
-    assert ends_at_once(start_again())
-    eventually(game.is_active, "the first window is in front")
+    assert exits_normally(start_again())
+    eventually(game.is_active, "the first window is active")
     assert game.shows(PAUSED)
 
 
-def test_a_second_start_brings_a_minimised_window_back(game, other_window, start_again):
+def test_a_second_start_restores_a_minimised_window(game, other_window, start_again):
     other_window.take_focus_from(game)
     game.desktop.run("xdotool", "windowminimize", str(game.window))
     eventually(game.is_minimised, "the window is minimised")
-    assert ends_at_once(start_again())
-    eventually(lambda: not game.is_minimised(), "the window is back")
-    eventually(game.is_active, "the window is in front")
+    assert exits_normally(start_again())
+    eventually(lambda: not game.is_minimised(), "the window is restored")
+    eventually(game.is_active, "the window is active")
     assert game.is_full_screen()
 
 
-def test_after_a_kill_the_next_start_is_a_game(launch, start_again):
+def test_starts_after_a_kill(launch, start_again):
     for _ in range(3):
         killed = launch()
         killed.process.send_signal(signal.SIGKILL)
@@ -82,27 +82,27 @@ def test_after_a_kill_the_next_start_is_a_game(launch, start_again):
     launch().start_run()
 
 
-def test_a_second_start_ends_even_when_the_first_hangs(game, other_window, start_again):
+def test_a_second_start_exits_even_if_the_first_is_stopped(game, other_window, start_again):
     other_window.take_focus_from(game)
     game.process.send_signal(signal.SIGSTOP)
     try:
-        assert ends_at_once(start_again())
+        assert exits_normally(start_again())
     finally:
         game.process.send_signal(signal.SIGCONT)
-    eventually(game.is_active, "once it goes on, the first window is in front")
+    eventually(game.is_active, "the first window is active once it continues")
 
 
-def test_of_two_starts_at_the_same_moment_exactly_one_stays(start_again):
+def test_of_two_simultaneous_starts_exactly_one_keeps_running(start_again):
     starts = [start_again(), start_again()]
-    eventually(lambda: any(each.poll() is not None for each in starts), "one has ended")
-    ended, = (each for each in starts if each.poll() is not None)
-    stayed, = (each for each in starts if each is not ended)
-    assert ended.returncode == 0
-    # Long enough for the other to end as well, were it about to.
+    eventually(lambda: any(each.poll() is not None for each in starts), "one has exited")
+    exited, = (each for each in starts if each.poll() is not None)
+    running, = (each for each in starts if each is not exited)
+    assert exited.returncode == 0
+    # Long enough for the other to exit as well if it were going to.
     time.sleep(2)
-    assert stayed.poll() is None
-    stayed.terminate()
-    assert stayed.wait(PATIENCE) == 0
+    assert running.poll() is None
+    running.terminate()
+    assert running.wait(PATIENCE) == 0
 
 
 @pytest.fixture
@@ -120,17 +120,17 @@ def has_owner(bus):
     ("Activate", "(a{sv})", [{}]),
     ("Activate", "(a{sv})", [{"desktop-startup-id": GLib.Variant("s", "launcher_TIME0")}]),
     ("Open", "(asa{sv})", [["file:///somewhere"], {}]),
-], ids=["plainly", "with a token", "with a file"])
-def test_the_desktop_brings_the_game_forward_over_the_bus(
+], ids=["without a token", "with a token", "with a file"])
+def test_the_desktop_activates_the_window_over_d_bus(
         game, bus, other_window, method, signature, arguments):
-    eventually(lambda: has_owner(bus), "the game has its name on the bus")
+    eventually(lambda: has_owner(bus), "the game owns its bus name")
     other_window.take_focus_from(game)
     call(bus, (BUS_NAME, "/org/fernwick/fernwick"), "org.freedesktop.Application", method,
          signature, *arguments)
-    eventually(game.is_active, "the window is in front")
+    eventually(game.is_active, "the window is active")
 
 
-def test_the_name_on_the_bus_goes_with_the_game(game, bus):
-    eventually(lambda: has_owner(bus), "the game has its name on the bus")
+def test_releases_its_bus_name_on_exit(game, bus):
+    eventually(lambda: has_owner(bus), "the game owns its bus name")
     game.quit()
-    eventually(lambda: not has_owner(bus), "the name is free")
+    eventually(lambda: not has_owner(bus), "the bus name is released")

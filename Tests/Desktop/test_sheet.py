@@ -1,4 +1,4 @@
-"""The sheet of high scores over the game."""
+"""The high scores sheet."""
 
 import pytest
 from game import MOVING, PAUSED
@@ -11,7 +11,7 @@ def wait_until_closed(game):
     eventually(lambda: not game.shows("The high scores."), "the sheet is closed")
 
 
-def test_it_opens_from_the_keyboard_and_from_its_icon(game):
+def test_opens_by_key_and_by_button(game):
     game.press("ctrl+l")
     game.wait_for(*SHEET)
     game.press("Escape")
@@ -20,13 +20,13 @@ def test_it_opens_from_the_keyboard_and_from_its_icon(game):
     game.wait_for(*SHEET)
 
 
-def test_opening_it_pauses_the_run(game):
+def test_opening_pauses_the_run(game):
     game.start_run()
     game.press("ctrl+l")
     game.wait_for(PAUSED, *SHEET)
 
 
-def test_escape_closes_it_and_never_resumes(game):
+def test_escape_closes_it_without_resuming(game):
     game.start_run()
     game.press("ctrl+l")
     game.wait_for(*SHEET)
@@ -34,7 +34,7 @@ def test_escape_closes_it_and_never_resumes(game):
     wait_until_closed(game)
     assert game.shows(PAUSED)
     game.press("Escape")
-    # Had the second Escape resumed, this would pause.
+    # If the second Escape had resumed, this would pause.
     game.press("space")
     game.wait_for(MOVING)
 
@@ -47,7 +47,7 @@ def test_done_closes_it(game):
 
 
 @pytest.mark.parametrize("keys", ["space", "r", "ctrl+n", "ctrl+p"])
-def test_no_key_starts_or_resumes_a_run_under_it(game, keys):
+def test_no_key_starts_or_resumes_a_run_while_it_is_open(game, keys):
     game.start_run()
     game.press("ctrl+l")
     game.wait_for(*SHEET)
@@ -56,19 +56,19 @@ def test_no_key_starts_or_resumes_a_run_under_it(game, keys):
     assert game.shows(PAUSED)
 
 
-def test_new_game_is_greyed_under_it(game):
+def test_new_game_is_disabled_while_it_is_open(game):
     new_game = game.find("New Game")
     game.press("ctrl+l")
-    eventually(lambda: not new_game.can_be_used(), "New Game is greyed")
+    eventually(lambda: not new_game.can_be_used(), "New Game is disabled")
     game.press("Escape")
-    eventually(new_game.can_be_used, "New Game is back")
+    eventually(new_game.can_be_used, "New Game is enabled again")
 
 
-def test_another_speed_is_looked_at_without_being_chosen(game):
+def test_viewing_another_speed_does_not_select_it(game):
     game.press("ctrl+l")
     game.wait_for(*SHEET)
     behind, on_sheet = game.find_showing("Swift")
     game.click(on_sheet)
-    eventually(on_sheet.is_checked, "Swift is looked at")
+    eventually(on_sheet.is_checked, "Swift is shown")
     assert not behind.is_checked()
     assert game.find("Classic").is_checked()

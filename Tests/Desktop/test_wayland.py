@@ -1,16 +1,16 @@
-"""The essentials on a Wayland desktop."""
+"""The game under a Wayland compositor."""
 
 import signal
 
 import pytest
-from compositor import GROUND, Compositor
+from compositor import BACKGROUND, Compositor
 from game import FRESH, MOVING, PAUSED, Game
 from screen import Screen
-from test_playing import LETTERS, steer_round
+from test_playing import LETTERS, steer_in_a_square
 from waiting import eventually
 
 SIZE = Screen.WIDTH, Screen.HEIGHT
-OWN_SIZE = 940, 860
+WINDOW_SIZE = 940, 860
 
 
 @pytest.fixture
@@ -24,7 +24,7 @@ def wayland(desktop):
 
 
 @pytest.fixture
-def french_keyboard(desktop):
+def french_layout(desktop):
     desktop.run("setxkbmap", "fr")
     yield
     desktop.run("setxkbmap", "us")
@@ -32,19 +32,19 @@ def french_keyboard(desktop):
 
 @pytest.fixture
 def launch(desktop, wayland, home, tmp_path):
-    """Starts the program there and waits until it can be played; it may print nothing."""
+    """Starts the program and checks afterwards that it has printed nothing."""
     games = []
 
     def launch(**environment):
         game = Game(desktop, tmp_path, desktop.environment | home.environment
                     | wayland.environment | environment)
         games.append(game)
-        # What the X server knows of the game is the compositor's window.
+        # The X server only sees the window of the compositor.
         game.window = wayland.window
         game.wait_for(FRESH, "Find your flow.")
         window, = game.top().children()
-        eventually(window.is_active, "the window is in front")
-        eventually(lambda: place_within_ground(game) == (0, 0, *SIZE), "the screen is filled")
+        eventually(window.is_active, "the window is active")
+        eventually(lambda: bounds_of_game(game) == (0, 0, *SIZE), "the window fills the screen")
         return game
 
     yield launch
@@ -63,49 +63,49 @@ def window_size(game):
     return tuple(window.place_on_screen()[2:])
 
 
-def place_within_ground(game):
-    """Left, top, width and height of all on the screen that is not the compositor's ground."""
-    return game.desktop.screen.picture().place_of_all_but(GROUND)
+def bounds_of_game(game):
+    """Left, top, width and height of what is not the compositor's background."""
+    return game.desktop.screen.picture().bounds_without(BACKGROUND)
 
 
-def test_full_screen_is_reached_on_launch(game):
+def test_starts_in_full_screen(game):
     assert window_size(game) == SIZE
     assert not game.find("File").is_showing()
 
 
-def test_the_letters_w_a_s_d_steer_the_snake(game):
-    steer_round(game, LETTERS)
+def test_w_a_s_d_steer_the_snake(game):
+    steer_in_a_square(game, LETTERS)
 
 
-# The compositor asks for the keyboard's layout when it starts.
-def test_the_same_places_steer_on_a_french_keyboard(french_keyboard, launch):
-    steer_round(launch(), LETTERS)
+# The compositor reads the keyboard layout when it starts.
+def test_the_same_physical_keys_steer_with_a_french_layout(french_layout, launch):
+    steer_in_a_square(launch(), LETTERS)
 
 
-# Coming back is tried on X only: this compositor misses, now and then, that its window is in front
+# Regaining the focus is tested under X11 only: weston sometimes misses that its window is active
 # again.
-def test_losing_the_focus_pauses(game, other_window):
+def test_pauses_when_it_loses_the_focus(game, other_window):
     game.start_run()
     other_window.take_focus_from(game)
     game.wait_for(PAUSED, "No rush.")
 
 
-def test_the_pointer_presses_buttons(game):
+def test_buttons_can_be_clicked(game):
     game.point_at(*middle(game.find("Let's grow")))
     game.desktop.run("xdotool", "click", "1")
     game.wait_for(MOVING)
 
 
-def test_outside_full_screen_the_window_has_its_own_size_and_no_frame(game):
+def test_leaving_full_screen_restores_the_window_size_without_a_frame(game):
     game.press("F11")
     game.wait_for("Minimise")
-    eventually(lambda: place_within_ground(game)[2:] == OWN_SIZE, "nothing is drawn around it")
+    eventually(lambda: bounds_of_game(game)[2:] == WINDOW_SIZE, "there is no frame")
     game.press("F11")
-    eventually(lambda: place_within_ground(game) == (0, 0, *SIZE), "full screen again")
+    eventually(lambda: bounds_of_game(game) == (0, 0, *SIZE), "full screen again")
 
 
 @pytest.mark.parametrize("scale", [1.25, 1.5])
-def test_it_plays_at_fractional_scales(launch, scale):
+def test_plays_at_fractional_scale_factors(launch, scale):
     game = launch(QT_SCALE_FACTOR=str(scale))
     game.start_run()
     game.press("space")
@@ -113,7 +113,7 @@ def test_it_plays_at_fractional_scales(launch, scale):
 
 
 @pytest.mark.parametrize("number", [signal.SIGTERM, signal.SIGINT, signal.SIGHUP])
-def test_a_signal_ends_it_with_status_0(game, number):
+def test_a_signal_quits_with_status_0(game, number):
     game.process.send_signal(number)
     assert game.exit_status() == 0
 

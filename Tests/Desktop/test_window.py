@@ -1,28 +1,28 @@
-"""The window outside full screen, moved and sized by the pointer though it has no frame."""
+"""Moving and resizing the frameless window outside full screen."""
 
 import pytest
 from waiting import eventually
 
-SMALLEST = 820, 760
-TOP_BAND = 20
+MINIMUM_SIZE = 820, 760
+TITLE_BAND_Y = 20
 GRIP = 2
 STEPS = 10
-# A drag may begin only after the pointer has gone some way.
-SLACK = 16
+# A drag may start only after the pointer has moved some pixels.
+TOLERANCE = 16
 
 
 @pytest.fixture
 def window(game):
-    """The program, out of full screen and at rest at its own size."""
+    """The game outside full screen, at its default size."""
     game.press("F11")
-    eventually(lambda: game.geometry()[2:] == (940, 860), "the window has its own size")
+    eventually(lambda: game.geometry()[2:] == (940, 860), "the window has its default size")
     game.wait_for("Minimise")
     return game
 
 
-def drag(game, begin, by):
-    """Holds the left button down over a way, as a hand does; the result lets it go."""
-    x, y = begin
+def drag(game, start, by):
+    """Presses the left button and moves in small steps. Returns a function that releases it."""
+    x, y = start
     dx, dy = by
     game.point_at(x, y)
     game.desktop.run("xdotool", "mousedown", "1")
@@ -32,41 +32,41 @@ def drag(game, begin, by):
 
 
 def is_near(geometry, expected):
-    return all(abs(a - b) <= SLACK for a, b in zip(geometry, expected))
+    return all(abs(a - b) <= TOLERANCE for a, b in zip(geometry, expected))
 
 
-def test_the_top_band_drags_it(window):
+def test_dragging_the_title_band_moves_the_window(window):
     left, top, width, height = window.geometry()
-    let_go = drag(window, (left + width // 2, top + TOP_BAND), by=(80, 60))
+    release = drag(window, (left + width // 2, top + TITLE_BAND_Y), by=(80, 60))
     eventually(lambda: is_near(window.geometry(), (left + 80, top + 60, width, height)),
                "the window has moved")
-    let_go()
+    release()
 
 
-def test_its_edge_resizes_it(window):
+def test_dragging_an_edge_resizes_the_window(window):
     left, top, width, height = window.geometry()
-    let_go = drag(window, (left + width - GRIP, top + height // 2), by=(100, 0))
+    release = drag(window, (left + width - GRIP, top + height // 2), by=(100, 0))
     eventually(lambda: is_near(window.geometry(), (left, top, width + 100, height)),
                "the window is wider")
-    let_go()
+    release()
 
 
-def test_it_refuses_to_become_smaller_than_820_by_760(window):
+def test_the_minimum_size_is_820_by_760(window):
     left, top, width, height = window.geometry()
-    let_go = drag(window, (left + width - GRIP, top + height - GRIP), by=(-400, -400))
-    eventually(lambda: window.geometry()[2:] == SMALLEST, "the window is at its smallest")
-    let_go()
-    assert window.geometry()[2:] == SMALLEST
+    release = drag(window, (left + width - GRIP, top + height - GRIP), by=(-400, -400))
+    eventually(lambda: window.geometry()[2:] == MINIMUM_SIZE, "the window has its minimum size")
+    release()
+    assert window.geometry()[2:] == MINIMUM_SIZE
 
 
-def test_its_marks_maximise_and_close_it(window):
+def test_the_maximise_and_close_buttons_work(window):
     window.click(window.find("Maximise"))
     eventually(window.is_maximised, "the window is maximised")
     window.click(window.find("Close"))
     assert window.exit_status() == 0
 
 
-def test_its_mark_minimises_it(window):
+def test_the_minimise_button_works(window):
     window.click(window.find("Minimise"))
     eventually(lambda: "_NET_WM_STATE_HIDDEN" in window.state(), "the window is minimised")
 
@@ -75,18 +75,18 @@ def double_click(game):
     game.desktop.run("xdotool", "click", "--repeat", "2", "--delay", "50", "1")
 
 
-def test_a_click_on_the_top_band_does_not_hold_the_window(window):
+def test_a_click_on_the_title_band_does_not_start_a_drag(window):
     left, top, width, _ = before = window.geometry()
-    window.point_at(left + width // 2, top + TOP_BAND)
+    window.point_at(left + width // 2, top + TITLE_BAND_Y)
     window.desktop.run("xdotool", "click", "1")
-    window.point_at(left + width // 2 + 80, top + TOP_BAND + 60)
-    # A key goes through the same hands as the pointer's move and shows that it has been seen.
+    window.point_at(left + width // 2 + 80, top + TITLE_BAND_Y + 60)
+    # Once the game reacts to a key, it has handled the pointer motion before it.
     window.start_run()
     assert window.geometry() == before
 
 
-def test_a_double_click_on_the_top_band_maximises_it(window):
+def test_a_double_click_on_the_title_band_maximises_the_window(window):
     left, top, width, _ = window.geometry()
-    window.point_at(left + width // 2, top + TOP_BAND)
+    window.point_at(left + width // 2, top + TITLE_BAND_Y)
     double_click(window)
     eventually(window.is_maximised, "the window is maximised")

@@ -1,17 +1,17 @@
-"""Waiting for what is to happen, by looking again and again."""
+"""Waiting for a condition by polling."""
 
 import time
 
-PATIENCE = 15
-PAUSE_BETWEEN_LOOKS = 0.02
+PATIENCE = 15  # seconds
+POLL_INTERVAL = 0.02  # seconds
 
 
 def eventually(condition, what, patience=PATIENCE):
-    """What `condition()` returns as soon as it is true; fails with `what` when it stays untrue."""
+    """Polls `condition` until it is true and returns its value; fails with `what` on a timeout."""
     deadline = time.monotonic() + patience
     while True:
-        seen = condition()
-        if seen:
-            return seen
+        value = condition()
+        if value:
+            return value
         assert time.monotonic() < deadline, f"{what}: not within {patience} s"
-        time.sleep(PAUSE_BETWEEN_LOOKS)
+        time.sleep(POLL_INTERVAL)

@@ -5,20 +5,20 @@
 #include <filesystem>
 #include <stdexcept>
 
-/// Until it goes, the test runs without the superuser's right to pass every permission; the
-/// folder given, and what is in it, belong to that ordinary user. Does nothing for others.
+/// If the test runs as root, which ignores file permissions: changes the effective user to "nobody"
+/// until destroyed, and gives it the folder with its contents.
 class AsOrdinaryUser {
 public:
     explicit AsOrdinaryUser(const std::filesystem::path& folder) {
         if (::geteuid() != 0) {
             return;
         }
-        give(folder);
+        chownToNobody(folder);
         for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
-            give(entry.path());
+            chownToNobody(entry.path());
         }
         if (::seteuid(nobody) != 0) {
-            throw std::runtime_error("cannot become an ordinary user");
+            throw std::runtime_error("seteuid failed");
         }
         changed_ = true;
     }
@@ -33,9 +33,9 @@ public:
 private:
     static constexpr uid_t nobody = 65534;
 
-    static void give(const std::filesystem::path& path) {
+    static void chownToNobody(const std::filesystem::path& path) {
         if (::lchown(path.c_str(), nobody, static_cast<gid_t>(-1)) != 0) {
-            throw std::runtime_error("cannot give a file away");
+            throw std::runtime_error("lchown failed");
         }
     }
 

@@ -5,15 +5,14 @@
 
 #include "Support/PipedProcess.hpp"
 
-/// Another program, started by a test and gone with it. What it writes to its standard output
-/// comes through a pipe; its standard error is dropped.
+/// A program that is killed on destruction. Its stdout is a pipe; its stderr is discarded.
 class ChildProcess : public PipedProcess {
 public:
-    /// Looks `command[0]` up as a shell would; throws when no process can be made.
+    /// Finds `command[0]` in PATH. Throws when fork() fails.
     explicit ChildProcess(std::vector<std::string> command)
-        : PipedProcess([&command](int output) { become(command, output); }) {}
+        : PipedProcess([&command](int output) { execute(command, output); }) {}
 
-    /// Everything it has written since the last call, up to its end.
+    /// Waits for its end and returns what it has written since the last call.
     [[nodiscard]] std::string output() const {
         std::string text;
         std::array<char, 4096> piece{};
@@ -24,7 +23,7 @@ public:
     }
 
 private:
-    [[noreturn]] static void become(std::vector<std::string>& command, int output) {
+    [[noreturn]] static void execute(std::vector<std::string>& command, int output) {
         std::vector<char*> arguments;
         for (std::string& argument : command) {
             arguments.push_back(argument.data());

@@ -2,8 +2,7 @@
 
 #include <cstdlib>
 
-/// The number in a variable of the environment: how far a test goes that can go far. `otherwise`
-/// where it is not set.
+/// The number in an environment variable, `otherwise` when it is unset. For the length of tests.
 [[nodiscard]] inline double environmentNumber(const char* name, double otherwise) {
     const char* text = std::getenv(name);
     return text == nullptr ? otherwise : std::strtod(text, nullptr);

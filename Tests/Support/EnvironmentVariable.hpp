@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-/// Sets a variable of this process's environment, or unsets it (`nullptr`), for its own life.
+/// Sets an environment variable, or unsets it (`nullptr`), until destroyed.
 class EnvironmentVariable {
 public:
     EnvironmentVariable(const char* name, const char* value) : name_(name) {

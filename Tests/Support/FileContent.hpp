@@ -22,7 +22,7 @@ inline QByteArray readFile(const std::filesystem::path& path) {
     return QByteArray::fromStdString(std::string(std::istreambuf_iterator<char>(file), {}));
 }
 
-/// Keys and values in readable notation, whatever their order and types.
+/// Keys and values in CBOR diagnostic notation, sorted.
 using Settings = std::map<std::string, std::string>;
 
 inline Settings settingsOf(const QCborMap& map) {
@@ -34,17 +34,17 @@ inline Settings settingsOf(const QCborMap& map) {
     return settings;
 }
 
-/// The settings in a file, read by the library's own reader rather than by the code under test.
+/// The settings in a file, read with QCborValue instead of the code under test.
 inline Settings settingsIn(const std::filesystem::path& path) {
     return settingsOf(QCborValue::fromCbor(readFile(path)).toMap());
 }
 
-/// The names in `folder`, sorted; those that begin with `beginning` only.
+/// The sorted names in `folder` that start with `prefix`.
 inline std::vector<std::string> namesIn(const std::filesystem::path& folder,
-                                        const std::string& beginning = "") {
+                                        const std::string& prefix = "") {
     std::vector<std::string> names;
     for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-        if (std::string name = entry.path().filename(); name.starts_with(beginning)) {
+        if (std::string name = entry.path().filename(); name.starts_with(prefix)) {
             names.push_back(std::move(name));
         }
     }

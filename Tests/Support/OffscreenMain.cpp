@@ -2,7 +2,7 @@
 
 #include <QGuiApplication>
 
-// Tests of what needs an application but no screen.
+// For tests that need a QGuiApplication but no display.
 int main(int argc, char* argv[]) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);

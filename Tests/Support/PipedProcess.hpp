@@ -10,7 +10,7 @@
 #include <stdexcept>
 #include <utility>
 
-/// A process that a test starts, reads through a pipe, and takes with it when it ends.
+/// A child process with a pipe to the test. Killed on destruction and when the test process dies.
 class PipedProcess {
 public:
     PipedProcess(const PipedProcess&) = delete;
@@ -22,13 +22,13 @@ public:
         }
     }
 
-    /// Ends it in the middle of whatever it does. Does nothing to one that has ended.
+    /// Sends SIGKILL and waits. Does nothing after its end.
     void kill() {
         send(SIGKILL);
         static_cast<void>(wait());
     }
 
-    /// Waits for its end; its exit status, or -1 when a signal ended it.
+    /// Waits for its end. Returns the exit status, or -1 when a signal killed it.
     [[nodiscard]] int wait() {
         if (process_ > 0) {
             int status = 0;
@@ -39,13 +39,13 @@ public:
     }
 
 protected:
-    /// Runs `child(writeEnd)` in a copy of this process, which exits with status 0 when that
-    /// returns. Throws when no process can be made.
+    /// Runs `child(writeEnd)` in a fork, which exits with status 0 when that returns. Throws when
+    /// pipe2() or fork() fails.
     template <typename Child>
     explicit PipedProcess(Child child) {
         std::array<int, 2> ends{};
         if (::pipe2(ends.data(), O_CLOEXEC) != 0) {
-            throw std::runtime_error("no pipe");
+            throw std::runtime_error("pipe2 failed");
         }
         const pid_t parent = ::getpid();
         process_ = ::fork();
@@ -60,7 +60,7 @@ protected:
         readEnd_ = ends[0];
         if (process_ < 0) {
             ::close(readEnd_);
-            throw std::runtime_error("no process");
+            throw std::runtime_error("fork failed");
         }
     }
     ~PipedProcess() {

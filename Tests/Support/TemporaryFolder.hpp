@@ -6,13 +6,13 @@
 #include <string>
 #include <system_error>
 
-/// A folder of its own for one test, gone with everything in it at the end.
+/// A temporary folder that is removed with its contents on destruction.
 class TemporaryFolder {
 public:
     TemporaryFolder() {
         std::string pattern = std::filesystem::temp_directory_path() / "fernwick-XXXXXX";
         if (::mkdtemp(pattern.data()) == nullptr) {
-            throw std::runtime_error("no temporary folder");
+            throw std::runtime_error("mkdtemp failed");
         }
         path_ = pattern;
     }

@@ -3,7 +3,7 @@
 #include <QApplication>
 
 int main(int argc, char** argv) {
-    // Also when run by hand or asked for its list of tests, with no display about.
+    // Without a display, as when CMake lists the tests.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }

@@ -4,8 +4,8 @@
 
 #include "App/ApplicationStyle.hpp"
 
-// Tests of windows in the application's own dress. They need no real screen, and take none that
-// happens to be about unless FERNWICK_TEST_PLATFORM names its kind.
+// For tests of windows in the application's style. They run offscreen, even if there is a display,
+// unless FERNWICK_TEST_PLATFORM names another platform plugin.
 int main(int argc, char* argv[]) {
     qputenv("QT_QPA_PLATFORM", qEnvironmentVariableIsEmpty("FERNWICK_TEST_PLATFORM")
                                    ? "offscreen"

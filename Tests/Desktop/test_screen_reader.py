@@ -1,4 +1,4 @@
-"""The game as a screen reader's user meets it: by what is told, by keys and by named actions."""
+"""The game for screen reader users: names, roles, actions and notifications."""
 
 import pytest
 from accessibility import Listener
@@ -9,7 +9,7 @@ from waiting import eventually
 SAVED = "Score saved · Top 10"
 BOARD = "Snake board. Score {}. Use arrow keys or W A S D to move."
 
-# What each kind of control can be asked to do.
+# The action that each role must have.
 ACTIONS = {"push button": "Press", "toggle button": "Press", "radio button": "Press",
            "text": "SetFocus", "dialog": "SetFocus", "frame": None, "window": None}
 
@@ -17,19 +17,19 @@ ACTIONS = {"push button": "Press", "toggle button": "Press", "radio button": "Pr
 @pytest.fixture
 def listener(game):
     listener = Listener(game.desktop.accessibility)
-    # The program learns that someone listens, and says so by telling what happens next.
+    # Qt sends events only once it knows of the listener; wait until it does.
     sound = game.find("Toggle sound effects")
     was_on = sound.is_checked()
     sound.do("Press")
-    eventually(lambda: sound.is_checked() != was_on, "the sound is switched")
+    eventually(lambda: sound.is_checked() != was_on, "the sound is toggled")
     sound.do("Press")
-    eventually(lambda: sound.is_checked() == was_on, "the sound is switched back")
+    eventually(lambda: sound.is_checked() == was_on, "the sound is toggled back")
     yield listener
     listener.close()
 
 
-def eventually_hears(listener, name):
-    eventually(lambda: name in listener.names(), f"'{name}' is told")
+def wait_for_name(listener, name):
+    eventually(lambda: name in listener.names(), f"'{name}' is announced")
 
 
 def end_run(game):
@@ -38,8 +38,8 @@ def end_run(game):
     game.wait_for("Game over.")
 
 
-def show_nothing_more(game):
-    """The first screen, as it is."""
+def stay_at_start(game):
+    """Stays on the first screen."""
 
 
 def pause(game):
@@ -65,9 +65,9 @@ def leave_full_screen(game):
     game.wait_for("Minimise")
 
 
-@pytest.mark.parametrize("reach", [show_nothing_more, pause, end_run, save, open_sheet,
+@pytest.mark.parametrize("reach", [stay_at_start, pause, end_run, save, open_sheet,
                                    leave_full_screen])
-def test_every_control_says_what_it_is_and_what_it_does(game, reach):
+def test_every_control_has_a_name_a_role_and_an_action(game, reach):
     reach(game)
     controls = [element for element in game.top().everything_showing() if element.is_focusable()]
     assert len(controls) >= 6
@@ -79,13 +79,13 @@ def test_every_control_says_what_it_is_and_what_it_does(game, reach):
     assert all(field.is_editable() for field in controls if field.role == "text")
 
 
-def test_the_window_is_one_to_a_screen_reader(game):
+def test_the_window_has_a_role_and_a_name(game):
     window, = game.top().children()
     assert (window.role, window.name) == ("frame", "Fernwick")
-    eventually(window.is_active, "it has the keyboard")
+    eventually(window.is_active, "the window is active")
 
 
-def test_a_choice_and_a_switch_tell_how_they_stand(game):
+def test_radio_and_toggle_buttons_report_their_state(game):
     assert [game.find(speed).is_checked() for speed in ("Gentle", "Classic", "Swift")] == [
         False, True, False]
     sound = game.find("Toggle sound effects")
@@ -94,41 +94,41 @@ def test_a_choice_and_a_switch_tell_how_they_stand(game):
     eventually(lambda: not sound.is_checked(), "the sound is off")
 
 
-def test_every_turn_of_a_run_is_told_once(game, listener):
+def test_every_change_of_state_is_announced_once(game, listener):
     game.press("space")
-    eventually_hears(listener, MOVING)
+    wait_for_name(listener, MOVING)
     game.press("space")
-    eventually_hears(listener, PAUSED)
+    wait_for_name(listener, PAUSED)
     game.press("space", "Up")
-    eventually_hears(listener, OVER)
+    wait_for_name(listener, OVER)
     game.type("Pip")
     game.press("Return")
-    eventually_hears(listener, SAVED)
-    told = [name for name in listener.names() if name in (MOVING, PAUSED, OVER, SAVED)]
-    assert told == [MOVING, PAUSED, MOVING, OVER, SAVED]
+    wait_for_name(listener, SAVED)
+    announced = [name for name in listener.names() if name in (MOVING, PAUSED, OVER, SAVED)]
+    assert announced == [MOVING, PAUSED, MOVING, OVER, SAVED]
 
 
-def test_the_board_tells_a_new_score_once(game, listener):
-    # Straight ahead lies the first fruit.
+def test_a_new_score_is_announced_once(game, listener):
+    # The first fruit is straight ahead.
     game.press("space")
-    eventually_hears(listener, BOARD.format(10))
+    wait_for_name(listener, BOARD.format(10))
     assert listener.names().count(BOARD.format(10)) == 1
 
 
-def test_the_sheet_is_a_dialog_that_keeps_the_focus(game):
+def test_the_sheet_is_a_modal_dialog_that_keeps_the_focus(game):
     game.start_run()
     open_sheet(game)
     dialog = eventually(lambda: next((element for element in game.top().everything_showing()
-                                      if element.role == "dialog"), None), "the dialog is up")
+                                      if element.role == "dialog"), None), "the dialog is shown")
     assert dialog.name == "The high scores."
     assert dialog.is_modal()
     inside = [element for element in dialog.everything() if element.is_focusable()]
-    met = set()
+    visited = set()
     for _ in range(2 * len(inside)):
         game.press("Tab")
         focused = eventually(lambda: focus_within(inside), "the focus is on the sheet")
-        met.add(focused)
-    assert met >= {"Classic", "Done"}
+        visited.add(focused)
+    assert visited >= {"Classic", "Done"}
     game.press("Escape")
     wait_until_closed(game)
     assert game.shows(PAUSED)
@@ -138,22 +138,22 @@ def focus_within(elements):
     return next((element.name for element in elements if element.is_focused()), None)
 
 
-@pytest.mark.parametrize("reach", [show_nothing_more, end_run, save])
-def test_tab_goes_the_way_one_reads(game, reach):
+@pytest.mark.parametrize("reach", [stay_at_start, end_run, save])
+def test_tab_follows_the_reading_order(game, reach):
     reach(game)
     places = []
     stops = [element for element in game.top().everything_showing()
              if element.is_focusable() and element.can_be_used()]
-    # One stop for a group of choices: arrows choose within it.
+    # A radio group is a single tab stop.
     for _ in stops:
         game.press("Tab")
         place = eventually(lambda: focused_place(stops, places), "the focus has moved on")
         if places and place == places[0]:
             break
         places.append(place)
-    # The focus may have begun in the middle; from the topmost on it goes down, then to the right.
-    begin = places.index(min(places, key=row_and_column))
-    in_order = places[begin:] + places[:begin]
+    # The focus may have started in the middle: rotate the list to start at the top.
+    first = places.index(min(places, key=row_and_column))
+    in_order = places[first:] + places[:first]
     assert in_order == sorted(places, key=row_and_column)
     assert len(places) >= 4
 
@@ -168,13 +168,13 @@ def row_and_column(place):
     return top + height // 2, left
 
 
-def test_a_whole_run_is_played_by_actions_and_keys_alone(game, home, listener):
+def test_a_whole_run_can_be_played_with_actions_and_keys(game, home, listener):
     game.find("Swift").do("Press")
     eventually(game.find("Swift").is_checked, "Swift is chosen")
     game.find("Let's grow").do("Press")
-    eventually_hears(listener, MOVING)
+    wait_for_name(listener, MOVING)
     game.press("Up")
-    eventually_hears(listener, OVER)
+    wait_for_name(listener, OVER)
     game.wait_for("Game over.", "0 POINTS  ·  Swift")
     name = game.find("Player name")
     assert name.is_focused()
@@ -182,7 +182,7 @@ def test_a_whole_run_is_played_by_actions_and_keys_alone(game, home, listener):
     save_score = game.find("Save score")
     eventually(save_score.can_be_used, "the name can be saved")
     save_score.do("Press")
-    eventually_hears(listener, SAVED)
+    wait_for_name(listener, SAVED)
     game.wait_for("01 Pip 0")
     entry, = home.high_scores()
     assert (entry["name"], entry["pace"]) == ("Pip", "Swift")

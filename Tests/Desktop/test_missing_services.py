@@ -1,0 +1,135 @@
+"""Without optional desktop services the program works as usual and prints nothing."""
+
+import os
+
+import pytest
+from board import Board
+from game import Game
+from screen import Screen
+from waiting import eventually
+
+BUTTON_COLOUR = (166, 240, 163)
+INSIDE_THE_BUTTON = Screen.WIDTH // 2 - 60, 650
+NOBODY = 65534
+
+
+# Read from pixels, because there may be no accessibility bus.
+
+def shows_card(game):
+    """Whether the button of the start card is visible, in full screen."""
+    return game.desktop.screen.picture().colour(*INSIDE_THE_BUTTON) == BUTTON_COLOUR
+
+
+def is_running(game):
+    """Whether a run is in progress: otherwise the board is dimmed."""
+    return Board.is_moving(game.desktop.screen.picture())
+
+
+def unreachable(home):
+    """Environment variables for services with an address at which nothing listens."""
+    address = f"unix:path={home.environment['HOME']}/nothing"
+    return {
+        "session bus": {"DBUS_SESSION_BUS_ADDRESS": address},
+        "accessibility bus": {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "0",
+                              "AT_SPI_BUS_ADDRESS": address},
+        "sound server": {"PULSE_SERVER": address},
+    }
+
+
+def play_and_save(game, home):
+    game.press("space")
+    eventually(lambda: "best-Classic" in home.preferences(), "the first fruit is counted")
+    eventually(lambda: not is_running(game), "the run has ended")
+    game.type("Pip")
+    game.press("Return")
+    eventually(lambda: [entry["name"] for entry in home.high_scores()] == ["Pip"],
+               "the run is saved")
+
+
+@pytest.mark.parametrize("variable, value", [
+    ("LANG", "xx"),
+    ("LC_CTYPE", "UTF-8"),
+    ("WAYLAND_DISPLAY", "stale-wayland-display"),
+    ("XDG_RUNTIME_DIR", "/dev/null/runtime"),
+    ("XDG_RUNTIME_DIR", None),
+    ("SESSION_MANAGER", "local/elsewhere:@/tmp/.ICE-unix/1"),
+])
+def test_prints_nothing_in_an_unusual_environment(launch, home, variable, value):
+    game = launch(**{variable: value})
+    eventually(lambda: shows_card(game), "the start card is shown")
+    play_and_save(game, home)
+    game.press("ctrl+q")
+    assert game.exit_status() == 0
+    assert game.printed() == ""
+
+
+def test_prints_nothing_when_the_runtime_folder_belongs_to_another_user(launch, tmp_path):
+    folder = "/usr"
+    if os.geteuid() == 0:
+        folder = tmp_path / "runtime"
+        folder.mkdir(mode=0o700)
+        os.chown(folder, NOBODY, NOBODY)
+    game = launch(XDG_RUNTIME_DIR=str(folder), PULSE_SERVER=None)
+    game.press("space", "Up")
+    game.wait_for("Game over.")
+    game.quit()
+    assert game.printed() == ""
+
+
+@pytest.mark.parametrize("missing", [
+    ["sound server"],
+    ["session bus"],
+    ["accessibility bus"],
+    ["sound server", "session bus", "accessibility bus"],
+], ids=", ".join)
+def test_a_whole_session_works_and_prints_nothing_without(launch, home, missing):
+    environment = {}
+    for service in missing:
+        environment |= unreachable(home)[service]
+    game = launch(**environment)
+    eventually(lambda: shows_card(game), "the start card is shown")
+    game.press("ctrl+l")
+    eventually(lambda: not shows_card(game), "the sheet covers the card")
+    game.press("Escape")
+    eventually(lambda: shows_card(game), "the sheet is closed")
+    game.press("F11", "F11", "space")
+    eventually(lambda: is_running(game), "the run has started")
+    game.press("space")
+    eventually(lambda: not is_running(game), "the run is paused")
+    play_and_save(game, home)
+    game.press("space")
+    eventually(lambda: is_running(game), "the next run has started")
+    game.press("ctrl+q")
+    assert game.exit_status() == 0
+    assert game.printed() == ""
+
+
+@pytest.mark.parametrize("environment, message", [
+    ({"DISPLAY": ":4711"}, "could not connect to display :4711"),
+    ({"DISPLAY": ""}, "could not connect to display"),
+    ({"QT_QPA_PLATFORM": "wayland", "WAYLAND_DISPLAY": "nothing"}, "Failed to create wl_display"),
+], ids=["X server", "no X server", "Wayland"])
+def test_prints_why_it_cannot_start_without_a_display(
+        desktop, home, tmp_path, environment, message):
+    game = Game(desktop, tmp_path, desktop.environment | home.environment | environment)
+    try:
+        assert game.exit_status() != 0
+        assert message in game.printed()
+    finally:
+        game.kill()
+
+
+def test_logging_rules_switch_on_its_log_and_the_messages_of_qt(desktop, home, tmp_path):
+    rules = {"LANG": "xx", "QT_LOGGING_RULES": "fernwick.*=true;qt.xkb.compose.warning=true"}
+    game = Game(desktop, tmp_path, desktop.environment | home.environment
+                | {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"} | rules)
+    try:
+        game.wait_until_shown()
+        eventually(lambda: "fernwick.sound: no connection to the sound server" in game.printed(),
+                   "the sound is logged")
+        game.quit()
+        assert "fernwick.instance: first instance" in game.printed()
+        assert "preferences.cbor: absent" in game.printed()
+        assert "failed to create compose table" in game.printed()
+    finally:
+        game.kill()

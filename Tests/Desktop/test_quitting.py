@@ -1,0 +1,98 @@
+"""Every way to quit gives status 0, prints nothing and stores everything."""
+
+import signal
+import socket
+
+import pytest
+from waiting import PATIENCE, eventually
+
+
+def close_by_window_manager(game):
+    # The window manager handles this key and closes the window.
+    game.press("alt+F4")
+
+
+def press_ctrl_q(game):
+    game.press("ctrl+q")
+
+
+def send(number):
+    return lambda game: game.process.send_signal(number)
+
+
+WAYS_TO_QUIT = {
+    "window manager": close_by_window_manager,
+    "Ctrl Q": press_ctrl_q,
+    "SIGTERM": send(signal.SIGTERM),
+    "SIGINT": send(signal.SIGINT),
+    "SIGHUP": send(signal.SIGHUP),
+}
+# Signals do not depend on what the window shows; these two do.
+by_the_window = pytest.mark.parametrize("quit_by", [close_by_window_manager, press_ctrl_q])
+ways_to_quit = pytest.mark.parametrize("quit_by", WAYS_TO_QUIT.values(), ids=WAYS_TO_QUIT.keys())
+
+
+@ways_to_quit
+def test_quits_during_a_run_with_status_0_and_the_best_stored(game, home, quit_by):
+    game.start_run()
+    eventually(lambda: "best-Classic" in home.preferences(), "the best is on disk")
+    quit_by(game)
+    assert game.exit_status() == 0
+    assert list(home.preferences()) == ["best-Classic"]
+    assert home.preferences()["best-Classic"] >= 10
+
+
+def test_repeated_signals_until_the_end_give_status_0(game):
+    """Terminals and service managers may send several."""
+    while game.process.poll() is None:
+        for number in (signal.SIGHUP, signal.SIGTERM, signal.SIGINT):
+            game.process.send_signal(number)
+    assert game.exit_status() == 0
+
+
+@pytest.fixture
+def silent_bus(home):
+    """A socket that accepts connections and never replies: connecting to this bus blocks."""
+    with socket.socket(socket.AF_UNIX) as listener:
+        listener.bind(f"{home.environment['HOME']}/bus")
+        listener.listen()
+        listener.settimeout(PATIENCE)
+        yield listener
+
+
+@pytest.mark.parametrize("number", [signal.SIGTERM, signal.SIGINT, signal.SIGHUP])
+def test_a_signal_before_there_is_a_window_gives_status_0(start, silent_bus, number):
+    game = start(DBUS_SESSION_BUS_ADDRESS=f"unix:path={silent_bus.getsockname()}")
+    silent_bus.accept()
+    game.process.send_signal(number)
+    assert game.exit_status() == 0
+
+
+@by_the_window
+def test_quits_during_name_entry_with_status_0(game, quit_by):
+    game.start_run()
+    game.press("Up")
+    game.wait_for("Game over.")
+    quit_by(game)
+    assert game.exit_status() == 0
+
+
+@by_the_window
+def test_quits_with_the_sheet_open_with_status_0(game, quit_by):
+    game.press("ctrl+l")
+    game.wait_for("The high scores.")
+    quit_by(game)
+    assert game.exit_status() == 0
+
+
+def test_a_saved_run_and_the_sound_setting_persist(game, home):
+    game.click(game.find("Toggle sound effects"))
+    game.start_run()
+    game.press("Up")
+    game.wait_for("Game over.")
+    game.type("Pip")
+    game.press("Return", "ctrl+q")
+    assert game.exit_status() == 0
+    assert [entry["name"] for entry in home.high_scores()] == ["Pip"]
+    assert home.preferences()["player-name"] == "Pip"
+    assert home.preferences()["sound"] is False
