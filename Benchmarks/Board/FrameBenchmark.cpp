@@ -19,7 +19,7 @@ double scaleOf(const benchmark::State& state) {
     return static_cast<double>(state.range(0));
 }
 
-// A run and the same one step later, that step being no meal unless it is the last there can be.
+// A run and the same run one step later. The step eats no fruit, unless it fills the board.
 std::pair<Game, Game> neighbours(std::size_t length) {
     const std::size_t before = std::min(length, wholeBoard - 1);
     Game game = before > 4 ? Games::ofLength(before) : Game(28, 22);
@@ -32,17 +32,17 @@ std::pair<Game, Game> neighbours(std::size_t length) {
     return {game, next};
 }
 
-void present(QImage& screen, BoardPicture& picture, const QRegion& region) {
+void present(QImage& screen, Painting::BoardPicture& picture, const QRegion& region) {
     QPainter painter(&screen);
     for (const QRect& part : region) {
         picture.paint(painter, part);
     }
 }
 
-// A tick: the picture brought up to date and what changed of it put on the screen.
+// One tick: updates the picture and draws what changed.
 void frame(benchmark::State& state) {
     const auto [before, after] = neighbours(static_cast<std::size_t>(state.range(1)));
-    BoardPicture picture(Screens::grid(scaleOf(state)));
+    Painting::BoardPicture picture(Screens::grid(scaleOf(state)));
     picture.show(before);
     QImage screen = picture.image();
     bool forward = false;
@@ -53,7 +53,7 @@ void frame(benchmark::State& state) {
 }
 
 void copyingTheFrame(benchmark::State& state) {
-    BoardPicture picture(Screens::grid(scaleOf(state)));
+    Painting::BoardPicture picture(Screens::grid(scaleOf(state)));
     picture.show(Game(28, 22));
     const QImage whole = picture.image();
     QImage screen = whole.copy();
@@ -65,7 +65,7 @@ void copyingTheFrame(benchmark::State& state) {
 
 void straightforwardFrame(benchmark::State& state) {
     const auto [before, after] = neighbours(static_cast<std::size_t>(state.range(1)));
-    const PixelGrid grid = Screens::grid(scaleOf(state));
+    const Painting::PixelGrid grid = Screens::grid(scaleOf(state));
     for (auto _ : state) {
         benchmark::DoNotOptimize(ReferencePainter::paint(after, grid));
     }
@@ -73,18 +73,18 @@ void straightforwardFrame(benchmark::State& state) {
 
 void pauseBlur(benchmark::State& state) {
     const double scale = scaleOf(state);
-    BoardPicture picture(Screens::grid(scale));
+    Painting::BoardPicture picture(Screens::grid(scale));
     picture.show(Games::ofLength(60));
     for (auto _ : state) {
-        benchmark::DoNotOptimize(idlePicture(picture.image(), 5 * scale));
+        benchmark::DoNotOptimize(Painting::idlePicture(picture.image(), 5 * scale));
     }
 }
 
-// What the first paint after a change of the window's size costs.
+// The first paint at a new window size.
 void firstFrame(benchmark::State& state) {
     const Game game = Games::ofLength(static_cast<std::size_t>(state.range(1)));
     for (auto _ : state) {
-        BoardPicture picture(Screens::grid(scaleOf(state)));
+        Painting::BoardPicture picture(Screens::grid(scaleOf(state)));
         benchmark::DoNotOptimize(picture.show(game));
     }
 }

@@ -3,7 +3,7 @@
 #include "Board/Screens.hpp"
 #include "Fernwick/Painting/Games.hpp"
 #include "Painting/Board/BandGradient.hpp"
-#include "Painting/Board/BandMask.hpp"
+#include "Painting/Board/BandShape.hpp"
 #include "Painting/Board/Dots.hpp"
 #include "Painting/Board/Eyes.hpp"
 #include "Painting/Board/Fruit.hpp"
@@ -13,7 +13,11 @@
 
 namespace {
 
+using Painting::Link;
+using Painting::PixelGrid;
 using SnakeCore::Game;
+
+using Mask = Painting::Plane<std::uint8_t>;
 
 PixelGrid gridOf(const benchmark::State& state) {
     return Screens::grid(static_cast<double>(state.range(0)));
@@ -28,19 +32,20 @@ QImage blank(const PixelGrid& grid) {
 void links(benchmark::State& state) {
     const Game game = Games::ofLength(400);
     for (auto _ : state) {
-        benchmark::DoNotOptimize(snakeLinks(game));
+        benchmark::DoNotOptimize(Painting::snakeLinks(game));
     }
 }
 
 void maskOfOneTile(benchmark::State& state) {
-    BandMask mask(gridOf(state));
+    const PixelGrid grid = gridOf(state);
+    Mask mask(grid.size.width(), grid.size.height());
     for (auto _ : state) {
-        mask.setTile(9, 9, Link::left | Link::down);
+        Painting::Band::drawTile(mask, grid, 9, 9, Link::left | Link::down);
     }
 }
 
 void glowOfOneCell(benchmark::State& state) {
-    GlowField glow(gridOf(state));
+    Painting::GlowField glow(gridOf(state));
     for (auto _ : state) {
         glow.change(9, 9, Link::left | Link::down, Link::left | Link::right);
     }
@@ -48,8 +53,8 @@ void glowOfOneCell(benchmark::State& state) {
 
 void glowOverTheBoard(benchmark::State& state) {
     const PixelGrid grid = gridOf(state);
-    GlowField glow(grid);
-    glow.change(9, 9, Link::none, Link::left | Link::down);
+    Painting::GlowField glow(grid);
+    glow.change(9, 9, {}, Link::left | Link::down);
     QImage picture = blank(grid);
     for (auto _ : state) {
         glow.paint(picture, picture.rect());
@@ -58,16 +63,15 @@ void glowOverTheBoard(benchmark::State& state) {
 
 void bandOverTheBoard(benchmark::State& state) {
     const PixelGrid grid = gridOf(state);
-    BandMask mask(grid);
-    mask.setTile(9, 9, Link::left | Link::down);
-    const BandGradient gradient({20, 20}, {700, 500});
+    Mask mask(grid.size.width(), grid.size.height());
+    Painting::Band::drawTile(mask, grid, 9, 9, Link::left | Link::down);
+    const Painting::BandGradient gradient({20, 20}, {700, 500});
     const QImage ground = blank(grid);
     QImage picture = blank(grid);
     for (auto _ : state) {
         for (int y = 0; y < grid.size.height(); ++y) {
-            gradient.paintRow(reinterpret_cast<quint32*>(picture.scanLine(y)),
-                              reinterpret_cast<const quint32*>(ground.constScanLine(y)),
-                              mask.row(y), grid.size.width(), 0, y);
+            gradient.paint(Painting::scanline(picture, picture.rect(), y),
+                           Painting::pixelsAt(ground, 0, y), mask.row(y));
         }
     }
 }
@@ -75,13 +79,13 @@ void bandOverTheBoard(benchmark::State& state) {
 void makingTheDots(benchmark::State& state) {
     const PixelGrid grid = gridOf(state);
     for (auto _ : state) {
-        benchmark::DoNotOptimize(Dots(grid));
+        benchmark::DoNotOptimize(Painting::Dots(grid));
     }
 }
 
 void dotsOverTheBoard(benchmark::State& state) {
     const PixelGrid grid = gridOf(state);
-    const Dots dots(grid);
+    const Painting::Dots dots(grid);
     QImage picture = blank(grid);
     for (auto _ : state) {
         dots.paint(picture, picture.rect());
@@ -91,13 +95,13 @@ void dotsOverTheBoard(benchmark::State& state) {
 void makingTheFruit(benchmark::State& state) {
     const PixelGrid grid = gridOf(state);
     for (auto _ : state) {
-        benchmark::DoNotOptimize(Fruit(grid, {9, 9}));
+        benchmark::DoNotOptimize(Painting::Fruit(grid, {9, 9}));
     }
 }
 
 void fruitPainted(benchmark::State& state) {
     const PixelGrid grid = gridOf(state);
-    const Fruit fruit(grid, {9, 9});
+    const Painting::Fruit fruit(grid, {9, 9});
     QImage picture = blank(grid);
     for (auto _ : state) {
         fruit.paint(picture, picture.rect());
@@ -108,21 +112,23 @@ void makingTheEyes(benchmark::State& state) {
     const PixelGrid grid = gridOf(state);
     const Game game(28, 22);
     for (auto _ : state) {
-        benchmark::DoNotOptimize(Eyes(grid, game));
+        benchmark::DoNotOptimize(Painting::Eyes(grid, game));
     }
 }
 
-// What a change of the window's size costs beside the picture.
+// The work for a new window size besides the board's picture.
 void backdropAndEdge(benchmark::State& state) {
     const auto scale = static_cast<double>(state.range(0));
-    const QRectF frame = fitBoard(Screens::space).frame.translated(38, 195);
+    const QRectF frame =
+        Painting::fitBoard(Screens::space, Screens::cells).frame.translated(38, 195);
     const QRect place = QRectF(frame.topLeft() * scale, frame.size() * scale).toAlignedRect();
     const QRectF here(frame.topLeft() * scale - place.topLeft(), frame.size() * scale);
     for (auto _ : state) {
-        Backdrop backdrop;
+        Painting::Backdrop backdrop;
         backdrop.fit({1920, 1080}, scale, frame);
         benchmark::DoNotOptimize(backdrop.image(backdrop.bounds()));
-        benchmark::DoNotOptimize(FrameEdge(backdrop, place, FrameShape(here, scale)));
+        benchmark::DoNotOptimize(
+            Painting::FrameEdge(backdrop, place, Painting::FrameShape(here, scale)));
     }
 }
 

@@ -11,7 +11,7 @@ constexpr QSize window(1400, 900);
 constexpr QRectF frame(500.5, 200, 560, 440);
 
 QImage groundOf(const QSize& size, double scale, const QRectF& board) {
-    Backdrop backdrop;
+    Painting::Backdrop backdrop;
     backdrop.fit(size, scale, board);
     return backdrop.image(backdrop.bounds());
 }
@@ -126,7 +126,7 @@ TEST(Backdrop, throwsTheFramesShadowDownwards) {
 }
 
 TEST(Backdrop, changesOnlyWithThePlaceOfWhatItLiesBehind) {
-    Backdrop backdrop;
+    Painting::Backdrop backdrop;
     backdrop.fit(window, 1, frame);
     const int first = backdrop.revision();
 
@@ -141,7 +141,7 @@ TEST(Backdrop, changesOnlyWithThePlaceOfWhatItLiesBehind) {
 }
 
 TEST(Backdrop, isTheSameWhateverTheAreasItIsPaintedBy) {
-    Backdrop backdrop;
+    Painting::Backdrop backdrop;
     backdrop.fit(window, 1, frame);
     QImage inPieces(window, QImage::Format_RGB32);
     QPainter painter(&inPieces);

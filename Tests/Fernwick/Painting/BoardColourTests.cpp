@@ -12,10 +12,10 @@ using SnakeCore::Direction;
 using SnakeCore::Game;
 
 // Cells of 40 pixels that fall on whole pixels, two pixels a point.
-constexpr PixelGrid roomy{QSize(28 * 40, 22 * 40), QPointF(0, 0), 40, 2, 28, 22};
+constexpr Painting::PixelGrid roomy{QSize(28 * 40, 22 * 40), QPointF(0, 0), 40, 2, 28, 22};
 
 QImage painted(const Game& game) {
-    BoardPicture picture(roomy);
+    Painting::BoardPicture picture(roomy);
     picture.show(game);
     return picture.image();
 }
@@ -63,10 +63,10 @@ TEST(BoardColours, aDotOf1Point6LiesOnTheCentreOfEveryFreeCell) {
 }
 
 TEST(BoardColours, dotsKeepTheirSizeOnASmallerBoard) {
-    PixelGrid small = roomy;
+    Painting::PixelGrid small = roomy;
     small.size /= 2;
     small.cell /= 2;
-    BoardPicture picture(small);
+    Painting::BoardPicture picture(small);
     picture.show(Game(28, 22));
 
     EXPECT_NEAR(mintIn(picture.image(), {6, 6, 8, 8}), M_PI * 1.6 * 1.6 * 0.12, 0.1);

@@ -18,8 +18,8 @@ constexpr int largestStep = 24;
 
 constexpr double cell = 13.37;
 
-QImage paintedAfresh(const Game& game, const PixelGrid& grid) {
-    BoardPicture picture(grid);
+QImage paintedAfresh(const Game& game, const Painting::PixelGrid& grid) {
+    Painting::BoardPicture picture(grid);
     picture.show(game);
     return picture.image();
 }
@@ -39,7 +39,7 @@ class BoardPictureOf : public testing::TestWithParam<Sight> {};
 
 TEST_P(BoardPictureOf, aSnakeLooksAsPaintedTheStraightforwardWay) {
     const Game game = Games::ofLength(GetParam().length);
-    const PixelGrid grid = Grids::usual(cell, GetParam().scale);
+    const Painting::PixelGrid grid = Grids::usual(cell, GetParam().scale);
 
     expectLikeReference(paintedAfresh(game, grid), ReferencePainter::paint(game, grid));
 }
@@ -59,7 +59,7 @@ TEST(BoardPicture, everyDirectionLooksAsPaintedTheStraightforwardWay) {
     for (const Direction direction :
          {Direction::up, Direction::down, Direction::left, Direction::right}) {
         const Game game = Games::going(direction);
-        const PixelGrid grid = Grids::usual(20, 1);
+        const Painting::PixelGrid grid = Grids::usual(20, 1);
 
         expectLikeReference(paintedAfresh(game, grid), ReferencePainter::paint(game, grid));
     }
@@ -68,9 +68,9 @@ TEST(BoardPicture, everyDirectionLooksAsPaintedTheStraightforwardWay) {
 TEST(BoardPicture, restsBlurredAndDimmedAsPaintedTheStraightforwardWay) {
     for (const double scale : {1.0, 1.5, 2.0}) {
         const Game game = Games::ofLength(60);
-        const PixelGrid grid = Grids::usual(cell, scale);
+        const Painting::PixelGrid grid = Grids::usual(cell, scale);
 
-        const QImage resting = idlePicture(paintedAfresh(game, grid), 5 * scale);
+        const QImage resting = Painting::idlePicture(paintedAfresh(game, grid), 5 * scale);
 
         expectLikeReference(resting, ReferencePainter::paintIdle(game, grid));
     }
@@ -89,8 +89,8 @@ QRegion differingPixels(const QImage& left, const QImage& right) {
 }
 
 TEST(BoardPicture, keptUpToDateIsThePicturePaintedAfresh) {
-    const PixelGrid grid = Grids::usual(9.3, 1);
-    BoardPicture picture(grid);
+    const Painting::PixelGrid grid = Grids::usual(9.3, 1);
+    Painting::BoardPicture picture(grid);
     Game game(28, 22);
     std::mt19937 generator(3);
     for (int step = 0; step < 150; ++step) {
@@ -103,8 +103,8 @@ TEST(BoardPicture, keptUpToDateIsThePicturePaintedAfresh) {
 }
 
 TEST(BoardPicture, whatItReportsAsChangedHoldsEveryPixelThatDid) {
-    const PixelGrid grid = Grids::usual(16.4, 1);
-    BoardPicture picture(grid);
+    const Painting::PixelGrid grid = Grids::usual(16.4, 1);
+    Painting::BoardPicture picture(grid);
     const Game fresh(28, 22);
     Game turned = fresh;
     turned.turn(Direction::up);
@@ -125,8 +125,8 @@ TEST(BoardPicture, whatItReportsAsChangedHoldsEveryPixelThatDid) {
 
 TEST(BoardPicture, isTheSameWhateverTheAreasItIsPaintedBy) {
     const Game game = Games::ofLength(200);
-    const PixelGrid grid = Grids::usual(13.37, 1);
-    BoardPicture picture(grid);
+    const Painting::PixelGrid grid = Grids::usual(13.37, 1);
+    Painting::BoardPicture picture(grid);
     picture.show(game);
     QImage inPieces(grid.size, QImage::Format_RGB32);
     QPainter painter(&inPieces);
@@ -151,8 +151,8 @@ TEST(BoardPicture, aTurnIntoAWallMovesTheEyesAlone) {
         game.step();
     }
     ASSERT_EQ(game.snake().front(), (SnakeCore::Cell{0, 0}));
-    const PixelGrid grid = Grids::usual(18, 1);
-    BoardPicture picture(grid);
+    const Painting::PixelGrid grid = Grids::usual(18, 1);
+    Painting::BoardPicture picture(grid);
     picture.show(game);
     const QImage before = picture.image();
     game.turn(Direction::up);
@@ -168,8 +168,8 @@ TEST(BoardPicture, aTurnIntoAWallMovesTheEyesAlone) {
 }
 
 TEST(BoardPicture, aStepOfAShortSnakeLeavesMostOfTheBoardAlone) {
-    const PixelGrid grid = Grids::usual(18, 1);
-    BoardPicture picture(grid);
+    const Painting::PixelGrid grid = Grids::usual(18, 1);
+    Painting::BoardPicture picture(grid);
     Game game(28, 22);
     picture.show(game);
 

@@ -8,9 +8,13 @@
 
 namespace {
 
+using Painting::genericPixelKernels;
+using Painting::PixelKernels;
+using Painting::pixelKernels;
+using Painting::Scanline;
 using Row = std::vector<quint32>;
 
-// All lengths around a few times what a processor takes at once.
+// All lengths up to several vectors of the widest instruction set.
 constexpr int longest = 70;
 
 class PixelKernelsOfThisProcessor : public testing::Test {
@@ -24,7 +28,8 @@ protected:
     std::vector<float> samples() {
         return filled<float>([this] { return static_cast<float>(generator_() % 32769); });
     }
-    quint32 number() { return static_cast<quint32>(generator_()); }
+    QPoint place() { return {number(), number()}; }
+    int number() { return static_cast<int>(generator_() % 4096); }
 
 private:
     template <typename Value, typename Make>
@@ -37,64 +42,69 @@ private:
     std::mt19937 generator_{11};
 };
 
-TEST_F(PixelKernelsOfThisProcessor, mixAsThePlainOnesDo) {
+Scanline scanlineOf(Row& row, const QPoint& place, int count) {
+    return {row.data(), place.x(), place.y(), count};
+}
+
+TEST_F(PixelKernelsOfThisProcessor, blendBilinearCoverageLikeTheGenericOnes) {
     for (int count = 0; count <= longest; ++count) {
         const std::vector<float> upper = samples();
         const std::vector<float> lower = samples();
-        const PixelKernels::Between between{upper.data(), lower.data(), 0.2F / 32768,
-                                            0.15F / 32768};
-        const Rgb colour{166, 240, 163};
-        const quint32 phase = number();
+        const PixelKernels::BilinearCoverage coverage{upper.data(), lower.data(), 0.2F / 32768,
+                                                      0.15F / 32768};
+        const Painting::Rgb colour{166, 240, 163};
+        const QPoint at = place();
         Row expected = pixels();
         Row actual = expected;
 
-        plainPixelKernels().mixBetween(expected.data(), count, phase, colour, between);
-        pixelKernels().mixBetween(actual.data(), count, phase, colour, between);
+        genericPixelKernels().blendBilinear(scanlineOf(expected, at, count), colour, coverage);
+        pixelKernels().blendBilinear(scanlineOf(actual, at, count), colour, coverage);
 
         EXPECT_EQ(actual, expected) << count;
     }
 }
 
-TEST_F(PixelKernelsOfThisProcessor, blendAsThePlainOnesDo) {
+TEST_F(PixelKernelsOfThisProcessor, blendMaskedPixelsLikeTheGenericOnes) {
     for (int count = 0; count <= longest; ++count) {
         const Row under = pixels();
         const std::vector<std::uint8_t> coverage = mask();
-        const quint32 phase = number();
+        const QPoint at = place();
         Row expected = pixels();
         Row actual = expected;
 
-        plainPixelKernels().blend(expected.data(), under.data(), coverage.data(), count, phase);
-        pixelKernels().blend(actual.data(), under.data(), coverage.data(), count, phase);
+        genericPixelKernels().blendMasked(scanlineOf(expected, at, count), under.data(),
+                                          coverage.data());
+        pixelKernels().blendMasked(scanlineOf(actual, at, count), under.data(), coverage.data());
 
         EXPECT_EQ(actual, expected) << count;
     }
 }
 
-TEST_F(PixelKernelsOfThisProcessor, fillSlopesAsThePlainOnesDo) {
+TEST_F(PixelKernelsOfThisProcessor, fillGradientsLikeTheGenericOnes) {
     for (int count = 0; count <= longest; ++count) {
-        const PixelKernels::Slope slope{{150U << 16U, 3U << 16U, 90U << 16U},
-                                        {number() % 4096, 0, 77}};
-        const quint32 phase = number();
+        const PixelKernels::Gradient gradient{{150U << 16U, 3U << 16U, 90U << 16U},
+                                              {static_cast<quint32>(number()), 0, 77}};
+        const QPoint at = place();
         Row expected = pixels();
         Row actual = expected;
 
-        plainPixelKernels().fillSlope(expected.data(), count, phase, slope);
-        pixelKernels().fillSlope(actual.data(), count, phase, slope);
+        genericPixelKernels().fillGradient(scanlineOf(expected, at, count), gradient);
+        pixelKernels().fillGradient(scanlineOf(actual, at, count), gradient);
 
         EXPECT_EQ(actual, expected) << count;
     }
 }
 
-TEST(PixelKernels, keepWhatIsNotCoveredAndReplaceWhatIsWhollyCovered) {
+TEST(PixelKernels, keepPixelsWithoutCoverageAndReplaceThoseWithFullCoverage) {
     const Row under{0xFF010203U, 0xFFFFFFFFU, 0xFF000000U, 0xFF7F8081U};
     const Row over{0xFFA0B0C0U, 0xFF000000U, 0xFFFFFFFFU, 0xFF102030U};
     const std::vector<std::uint8_t> none(under.size(), 0);
-    const std::vector<std::uint8_t> whole(under.size(), 255);
+    const std::vector<std::uint8_t> full(under.size(), 255);
     Row kept = over;
     Row replaced = over;
 
-    pixelKernels().blend(kept.data(), under.data(), none.data(), 4, 12345);
-    pixelKernels().blend(replaced.data(), under.data(), whole.data(), 4, 12345);
+    pixelKernels().blendMasked(scanlineOf(kept, {3, 5}, 4), under.data(), none.data());
+    pixelKernels().blendMasked(scanlineOf(replaced, {3, 5}, 4), under.data(), full.data());
 
     EXPECT_EQ(kept, under);
     EXPECT_EQ(replaced, over);

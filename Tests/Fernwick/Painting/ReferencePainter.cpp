@@ -146,7 +146,7 @@ void paintEyes(QPainter& painter, const SnakeCore::Game& game, double cell) {
     }
 }
 
-QPainter& prepared(QPainter& painter, const PixelGrid& grid) {
+QPainter& prepared(QPainter& painter, const Painting::PixelGrid& grid) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.translate(grid.origin / grid.scale);
@@ -154,7 +154,7 @@ QPainter& prepared(QPainter& painter, const PixelGrid& grid) {
 }
 
 // The picture on a transparent ground.
-QImage paintClear(const SnakeCore::Game& game, const PixelGrid& grid) {
+QImage paintClear(const SnakeCore::Game& game, const Painting::PixelGrid& grid) {
     const double cell = grid.cell / grid.scale;
     const QPointF fruit = centre(game.food(), cell);
     QImage image(grid.size, QImage::Format_ARGB32_Premultiplied);
@@ -195,11 +195,11 @@ QImage overSoil(const QImage& layer, double opacity) {
 
 }  // namespace
 
-QImage ReferencePainter::paint(const SnakeCore::Game& game, const PixelGrid& grid) {
+QImage ReferencePainter::paint(const SnakeCore::Game& game, const Painting::PixelGrid& grid) {
     return overSoil(paintClear(game, grid), 1);
 }
 
-QImage ReferencePainter::paintIdle(const SnakeCore::Game& game, const PixelGrid& grid) {
+QImage ReferencePainter::paintIdle(const SnakeCore::Game& game, const Painting::PixelGrid& grid) {
     QImage layer = paintClear(game, grid);
     blurThrice(layer, 5 * grid.scale);
     return overSoil(layer, 0.4);

@@ -10,9 +10,9 @@
 namespace ReferencePainter {
 
 /// `game` over the board's plain fill.
-[[nodiscard]] QImage paint(const SnakeCore::Game& game, const PixelGrid& grid);
+[[nodiscard]] QImage paint(const SnakeCore::Game& game, const Painting::PixelGrid& grid);
 
 /// The same while no run is moving: the picture blurred and at opacity 0.4 over the plain fill.
-[[nodiscard]] QImage paintIdle(const SnakeCore::Game& game, const PixelGrid& grid);
+[[nodiscard]] QImage paintIdle(const SnakeCore::Game& game, const Painting::PixelGrid& grid);
 
 }  // namespace ReferencePainter

@@ -39,10 +39,7 @@ protected:
     }
 
     /// Where the frame of the board stands, in points of the window.
-    [[nodiscard]] QRectF boardFrame() const {
-        const auto& area = the<BoardArea>();
-        return area.frame().translated(area.mapTo(&window, QPoint()));
-    }
+    [[nodiscard]] QRectF boardFrame() const { return the<BoardArea>().frame(); }
 
     [[nodiscard]] double cell() const { return boardFrame().width() / 28; }
 

@@ -10,19 +10,17 @@
 
 namespace {
 
+using Painting::Scanline;
+
 constexpr QColor tailColour = Garden::srgb(0.23, 0.58, 0.40);
-constexpr double one = 1 << 16;
+constexpr double fixedOne = 1 << 16;
 
 std::array<int, 3> channels(const QColor& colour) {
     return {colour.red(), colour.green(), colour.blue()};
 }
 
-quint32 solid(const std::array<int, 3>& colour) {
-    return qRgb(colour[0], colour[1], colour[2]);
-}
-
-// Where the run of bytes equal to `value` that begins at `begin` ends.
-int runEnd(const std::uint8_t* bytes, std::uint8_t value, int begin, int end) {
+// The end of the run of bytes equal to `value` that starts at `begin`.
+int endOfEqual(const std::uint8_t* bytes, std::uint8_t value, int begin, int end) {
     constexpr int step = 8;
     const std::uint64_t pattern = value * 0x0101010101010101U;
     std::uint64_t word = 0;
@@ -39,29 +37,31 @@ int runEnd(const std::uint8_t* bytes, std::uint8_t value, int begin, int end) {
     return begin;
 }
 
-// Where the run of bytes other than `value` that begins at `begin` ends.
-int otherEnd(const std::uint8_t* bytes, std::uint8_t value, int begin, int end) {
+// The end of the run of bytes other than `value` that starts at `begin`.
+int endOfOther(const std::uint8_t* bytes, std::uint8_t value, int begin, int end) {
     const void* const found =
         std::memchr(bytes + begin, value, static_cast<std::size_t>(end - begin));
     return found == nullptr ? end
                             : static_cast<int>(static_cast<const std::uint8_t*>(found) - bytes);
 }
 
-void blend(quint32* row, const quint32* ground, const std::uint8_t* mask, int count,
-           quint32 phase) {
-    // Where an edge crosses the row it is a pixel or two wide: done before the loops have begun.
+void blend(const Scanline& line, const quint32* ground, const std::uint8_t* mask) {
+    // An antialiased edge across the row is a pixel or two wide: too short for a vector kernel.
     constexpr int few = 3;
-    if (count > few) {
-        pixelKernels().blend(row, ground, mask, count, phase);
+    if (line.count > few) {
+        Painting::pixelKernels().blendMasked(line, ground, mask);
         return;
     }
-    for (int i = 0; i < count; ++i) {
-        row[i] = Pixels::blendPixel(ground[i], row[i], mask[i], phase);
-        phase += Pixels::patternStepX;
+    quint32 phase = Painting::ditherPhase(line.x, line.y);
+    for (int i = 0; i < line.count; ++i) {
+        line.pixels[i] = Painting::blendMaskedPixel(ground[i], line.pixels[i], mask[i], phase);
+        phase += Painting::ditherStepX;
     }
 }
 
 }  // namespace
+
+namespace Painting {
 
 BandGradient::BandGradient(const QPointF& tail, const QPointF& head) : tail_(tail) {
     const QPointF way = head - tail;
@@ -70,65 +70,72 @@ BandGradient::BandGradient(const QPointF& tail, const QPointF& head) : tail_(tai
     const std::array<int, 3> to = channels(Garden::mint);
     const double first = QPointF::dotProduct(QPointF(0.5, 0.5) - tail, slope_);
     for (std::size_t i = 0; i < from.size(); ++i) {
-        const double growth = (to[i] - from[i]) * one;
-        origin_[i] = static_cast<std::int32_t>(std::lround(from[i] * one + growth * first));
-        right_[i] = static_cast<std::int32_t>(std::lround(growth * slope_.x()));
-        down_[i] = static_cast<std::int32_t>(std::lround(growth * slope_.y()));
+        const double change = (to[i] - from[i]) * fixedOne;
+        origin_[i] = static_cast<std::int32_t>(std::lround(from[i] * fixedOne + change * first));
+        perColumn_[i] = static_cast<std::int32_t>(std::lround(change * slope_.x()));
+        perRow_[i] = static_cast<std::int32_t>(std::lround(change * slope_.y()));
     }
 }
 
-void BandGradient::paintRow(quint32* row, const quint32* ground, const std::uint8_t* mask,
-                            int count, int x, int y) const {
+void BandGradient::paint(const Scanline& line, const quint32* ground,
+                         const std::uint8_t* mask) const {
     constexpr std::uint8_t none = 0;
-    constexpr std::uint8_t whole = 255;
-    const Row gradient = across(y);
+    constexpr std::uint8_t full = 255;
+    const auto part = [&line](int begin, int end) {
+        return line.part(line.x + begin, line.x + end);
+    };
+    const Stops stops = stopsOf(line.y);
     int end = 0;
-    while (end < count) {
+    while (end < line.count) {
         int begin = end;
-        end = runEnd(mask, none, begin, count);
-        std::copy(ground + begin, ground + end, row + begin);
+        end = endOfEqual(mask, none, begin, line.count);
+        std::copy(ground + begin, ground + end, line.pixels + begin);
         begin = end;
-        end = otherEnd(mask, none, begin, count);
-        fill(row + begin, end - begin, x + begin, y, gradient);
-        while ((begin = runEnd(mask, whole, begin, end)) < end) {
+        end = endOfOther(mask, none, begin, line.count);
+        fill(part(begin, end), stops);
+        while ((begin = endOfEqual(mask, full, begin, end)) < end) {
             const int edge = begin;
-            begin = otherEnd(mask, whole, edge, end);
-            blend(row + edge, ground + edge, mask + edge, begin - edge, Pixels::phase(x + edge, y));
+            begin = endOfOther(mask, full, edge, end);
+            blend(part(edge, begin), ground + edge, mask + edge);
         }
     }
 }
 
-BandGradient::Row BandGradient::across(int y) const {
+BandGradient::Stops BandGradient::stopsOf(int y) const {
     constexpr int far = std::numeric_limits<int>::max() / 2;
-    const quint32 tail = solid(channels(tailColour));
-    const quint32 head = solid(channels(Garden::mint));
-    // How far the row's left end is on the way from tail to head.
+    const quint32 tail = tailColour.rgb();
+    const quint32 head = Garden::mint.rgb();
+    // Where the row's left end is between the tail (0) and the head (1).
     const double start = QPointF::dotProduct(QPointF(0.5, y + 0.5) - tail_, slope_);
     if (slope_.x() == 0) {
         const bool between = start >= 0 && start <= 1;
         return {between ? -far : far, far, start < 0 ? tail : head, head};
     }
-    const auto pixelWhere = [&](double part) {
+    const auto columnOf = [&](double place) {
         return static_cast<int>(
-            std::ceil(std::clamp((part - start) / slope_.x(), -double{far}, double{far})));
+            std::ceil(std::clamp((place - start) / slope_.x(), -double{far}, double{far})));
     };
-    return slope_.x() > 0 ? Row{pixelWhere(0), pixelWhere(1), tail, head}
-                          : Row{pixelWhere(1), pixelWhere(0), head, tail};
+    return slope_.x() > 0 ? Stops{columnOf(0), columnOf(1), tail, head}
+                          : Stops{columnOf(1), columnOf(0), head, tail};
 }
 
-void BandGradient::fill(quint32* pixels, int count, int x, int y, const Row& row) const {
-    const int begin = std::clamp(row.begin - x, 0, count);
-    const int end = std::clamp(row.end - x, begin, count);
-    std::fill_n(pixels, begin, row.before);
-    fillSlope(pixels + begin, end - begin, x + begin, y);
-    std::fill_n(pixels + end, count - end, row.after);
+void BandGradient::fill(const Scanline& line, const Stops& stops) const {
+    const int lineEnd = line.x + line.count;
+    const int begin = std::clamp(stops.begin, line.x, lineEnd);
+    const int end = std::clamp(stops.end, begin, lineEnd);
+    line.part(line.x, begin).fill(stops.before);
+    fillGradient(line.part(begin, end));
+    line.part(end, lineEnd).fill(stops.after);
 }
 
-void BandGradient::fillSlope(quint32* pixels, int count, int x, int y) const {
-    PixelKernels::Slope slope{};
+void BandGradient::fillGradient(const Scanline& line) const {
+    PixelKernels::Gradient gradient{};
     for (std::size_t i = 0; i < origin_.size(); ++i) {
-        slope.first[i] = static_cast<quint32>(origin_[i] + x * right_[i] + y * down_[i]);
-        slope.growth[i] = static_cast<quint32>(right_[i]);
+        gradient.first[i] =
+            static_cast<quint32>(origin_[i] + line.x * perColumn_[i] + line.y * perRow_[i]);
+        gradient.change[i] = static_cast<quint32>(perColumn_[i]);
     }
-    pixelKernels().fillSlope(pixels, count, Pixels::phase(x, y), slope);
+    pixelKernels().fillGradient(line, gradient);
 }
+
+}  // namespace Painting

@@ -6,40 +6,43 @@
 
 #include "Painting/Raster/Pixels.hpp"
 
-/// The colour along the band: a deeper green at the tail, mint at the head, by the place between
-/// the two ends however the snake winds. What it paints on a pixel depends on that pixel alone and
-/// not on the row it is painted with.
+namespace Painting {
+
+/// The colour of the band: a linear gradient from deep green at the tail's centre to mint at the
+/// head's, regardless of the snake's way between them. A pixel depends on its place alone, not on
+/// the scanline that it is painted with.
 class BandGradient {
 public:
-    /// The centres of the two end cells, in pixels; they differ.
+    /// The centres of the tail's and the head's cell, in pixels; they differ.
     BandGradient(const QPointF& tail, const QPointF& head);
 
-    /// Lays the band over one row of the ground: `count` pixels from (x, y) on, each covered as
-    /// far as `mask` says. `row` and `ground` are different memory.
-    void paintRow(quint32* row, const quint32* ground, const std::uint8_t* mask, int count, int x,
-                  int y) const;
+    /// Fills a scanline with the band over `ground`. `mask` is the band's coverage of each pixel,
+    /// from 0 to 255. The three do not overlap in memory.
+    void paint(const Scanline& line, const quint32* ground, const std::uint8_t* mask) const;
 
 private:
-    // A channel as a whole number of 2^-16 steps; so it grows by the same amount each pixel, and a
-    // loop that only adds is the fastest there is.
-    using Fixed = std::array<std::int32_t, 3>;
+    // Red, green and blue in 16.16 fixed point: from pixel to pixel each changes by a constant, and
+    // adding integers is exact however the row is split up.
+    using FixedRgb = std::array<std::int32_t, 3>;
 
-    // One row: even up to `begin`, growing up to `end`, even from there.
-    struct Row {
+    // One row: `before` up to column `begin`, the gradient up to `end`, `after` from there.
+    struct Stops {
         int begin;
         int end;
         quint32 before;
         quint32 after;
     };
 
-    [[nodiscard]] Row across(int y) const;
-    void fill(quint32* pixels, int count, int x, int y, const Row& row) const;
-    void fillSlope(quint32* pixels, int count, int x, int y) const;
+    [[nodiscard]] Stops stopsOf(int y) const;
+    void fill(const Scanline& line, const Stops& stops) const;
+    void fillGradient(const Scanline& line) const;
 
     QPointF tail_;
-    // How much nearer to the head one pixel in either direction brings, of the whole way.
+    // How far one pixel in x and y brings one from the tail (0) to the head (1).
     QPointF slope_;
-    Fixed origin_{};
-    Fixed right_{};
-    Fixed down_{};
+    FixedRgb origin_{};
+    FixedRgb perColumn_{};
+    FixedRgb perRow_{};
 };
+
+}  // namespace Painting

@@ -1,20 +1,27 @@
 #pragma once
 
 #include <QRectF>
+#include <QSize>
+#include <algorithm>
 
-/// Where the board stands in the space it is offered; both in points.
+namespace Painting {
+
+/// The place of the board, in points.
 struct BoardGeometry {
-    // The board's shape is fixed and not read from the game.
-    static constexpr int columns = 28;
-    static constexpr int rows = 22;
-
     /// Edge length of one grid cell.
     double cell = 0;
-    /// Exactly 28 cells wide and 22 high, centred in the space; its edges may be fractions.
+    /// A whole number of cells in either direction. Its edges may be fractions.
     QRectF frame;
 
     friend bool operator==(const BoardGeometry&, const BoardGeometry&) = default;
 };
 
-/// The largest board that `space` holds.
-[[nodiscard]] BoardGeometry fitBoard(const QRectF& space);
+/// The largest board of that many `cells` inside `space`, centred.
+[[nodiscard]] inline BoardGeometry fitBoard(const QRectF& space, const QSize& cells) {
+    const double cell = std::min(space.width() / cells.width(), space.height() / cells.height());
+    QRectF frame(0, 0, cells.width() * cell, cells.height() * cell);
+    frame.moveCenter(space.center());
+    return {cell, frame};
+}
+
+}  // namespace Painting

@@ -2,31 +2,33 @@
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 #include "Garden/Look/Palette.hpp"
 #include "Painting/Board/BandShape.hpp"
-#include "Painting/Raster/RowPainting.hpp"
+
+namespace Painting {
 
 BoardPicture::BoardPicture(const PixelGrid& grid)
     : grid_(grid),
-      composed_(grid.size.width(), RowPainting::rowsAtOnce, QImage::Format_RGB32),
+      buffer_(grid.size.width(), rowsPerBatch, QImage::Format_RGB32),
       ground_(grid.size, QImage::Format_RGB32),
       dots_(grid),
       glow_(grid),
-      mask_(grid),
-      links_(static_cast<std::size_t>(grid.columns) * static_cast<std::size_t>(grid.rows)) {}
+      mask_(grid.size.width(), grid.size.height()),
+      links_(grid.columns, grid.rows) {}
 
 QRegion BoardPicture::show(const SnakeCore::Game& game) {
     QRegion changed;
     if (!shown_) {
         changed = ground_.rect();
     }
-    placeFruit(game.food(), changed);
-    placeBand(game, changed);
+    updateFruit(game.food(), changed);
+    updateBand(game, changed);
     for (const QRect& area : changed) {
         paintGround(area);
     }
-    // The gradient runs from tail to head: when an end moves, the whole band changes its colours.
+    // The gradient runs from tail to head: when either moves, the whole band changes its colours.
     const auto& snake = game.snake();
     if (!shown_ || shown_->snake().front() != snake.front() ||
         shown_->snake().back() != snake.back() || shown_->direction() != game.direction()) {
@@ -39,18 +41,14 @@ QRegion BoardPicture::show(const SnakeCore::Game& game) {
 }
 
 void BoardPicture::paint(QPainter& painter, const QRect& area) {
-    RowPainting::paint(painter, area, composed_, [this](quint32* row, int x, int count, int y) {
-        composeRow(row, x, count, y);
-    });
+    drawComposed(painter, area, buffer_, [this](const Scanline& line) { compose(line); });
 }
 
 QImage BoardPicture::image() const {
-    return RowPainting::image(ground_.rect(), [this](quint32* row, int x, int count, int y) {
-        composeRow(row, x, count, y);
-    });
+    return composedImage(ground_.rect(), [this](const Scanline& line) { compose(line); });
 }
 
-void BoardPicture::placeFruit(const SnakeCore::Cell& cell, QRegion& changed) {
+void BoardPicture::updateFruit(const SnakeCore::Cell& cell, QRegion& changed) {
     if (shown_ && shown_->food() == cell) {
         return;
     }
@@ -61,14 +59,15 @@ void BoardPicture::placeFruit(const SnakeCore::Cell& cell, QRegion& changed) {
     changed += fruit_->bounds() & ground_.rect();
 }
 
-void BoardPicture::placeBand(const SnakeCore::Game& game, QRegion& changed) {
-    std::vector<Links> links = snakeLinks(game);
+void BoardPicture::updateBand(const SnakeCore::Game& game, QRegion& changed) {
+    Plane<Links> links = snakeLinks(game);
     for (int row = 0; row < grid_.rows; ++row) {
         for (int column = 0; column < grid_.columns; ++column) {
-            const auto index = static_cast<std::size_t>(row * grid_.columns + column);
-            if (links_[index] != links[index]) {
-                glow_.change(column, row, links_[index], links[index]);
-                mask_.setTile(column, row, links[index]);
+            const Links before = links_.at(column, row);
+            const Links after = links.at(column, row);
+            if (before != after) {
+                glow_.change(column, row, before, after);
+                Band::drawTile(mask_, grid_, column, row, after);
                 changed += glow_.reach(column, row) & ground_.rect();
             }
         }
@@ -78,28 +77,26 @@ void BoardPicture::placeBand(const SnakeCore::Game& game, QRegion& changed) {
 
 void BoardPicture::paintGround(const QRect& area) {
     for (int y = area.top(); y <= area.bottom(); ++y) {
-        std::fill_n(RowPainting::pixelsOf(ground_, area.left(), y), area.width(),
-                    Garden::soil.rgb());
+        scanline(ground_, area, y).fill(Garden::soil.rgb());
     }
     dots_.paint(ground_, area);
     fruit_->paint(ground_, area);
     glow_.paint(ground_, area);
 }
 
-void BoardPicture::composeRow(quint32* row, int x, int count, int y) const {
-    const auto* const ground = reinterpret_cast<const quint32*>(ground_.constScanLine(y)) + x;
-    gradient_->paintRow(row, ground, mask_.row(y) + x, count, x, y);
-    eyes_->paintRow(row, x, count, y);
+void BoardPicture::compose(const Scanline& line) const {
+    gradient_->paint(line, pixelsAt(ground_, line.x, line.y), mask_.row(line.y) + line.x);
+    eyes_->paint(line);
 }
 
 QRegion BoardPicture::bandRegion() const {
-    const double halfWidth = BandShape::halfWidth * grid_.cell + 0.5;
-    // Row by row and from left to right, as a region takes them without sorting.
+    const double halfWidth = Band::halfWidth * grid_.cell + 0.5;
+    // Top to bottom and left to right, the order in which QRegion::setRects() takes them.
     std::vector<QRect> spans;
-    const auto addSpans = [&](int row, int top, int bottom, Links ways) {
+    const auto addSpans = [&](int row, int top, int bottom, Links links) {
         for (int column = 0; column < grid_.columns && top <= bottom; ++column) {
             const int first = column;
-            while (column < grid_.columns && (linksOf(column, row) & ways) != Link::none) {
+            while (column < grid_.columns && (links_.at(column, row) & links)) {
                 ++column;
             }
             if (column > first) {
@@ -109,7 +106,7 @@ QRegion BoardPicture::bandRegion() const {
         }
     };
     for (int row = 0; row < grid_.rows; ++row) {
-        // Beside the band nothing is new: only arms upward or downward reach past its width.
+        // Above and below the band's width a cell holds only the arms that go up and down.
         const QRect cells = grid_.tiles({0, row, grid_.columns, 1});
         const double middle = grid_.centre({0, row}).y();
         const int top = std::max(static_cast<int>(std::floor(middle - halfWidth)), cells.top());
@@ -124,6 +121,4 @@ QRegion BoardPicture::bandRegion() const {
     return region;
 }
 
-Links BoardPicture::linksOf(int column, int row) const {
-    return links_[static_cast<std::size_t>(row * grid_.columns + column)];
-}
+}  // namespace Painting

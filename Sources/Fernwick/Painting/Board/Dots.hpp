@@ -1,21 +1,25 @@
 #pragma once
 
 #include <QImage>
-#include <vector>
 
 #include "Painting/Board/PixelGrid.hpp"
 #include "Painting/Raster/CoverageLayer.hpp"
+#include "Painting/Raster/Plane.hpp"
 
-/// The faint dot in the middle of every cell: 1.6 points wide at any size of the board.
+namespace Painting {
+
+/// The faint dots in the centres of the cells, 1.6 points wide at any size of the board.
 class Dots {
 public:
     explicit Dots(const PixelGrid& grid);
 
-    /// Paints the dots where they lie inside `area`.
+    /// Paints the parts of the dots that lie inside `area`.
     void paint(QImage& picture, const QRect& area) const;
 
 private:
     PixelGrid grid_;
-    // Every dot falls differently on the pixels.
-    std::vector<CoverageLayer> dots_;
+    // One per cell: each lies differently on the pixels.
+    Plane<CoverageLayer> dots_;
 };
+
+}  // namespace Painting

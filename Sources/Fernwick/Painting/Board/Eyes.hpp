@@ -6,15 +6,19 @@
 #include "Painting/Raster/CoverageLayer.hpp"
 #include "SnakeCore/Game.hpp"
 
-/// The two eyes: a little ahead of the head's centre, side by side across the direction of the last
-/// step. They lie inside the head's tile.
+namespace Painting {
+
+/// The snake's eyes: a little ahead of the head's centre, side by side across the direction of the
+/// last step. They lie inside the head's tile.
 class Eyes {
 public:
     Eyes(const PixelGrid& grid, const SnakeCore::Game& game);
 
-    /// Paints what of them lies in one row of the picture: `count` pixels from (x, y) on.
-    void paintRow(quint32* row, int x, int count, int y) const;
+    /// Paints the parts of the eyes that lie on `line`.
+    void paint(const Scanline& line) const;
 
 private:
     std::array<CoverageLayer, 2> eyes_;
 };
+
+}  // namespace Painting

@@ -6,20 +6,25 @@
 #include <limits>
 
 #include "Garden/Look/Palette.hpp"
-#include "Painting/Board/FruitGlow.hpp"
-#include "Painting/Raster/Coverage.hpp"
 
 namespace {
+
+using Painting::CoverageLayer;
+using Painting::PixelGrid;
 
 constexpr QColor fruitColour = Garden::srgb(1.0, 0.52, 0.39);
 constexpr QColor glowColour = Garden::srgb(1.0, 0.62, 0.04);
 constexpr double glowOpacity = 0.55;
-/// In points, at any size of the board.
+// In cells: the fruit's radius, the sigma of the glow and the radius at which it has faded.
+constexpr double ballRadius = 0.28;
+constexpr double glowSigma = 0.5;
+constexpr double glowRadius = 2.25;
+// In points, at any size of the board.
 constexpr double stemWidth = 2;
-// The stem's curve from its foot over its control point to its tip, in cells from the centre.
-constexpr QPointF stemFoot(0, -0.3);
-constexpr QPointF stemBend(0, -0.55);
-constexpr QPointF stemTip(0.22, -0.48);
+// The stem is a quadratic Bézier curve. These are its points in cells, relative to the centre.
+constexpr QPointF stemStart(0, -0.3);
+constexpr QPointF stemControl(0, -0.55);
+constexpr QPointF stemEnd(0.22, -0.48);
 
 constexpr std::size_t stemSegments = 16;
 using StemLine = std::array<QPointF, stemSegments + 1>;
@@ -38,17 +43,6 @@ double squaredDistance(const QPointF& point, const QPointF& begin, const QPointF
     return squaredLength(point - begin - std::clamp(along, 0.0, 1.0) * way);
 }
 
-StemLine stemLine(const QPointF& centre, double cell) {
-    StemLine line;
-    for (std::size_t i = 0; i < line.size(); ++i) {
-        const double t = static_cast<double>(i) / stemSegments;
-        const QPointF point =
-            (1 - t) * (1 - t) * stemFoot + 2 * t * (1 - t) * stemBend + t * t * stemTip;
-        line[i] = centre + point * cell;
-    }
-    return line;
-}
-
 double squaredDistance(const QPointF& point, const StemLine& line) {
     double nearest = std::numeric_limits<double>::max();
     for (std::size_t i = 1; i < line.size(); ++i) {
@@ -57,18 +51,62 @@ double squaredDistance(const QPointF& point, const StemLine& line) {
     return nearest;
 }
 
+StemLine stemLine(const QPointF& centre, double cell) {
+    StemLine line;
+    for (std::size_t i = 0; i < line.size(); ++i) {
+        const double t = static_cast<double>(i) / stemSegments;
+        const QPointF point =
+            (1 - t) * (1 - t) * stemStart + 2 * t * (1 - t) * stemControl + t * t * stemEnd;
+        line[i] = centre + point * cell;
+    }
+    return line;
+}
+
+// The fruit's disc convolved with a Gaussian, at `distance` cells from the centre: the sum over
+// thin rings of the disc. A ring's share is a modified Bessel function of the distance.
+double blurredDisc(double distance) {
+    constexpr int rings = 64;
+    constexpr double thickness = ballRadius / rings;
+    constexpr double variance = glowSigma * glowSigma;
+    double sum = 0;
+    for (int i = 0; i < rings; ++i) {
+        const double ring = (i + 0.5) * thickness;
+        const double exponent = (distance * distance + ring * ring) / (2 * variance);
+        const double bessel = std::cyl_bessel_i(0.0, distance * ring / variance);
+        sum += std::exp(-exponent) * bessel * ring * thickness;
+    }
+    return sum / variance;
+}
+
+// blurredDisc() from a table. Its last entry is zero, so that the glow fades out completely.
+float glowStrength(double distance) {
+    constexpr int steps = 256;
+    static const auto table = [] {
+        std::array<float, steps + 1> values{};
+        for (int i = 0; i < steps; ++i) {
+            values[static_cast<std::size_t>(i)] =
+                static_cast<float>(blurredDisc(glowRadius * i / steps));
+        }
+        return values;
+    }();
+    const double at = std::min(distance / glowRadius, 1.0) * steps;
+    const int step = std::min(static_cast<int>(at), steps - 1);
+    const float before = table[static_cast<std::size_t>(step)];
+    const float after = table[static_cast<std::size_t>(step) + 1];
+    return before + (after - before) * static_cast<float>(at - step);
+}
+
 CoverageLayer makeGlow(const PixelGrid& grid, const QPointF& centre) {
-    return {Coverage::discBounds(centre, FruitGlow::radius * grid.cell), [&](int x, int y) {
-                return FruitGlow::strength(std::sqrt(squaredLength(pixelCentre(x, y) - centre)) /
-                                           grid.cell) *
-                       glowOpacity;
+    return {Painting::discBounds(centre, glowRadius * grid.cell), [&](int x, int y) {
+                const double distance = std::sqrt(squaredLength(pixelCentre(x, y) - centre));
+                return glowStrength(distance / grid.cell) * glowOpacity;
             }};
 }
 
 CoverageLayer makeBall(const PixelGrid& grid, const QPointF& centre) {
-    const double radius = FruitGlow::ballRadius * grid.cell;
-    return {Coverage::discBounds(centre, radius), [&](int x, int y) {
-                return Coverage::ofSquared(squaredLength(pixelCentre(x, y) - centre), radius);
+    const double radius = ballRadius * grid.cell;
+    return {Painting::discBounds(centre, radius), [&](int x, int y) {
+                return Painting::coverageWithin(radius, squaredLength(pixelCentre(x, y) - centre));
             }};
 }
 
@@ -77,14 +115,17 @@ CoverageLayer makeStem(const PixelGrid& grid, const QPointF& centre) {
     const double halfWidth = stemWidth / 2 * grid.scale;
     // The curve stays inside the triangle of its three points.
     const QPointF around(halfWidth, halfWidth);
-    const QRectF hull(centre + QPointF(stemFoot.x(), stemBend.y()) * grid.cell - around,
-                      centre + QPointF(stemTip.x(), stemFoot.y()) * grid.cell + around);
+    const QRectF hull(centre + QPointF(stemStart.x(), stemControl.y()) * grid.cell - around,
+                      centre + QPointF(stemEnd.x(), stemStart.y()) * grid.cell + around);
     return {hull.toAlignedRect(), [&](int x, int y) {
-                return Coverage::ofSquared(squaredDistance(pixelCentre(x, y), line), halfWidth);
+                return Painting::coverageWithin(halfWidth,
+                                                squaredDistance(pixelCentre(x, y), line));
             }};
 }
 
 }  // namespace
+
+namespace Painting {
 
 Fruit::Fruit(const PixelGrid& grid, const SnakeCore::Cell& place)
     : glow_(makeGlow(grid, grid.centre(place))),
@@ -96,3 +137,5 @@ void Fruit::paint(QImage& picture, const QRect& area) const {
     ball_.paint(picture, area, Rgb::of(fruitColour));
     stem_.paint(picture, area, Rgb::of(Garden::mint));
 }
+
+}  // namespace Painting

@@ -6,15 +6,17 @@
 #include "Painting/Raster/CoverageLayer.hpp"
 #include "SnakeCore/Cell.hpp"
 
-/// The fruit with its glow and stem, at one place.
+namespace Painting {
+
+/// The fruit with its glow and stem, in one cell.
 class Fruit {
 public:
     Fruit(const PixelGrid& grid, const SnakeCore::Cell& place);
 
-    /// The pixels that it and its glow touch; some may lie beyond the picture.
+    /// The pixels that fruit, glow and stem touch; some may lie outside of the picture.
     [[nodiscard]] QRect bounds() const { return glow_.bounds() | stem_.bounds(); }
 
-    /// Paints what of it lies inside `area`.
+    /// Paints the part that lies inside `area`.
     void paint(QImage& picture, const QRect& area) const;
 
 private:
@@ -22,3 +24,5 @@ private:
     CoverageLayer ball_;
     CoverageLayer stem_;
 };
+
+}  // namespace Painting

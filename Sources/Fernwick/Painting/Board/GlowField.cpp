@@ -1,23 +1,119 @@
 #include "Painting/Board/GlowField.hpp"
 
+#include <array>
+#include <cmath>
+#include <numeric>
+
 #include "Garden/Look/Palette.hpp"
-#include "Painting/Board/GlowPieces.hpp"
+#include "Painting/Board/BandShape.hpp"
 #include "Painting/Raster/PixelKernels.hpp"
 
 namespace {
 
-using GlowPieces::margin;
-using GlowPieces::samplesPerCell;
-using GlowPieces::side;
+using Painting::Links;
+using Painting::Plane;
 
 constexpr float glowOpacity = 0.35F;
+/// Of the blur, in cells.
+constexpr double sigma = 0.45;
 
-// The field goes beyond the grid by a piece's margin, so that every piece fits in.
+constexpr int samplesPerCell = 8;
+/// The samples around a cell that its kernel reaches: more than three sigma.
+constexpr int margin = 12;
+constexpr int kernelSize = samplesPerCell + 2 * margin;
+/// The sample value for full coverage.
+constexpr int fullSample = 32768;
+
+using Kernel = Plane<std::uint16_t>;
+
+std::array<double, 2 * margin + 1> gaussian() {
+    std::array<double, 2 * margin + 1> weights{};
+    for (int i = -margin; i <= margin; ++i) {
+        const double distance = i / (sigma * samplesPerCell);
+        weights[static_cast<std::size_t>(i + margin)] = std::exp(-distance * distance / 2);
+    }
+    const double sum = std::accumulate(weights.begin(), weights.end(), 0.0);
+    for (double& weight : weights) {
+        weight /= sum;
+    }
+    return weights;
+}
+
+// The share of the sample's square that the band covers.
+double sampleCoverage(Links links, int column, int row) {
+    constexpr int subsamples = 8;
+    constexpr double edge = Painting::Band::halfWidth * Painting::Band::halfWidth;
+    int inside = 0;
+    for (int y = 0; y < subsamples; ++y) {
+        for (int x = 0; x < subsamples; ++x) {
+            const QPointF point(column + (x + 0.5) / subsamples, row + (y + 0.5) / subsamples);
+            const QPointF fromCentre = point / samplesPerCell - QPointF(0.5, 0.5);
+            inside += Painting::Band::squaredDistance(links, fromCentre) <= edge ? 1 : 0;
+        }
+    }
+    return static_cast<double>(inside) / (subsamples * subsamples);
+}
+
+// The blurred band of a cell. Its first sample lies `margin` samples above and left of the cell.
+Kernel makeKernel(Links links) {
+    static const auto weights = gaussian();
+    const auto weight = [](int from, int to) {
+        const int index = to - from;
+        return index < 0 || index > 2 * margin ? 0.0 : weights[static_cast<std::size_t>(index)];
+    };
+    Plane<double> band(samplesPerCell, samplesPerCell);
+    for (int y = 0; y < samplesPerCell; ++y) {
+        for (int x = 0; x < samplesPerCell; ++x) {
+            band.at(x, y) = sampleCoverage(links, x, y);
+        }
+    }
+    Kernel kernel(kernelSize, kernelSize);
+    for (int row = 0; row < kernelSize; ++row) {
+        for (int column = 0; column < kernelSize; ++column) {
+            double sum = 0;
+            for (int y = 0; y < samplesPerCell; ++y) {
+                double line = 0;
+                for (int x = 0; x < samplesPerCell; ++x) {
+                    line += band.at(x, y) * weight(x, column);
+                }
+                sum += line * weight(y, row);
+            }
+            kernel.at(column, row) = static_cast<std::uint16_t>(std::lround(sum * fullSample));
+        }
+    }
+    return kernel;
+}
+
+const Kernel& kernelOf(Links links) {
+    static const auto kernels = [] {
+        std::array<Kernel, Painting::linksCount> all;
+        for (std::size_t i = 1; i < all.size(); ++i) {
+            all[i] = makeKernel(Links::fromInt(static_cast<Links::Int>(i)));
+        }
+        return all;
+    }();
+    return kernels[links.toInt()];
+}
+
+// Adds `factor` times the kernel of a cell. Arithmetic is modulo 2^16, so that a factor of -1
+// exactly undoes one of 1.
+void add(Plane<std::uint16_t>& samples, int column, int row, Links links, std::uint16_t factor) {
+    const Kernel& kernel = kernelOf(links);
+    for (int y = 0; y < kernelSize; ++y) {
+        std::uint16_t* const to = samples.row(row * samplesPerCell + y) + column * samplesPerCell;
+        const std::uint16_t* const from = kernel.row(y);
+        for (int x = 0; x < kernelSize; ++x) {
+            to[x] = static_cast<std::uint16_t>(to[x] + static_cast<unsigned>(from[x]) * factor);
+        }
+    }
+}
+
+// The field extends beyond the grid by the kernel's margin, so that every kernel fits in.
 int samplesAlong(int cells) {
     return cells * samplesPerCell + 2 * margin;
 }
 
-SampleAxis axis(int pixels, int cells, double origin, double cell) {
+Painting::SampleAxis axis(int pixels, int cells, double origin, double cell) {
     const double samplesPerPixel = samplesPerCell / cell;
     const double firstPixel = (0.5 - origin) * samplesPerPixel + margin - 0.5;
     return {pixels, samplesAlong(cells), samplesPerPixel, firstPixel};
@@ -25,57 +121,42 @@ SampleAxis axis(int pixels, int cells, double origin, double cell) {
 
 }  // namespace
 
+namespace Painting {
+
 GlowField::GlowField(const PixelGrid& grid)
     : grid_(grid),
-      stride_(samplesAlong(grid.columns)),
-      samples_(static_cast<std::size_t>(stride_) *
-               static_cast<std::size_t>(samplesAlong(grid.rows))),
+      samples_(samplesAlong(grid.columns), samplesAlong(grid.rows)),
       columns_(axis(grid.size.width(), grid.columns, grid.origin.x(), grid.cell)),
       rows_(axis(grid.size.height(), grid.rows, grid.origin.y(), grid.cell)) {}
 
 void GlowField::change(int column, int row, Links before, Links after) {
-    if (before != Link::none) {
-        add(column, row, before, -1);
+    if (before) {
+        add(samples_, column, row, before, static_cast<std::uint16_t>(-1));
     }
-    if (after != Link::none) {
-        add(column, row, after, 1);
+    if (after) {
+        add(samples_, column, row, after, 1);
     }
 }
 
 QRect GlowField::reach(int column, int row) const {
-    // A pixel takes from the samples on both sides of it.
-    const double around = (GlowPieces::margin + 1.0) / samplesPerCell * grid_.cell;
+    // One sample more than the margin: pixels interpolate between the samples on both sides.
+    const double around = (margin + 1.0) / samplesPerCell * grid_.cell;
     const QRectF cell(grid_.origin + QPointF(column, row) * grid_.cell,
                       QSizeF(grid_.cell, grid_.cell));
     return cell.marginsAdded(QMarginsF() + around).toAlignedRect();
 }
 
-void GlowField::add(int column, int row, Links links, int sign) {
-    const GlowPieces::Piece& piece = GlowPieces::piece(links);
-    const auto factor = static_cast<std::uint16_t>(sign);
-    for (int y = 0; y < side; ++y) {
-        std::uint16_t* const samples =
-            samples_.data() + static_cast<std::ptrdiff_t>(row * samplesPerCell + y) * stride_ +
-            static_cast<std::ptrdiff_t>(column) * samplesPerCell;
-        const std::uint16_t* const values = piece.data() + static_cast<std::ptrdiff_t>(y) * side;
-        for (int x = 0; x < side; ++x) {
-            // Modulo 2^16, where a factor of -1 takes away what 1 has added.
-            samples[x] =
-                static_cast<std::uint16_t>(samples[x] + static_cast<unsigned>(values[x]) * factor);
-        }
+void GlowField::paint(QImage& picture, const QRect& area) const {
+    constexpr float scale = glowOpacity / fullSample;
+    const Rgb colour = Rgb::of(Garden::mint);
+    UpsampledRows<std::uint16_t> rows(samples_, columns_, area.left(), area.width());
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        const auto [sample, weight] = rows_[y];
+        rows.seek(sample);
+        pixelKernels().blendBilinear(
+            scanline(picture, area, y), colour,
+            {rows.upper(), rows.lower(), (1 - weight) * scale, weight * scale});
     }
 }
 
-void GlowField::paint(QImage& picture, const QRect& area) const {
-    constexpr float scale = glowOpacity / GlowPieces::full;
-    const Rgb colour = Rgb::of(Garden::mint);
-    WidenedRows<std::uint16_t> pair(samples_.data(), stride_, columns_, area.left(), area.width());
-    for (int y = area.top(); y <= area.bottom(); ++y) {
-        const auto [sample, weight] = rows_[y];
-        pair.seek(sample);
-        auto* const row = reinterpret_cast<quint32*>(picture.scanLine(y)) + area.left();
-        pixelKernels().mixBetween(
-            row, area.width(), Pixels::phase(area.left(), y), colour,
-            {pair.upper(), pair.lower(), (1 - weight) * scale, weight * scale});
-    }
-}
+}  // namespace Painting

@@ -2,6 +2,10 @@
 
 #include <QImage>
 
-/// The board's picture as it rests while no run is moving: blurred with a Gaussian of `sigma`
-/// pixels and dimmed to 0.4 over the board's plain fill, which also continues beyond its edges.
+namespace Painting {
+
+/// The board's picture while no run is moving: a Gaussian blur of `sigma` pixels, at opacity 0.4
+/// over the board's plain fill. Beyond its edges the picture counts as plain fill.
 [[nodiscard]] QImage idlePicture(const QImage& picture, double sigma);
+
+}  // namespace Painting

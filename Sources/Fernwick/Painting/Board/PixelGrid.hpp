@@ -6,25 +6,29 @@
 
 #include "SnakeCore/Cell.hpp"
 
-/// The game's grid laid over a picture; every measure is in pixels of that picture.
+namespace Painting {
+
+/// The game's grid on the board's picture. Lengths are in pixels of the picture.
 struct PixelGrid {
-    /// The picture.
+    /// The size of the picture.
     QSize size;
-    /// The exact frame, that is the corner of cell (0, 0) and the edge length of a cell.
+    /// The top left corner of cell (0, 0) and the edge length of a cell, which may be fractions.
     QPointF origin;
     double cell = 0;
-    /// Pixels to a point.
+    /// Pixels per point.
     double scale = 1;
     int columns = 0;
     int rows = 0;
 
     [[nodiscard]] QPointF centre(const SnakeCore::Cell& place) const;
 
-    /// The pixels that belong to the cells of a rectangle of the grid. Tiles share no pixel, and
-    /// together they fill the picture: those at the border reach to its edge.
+    /// The pixels assigned to a rectangle of cells. The tiles of cells are disjoint and cover the
+    /// picture: tiles at the border extend to its edge.
     [[nodiscard]] QRect tiles(const QRect& cells) const;
-    /// The cells of the grid that reach into a rectangle of pixels.
+    /// The cells of the grid that a rectangle of pixels overlaps.
     [[nodiscard]] QRect cellsAt(const QRect& pixels) const;
 
     friend bool operator==(const PixelGrid&, const PixelGrid&) = default;
 };
+
+}  // namespace Painting

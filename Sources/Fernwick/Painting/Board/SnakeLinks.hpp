@@ -1,23 +1,25 @@
 #pragma once
 
+#include <QFlags>
 #include <cstdint>
-#include <vector>
 
+#include "Painting/Raster/Plane.hpp"
 #include "SnakeCore/Game.hpp"
 
-/// The ways a snake's band leaves one cell: a set of bits. It decides all there is to paint of the
-/// band inside that cell.
-using Links = std::uint8_t;
+namespace Painting {
 
-namespace Link {
-inline constexpr Links none = 0;
-inline constexpr Links up = 1;
-inline constexpr Links down = 2;
-inline constexpr Links left = 4;
-inline constexpr Links right = 8;
-/// The number of different sets.
-inline constexpr std::size_t count = 16;
-}  // namespace Link
+/// A side of a cell on which the snake goes on into the next cell.
+enum class Link : std::uint8_t { up = 1, down = 2, left = 4, right = 8 };
 
-/// The links of every cell of the game's board, row by row.
-[[nodiscard]] std::vector<Links> snakeLinks(const SnakeCore::Game& game);
+/// The links of one cell. They determine the shape of the snake inside the cell; a cell without
+/// links is not part of the snake.
+Q_DECLARE_FLAGS(Links, Link)
+Q_DECLARE_OPERATORS_FOR_FLAGS(Links)
+
+/// The number of different values of `Links`.
+inline constexpr std::size_t linksCount = 16;
+
+/// The links of every cell of the game's grid.
+[[nodiscard]] Plane<Links> snakeLinks(const SnakeCore::Game& game);
+
+}  // namespace Painting

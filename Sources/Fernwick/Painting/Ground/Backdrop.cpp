@@ -6,104 +6,119 @@
 
 #include "Garden/Look/Palette.hpp"
 #include "Painting/Raster/Pixels.hpp"
-#include "Painting/Raster/RowPainting.hpp"
 
 namespace {
 
-constexpr float lightOpacity = 0.075F;
-/// In points, from the corner of the window that reading begins at.
-constexpr double lightReach = 800;
+using Painting::Scanline;
 
-// Lays the light over `count` pixels from (x, y) on; its corner is at (`corner`, 0).
-void paintLight(quint32* row, int x, int count, int y, int corner, double scale) {
-    const double reach = lightReach * scale;
-    const double below = y + 0.5;
-    if (below >= reach) {
+constexpr float lightOpacity = 0.075F;
+/// In points, from the corner where the light starts.
+constexpr double lightRadius = 800;
+
+// The light around (`corner`, 0), which fades linearly.
+void paintLight(const Scanline& line, int corner, double scale) {
+    const double radius = lightRadius * scale;
+    const double below = line.y + 0.5;
+    if (below >= radius) {
         return;
     }
-    const int aside = static_cast<int>(std::ceil(std::sqrt(reach * reach - below * below)));
-    const int begin = std::max(x, corner - aside);
-    const int end = std::min(x + count, corner + aside);
+    const int reach = static_cast<int>(std::ceil(std::sqrt(radius * radius - below * below)));
+    const int begin = std::max(line.x, corner - reach);
+    const int end = std::min(line.x + line.count, corner + reach);
     if (begin >= end) {
         return;
     }
-    Pixels::mixRow(row + (begin - x), end - begin, Pixels::phase(begin, y), Rgb::of(Garden::mint),
-                   [first = static_cast<float>(begin - corner) + 0.5F,
-                    square = static_cast<float>(below * below),
-                    perPixel = static_cast<float>(1 / reach)](int i) {
-                       const float across = first + static_cast<float>(i);
-                       const float distance = std::sqrt(across * across + square);
-                       return std::max(1 - distance * perPixel, 0.0F) * lightOpacity;
-                   });
+    Painting::blendColour(line.part(begin, end), Painting::Rgb::of(Garden::mint),
+                          [first = static_cast<float>(begin - corner) + 0.5F,
+                           square = static_cast<float>(below * below),
+                           perPixel = static_cast<float>(1 / radius)](int i) {
+                              const float across = first + static_cast<float>(i);
+                              const float distance = std::sqrt(across * across + square);
+                              return std::max(1 - distance * perPixel, 0.0F) * lightOpacity;
+                          });
 }
 
 }  // namespace
 
-/// The rows of one rectangle, from top to bottom.
+namespace Painting {
+
+/// Composes the rows of one rectangle, from top to bottom.
 class Backdrop::Rows {
 public:
-    Rows(const Backdrop& ground, const QRect& area) : ground_(ground) {
+    Rows(const Backdrop& ground, const QRect& area)
+        : ground_(ground),
+          lightCorner_(QGuiApplication::isRightToLeft() ? ground.bounds_.width() : 0) {
         if (ground.shadow_) {
-            shaded_ = ground.shadow_->area() & area;
-            shadow_.emplace(*ground.shadow_, shaded_.left(), std::max(shaded_.width(), 0));
+            shadow_.emplace(*ground.shadow_, area);
         }
     }
 
-    void compose(quint32* row, int x, int count, int y) {
-        std::fill_n(row, count, Garden::night.rgb());
-        const int corner = QGuiApplication::isRightToLeft() ? ground_.bounds_.width() : 0;
-        paintLight(row, x, count, y, corner, ground_.scale_);
-        if (!shaded_.isEmpty() && y >= shaded_.top() && y <= shaded_.bottom()) {
-            shadow_->paint(row + (shaded_.left() - x), y);
+    void operator()(const Scanline& line) {
+        line.fill(Garden::night.rgb());
+        paintLight(line, lightCorner_, ground_.scale_);
+        if (shadow_) {
+            shadow_->paint(line);
         }
-        const QRect line(x, y, count, 1);
         for (const QRect& inside : ground_.inside_) {
-            const QRect part = inside & line;
-            if (!part.isEmpty()) {
-                std::fill_n(row + (part.left() - x), part.width(), Garden::soil.rgb());
-            }
+            line.clipped(inside).fill(Garden::soil.rgb());
         }
         for (const Edge& edge : ground_.edges_) {
-            const QRect part = edge.area & line;
-            if (!part.isEmpty()) {
-                paintEdge(row + (part.left() - x), part, edge);
-            }
+            paintEdge(line.clipped(edge.area), edge);
         }
     }
 
 private:
-    static void paintEdge(quint32* row, const QRect& part, const Edge& edge) {
-        const QPoint place = part.topLeft() - edge.area.topLeft();
-        const auto lay = [&](const QColor& colour, const QImage& shares, float opacity) {
-            const uchar* const share = shares.constScanLine(place.y()) + place.x();
-            Pixels::mixRow(row, part.width(), Pixels::phase(part.left(), part.top()),
-                           Rgb::of(colour),
-                           [=](int i) { return static_cast<float>(share[i]) * opacity / 255; });
+    static void paintEdge(const Scanline& line, const Edge& edge) {
+        if (line.count == 0) {
+            return;
+        }
+        const QPoint place = QPoint(line.x, line.y) - edge.area.topLeft();
+        const auto blend = [&](const QColor& colour, const QImage& mask, float opacity) {
+            const uchar* const coverage = mask.constScanLine(place.y()) + place.x();
+            blendColour(line, Rgb::of(colour),
+                        [=](int i) { return static_cast<float>(coverage[i]) * opacity / 255; });
         };
-        lay(Garden::soil, edge.fill, 1);
-        lay(Garden::mint, edge.stroke, static_cast<float>(FrameShape::strokeOpacity));
+        blend(Garden::soil, edge.fill, 1);
+        blend(Garden::mint, edge.stroke, static_cast<float>(FrameShape::strokeOpacity));
     }
 
     const Backdrop& ground_;
-    QRect shaded_;
+    int lightCorner_;
     std::optional<FrameShadow::Rows> shadow_;
 };
 
-void Backdrop::fit(const QSize& size, qreal devicePixelRatio, const QRectF& frame) {
-    if (size == size_ && devicePixelRatio == scale_ && frame == frame_) {
+void Backdrop::fit(const QSize& window, qreal devicePixelRatio, const QRectF& frame) {
+    if (window == window_ && devicePixelRatio == scale_ && frame == frame_) {
         return;
     }
     ++revision_;
-    size_ = size;
+    prepared_ = false;
+    window_ = window;
     scale_ = devicePixelRatio;
     frame_ = frame;
-    const QSizeF pixels = QSizeF(size) * devicePixelRatio;
+    const QSizeF pixels = QSizeF(window) * devicePixelRatio;
     bounds_ = {0, 0, static_cast<int>(std::ceil(pixels.width())),
                static_cast<int>(std::ceil(pixels.height()))};
-    placeFrame();
 }
 
-void Backdrop::placeFrame() {
+void Backdrop::paint(QPainter& painter, const QRect& area) {
+    QImage buffer(area.width(), std::min(area.height(), rowsPerBatch), QImage::Format_RGB32);
+    drawComposed(painter, area, buffer, rowsOf(area));
+}
+
+QImage Backdrop::image(const QRect& area) {
+    return composedImage(area, rowsOf(area));
+}
+
+Backdrop::Rows Backdrop::rowsOf(const QRect& area) {
+    if (!prepared_) {
+        prepareFrame();
+        prepared_ = true;
+    }
+    return Rows(*this, area);
+}
+
+void Backdrop::prepareFrame() {
     shadow_.reset();
     edges_.clear();
     inside_ = {};
@@ -120,17 +135,4 @@ void Backdrop::placeFrame() {
     }
 }
 
-void Backdrop::paint(QPainter& painter, const QRect& area) const {
-    QImage buffer(area.width(), std::min(area.height(), RowPainting::rowsAtOnce),
-                  QImage::Format_RGB32);
-    Rows rows(*this, area);
-    RowPainting::paint(painter, area, buffer, [&](quint32* row, int x, int count, int y) {
-        rows.compose(row, x, count, y);
-    });
-}
-
-QImage Backdrop::image(const QRect& area) const {
-    Rows rows(*this, area);
-    return RowPainting::image(
-        area, [&](quint32* row, int x, int count, int y) { rows.compose(row, x, count, y); });
-}
+}  // namespace Painting

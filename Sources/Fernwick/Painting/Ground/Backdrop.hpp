@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QPainter>
 #include <QRectF>
+#include <QRegion>
 #include <QSize>
 #include <optional>
 #include <vector>
@@ -10,24 +11,27 @@
 #include "Painting/Ground/FrameShadow.hpp"
 #include "Painting/Ground/FrameShape.hpp"
 
-/// The still ground of the whole window: the night with the mint light of its corner, the shadow
-/// that the board's frame throws and the frame's fill and stroke. It is composed only where and
-/// when it is painted: kept as a picture it would be the largest thing in the game's memory.
+namespace Painting {
+
+/// The static background of the window: a dark fill with mint light from one top corner, the drop
+/// shadow of the board's frame, and the frame's fill and stroke. Its pixels are composed each time
+/// they are painted: a cached image of the window would be the largest allocation in the game.
 class Backdrop {
 public:
-    /// Makes it the ground of a window of `size` points with the board's frame at `frame`, in
-    /// points of the window. Does nothing when it is that already.
-    void fit(const QSize& size, qreal devicePixelRatio, const QRectF& frame);
+    /// Sets the window's size and the board's frame in it, both in points. Cheap: what depends on
+    /// them is computed when it is painted next.
+    void fit(const QSize& window, qreal devicePixelRatio, const QRectF& frame);
 
-    /// Another one each time the ground changes.
+    /// Changes whenever fit() changes the picture.
     [[nodiscard]] int revision() const { return revision_; }
-    /// The pixels of the window.
+    /// The window in device pixels.
     [[nodiscard]] const QRect& bounds() const { return bounds_; }
 
-    /// Paints the pixels of `area`, inside `bounds()`, at their place in the painter's coordinates.
-    void paint(QPainter& painter, const QRect& area) const;
+    /// Paints the device pixels of `area`, inside `bounds()`, at their place in the painter's
+    /// coordinates.
+    void paint(QPainter& painter, const QRect& area);
     /// The picture of `area`, inside `bounds()`.
-    [[nodiscard]] QImage image(const QRect& area) const;
+    [[nodiscard]] QImage image(const QRect& area);
 
 private:
     struct Edge {
@@ -38,15 +42,20 @@ private:
 
     class Rows;
 
-    void placeFrame();
+    [[nodiscard]] Rows rowsOf(const QRect& area);
+    void prepareFrame();
 
     int revision_ = 0;
-    QSize size_;
+    QSize window_;
     qreal scale_ = 0;
     QRectF frame_;
     QRect bounds_;
+    // Whether the members below are those of frame_ and scale_.
+    bool prepared_ = true;
     std::optional<FrameShadow> shadow_;
     std::vector<Edge> edges_;
-    // What the fill covers wholly, in rectangles without the edges.
+    // The pixels that the fill covers completely.
     QRegion inside_;
 };
+
+}  // namespace Painting

@@ -3,14 +3,18 @@
 #include <algorithm>
 
 #include "Garden/Look/Palette.hpp"
+#include "Painting/Raster/Scanline.hpp"
 
 namespace {
 
-// The ground is (outside) + (fill) * share, where `share` is what the fill keeps under the stroke.
-// Taking the fill away leaves the rest, ready multiplied, for any picture to show through.
+using Painting::FrameShape;
+
+// A pixel of the backdrop is outside + fill * share, where `share` is the part of the fill that
+// shows under the stroke. Without that part it is a premultiplied pixel with an alpha of 1 - share,
+// which can be drawn over any picture in place of the fill.
 quint32 withoutFill(quint32 ground, double share) {
-    const auto channel = [&](int there, int fill) {
-        return static_cast<quint32>(std::clamp(there - fill * share + 0.5, 0.0, 255 * (1 - share)));
+    const auto channel = [&](int value, int fill) {
+        return static_cast<quint32>(std::clamp(value - fill * share + 0.5, 0.0, 255 * (1 - share)));
     };
     const quint32 red = channel(qRed(ground), Garden::soil.red());
     const quint32 green = channel(qGreen(ground), Garden::soil.green());
@@ -19,18 +23,18 @@ quint32 withoutFill(quint32 ground, double share) {
     return alpha << 24U | red << 16U | green << 8U | blue;
 }
 
-// `behind` is the ground of `area`.
-QImage stripImage(const QImage& behind, const QRect& area, const FrameShape& shape) {
+// `ground` is the backdrop of `area`.
+QImage stripImage(const QImage& ground, const QRect& area, const FrameShape& shape) {
     const QImage fill = shape.fill(area);
     const QImage stroke = shape.stroke(area);
     QImage image(area.size(), QImage::Format_ARGB32_Premultiplied);
-    for (int y = 0; y < area.height(); ++y) {
-        auto* const pixels = reinterpret_cast<quint32*>(image.scanLine(y));
-        const auto* const ground = reinterpret_cast<const quint32*>(behind.constScanLine(y));
-        for (int x = 0; x < area.width(); ++x) {
+    for (int y = 0; y < image.height(); ++y) {
+        const Painting::Scanline line = Painting::scanline(image, image.rect(), y);
+        const quint32* const behind = Painting::pixelsAt(ground, 0, y);
+        for (int x = 0; x < line.count; ++x) {
             const double stroked = stroke.constScanLine(y)[x] / 255.0 * FrameShape::strokeOpacity;
             const double share = fill.constScanLine(y)[x] / 255.0 * (1 - stroked);
-            pixels[x] = withoutFill(ground[x], share);
+            line.pixels[x] = withoutFill(behind[x], share);
         }
     }
     return image;
@@ -38,10 +42,10 @@ QImage stripImage(const QImage& behind, const QRect& area, const FrameShape& sha
 
 }  // namespace
 
-FrameEdge::FrameEdge(const Backdrop& ground, const QRect& place, const FrameShape& shape) {
-    const QRect known = (place & ground.bounds()).translated(-place.topLeft());
+Painting::FrameEdge::FrameEdge(Backdrop& ground, const QRect& place, const FrameShape& shape) {
+    const QRect visible = (place & ground.bounds()).translated(-place.topLeft());
     for (const QRect& edge : shape.edges()) {
-        const QRect area = edge & known;
+        const QRect area = edge & visible;
         if (!area.isEmpty()) {
             const QImage behind = ground.image(area.translated(place.topLeft()));
             strips_.push_back({area.topLeft(), stripImage(behind, area, shape)});
@@ -49,7 +53,7 @@ FrameEdge::FrameEdge(const Backdrop& ground, const QRect& place, const FrameShap
     }
 }
 
-void FrameEdge::paint(QPainter& painter, const QRect& area) const {
+void Painting::FrameEdge::paint(QPainter& painter, const QRect& area) const {
     for (const Strip& strip : strips_) {
         const QRect whole(strip.corner, strip.image.size());
         const QRect part = whole & area;

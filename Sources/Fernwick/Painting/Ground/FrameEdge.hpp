@@ -7,18 +7,20 @@
 #include "Painting/Ground/Backdrop.hpp"
 #include "Painting/Ground/FrameShape.hpp"
 
-/// What lies over the board's picture along its edge: the ground outside the rounded corners and
-/// the frame's stroke. Laid over whatever the picture shows, it leaves the same pixels as a clip to
-/// the rounded shape would, at the cost of a few thin strips.
+namespace Painting {
+
+/// Rounds the corners of the board's picture: thin strips along its edge with the backdrop outside
+/// of the frame and the frame's stroke. Drawn over the picture, they give the same pixels as an
+/// antialiased clip to the rounded frame, which QPainter would apply to every pixel of the board.
 class FrameEdge {
 public:
     FrameEdge() = default;
 
-    /// `place` is the part of the window's ground behind the board, in pixels, and `shape` the
-    /// ground's frame counted from the corner of `place`.
-    FrameEdge(const Backdrop& ground, const QRect& place, const FrameShape& shape);
+    /// `place` is the board among the backdrop's device pixels; `shape` is the frame in device
+    /// pixels relative to the corner of `place`.
+    FrameEdge(Backdrop& ground, const QRect& place, const FrameShape& shape);
 
-    /// Lays what lies inside `area` over the picture that `painter` has painted, in its pixels.
+    /// Draws what lies inside `area`, in pixels of the board's picture.
     void paint(QPainter& painter, const QRect& area) const;
 
 private:
@@ -29,3 +31,5 @@ private:
 
     std::vector<Strip> strips_;
 };
+
+}  // namespace Painting

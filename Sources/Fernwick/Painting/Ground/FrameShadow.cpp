@@ -5,64 +5,72 @@
 #include <algorithm>
 #include <cmath>
 
+#include "Painting/Raster/GaussianBlur.hpp"
 #include "Painting/Raster/PixelKernels.hpp"
 
 namespace {
 
 constexpr float opacity = 0.25F;
-/// In points: the blur and how far below the frame the shadow lies.
+/// In points: the blur, and the offset below the frame.
 constexpr double sigma = 25;
-constexpr double drop = 15;
+constexpr double offset = 15;
 
 constexpr double samplesPerSigma = 4;
-// Beyond this many sigmas it has faded.
+// Beyond this many sigmas the shadow is invisible.
 constexpr double extent = 3;
 
-SampleAxis axis(int pixels, int samples, double pixelsPerSample) {
+Painting::SampleAxis axis(int pixels, int samples, double pixelsPerSample) {
     const double step = 1 / pixelsPerSample;
     return {pixels, samples, step, 0.5 * step - 0.5};
 }
 
 }  // namespace
 
+namespace Painting {
+
 FrameShadow::FrameShadow(const FrameShape& shape, const QRectF& frame, double scale)
-    : area_(frame.translated(0, drop * scale)
+    : area_(frame.translated(0, offset * scale)
                 .marginsAdded(QMarginsF() + extent * sigma * scale)
                 .toAlignedRect()),
       pixelsPerSample_(sigma * scale / samplesPerSigma),
-      plane_(samplesAlong(area_.width()), samplesAlong(area_.height())),
-      columns_(axis(area_.width(), plane_.width, pixelsPerSample_)),
-      rows_(axis(area_.height(), plane_.height, pixelsPerSample_)) {
-    QImage mask(plane_.width, plane_.height, QImage::Format_Alpha8);
+      samples_(samplesAlong(area_.width()), samplesAlong(area_.height())),
+      columns_(axis(area_.width(), samples_.width(), pixelsPerSample_)),
+      rows_(axis(area_.height(), samples_.height(), pixelsPerSample_)) {
+    QImage mask(samples_.width(), samples_.height(), QImage::Format_Alpha8);
     mask.fill(0);
     QPainter painter(&mask);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(1 / pixelsPerSample_, 1 / pixelsPerSample_);
-    painter.translate(QPointF(0, drop * scale) - area_.topLeft());
+    painter.translate(QPointF(0, offset * scale) - area_.topLeft());
     painter.fillPath(shape.path(), Qt::black);
     painter.end();
-    for (int y = 0; y < plane_.height; ++y) {
-        std::transform(mask.constScanLine(y), mask.constScanLine(y) + plane_.width, plane_.row(y),
-                       [](uchar value) { return value / 255.0F; });
+    for (int y = 0; y < samples_.height(); ++y) {
+        std::transform(mask.constScanLine(y), mask.constScanLine(y) + samples_.width(),
+                       samples_.row(y), [](uchar value) { return value / 255.0F; });
     }
-    blur(plane_, samplesPerSigma);
+    gaussianBlur(samples_, samplesPerSigma);
 }
 
 int FrameShadow::samplesAlong(int pixels) const {
     return static_cast<int>(std::ceil(pixels / pixelsPerSample_)) + 1;
 }
 
-FrameShadow::Rows::Rows(const FrameShadow& shadow, int x, int count)
+FrameShadow::Rows::Rows(const FrameShadow& shadow, const QRect& area)
     : shadow_(shadow),
-      x_(x),
-      count_(count),
-      pair_(shadow.plane_.values.data(), shadow.plane_.width, shadow.columns_,
-            x - shadow.area_.left(), count) {}
+      area_(shadow.area_ & area),
+      samples_(shadow.samples_, shadow.columns_, area_.left() - shadow.area_.left(),
+               std::max(area_.width(), 0)) {}
 
-void FrameShadow::Rows::paint(quint32* row, int y) {
-    const auto [sample, below] = shadow_.rows_[y - shadow_.area_.top()];
-    pair_.seek(sample);
-    pixelKernels().mixBetween(
-        row, count_, Pixels::phase(x_, y), Rgb{},
-        {pair_.upper(), pair_.lower(), (1 - below) * opacity, below * opacity});
+void FrameShadow::Rows::paint(const Scanline& line) {
+    const Scanline part = line.clipped(area_);
+    if (part.count == 0) {
+        return;
+    }
+    const auto [sample, weight] = shadow_.rows_[part.y - shadow_.area_.top()];
+    samples_.seek(sample);
+    pixelKernels().blendBilinear(
+        part, Rgb{},
+        {samples_.upper(), samples_.lower(), (1 - weight) * opacity, weight * opacity});
 }
+
+}  // namespace Painting

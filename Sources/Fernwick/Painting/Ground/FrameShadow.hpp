@@ -3,31 +3,32 @@
 #include <QRect>
 
 #include "Painting/Ground/FrameShape.hpp"
-#include "Painting/Raster/FloatPlane.hpp"
+#include "Painting/Raster/Scanline.hpp"
 #include "Painting/Raster/Upsampling.hpp"
 
-/// The shadow that the board's frame throws on the ground. It is kept blurred at a coarse scale: a
-/// few samples to a sigma hold all there is to it.
+namespace Painting {
+
+/// The drop shadow of the board's frame on the backdrop. It is blurred at low resolution, a few
+/// samples per sigma, which holds all the detail of a blurred shape, and upsampled when painted.
 class FrameShadow {
 public:
-    /// Of a frame at `frame` pixels, `scale` of them to a point.
+    /// `frame` is in device pixels; `scale` is device pixels per point.
     FrameShadow(const FrameShape& shape, const QRectF& frame, double scale);
 
-    /// The pixels that it darkens.
+    /// The device pixels that it darkens.
     [[nodiscard]] const QRect& area() const { return area_; }
 
-    /// The rows of one rectangle within `area()`, to be asked for from top to bottom.
+    /// Paints the rows of one rectangle, from top to bottom.
     class Rows {
     public:
-        Rows(const FrameShadow& shadow, int x, int count);
-        /// Darkens the pixels of row `y`; `row` begins at the rectangle's first one.
-        void paint(quint32* row, int y);
+        Rows(const FrameShadow& shadow, const QRect& area);
+        /// Darkens the part of a row of the rectangle that lies in the shadow.
+        void paint(const Scanline& line);
 
     private:
         const FrameShadow& shadow_;
-        int x_;
-        int count_;
-        WidenedRows<float> pair_;
+        QRect area_;
+        UpsampledRows<float> samples_;
     };
 
 private:
@@ -35,7 +36,9 @@ private:
 
     QRect area_;
     double pixelsPerSample_;
-    FloatPlane plane_;
+    Plane<float> samples_;
     SampleAxis columns_;
     SampleAxis rows_;
 };
+
+}  // namespace Painting

@@ -11,21 +11,23 @@ namespace {
 // In points.
 constexpr double cornerRadius = 22;
 constexpr double strokeWidth = 1;
-/// How far a corner reaches along its edges, in radii; its curvature runs out slowly.
+/// The length of a continuous corner along either edge, in radii.
 constexpr double cornerReach = 1.6;
 
 template <typename Paint>
-QImage paintedShare(const QRect& area, Paint paint) {
-    QImage share(area.size(), QImage::Format_Alpha8);
-    share.fill(0);
-    QPainter painter(&share);
+QImage coverageOf(const QRect& area, Paint paint) {
+    QImage coverage(area.size(), QImage::Format_Alpha8);
+    coverage.fill(0);
+    QPainter painter(&coverage);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(-area.topLeft());
     paint(painter);
-    return share;
+    return coverage;
 }
 
 }  // namespace
+
+namespace Painting {
 
 FrameShape::FrameShape(const QRectF& frame, double scale)
     : frame_(frame),
@@ -37,7 +39,7 @@ std::vector<QRect> FrameShape::edges() const {
     const int corner = static_cast<int>(std::ceil(cornerReach * cornerRadius * scale_));
     const int thickness = static_cast<int>(std::ceil(strokeWidth * scale_)) + 2;
     const QSize size(std::min(corner, all.width() / 2), std::min(corner, all.height() / 2));
-    // Where each of the three columns and rows of pieces begins, and where the last one ends.
+    // The three by three pieces begin at these columns and rows; the last number is the end.
     const int columns[] = {all.left(), all.left() + size.width(),
                            all.left() + all.width() - size.width(), all.left() + all.width()};
     const int rows[] = {all.top(), all.top() + size.height(),
@@ -68,12 +70,14 @@ QRect FrameShape::bounds() const {
 }
 
 QImage FrameShape::fill(const QRect& area) const {
-    return paintedShare(area, [&](QPainter& painter) { painter.fillPath(path_, Qt::black); });
+    return coverageOf(area, [&](QPainter& painter) { painter.fillPath(path_, Qt::black); });
 }
 
 QImage FrameShape::stroke(const QRect& area) const {
-    return paintedShare(area, [&](QPainter& painter) {
+    return coverageOf(area, [&](QPainter& painter) {
         painter.setPen(QPen(Qt::black, strokeWidth * scale_));
         painter.drawPath(path_);
     });
 }
+
+}  // namespace Painting

@@ -5,25 +5,25 @@
 #include <QRectF>
 #include <vector>
 
-/// The rounded frame of the board on the pixels of a picture: which share of each pixel its fill
-/// and its stroke cover.
+namespace Painting {
+
+/// Rasterizes the rounded frame around the board: the coverage of its fill and of its stroke.
 class FrameShape {
 public:
-    /// Of the mint stroke.
     static constexpr double strokeOpacity = 0.16;
 
-    /// The frame's exact place in pixels, and the pixels to a point.
+    /// `frame` is in device pixels; `scale` is device pixels per point.
     FrameShape(const QRectF& frame, double scale);
 
-    /// Disjoint rectangles that hold every pixel which the fill covers in part or the stroke
-    /// touches: the four corners and the four edges between them.
+    /// Disjoint rectangles with every pixel that the fill covers partly or the stroke touches: the
+    /// four corners and the four edges between them.
     [[nodiscard]] std::vector<QRect> edges() const;
-    /// All pixels that the frame touches, stroke and all.
+    /// All pixels that the frame touches, including its stroke.
     [[nodiscard]] QRect bounds() const;
 
-    /// The share of each pixel of `area`, from 0 to 255; 8 bits a pixel.
+    /// The coverage of each pixel of `area` by the fill, from 0 to 255, in QImage::Format_Alpha8.
     [[nodiscard]] QImage fill(const QRect& area) const;
-    /// The same for the stroke, which runs along the middle of the edge.
+    /// The same for the stroke, which is centred on the frame's outline.
     [[nodiscard]] QImage stroke(const QRect& area) const;
 
     [[nodiscard]] const QPainterPath& path() const { return path_; }
@@ -33,3 +33,5 @@ private:
     double scale_;
     QPainterPath path_;
 };
+
+}  // namespace Painting

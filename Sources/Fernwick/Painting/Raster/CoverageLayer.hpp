@@ -1,58 +1,75 @@
 #pragma once
 
-#include <QImage>
+#include <QPointF>
 #include <QRect>
-#include <algorithm>
-#include <vector>
+#include <cmath>
 
 #include "Painting/Raster/Pixels.hpp"
+#include "Painting/Raster/Plane.hpp"
 
-/// How strongly one colour covers each pixel of a small rectangle; made once, painted often.
+namespace Painting {
+
+/// The antialiased coverage, from 0 to 1, of a pixel by everything within `halfWidth` of a line or
+/// point. `squaredDistance` is that of the pixel's centre from it. Exact for a straight line along
+/// the pixel grid. Lengths are in pixels.
+[[nodiscard]] inline double coverageWithin(double halfWidth, double squaredDistance) {
+    const double inner = halfWidth - 0.5;
+    const double outer = halfWidth + 0.5;
+    // Few pixels lie on an edge, and only those need the square root.
+    if (squaredDistance >= outer * outer) {
+        return 0;
+    }
+    return inner > 0 && squaredDistance <= inner * inner
+               ? 1
+               : std::min(outer - std::sqrt(squaredDistance), 1.0);
+}
+
+/// The pixels that a disc touches.
+[[nodiscard]] QRect discBounds(const QPointF& centre, double radius);
+
+/// An antialiased shape: the coverage of each pixel of a small rectangle. It is computed once and
+/// painted often, in any colour.
 class CoverageLayer {
 public:
     CoverageLayer() = default;
 
-    /// `coverage(x, y)` is asked for every pixel of `bounds`; from 0 to 1.
+    /// `coverage(x, y)`, from 0 to 1, is called for every pixel of `bounds`.
     template <typename Function>
-    CoverageLayer(const QRect& bounds, Function coverage) : bounds_(bounds) {
-        values_.reserve(static_cast<std::size_t>(bounds.width()) *
-                        static_cast<std::size_t>(bounds.height()));
-        for (int y = bounds.top(); y <= bounds.bottom(); ++y) {
-            for (int x = bounds.left(); x <= bounds.right(); ++x) {
-                values_.push_back(static_cast<float>(coverage(x, y)));
+    CoverageLayer(const QRect& bounds, Function coverage)
+        : bounds_(bounds), values_(bounds.width(), bounds.height()) {
+        for (int y = 0; y < values_.height(); ++y) {
+            for (int x = 0; x < values_.width(); ++x) {
+                values_.at(x, y) =
+                    static_cast<float>(coverage(bounds.left() + x, bounds.top() + y));
             }
         }
     }
 
+    /// A disc of one opacity, from 0 to 1. Exact to about a thousandth.
+    [[nodiscard]] static CoverageLayer disc(const QPointF& centre, double radius, double opacity);
+
     [[nodiscard]] const QRect& bounds() const { return bounds_; }
 
-    /// Lays `colour` over what of the layer lies inside `area`, itself inside the picture.
+    /// Blends `colour` over the part of the layer that lies inside `area` of `picture`.
     void paint(QImage& picture, const QRect& area, const Rgb& colour) const {
         const QRect part = bounds_ & area;
         for (int y = part.top(); y <= part.bottom(); ++y) {
-            auto* const row = reinterpret_cast<quint32*>(picture.scanLine(y)) + part.left();
-            paintRow(row, part.left(), part.width(), y, colour);
+            paint(scanline(picture, part, y), colour);
         }
     }
-
-    /// Lays `colour` over what of the layer lies in one row: `count` pixels from (x, y) on.
-    void paintRow(quint32* row, int x, int count, int y, const Rgb& colour) const {
-        if (y < bounds_.top() || y > bounds_.bottom()) {
-            return;
+    /// Blends `colour` over the part of the layer that lies on `line`.
+    void paint(const Scanline& line, const Rgb& colour) const {
+        const Scanline part = line.clipped(bounds_);
+        if (part.count > 0) {
+            const float* const values =
+                values_.row(part.y - bounds_.top()) + (part.x - bounds_.left());
+            blendColour(part, colour, [values](int i) { return values[i]; });
         }
-        const int begin = std::max(bounds_.left(), x);
-        const int end = std::min(bounds_.right() + 1, x + count);
-        if (begin >= end) {
-            return;
-        }
-        const float* const values =
-            values_.data() + static_cast<std::ptrdiff_t>(y - bounds_.top()) * bounds_.width() +
-            (begin - bounds_.left());
-        Pixels::mixRow(row + (begin - x), end - begin, Pixels::phase(begin, y), colour,
-                       [values](int i) { return values[i]; });
     }
 
 private:
     QRect bounds_;
-    std::vector<float> values_;
+    Plane<float> values_;
 };
+
+}  // namespace Painting

@@ -1,99 +1,109 @@
 #include "Painting/Raster/PixelKernels.hpp"
 
-// Every loop is written once, and compiled into a function for each kind of processor. None of them
-// is allowed to fuse a product with a sum, which would round differently.
-#define FERNWICK_INLINE [[gnu::always_inline]] inline
-
 namespace {
 
-FERNWICK_INLINE void mixBetweenLoop(quint32* row, int count, quint32 phase, const Rgb& colour,
-                                    const PixelKernels::Between& coverage) {
+using Painting::PixelKernels;
+using Painting::Rgb;
+using Painting::Scanline;
+
+// Each loop is written once and inlined into one function per instruction set. No set may include
+// FMA: a fused multiply-add rounds differently, and the pixels would depend on the processor.
+
+[[gnu::always_inline]] inline void blendBilinearLoop(
+    const Scanline& line, const Rgb& colour, const PixelKernels::BilinearCoverage& coverage) {
+    const auto [pixels, x, y, count] = line;
     const auto [upper, lower, upperWeight, lowerWeight] = coverage;
+    const quint32 phase = Painting::ditherPhase(x, y);
     const Rgb over = colour;
     for (int i = 0; i < count; ++i) {
-        const float rounding =
-            Pixels::threshold(phase + static_cast<quint32>(i) * Pixels::patternStepX);
-        row[i] = Pixels::mixPixel(row[i], over, upper[i] * upperWeight + lower[i] * lowerWeight,
-                                  rounding);
+        const float threshold =
+            Painting::ditherThreshold(phase + static_cast<quint32>(i) * Painting::ditherStepX);
+        pixels[i] = Painting::blendPixel(
+            pixels[i], over, upper[i] * upperWeight + lower[i] * lowerWeight, threshold);
     }
 }
 
-FERNWICK_INLINE void blendLoop(quint32* __restrict row, const quint32* __restrict under,
-                               const std::uint8_t* __restrict mask, int count, quint32 phase) {
+[[gnu::always_inline]] inline void blendMaskedLoop(const Scanline& line,
+                                                   const quint32* __restrict under,
+                                                   const std::uint8_t* __restrict mask) {
+    quint32* const __restrict pixels = line.pixels;
+    const int count = line.count;
+    const quint32 phase = Painting::ditherPhase(line.x, line.y);
     for (int i = 0; i < count; ++i) {
-        row[i] = Pixels::blendPixel(under[i], row[i], mask[i],
-                                    phase + static_cast<quint32>(i) * Pixels::patternStepX);
+        pixels[i] = Painting::blendMaskedPixel(
+            under[i], pixels[i], mask[i], phase + static_cast<quint32>(i) * Painting::ditherStepX);
     }
 }
 
-FERNWICK_INLINE void fillSlopeLoop(quint32* row, int count, quint32 phase,
-                                   const PixelKernels::Slope& slope) {
+[[gnu::always_inline]] inline void fillGradientLoop(const Scanline& line,
+                                                    const PixelKernels::Gradient& gradient) {
     constexpr int fractionBits = 16;
-    const auto [red, green, blue] = slope.first;
-    const auto [redGrowth, greenGrowth, blueGrowth] = slope.growth;
+    const auto [pixels, x, y, count] = line;
+    const auto [red, green, blue] = gradient.first;
+    const auto [redChange, greenChange, blueChange] = gradient.change;
+    const quint32 phase = Painting::ditherPhase(x, y);
     for (int i = 0; i < count; ++i) {
         const auto at = static_cast<quint32>(i);
-        const quint32 rounding = (phase + at * Pixels::patternStepX) >> fractionBits;
-        row[i] = 0xFF000000U | ((red + at * redGrowth + rounding) >> fractionBits) << 16U |
-                 ((green + at * greenGrowth + rounding) >> fractionBits) << 8U |
-                 ((blue + at * blueGrowth + rounding) >> fractionBits);
+        const quint32 threshold = (phase + at * Painting::ditherStepX) >> fractionBits;
+        pixels[i] = 0xFF000000U | ((red + at * redChange + threshold) >> fractionBits) << 16U |
+                    ((green + at * greenChange + threshold) >> fractionBits) << 8U |
+                    ((blue + at * blueChange + threshold) >> fractionBits);
     }
 }
 
-void mixBetween(quint32* row, int count, quint32 phase, const Rgb& colour,
-                const PixelKernels::Between& coverage) {
-    mixBetweenLoop(row, count, phase, colour, coverage);
+void blendBilinear(const Scanline& line, const Rgb& colour,
+                   const PixelKernels::BilinearCoverage& coverage) {
+    blendBilinearLoop(line, colour, coverage);
 }
 
-void blend(quint32* row, const quint32* under, const std::uint8_t* mask, int count, quint32 phase) {
-    blendLoop(row, under, mask, count, phase);
+void blendMasked(const Scanline& line, const quint32* under, const std::uint8_t* mask) {
+    blendMaskedLoop(line, under, mask);
 }
 
-void fillSlope(quint32* row, int count, quint32 phase, const PixelKernels::Slope& slope) {
-    fillSlopeLoop(row, count, phase, slope);
+void fillGradient(const Scanline& line, const PixelKernels::Gradient& gradient) {
+    fillGradientLoop(line, gradient);
 }
 
-constexpr PixelKernels plain{mixBetween, blend, fillSlope};
+constexpr PixelKernels generic{blendBilinear, blendMasked, fillGradient};
 
 #if defined(__x86_64__)
 
-[[gnu::target("avx2")]] void mixBetweenAvx2(quint32* row, int count, quint32 phase,
-                                            const Rgb& colour,
-                                            const PixelKernels::Between& coverage) {
-    mixBetweenLoop(row, count, phase, colour, coverage);
+[[gnu::target("avx2")]] void blendBilinearAvx2(const Scanline& line, const Rgb& colour,
+                                               const PixelKernels::BilinearCoverage& coverage) {
+    blendBilinearLoop(line, colour, coverage);
 }
 
-[[gnu::target("avx2")]] void blendAvx2(quint32* row, const quint32* under, const std::uint8_t* mask,
-                                       int count, quint32 phase) {
-    blendLoop(row, under, mask, count, phase);
+[[gnu::target("avx2")]] void blendMaskedAvx2(const Scanline& line, const quint32* under,
+                                             const std::uint8_t* mask) {
+    blendMaskedLoop(line, under, mask);
 }
 
-[[gnu::target("avx2")]] void fillSlopeAvx2(quint32* row, int count, quint32 phase,
-                                           const PixelKernels::Slope& slope) {
-    fillSlopeLoop(row, count, phase, slope);
+[[gnu::target("avx2")]] void fillGradientAvx2(const Scanline& line,
+                                              const PixelKernels::Gradient& gradient) {
+    fillGradientLoop(line, gradient);
 }
 
-constexpr PixelKernels avx2{mixBetweenAvx2, blendAvx2, fillSlopeAvx2};
+constexpr PixelKernels avx2{blendBilinearAvx2, blendMaskedAvx2, fillGradientAvx2};
 
 const PixelKernels& fastest() {
-    return __builtin_cpu_supports("avx2") != 0 ? avx2 : plain;
+    return __builtin_cpu_supports("avx2") != 0 ? avx2 : generic;
 }
 
 #else
 
 const PixelKernels& fastest() {
-    return plain;
+    return generic;
 }
 
 #endif
 
 }  // namespace
 
-const PixelKernels& plainPixelKernels() {
-    return plain;
+const Painting::PixelKernels& Painting::genericPixelKernels() {
+    return generic;
 }
 
-const PixelKernels& pixelKernels() {
-    static const PixelKernels& loops = fastest();
-    return loops;
+const Painting::PixelKernels& Painting::pixelKernels() {
+    static const PixelKernels& kernels = fastest();
+    return kernels;
 }

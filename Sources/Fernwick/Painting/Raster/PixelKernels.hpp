@@ -5,35 +5,39 @@
 
 #include "Painting/Raster/Pixels.hpp"
 
-/// The loops over rows of pixels that a step of the snake spends its time in, each for the plainest
-/// processor and for better ones. All give the same pixels.
+namespace Painting {
+
+/// The per-pixel loops that take most of the time of a frame, compiled for several instruction
+/// sets. All of them give exactly the same pixels.
 struct PixelKernels {
-    /// Two rows of coverage samples, and what each counts; the weighted sum is from 0 to 1.
-    struct Between {
+    /// Coverage between two rows of samples: upper * upperWeight + lower * lowerWeight is from 0
+    /// to 1.
+    struct BilinearCoverage {
         const float* upper;
         const float* lower;
         float upperWeight;
         float lowerWeight;
     };
 
-    /// Three channels as whole numbers of 2^-16 steps, at the first pixel and from one to the next.
-    struct Slope {
+    /// Red, green and blue in 16.16 fixed point: at the first pixel, and the change per pixel.
+    struct Gradient {
         std::array<quint32, 3> first;
-        std::array<quint32, 3> growth;
+        std::array<quint32, 3> change;
     };
 
-    /// Lays `colour` over `row` in place, covering as the samples say.
-    void (*mixBetween)(quint32* row, int count, quint32 phase, const Rgb& colour,
-                       const Between& coverage);
-    /// Lays `row` over `under`, different memory, and keeps the result in `row`. Each pixel covers
-    /// as its byte of `mask` says: 0 not at all, 255 wholly.
-    void (*blend)(quint32* row, const quint32* under, const std::uint8_t* mask, int count,
-                  quint32 phase);
-    /// Fills `row` with colours that change evenly.
-    void (*fillSlope)(quint32* row, int count, quint32 phase, const Slope& slope);
+    /// Blends `colour` over the scanline in place.
+    void (*blendBilinear)(const Scanline& line, const Rgb& colour,
+                          const BilinearCoverage& coverage);
+    /// Blends the scanline over `under`, which is different memory, and stores the result in the
+    /// scanline. `mask` is the coverage of each pixel from 0 to 255.
+    void (*blendMasked)(const Scanline& line, const quint32* under, const std::uint8_t* mask);
+    /// Fills the scanline with a linear gradient.
+    void (*fillGradient)(const Scanline& line, const Gradient& gradient);
 };
 
-/// Those that run on every processor.
-[[nodiscard]] const PixelKernels& plainPixelKernels();
-/// The fastest that this processor has.
+/// Runs on every processor.
+[[nodiscard]] const PixelKernels& genericPixelKernels();
+/// The fastest for this processor, chosen at run time: AVX2 if it has that.
 [[nodiscard]] const PixelKernels& pixelKernels();
+
+}  // namespace Painting

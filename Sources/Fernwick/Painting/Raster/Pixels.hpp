@@ -3,7 +3,14 @@
 #include <QColor>
 #include <cstdint>
 
-/// A colour as the pixel loops mix it: channels from 0 to 255.
+#include "Painting/Raster/Scanline.hpp"
+
+/// Blending opaque 32-bit pixels. Colours are blended in floating point and rounded with an ordered
+/// dither, so that slow gradients on dark colours show no bands. A coverage of 0 leaves a pixel
+/// exactly as it was. The loops are written so that compilers vectorize them.
+namespace Painting {
+
+/// A colour in floating point; channels from 0 to 255.
 struct Rgb {
     float red = 0;
     float green = 0;
@@ -15,71 +22,75 @@ struct Rgb {
     }
 };
 
-/// The loops that lay colour over rows of opaque 32-bit pixels. They mix in floating point and
-/// round by a fine still pattern, so that slow gradients on the dark ground show no steps; a pixel
-/// of coverage 0 keeps its value exactly. Written so that compilers turn them into vector code.
-namespace Pixels {
+// The R2 low-discrepancy sequence as fractions of 2^32: steps of 1/g and 1/g^2, where g is the real
+// root of g^3 = g + 1. It spreads evenly in both directions and shows no repeating pattern.
+inline constexpr quint32 ditherStepX = 3242174889U;
+inline constexpr quint32 ditherStepY = 2447445414U;
 
-// The two numbers of the plane's generalised golden ratio, as fractions of 2^32: a pattern that
-// spreads evenly in both directions and never repeats visibly.
-inline constexpr quint32 patternStepX = 3242174889U;
-inline constexpr quint32 patternStepY = 2447445414U;
-
-/// The pattern's phase at a pixel.
-[[nodiscard]] inline quint32 phase(int x, int y) {
-    return static_cast<quint32>(x) * patternStepX + static_cast<quint32>(y) * patternStepY;
+/// The dither's phase at a pixel, as a fraction of 2^32.
+[[nodiscard]] inline quint32 ditherPhase(int x, int y) {
+    return static_cast<quint32>(x) * ditherStepX + static_cast<quint32>(y) * ditherStepY;
 }
 
-/// The amount to add before rounding down, from 0 to just below 1.
-[[nodiscard]] inline float threshold(quint32 phase) {
-    // Only eight bits, so that 255 plus the largest one stays below 256 in a float.
+/// What to add to a channel before rounding down: at least 0 and less than 1.
+[[nodiscard]] inline float ditherThreshold(quint32 phase) {
+    // Eight bits only, so that 255 plus the largest threshold is below 256 as a float.
     constexpr float scale = 1.0F / 256.0F;
     return static_cast<float>(static_cast<int>(phase >> 24U)) * scale;
 }
 
-[[nodiscard]] inline quint32 mixChannel(quint32 under, float over, float coverage, float rounding) {
-    const float value = static_cast<float>(static_cast<int>(under));
-    return static_cast<quint32>(static_cast<int>(value + (over - value) * coverage + rounding));
+/// Converts by way of int, which SSE2 and AVX2 do in one instruction; unsigned takes several.
+[[nodiscard]] inline float toFloat(quint32 channel) {
+    return static_cast<float>(static_cast<int>(channel));
 }
 
-[[nodiscard]] inline quint32 mixPixel(quint32 under, const Rgb& over, float coverage,
-                                      float rounding) {
+[[nodiscard]] inline quint32 blendChannel(quint32 under, float over, float coverage,
+                                          float threshold) {
+    const float value = toFloat(under);
+    return static_cast<quint32>(static_cast<int>(value + (over - value) * coverage + threshold));
+}
+
+/// `over` on top of a pixel; `coverage` is from 0 to 1.
+[[nodiscard]] inline quint32 blendPixel(quint32 under, const Rgb& over, float coverage,
+                                        float threshold) {
     constexpr quint32 channel = 0xFFU;
-    return 0xFF000000U | mixChannel((under >> 16U) & channel, over.red, coverage, rounding) << 16U |
-           mixChannel((under >> 8U) & channel, over.green, coverage, rounding) << 8U |
-           mixChannel(under & channel, over.blue, coverage, rounding);
+    return 0xFF000000U |
+           blendChannel((under >> 16U) & channel, over.red, coverage, threshold) << 16U |
+           blendChannel((under >> 8U) & channel, over.green, coverage, threshold) << 8U |
+           blendChannel(under & channel, over.blue, coverage, threshold);
 }
 
-/// Lays one pixel over another. `coverage` is from 0 to 255.
-[[nodiscard]] inline quint32 blendPixel(quint32 under, quint32 over, std::uint8_t coverage,
-                                        quint32 phase) {
+/// One pixel on top of another; `mask` is the coverage from 0 to 255.
+[[nodiscard]] inline quint32 blendMaskedPixel(quint32 under, quint32 over, std::uint8_t mask,
+                                              quint32 phase) {
     constexpr quint32 channel = 0xFFU;
     constexpr float perStep = 1.0F / 255.0F;
-    static_assert(255.0F * perStep == 1.0F, "what covers wholly keeps its value");
-    const Rgb colour{static_cast<float>(static_cast<int>((over >> 16U) & channel)),
-                     static_cast<float>(static_cast<int>((over >> 8U) & channel)),
-                     static_cast<float>(static_cast<int>(over & channel))};
-    return mixPixel(under, colour, static_cast<float>(static_cast<int>(coverage)) * perStep,
-                    threshold(phase));
+    static_assert(255.0F * perStep == 1.0F, "full coverage must give exactly the upper pixel");
+    const Rgb colour{toFloat((over >> 16U) & channel), toFloat((over >> 8U) & channel),
+                     toFloat(over & channel)};
+    return blendPixel(under, colour, toFloat(mask) * perStep, ditherThreshold(phase));
 }
 
-/// Lays `colour` over `row` in place. `coverage(i)` is from 0 to 1; `start` is the phase of the
-/// first pixel.
+/// Blends `colour` over a scanline in place. `coverage(i)` is from 0 to 1.
 template <typename Coverage>
-void mixRow(quint32* row, int count, quint32 start, const Rgb& colour, Coverage coverage) {
-    for (int i = 0; i < count; ++i) {
-        const float rounding = threshold(start + static_cast<quint32>(i) * patternStepX);
-        row[i] = mixPixel(row[i], colour, coverage(i), rounding);
+void blendColour(const Scanline& line, const Rgb& colour, Coverage coverage) {
+    quint32* const pixels = line.pixels;
+    const quint32 phase = ditherPhase(line.x, line.y);
+    for (int i = 0, count = line.count; i < count; ++i) {
+        const float threshold = ditherThreshold(phase + static_cast<quint32>(i) * ditherStepX);
+        pixels[i] = blendPixel(pixels[i], colour, coverage(i), threshold);
     }
 }
 
-/// Fills `row` with what `colour(i)` gives over `under` at one coverage for all.
+/// Fills a scanline with `colour(i)` over the pixel `under`, at the same coverage everywhere.
 template <typename Colour>
-void fillRow(quint32* row, int count, quint32 start, quint32 under, float coverage, Colour colour) {
-    for (int i = 0; i < count; ++i) {
-        const float rounding = threshold(start + static_cast<quint32>(i) * patternStepX);
-        row[i] = mixPixel(under, colour(i), coverage, rounding);
+void fillBlended(const Scanline& line, quint32 under, float coverage, Colour colour) {
+    quint32* const pixels = line.pixels;
+    const quint32 phase = ditherPhase(line.x, line.y);
+    for (int i = 0, count = line.count; i < count; ++i) {
+        const float threshold = ditherThreshold(phase + static_cast<quint32>(i) * ditherStepX);
+        pixels[i] = blendPixel(under, colour(i), coverage, threshold);
     }
 }
 
-}  // namespace Pixels
+}  // namespace Painting

@@ -1,13 +1,12 @@
 #include "Screens/Main/Board.hpp"
 
+#include <QAccessibleWidget>
 #include <QPaintEvent>
 #include <QPainter>
 
 #include "Garden/Look/NumberText.hpp"
 #include "Garden/Look/Palette.hpp"
 #include "Painting/Board/IdlePicture.hpp"
-#include "Painting/Ground/Backdrop.hpp"
-#include "Screens/Main/BoardAccessible.hpp"
 #include "Screens/Main/WidgetPixels.hpp"
 
 namespace {
@@ -15,19 +14,28 @@ namespace {
 /// Of the blur while no run is moving, in points.
 constexpr double idleSigma = 5;
 
+// Gives the board the role of a picture. Its name says what it shows.
+QAccessibleInterface* createAccessible(const QString&, QObject* object) {
+    auto* const board = qobject_cast<Board*>(object);
+    return board == nullptr ? nullptr : new QAccessibleWidget(board, QAccessible::Graphic);
+}
+
 }  // namespace
 
-Board::Board(Backdrop& backdrop, QWidget* parent)
-    : QWidget(parent), backdrop_(backdrop), game_(BoardGeometry::columns, BoardGeometry::rows) {
+Board::Board(Painting::Backdrop& backdrop, const SnakeCore::Game& game, QWidget* parent)
+    : QWidget(parent), backdrop_(backdrop), game_(game) {
+    // Installing the same factory again has no effect.
+    QAccessible::installFactory(createAccessible);
     setAttribute(Qt::WA_OpaquePaintEvent);
-    BoardAccessible::install();
     announceScore();
 }
 
-Board::~Board() = default;
-
-BoardGeometry Board::fit(const QRectF& space) {
-    return fitBoard(space);
+void Board::place(const Painting::BoardGeometry& inWindow, qreal devicePixelRatio) {
+    if (inWindow != inWindow_ || devicePixelRatio != scale_) {
+        inWindow_ = inWindow;
+        scale_ = devicePixelRatio;
+        update();
+    }
 }
 
 void Board::setGame(const SnakeCore::Game& game) {
@@ -67,12 +75,11 @@ void Board::paintEvent(QPaintEvent* event) {
     prepareEdge();
     preparePicture();
     QPainter painter(this);
-    const WidgetPixels pixels(painter, *this);
+    const WidgetPixels pixels(painter, inWindow_.frame.toAlignedRect(), scale_);
     const QColor scrim = Garden::withOpacity(Qt::black, scrim_);
     for (const QRect& part : event->region()) {
         const QRect area = pixels.of(part);
-        // The painter's clip is the whole region; copying is fastest within a clip of one
-        // rectangle.
+        // QPainter copies images faster when it clips to one rectangle than to a region.
         painter.setClipRect(area);
         if (idle_) {
             painter.drawImage(area.topLeft(), idlePicture_, area);
@@ -86,59 +93,49 @@ void Board::paintEvent(QPaintEvent* event) {
     }
 }
 
-BoardGeometry Board::geometryInWindow() const {
-    BoardGeometry geometry = fit(parentWidget()->rect());
-    geometry.frame.translate(parentWidget()->mapTo(window(), QPoint()));
-    return geometry;
-}
-
-PixelGrid Board::grid() const {
-    const BoardGeometry geometry = geometryInWindow();
-    const double scale = devicePixelRatioF();
-    const QRect pixels = WidgetPixels::inWindow(*this);
+Painting::PixelGrid Board::grid() const {
+    const QRectF& frame = inWindow_.frame;
+    const QRect pixels = WidgetPixels::inWindow(frame.toAlignedRect(), scale_);
     return {pixels.size(),
-            geometry.frame.topLeft() * scale - pixels.topLeft(),
-            geometry.cell * scale,
-            scale,
+            frame.topLeft() * scale_ - pixels.topLeft(),
+            inWindow_.cell * scale_,
+            scale_,
             static_cast<int>(game_.width()),
             static_cast<int>(game_.height())};
 }
 
 QRegion Board::toPoints(const QRegion& pixels) const {
-    const double scale = devicePixelRatioF();
-    const QPoint first = WidgetPixels::inWindow(*this).topLeft();
-    const QPoint here = mapTo(window(), QPoint());
+    const QRect place = inWindow_.frame.toAlignedRect();
+    const QPoint first = WidgetPixels::inWindow(place, scale_).topLeft();
     QRegion points;
     for (const QRect& part : pixels) {
         const QRectF inWindow = part.translated(first);
-        points += QRectF(inWindow.topLeft() / scale, inWindow.size() / scale)
+        points += QRectF(inWindow.topLeft() / scale_, inWindow.size() / scale_)
                       .toAlignedRect()
-                      .translated(-here);
+                      .translated(-place.topLeft());
     }
     return points;
 }
 
 void Board::prepareEdge() {
-    const double scale = devicePixelRatioF();
-    const QRectF frame = geometryInWindow().frame;
-    backdrop_.fit(window()->size(), scale, frame);
-    const QRect place = WidgetPixels::inWindow(*this);
-    if (backdrop_.revision() != edgeGround_ || place != edgePlace_) {
-        const QRectF here(frame.topLeft() * scale - place.topLeft(), frame.size() * scale);
-        edge_ = FrameEdge(backdrop_, place, FrameShape(here, scale));
-        edgeGround_ = backdrop_.revision();
-        edgePlace_ = place;
+    if (backdrop_.revision() == edgeRevision_) {
+        return;
     }
+    const QRectF& frame = inWindow_.frame;
+    const QRect pixels = WidgetPixels::inWindow(frame.toAlignedRect(), scale_);
+    const QRectF inPicture(frame.topLeft() * scale_ - pixels.topLeft(), frame.size() * scale_);
+    edge_ = Painting::FrameEdge(backdrop_, pixels, Painting::FrameShape(inPicture, scale_));
+    edgeRevision_ = backdrop_.revision();
 }
 
 void Board::preparePicture() {
     if (!picture_ || picture_->grid() != grid()) {
-        picture_ = std::make_unique<BoardPicture>(grid());
+        picture_.emplace(grid());
         picture_->show(game_);
         idlePicture_ = {};
     }
     if (idle_ && idlePicture_.isNull()) {
-        idlePicture_ = idlePicture(picture_->image(), idleSigma * devicePixelRatioF());
+        idlePicture_ = Painting::idlePicture(picture_->image(), idleSigma * scale_);
     }
 }
 

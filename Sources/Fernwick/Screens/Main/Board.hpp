@@ -1,56 +1,55 @@
 #pragma once
 
 #include <QWidget>
-#include <memory>
+#include <optional>
 
 #include "Painting/Board/BoardGeometry.hpp"
 #include "Painting/Board/BoardPicture.hpp"
+#include "Painting/Ground/Backdrop.hpp"
 #include "Painting/Ground/FrameEdge.hpp"
 #include "SnakeCore/Game.hpp"
 
-class Backdrop;
-
-/// Paints one frame of a game, at first of a fresh run: grid dots, fruit, snake and its eyes,
-/// clipped to the rounded frame that `Backdrop` has filled and stroked. It fits its picture to its
-/// parent (`fit(parent->rect())`), which places it at that frame's `toAlignedRect()`.
+/// Paints a game: dots, fruit, snake and eyes, clipped to the rounded frame whose fill and stroke
+/// the backdrop paints.
 class Board : public QWidget {
     Q_OBJECT
 
 public:
-    /// `backdrop` is the ground of the window and has to outlive the board.
-    Board(Backdrop& backdrop, QWidget* parent);
-    ~Board() override;
+    /// `backdrop` has to outlive the board.
+    Board(Painting::Backdrop& backdrop, const SnakeCore::Game& game, QWidget* parent);
 
-    /// The largest board that `space` holds, centred in it; in points.
-    [[nodiscard]] static BoardGeometry fit(const QRectF& space);
+    /// Sets the place of the board in the window, in points, and the device pixels per point. The
+    /// caller has fitted the backdrop to the same frame, and sets the widget's geometry to the
+    /// frame's toAlignedRect().
+    void place(const Painting::BoardGeometry& inWindow, qreal devicePixelRatio);
 
-    /// Shows `game`; repaints what differs from the game shown before, nothing when they are equal.
+    /// Shows `game`. Repaints only what differs from the game shown before.
     void setGame(const SnakeCore::Game& game);
-    /// While no run is moving the picture is blurred and dimmed.
+    /// Blurs and dims the picture: no run is moving.
     void setIdle(bool idle);
-    /// Lays black over the picture, inside the frame's rounded shape; 0 is none, 1 hides it.
+    /// Draws black of this opacity, from 0 to 1, over the picture inside the rounded frame.
     void setScrim(double opacity);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    [[nodiscard]] BoardGeometry geometryInWindow() const;
-    [[nodiscard]] PixelGrid grid() const;
+    [[nodiscard]] Painting::PixelGrid grid() const;
     [[nodiscard]] QRegion toPoints(const QRegion& pixels) const;
     void prepareEdge();
     void preparePicture();
     void announceScore();
 
-    Backdrop& backdrop_;
+    Painting::Backdrop& backdrop_;
     SnakeCore::Game game_;
+    Painting::BoardGeometry inWindow_;
+    qreal scale_ = 1;
     bool idle_ = false;
     double scrim_ = 0;
-    std::unique_ptr<BoardPicture> picture_;
-    // The picture at rest; null until it is asked for.
+    std::optional<Painting::BoardPicture> picture_;
+    // Null until it is needed.
     QImage idlePicture_;
-    FrameEdge edge_;
-    // What the edge was made for: a state of the ground and the place of the board in it.
-    int edgeGround_ = 0;
-    QRect edgePlace_;
+    Painting::FrameEdge edge_;
+    // The backdrop's revision that the edge was made from.
+    int edgeRevision_ = 0;
 };

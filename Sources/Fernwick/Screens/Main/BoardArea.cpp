@@ -8,9 +8,6 @@
 
 namespace {
 
-// Each is a constant of a room that does not know the other.
-static_assert(BoardGeometry::columns == Session::columns && BoardGeometry::rows == Session::rows);
-
 void showCard(QWidget& card, bool shown) {
     if (!shown) {
         Garden::releaseFocus(card);
@@ -20,18 +17,24 @@ void showCard(QWidget& card, bool shown) {
 
 }  // namespace
 
-BoardArea::BoardArea(Session& session, Backdrop& backdrop, QWidget* parent)
+BoardArea::BoardArea(Session& session, Painting::Backdrop& backdrop, QWidget* parent)
     : QWidget(parent),
       session_(session),
-      board_(new Board(backdrop, this)),
+      board_(new Board(backdrop, session.game, this)),
       overlay_(new Overlay(session, this)),
       gameOver_(new GameOverView(session, this)) {
     connect(&session_, &Session::changed, this, &BoardArea::refresh);
     refresh();
 }
 
-QRectF BoardArea::frame() const {
-    return Board::fit(rect()).frame;
+void BoardArea::placeBoard(const QPoint& origin, const Painting::BoardGeometry& inWindow,
+                           qreal devicePixelRatio) {
+    frame_ = inWindow.frame;
+    const QRect place = frame_.toAlignedRect().translated(-origin);
+    board_->place(inWindow, devicePixelRatio);
+    board_->setGeometry(place);
+    overlay_->setGeometry(place);
+    gameOver_->setGeometry(place);
 }
 
 void BoardArea::refresh() {
@@ -44,9 +47,10 @@ void BoardArea::refresh() {
     showCard(*gameOver_, idle && ended);
 }
 
+void BoardArea::moveEvent(QMoveEvent*) {
+    Q_EMIT placed();
+}
+
 void BoardArea::resizeEvent(QResizeEvent*) {
-    const QRect place = frame().toAlignedRect();
-    board_->setGeometry(place);
-    overlay_->setGeometry(place);
-    gameOver_->setGeometry(place);
+    Q_EMIT placed();
 }

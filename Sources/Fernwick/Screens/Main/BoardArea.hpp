@@ -2,30 +2,45 @@
 
 #include <QWidget>
 
-class Backdrop;
+#include "Painting/Board/BoardGeometry.hpp"
+
 class Board;
 class GameOverView;
 class Overlay;
 class Session;
 
-/// The space of the main screen that the board is fitted into, with the card that lies over the
-/// board while no run is moving.
+namespace Painting {
+class Backdrop;
+}
+
+/// The space that the main screen leaves to the board, with the board in its middle and, while no
+/// run is moving, a card over it.
 class BoardArea : public QWidget {
     Q_OBJECT
 
 public:
-    BoardArea(Session& session, Backdrop& backdrop, QWidget* parent = nullptr);
+    BoardArea(Session& session, Painting::Backdrop& backdrop, QWidget* parent = nullptr);
 
-    /// Where the board's frame stands, in points, inside this widget.
-    [[nodiscard]] QRectF frame() const;
+    /// Sets the place of the board in the window, in points, and the device pixels per point.
+    /// `origin` is this widget's place in the window.
+    void placeBoard(const QPoint& origin, const Painting::BoardGeometry& inWindow,
+                    qreal devicePixelRatio);
+    /// The board's frame in points of the window.
+    [[nodiscard]] const QRectF& frame() const { return frame_; }
+
+Q_SIGNALS:
+    /// The layout has moved or resized this widget.
+    void placed();
 
 protected:
+    void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
     void refresh();
 
     Session& session_;
+    QRectF frame_;
     Board* board_;
     Overlay* overlay_;
     GameOverView* gameOver_;

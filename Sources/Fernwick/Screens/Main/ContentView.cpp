@@ -10,6 +10,7 @@
 #include "Screens/Main/HintRow.hpp"
 #include "Screens/Main/WidgetPixels.hpp"
 #include "Screens/Scores/SheetLayer.hpp"
+#include "Session/Session.hpp"
 
 namespace {
 
@@ -22,7 +23,8 @@ constexpr int bottomPadding = 26;
 ContentView::ContentView(Session& session, int topPadding, QWidget* parent)
     : QWidget(parent), boardArea_(new BoardArea(session, backdrop_)) {
     setAttribute(Qt::WA_OpaquePaintEvent);
-    // In visual order, which is the tab order, too.
+    connect(boardArea_, &BoardArea::placed, this, &ContentView::placeBoard);
+    // From top to bottom: Tab follows the order in which they are added.
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(sidePadding, topPadding, sidePadding, bottomPadding);
     column->setSpacing(rowSpacing);
@@ -34,9 +36,10 @@ ContentView::ContentView(Session& session, int topPadding, QWidget* parent)
 }
 
 void ContentView::paintEvent(QPaintEvent* event) {
-    backdrop_.fit(size(), devicePixelRatioF(), boardArea_->frame().translated(boardArea_->pos()));
+    // A new device pixel ratio repaints the whole window, this widget first.
+    placeBoard();
     QPainter painter(this);
-    const WidgetPixels pixels(painter, *this);
+    const WidgetPixels pixels(painter, rect(), scale_);
     for (const QRect& part : event->region()) {
         const QRect area = pixels.of(part);
         painter.setClipRect(area);
@@ -49,5 +52,16 @@ void ContentView::paintEvent(QPaintEvent* event) {
 }
 
 void ContentView::resizeEvent(QResizeEvent*) {
+    placeBoard();
     sheetLayer_->setGeometry(rect());
+}
+
+void ContentView::placeBoard() {
+    const QPoint origin = boardArea_->pos();
+    Painting::BoardGeometry board =
+        Painting::fitBoard(boardArea_->rect(), {int{Session::columns}, int{Session::rows}});
+    board.frame.translate(origin);
+    scale_ = devicePixelRatioF();
+    backdrop_.fit(size(), scale_, board.frame);
+    boardArea_->placeBoard(origin, board, scale_);
 }

@@ -8,14 +8,15 @@ class BoardArea;
 class Session;
 class SheetLayer;
 
-/// The main screen: header, controls, board and hints on the backdrop, with the high-scores sheet
-/// above them.
+/// The only screen of the application, as large as the window: header, controls, board and hints
+/// on the backdrop, and the sheet of high scores over them. It owns the backdrop and decides where
+/// the board lies.
 class ContentView : public QWidget {
     Q_OBJECT
 
 public:
-    /// `topPadding`, in points, is left free above the header.
-    ContentView(Session& session, int topPadding, QWidget* parent);
+    /// Leaves `topPadding` points free at the top.
+    ContentView(Session& session, int topPadding, QWidget* parent = nullptr);
 
 Q_SIGNALS:
     /// The first frame has been painted.
@@ -26,8 +27,12 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void placeBoard();
+
     bool hasAppeared_ = false;
-    Backdrop backdrop_;
+    // Device pixels per point.
+    qreal scale_ = 1;
+    Painting::Backdrop backdrop_;
     BoardArea* boardArea_;
     SheetLayer* sheetLayer_ = nullptr;
 };

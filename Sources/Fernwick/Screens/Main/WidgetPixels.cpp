@@ -2,27 +2,20 @@
 
 #include <cmath>
 
-namespace {
-
-QPointF cornerInWindow(const QWidget& widget) {
-    return QPointF(widget.mapTo(widget.window(), QPoint())) * widget.devicePixelRatioF();
+QRect WidgetPixels::inWindow(const QRect& place, qreal scale) {
+    return QRectF(QPointF(place.topLeft()) * scale, QSizeF(place.size()) * scale).toAlignedRect();
 }
 
-}  // namespace
-
-QRect WidgetPixels::inWindow(const QWidget& widget) {
-    return QRectF(cornerInWindow(widget), QSizeF(widget.size()) * widget.devicePixelRatioF())
-        .toAlignedRect();
-}
-
-WidgetPixels::WidgetPixels(QPainter& painter, const QWidget& widget) {
+WidgetPixels::WidgetPixels(QPainter& painter, const QRect& place, qreal scale) {
+    const QRect pixels = inWindow(place, scale);
     const QTransform toDevice = painter.deviceTransform();
-    const QRect place = inWindow(widget);
-    const QPointF first = toDevice.map(QPointF()) - cornerInWindow(widget) + place.topLeft();
+    // The first pixel on the device, which is the window or an image of the widget alone.
+    const QPointF first =
+        toDevice.map(QPointF()) - QPointF(place.topLeft()) * scale + pixels.topLeft();
     painter.setTransform(QTransform::fromTranslate(std::round(first.x()), std::round(first.y())) *
                          toDevice.inverted());
     toPixels_ = toDevice * QTransform::fromTranslate(-first.x(), -first.y());
-    bounds_ = {QPoint(), place.size()};
+    bounds_ = {QPoint(), pixels.size()};
 }
 
 QRect WidgetPixels::of(const QRect& points) const {

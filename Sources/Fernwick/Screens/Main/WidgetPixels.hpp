@@ -3,18 +3,17 @@
 #include <QPainter>
 #include <QRect>
 #include <QTransform>
-#include <QWidget>
 
-/// The pixels of a widget, whatever the scale of its window: whole ones, counted from the first
-/// pixel that the widget touches.
+/// Paints a widget in device pixels, at any scale of the screen. Pixels are counted from the top
+/// left one that the widget touches. `place` is the widget in its window, in points; `scale` is
+/// device pixels per point.
 class WidgetPixels {
 public:
-    /// Where they lie among those of the window.
-    [[nodiscard]] static QRect inWindow(const QWidget& widget);
+    /// The widget's pixels among those of the window.
+    [[nodiscard]] static QRect inWindow(const QRect& place, qreal scale);
 
-    /// Makes the coordinates of `painter`, at the beginning of a paint event of `widget`, those of
-    /// its pixels.
-    WidgetPixels(QPainter& painter, const QWidget& widget);
+    /// Sets up `painter`, at the start of a paint event, so that its units are the widget's pixels.
+    WidgetPixels(QPainter& painter, const QRect& place, qreal scale);
 
     /// The pixels that a rectangle of the widget, in points, touches.
     [[nodiscard]] QRect of(const QRect& points) const;

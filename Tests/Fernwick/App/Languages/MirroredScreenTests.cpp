@@ -72,11 +72,12 @@ protected:
 
     /// The inside of the board, without the light that falls on its surroundings.
     static QImage boardOf(Session& session) {
-        Backdrop backdrop;
+        Painting::Backdrop backdrop;
         QWidget holder;
         holder.resize(600, 500);
         BoardArea area(session, backdrop, &holder);
         area.resize(holder.size());
+        area.placeBoard({}, Painting::fitBoard(area.rect(), {28, 22}), area.devicePixelRatioF());
         constexpr int edge = 30;
         return area.grab(area.frame().toRect().adjusted(edge, edge, -edge, -edge)).toImage();
     }

@@ -12,39 +12,6 @@ namespace {
 using SnakeCore::Direction;
 using SnakeCore::Game;
 
-TEST(Board, fitsTheWidthOfANarrowSpaceAndStandsInItsMiddle) {
-    const BoardGeometry geometry = Board::fit({10, 20, 280, 500});
-
-    EXPECT_DOUBLE_EQ(geometry.cell, 10);
-    EXPECT_EQ(geometry.frame, QRectF(10, 160, 280, 220));
-}
-
-TEST(Board, fitsTheHeightOfAWideSpaceAndStandsInItsMiddle) {
-    const BoardGeometry geometry = Board::fit({0, 0, 1000, 330});
-
-    EXPECT_DOUBLE_EQ(geometry.cell, 15);
-    EXPECT_EQ(geometry.frame, QRectF(290, 0, 420, 330));
-}
-
-TEST(Board, fillsASpaceOfItsOwnShape) {
-    const BoardGeometry geometry = Board::fit({0, 0, 56, 44});
-
-    EXPECT_DOUBLE_EQ(geometry.cell, 2);
-    EXPECT_EQ(geometry.frame, QRectF(0, 0, 56, 44));
-}
-
-TEST(Board, keepsFractionsOfTheFrame) {
-    const BoardGeometry geometry = Board::fit({0, 0, 1000, 600});
-
-    EXPECT_DOUBLE_EQ(geometry.cell, 600.0 / 22);
-    EXPECT_DOUBLE_EQ(geometry.frame.width(), 28 * 600.0 / 22);
-    EXPECT_DOUBLE_EQ(geometry.frame.left(), (1000 - 28 * 600.0 / 22) / 2);
-}
-
-TEST(Board, hasNoSizeInNoSpace) {
-    EXPECT_DOUBLE_EQ(Board::fit({0, 0, 100, 0}).cell, 0);
-}
-
 TEST(Board, paintsNothingAnewForAnEqualGame) {
     BoardWindow window;
     const Game game = Games::ofLength(10);

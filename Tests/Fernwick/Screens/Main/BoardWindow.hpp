@@ -9,12 +9,11 @@
 #include "Painting/Ground/Backdrop.hpp"
 #include "Screens/Main/Board.hpp"
 
-/// A window with a board in it, laid out as the main screen does: the board in an area of its own,
-/// the ground painted behind.
+/// A window with a board in front of the backdrop, placed as on the main screen.
 class BoardWindow : public QWidget {
 public:
     explicit BoardWindow(const QSize& size = {700, 560})
-        : area_(new QWidget(this)), board_(new Board(backdrop_, area_)) {
+        : board_(new Board(backdrop_, SnakeCore::Game(28, 22), this)) {
         board_->installEventFilter(this);
         QWidget::resize(size);
         show();
@@ -23,24 +22,21 @@ public:
 
     [[nodiscard]] Board& board() { return *board_; }
 
-    /// The exact frame, in points of the window.
-    [[nodiscard]] QRectF frame() const {
-        return Board::fit(area_->rect()).frame.translated(area_->pos());
-    }
+    /// The frame in points of the window. Odd margins make its edges fractions.
+    [[nodiscard]] QRectF frame() const { return fitted().frame; }
 
     [[nodiscard]] QPoint middleOf(const SnakeCore::Cell& cell) const {
-        const double edge = Board::fit(area_->rect()).cell;
         const QPointF offset(static_cast<double>(cell.x) + 0.5, static_cast<double>(cell.y) + 0.5);
-        return (frame().topLeft() + offset * edge).toPoint();
+        return (frame().topLeft() + offset * fitted().cell).toPoint();
     }
 
-    /// Lets everything that is due happen, painting as well.
+    /// Handles all pending events, including repaints.
     void settle() {
         QCoreApplication::sendPostedEvents();
         QCoreApplication::processEvents();
     }
 
-    /// What of the board was painted on settling.
+    /// Settles; returns the part of the board that was repainted.
     [[nodiscard]] QRegion paintedOnSettling() {
         painted_ = {};
         settle();
@@ -52,13 +48,12 @@ public:
         return grab().toImage().convertToFormat(QImage::Format_RGB32);
     }
 
-    /// What has reached the screen so far.
+    /// What the screen shows now.
     [[nodiscard]] QImage onScreen() {
         return screen()->grabWindow(winId()).toImage().convertToFormat(QImage::Format_RGB32);
     }
 
     [[nodiscard]] QImage ground() {
-        backdrop_.fit(size(), devicePixelRatioF(), frame());
         QImage ground = backdrop_.image(backdrop_.bounds());
         ground.setDevicePixelRatio(devicePixelRatioF());
         return ground;
@@ -78,14 +73,17 @@ protected:
     }
 
     void resizeEvent(QResizeEvent*) override {
-        // Odd margins, so that the frame's edges are fractions.
-        area_->setGeometry(rect().adjusted(31, 43, -38, -52));
-        board_->setGeometry(Board::fit(area_->rect()).frame.toAlignedRect());
+        backdrop_.fit(size(), devicePixelRatioF(), frame());
+        board_->place(fitted(), devicePixelRatioF());
+        board_->setGeometry(frame().toAlignedRect());
     }
 
 private:
-    Backdrop backdrop_;
-    QWidget* area_;
+    [[nodiscard]] Painting::BoardGeometry fitted() const {
+        return Painting::fitBoard(rect().adjusted(31, 43, -38, -52), {28, 22});
+    }
+
+    Painting::Backdrop backdrop_;
     Board* board_;
     QRegion painted_;
 };

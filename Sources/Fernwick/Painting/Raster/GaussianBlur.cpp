@@ -1,0 +1,65 @@
+#include "Painting/Raster/GaussianBlur.hpp"
+
+#include <cmath>
+#include <numeric>
+
+namespace {
+
+using FloatPlane = Painting::Plane<float>;
+
+// The kernel is cut off at this many sigmas.
+constexpr double extent = 3;
+
+// The right half of the kernel, its middle first. The whole kernel sums to 1.
+std::vector<float> halfKernel(double sigma) {
+    std::vector<float> weights(static_cast<std::size_t>(std::ceil(extent * sigma)) + 1);
+    for (std::size_t i = 0; i < weights.size(); ++i) {
+        const double distance = static_cast<double>(i) / sigma;
+        weights[i] = static_cast<float>(std::exp(-distance * distance / 2));
+    }
+    const float sum = std::accumulate(weights.begin(), weights.end(), 0.0F) * 2 - weights[0];
+    for (float& weight : weights) {
+        weight /= sum;
+    }
+    return weights;
+}
+
+void addScaled(float* to, const float* from, float weight, int count) {
+    for (int i = 0; i < count; ++i) {
+        to[i] += from[i] * weight;
+    }
+}
+
+// Adds whole rows, which vectorizes; summing up column by column would not.
+void blurVertically(const FloatPlane& from, FloatPlane& to, const std::vector<float>& weights) {
+    const int radius = static_cast<int>(weights.size()) - 1;
+    for (int y = 0; y < to.height(); ++y) {
+        const int last = std::min(y + radius, to.height() - 1);
+        for (int other = std::max(y - radius, 0); other <= last; ++other) {
+            addScaled(to.row(y), from.row(other),
+                      weights[static_cast<std::size_t>(std::abs(other - y))], to.width());
+        }
+    }
+}
+
+void blurHorizontally(const FloatPlane& from, FloatPlane& to, const std::vector<float>& weights) {
+    const int radius = static_cast<int>(weights.size()) - 1;
+    for (int y = 0; y < to.height(); ++y) {
+        for (int shift = -radius; shift <= radius; ++shift) {
+            const int first = std::max(-shift, 0);
+            addScaled(to.row(y) + first, from.row(y) + first + shift,
+                      weights[static_cast<std::size_t>(std::abs(shift))],
+                      to.width() - std::abs(shift));
+        }
+    }
+}
+
+}  // namespace
+
+void Painting::gaussianBlur(Plane<float>& plane, double sigma) {
+    const std::vector<float> weights = halfKernel(sigma);
+    FloatPlane blurred(plane.width(), plane.height());
+    blurHorizontally(plane, blurred, weights);
+    plane.fill(0);
+    blurVertically(blurred, plane, weights);
+}

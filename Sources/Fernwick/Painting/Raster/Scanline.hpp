@@ -1,0 +1,72 @@
+#pragma once
+
+#include <QImage>
+#include <QPainter>
+#include <QRect>
+#include <algorithm>
+
+namespace Painting {
+
+/// A horizontal run of 32-bit pixels: `count` of them, the first at (x, y) of the picture.
+struct Scanline {
+    quint32* pixels;
+    int x;
+    int y;
+    int count;
+
+    /// The part from column `begin` up to, not including, column `end`; both lie in the run.
+    [[nodiscard]] Scanline part(int begin, int end) const {
+        return {pixels + (begin - x), begin, y, end - begin};
+    }
+    /// The part inside `area`; its count is 0 when there is none.
+    [[nodiscard]] Scanline clipped(const QRect& area) const {
+        const int begin = std::max(x, area.left());
+        const int end = std::min(x + count, area.left() + area.width());
+        const bool overlaps = begin < end && y >= area.top() && y <= area.bottom();
+        return overlaps ? part(begin, end) : part(x, x);
+    }
+    void fill(quint32 pixel) const { std::fill_n(pixels, count, pixel); }
+};
+
+/// The pixels of `image` from (x, y) to the end of the row. The image has 32 bits a pixel.
+[[nodiscard]] inline const quint32* pixelsAt(const QImage& image, int x, int y) {
+    return reinterpret_cast<const quint32*>(image.constScanLine(y)) + x;
+}
+
+/// Row `y` of `area`, which lies in `image`. The image has 32 bits a pixel.
+[[nodiscard]] inline Scanline scanline(QImage& image, const QRect& area, int y) {
+    auto* const pixels = reinterpret_cast<quint32*>(image.scanLine(y));
+    return {pixels + area.left(), area.left(), y, area.width()};
+}
+
+/// The rows that are composed before they are drawn: few enough to stay in the processor's cache.
+inline constexpr int rowsPerBatch = 16;
+
+/// Draws `area` at its place in the painter's coordinates. `compose(scanline)` writes the pixels of
+/// one row of it. `buffer` is at least as wide as `area`; its height is the number of rows that are
+/// drawn at once.
+template <typename Compose>
+void drawComposed(QPainter& painter, const QRect& area, QImage& buffer, Compose compose) {
+    const int batch = buffer.height();
+    for (int top = area.top(); top <= area.bottom(); top += batch) {
+        const QRect rows(0, 0, area.width(), std::min(batch, area.bottom() + 1 - top));
+        for (int row = 0; row < rows.height(); ++row) {
+            const Scanline line = scanline(buffer, rows, row);
+            compose(Scanline{line.pixels, area.left(), top + row, line.count});
+        }
+        painter.drawImage(QPoint(area.left(), top), buffer, rows);
+    }
+}
+
+/// The picture of `area`, composed in the same way. Its top left pixel is that of `area`.
+template <typename Compose>
+[[nodiscard]] QImage composedImage(const QRect& area, Compose compose) {
+    QImage image(area.size(), QImage::Format_RGB32);
+    for (int row = 0; row < area.height(); ++row) {
+        const Scanline line = scanline(image, image.rect(), row);
+        compose(Scanline{line.pixels, area.left(), area.top() + row, line.count});
+    }
+    return image;
+}
+
+}  // namespace Painting
