@@ -1,11 +1,11 @@
 #include "Window/GameWindow.hpp"
 
-#include <QAccessibleWidget>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QResizeEvent>
 
 #include "Garden/Look/Icons.hpp"
+#include "Garden/Widgets/Accessibility.hpp"
 #include "Screens/Main/ContentView.hpp"
 #include "Window/LaunchView.hpp"
 #include "Window/Log.hpp"
@@ -18,19 +18,14 @@ namespace {
 constexpr QSize defaultSize(940, 860);
 constexpr QSize smallestSize(820, 760);
 
-// Qt gives a plain QWidget the role "filler", and screen readers only follow windows.
-QAccessibleInterface* createAccessible(const QString&, QObject* object) {
-    auto* window = qobject_cast<GameWindow*>(object);
-    return window == nullptr ? nullptr : new QAccessibleWidget(window, QAccessible::Window);
-}
-
 }  // namespace
 
 GameWindow::GameWindow(Session& session)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint),
       band_(new TitleBand(this)),
       content_(new ContentView(session, TitleBand::height, this)) {
-    QAccessible::installFactory(createAccessible);
+    // Screen readers follow windows; by default Qt reports a plain QWidget as a filler.
+    Garden::setAccessibleRole(*this, QAccessible::Window);
     setObjectName(QStringLiteral("main"));
     //: The name of the game. Stays as it is in every language.
     setWindowTitle(tr("Fernwick"));

@@ -33,7 +33,7 @@ TEST_F(Key, downTurnsTheSnakeDown) {
 
 TEST_F(Key, leftAndRightTurnASnakeThatMovesUp) {
     for (const auto& [key, direction] : {std::pair(GameKey::left, SnakeCore::Direction::left),
-                                        std::pair(GameKey::right, SnakeCore::Direction::right)}) {
+                                         std::pair(GameKey::right, SnakeCore::Direction::right)}) {
         session.start();
         session.key(GameKey::up);
         fireTimer();

@@ -1,11 +1,11 @@
 #include "Screens/Main/Board.hpp"
 
-#include <QAccessibleWidget>
 #include <QPaintEvent>
 #include <QPainter>
 
 #include "Garden/Look/NumberText.hpp"
 #include "Garden/Look/Palette.hpp"
+#include "Garden/Widgets/Accessibility.hpp"
 #include "Painting/Board/IdlePicture.hpp"
 #include "Screens/Main/WidgetPixels.hpp"
 
@@ -14,18 +14,11 @@ namespace {
 /// Of the blur while no run is moving, in points.
 constexpr double idleSigma = 5;
 
-// Gives the board the role of a picture. Its name says what it shows.
-QAccessibleInterface* createAccessible(const QString&, QObject* object) {
-    auto* const board = qobject_cast<Board*>(object);
-    return board == nullptr ? nullptr : new QAccessibleWidget(board, QAccessible::Graphic);
-}
-
 }  // namespace
 
 Board::Board(Painting::Backdrop& backdrop, const SnakeCore::Game& game, QWidget* parent)
     : QWidget(parent), backdrop_(backdrop), game_(game) {
-    // Installing the same factory again has no effect.
-    QAccessible::installFactory(createAccessible);
+    Garden::setAccessibleRole(*this, QAccessible::Graphic);
     setAttribute(Qt::WA_OpaquePaintEvent);
     announceScore();
 }

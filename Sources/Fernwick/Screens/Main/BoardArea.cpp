@@ -20,7 +20,7 @@ void showCard(QWidget& card, bool shown) {
 BoardArea::BoardArea(Session& session, Painting::Backdrop& backdrop, QWidget* parent)
     : QWidget(parent),
       session_(session),
-      board_(new Board(backdrop, session.game, this)),
+      board_(new Board(backdrop, session.game(), this)),
       overlay_(new Overlay(session, this)),
       gameOver_(new GameOverView(session, this)) {
     connect(&session_, &Session::changed, this, &BoardArea::refresh);
