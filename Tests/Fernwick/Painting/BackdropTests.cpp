@@ -16,7 +16,7 @@ QImage groundOf(const QSize& size, double scale, const QRectF& board) {
     return backdrop.image(backdrop.bounds());
 }
 
-// The mean of a channel over a square, which the rounding pattern does not disturb.
+// The mean of a channel over a square, which evens out the dither.
 double meanAround(const QImage& picture, int x, int y, int shift) {
     constexpr int reach = 8;
     double sum = 0;
@@ -41,12 +41,12 @@ void expectLitNight(const QImage& picture, int x, int y, double scale) {
                0.053 + light * (0.64 - 0.053));
 }
 
-TEST(Backdrop, isAsManyPixelsAsTheWindowHas) {
+TEST(Backdrop, coversTheWindowsDevicePixelsRoundedUp) {
     EXPECT_EQ(groundOf({101, 51}, 1.5, {}).size(), QSize(152, 77));
     EXPECT_EQ(groundOf({101, 51}, 2, {}).size(), QSize(202, 102));
 }
 
-TEST(Backdrop, isNightWithMintLightFadingFromTheCorner) {
+TEST(Backdrop, isDarkWithMintLightFadingFromTheCorner) {
     for (const double scale : {1.0, 2.0}) {
         const QImage picture = groundOf(window, scale, frame);
 
@@ -58,7 +58,7 @@ TEST(Backdrop, isNightWithMintLightFadingFromTheCorner) {
     }
 }
 
-TEST(Backdrop, mixesNeighbouringValuesWhereTheLightChangesSlowly) {
+TEST(Backdrop, dithersSlowGradientsSoThatTheyShowNoBands) {
     const QImage picture = groundOf(window, 1, frame);
 
     int longestRun = 0;
@@ -67,11 +67,11 @@ TEST(Backdrop, mixesNeighbouringValuesWhereTheLightChangesSlowly) {
         run = channelOf(picture, x, 300, 8) == channelOf(picture, x - 1, 300, 8) ? run + 1 : 0;
         longestRun = std::max(longestRun, run);
     }
-    // The light loses one step of 255 every 45 points or more; unmixed, that were a band.
+    // The light fades by 1/255 over 45 points or more. Without dither each step would be a band.
     EXPECT_LT(longestRun, 40);
 }
 
-TEST(Backdrop, fillsTheFrameWithPlainSoil) {
+TEST(Backdrop, fillsTheFrameWithThePlainBoardColour) {
     const QImage picture = groundOf(window, 1, frame);
 
     for (const QPoint& place : {QPoint(510, 240), QPoint(780, 420), QPoint(1050, 620)}) {
@@ -79,19 +79,19 @@ TEST(Backdrop, fillsTheFrameWithPlainSoil) {
     }
 }
 
-TEST(Backdrop, strokesTheEdgeAcrossTheFramesOutline) {
+TEST(Backdrop, centresTheStrokeOnTheFramesOutline) {
     const QImage picture = groundOf(window, 1, frame);
 
-    // The left edge runs through the middle of a column of pixels: the stroke is that column.
+    // The left edge is in the middle of a pixel column, so the stroke is exactly that column.
     EXPECT_NEAR(channelOf(picture, 500, 420, 8), (24 + 12.5) / 2 * 0.84 + 240 * 0.16, 3);
     EXPECT_EQ(picture.pixel(501, 420), qRgb(14, 24, 19));
     EXPECT_LT(channelOf(picture, 499, 420, 8), 20);
-    // The top edge runs between two rows: half the stroke on each.
+    // The top edge is between two pixel rows, each of which gets half of the stroke.
     EXPECT_NEAR(channelOf(picture, 780, 200, 8), 24 * 0.92 + 240 * 0.08, 2);
     EXPECT_NEAR(channelOf(picture, 780, 199, 8), 15 * 0.92 + 240 * 0.08, 3);
 }
 
-TEST(Backdrop, roundsTheFramesCornersBy22) {
+TEST(Backdrop, roundsTheFramesCornersWithARadiusOf22Points) {
     const QImage picture = groundOf(window, 1, frame);
     const auto onDiagonal = [&](int step) { return picture.pixel(501 + step, 200 + step); };
 
@@ -101,21 +101,21 @@ TEST(Backdrop, roundsTheFramesCornersBy22) {
             brightest = step;
         }
     }
-    // A corner of radius 22 crosses its diagonal five or six points from either edge.
+    // A corner of radius 22 crosses the diagonal five or six points from either edge.
     EXPECT_GE(brightest, 4);
     EXPECT_LE(brightest, 6);
     EXPECT_EQ(onDiagonal(9), qRgb(14, 24, 19));
     EXPECT_LE(qGreen(onDiagonal(2)), 22);
 }
 
-TEST(Backdrop, throwsTheFramesShadowDownwards) {
+TEST(Backdrop, paintsTheFramesShadow15PointsBelowTheFrame) {
     const QImage picture = groundOf(window, 1, frame);
     const QImage bare = groundOf(window, 1, {});
     const auto shade = [&](int x, int y) {
         return 1 - meanAround(picture, x, y, 8) / meanAround(bare, x, y, 8);
     };
 
-    // Below the middle of the lower edge, as a blurred half plane whose edge lies 15 points lower.
+    // Below the lower edge the shadow is a blurred half-plane that ends 15 points lower.
     for (const int below : {10, 15, 40, 60}) {
         const double expected = 0.25 * 0.5 * std::erfc((below - 15) / (25 * std::sqrt(2.0)));
         EXPECT_NEAR(shade(780, 640 + below), expected, 0.02) << below;
@@ -125,7 +125,7 @@ TEST(Backdrop, throwsTheFramesShadowDownwards) {
     EXPECT_NEAR(shade(500 - 25, 430), 0.25 * 0.5 * std::erfc(1 / std::sqrt(2.0)), 0.02);
 }
 
-TEST(Backdrop, changesOnlyWithThePlaceOfWhatItLiesBehind) {
+TEST(Backdrop, hasANewRevisionOnlyWhenWindowOrFrameChange) {
     Painting::Backdrop backdrop;
     backdrop.fit(window, 1, frame);
     const int first = backdrop.revision();
@@ -140,7 +140,7 @@ TEST(Backdrop, changesOnlyWithThePlaceOfWhatItLiesBehind) {
     EXPECT_EQ(backdrop.bounds(), QRect(0, 0, 800, 600));
 }
 
-TEST(Backdrop, isTheSameWhateverTheAreasItIsPaintedBy) {
+TEST(Backdrop, isTheSameWhenPaintedInPieces) {
     Painting::Backdrop backdrop;
     backdrop.fit(window, 1, frame);
     QImage inPieces(window, QImage::Format_RGB32);

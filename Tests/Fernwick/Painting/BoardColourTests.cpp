@@ -11,7 +11,7 @@ namespace {
 using SnakeCore::Direction;
 using SnakeCore::Game;
 
-// Cells of 40 pixels that fall on whole pixels, two pixels a point.
+// Cells of 40 pixels at whole pixels, two pixels per point.
 constexpr Painting::PixelGrid roomy{QSize(28 * 40, 22 * 40), QPointF(0, 0), 40, 2, 28, 22};
 
 QImage painted(const Game& game) {
@@ -20,14 +20,14 @@ QImage painted(const Game& game) {
     return picture.image();
 }
 
-// Within the one step that the rounding pattern may add.
+// The dither may add 1/255.
 void expectColour(const QImage& picture, int x, int y, double red, double green, double blue) {
     EXPECT_NEAR(channelOf(picture, x, y, 16), red * 255, 1.1) << x << ", " << y;
     EXPECT_NEAR(channelOf(picture, x, y, 8), green * 255, 1.1) << x << ", " << y;
     EXPECT_NEAR(channelOf(picture, x, y, 0), blue * 255, 1.1) << x << ", " << y;
 }
 
-// How much brighter than the fill the green of a square is in sum, in pixels of full mint.
+// The mint inside a square of plain fill, in fully covered pixels. Measured in the green channel.
 double mintIn(const QImage& picture, const QRect& area) {
     double sum = 0;
     for (int y = area.top(); y <= area.bottom(); ++y) {
@@ -38,14 +38,14 @@ double mintIn(const QImage& picture, const QRect& area) {
     return sum / (240 - 24);
 }
 
-TEST(BoardColours, theGroundBetweenTheDotsIsThePlainFill) {
+TEST(BoardColours, areThePlainFillBetweenTheDots) {
     const QImage picture = painted(Game(28, 22));
 
     expectColour(picture, 0, 0, 0.055, 0.095, 0.076);
     expectColour(picture, 40 * 3, 40 * 2, 0.055, 0.095, 0.076);
 }
 
-TEST(BoardColours, aDotOf1Point6LiesOnTheCentreOfEveryFreeCell) {
+TEST(BoardColours, haveADotOf1Point6PointsInTheCentreOfEveryFreeCell) {
     const QImage picture = painted(Game(28, 22));
     const double area = M_PI * 1.6 * 1.6;  // the radius is 1.6 pixels at this scale
 
@@ -62,7 +62,7 @@ TEST(BoardColours, aDotOf1Point6LiesOnTheCentreOfEveryFreeCell) {
     }
 }
 
-TEST(BoardColours, dotsKeepTheirSizeOnASmallerBoard) {
+TEST(BoardColours, haveDotsOfTheSameSizeOnASmallerBoard) {
     Painting::PixelGrid small = roomy;
     small.size /= 2;
     small.cell /= 2;
@@ -72,7 +72,7 @@ TEST(BoardColours, dotsKeepTheirSizeOnASmallerBoard) {
     EXPECT_NEAR(mintIn(picture.image(), {6, 6, 8, 8}), M_PI * 1.6 * 1.6 * 0.12, 0.1);
 }
 
-TEST(BoardColours, theFruitIsABallOf0Point56Cells) {
+TEST(BoardColours, haveAFruit0Point56CellsWide) {
     const QImage picture = painted(Game(28, 22));
     const int x = 18 * 40 + 20;
     const int y = 11 * 40 + 20;
@@ -85,19 +85,19 @@ TEST(BoardColours, theFruitIsABallOf0Point56Cells) {
     EXPECT_LT(channelOf(picture, x, y + 13, 16), 60);
 }
 
-TEST(BoardColours, theFruitGlowsOrangeAndTheGlowFades) {
+TEST(BoardColours, haveAnOrangeGlowAroundTheFruitThatFades) {
     const QImage picture = painted(Game(28, 22));
     const int x = 18 * 40 + 20;
     const int y = 11 * 40 + 20;
 
-    // The middle of a Gaussian of 0.5 cells over a disc of 0.28 cells, near the disc's edge.
+    // A disc of radius 0.28 cells, blurred with a sigma of 0.5 cells, near the disc's edge.
     EXPECT_NEAR(channelOf(picture, x, y + 14, 16), 14 + (255 - 14) * 0.55 * 0.12, 3);
     EXPECT_GT(channelOf(picture, x, y + 14, 16), channelOf(picture, x, y + 30, 16));
     EXPECT_GT(channelOf(picture, x, y + 30, 16), channelOf(picture, x, y + 30, 0));
     EXPECT_NEAR(channelOf(picture, x - 2, y + 90, 16), 14, 1);
 }
 
-TEST(BoardColours, theStemIsTwoPointsWideAndRisesFromTheFruit) {
+TEST(BoardColours, haveAStemTwoPointsWideThatRisesFromTheFruit) {
     const QImage picture = painted(Game(28, 22));
     const int x = 18 * 40 + 20;
     const int y = 11 * 40 + 20;
@@ -108,7 +108,7 @@ TEST(BoardColours, theStemIsTwoPointsWideAndRisesFromTheFruit) {
     EXPECT_LT(channelOf(picture, x + 8, y - 15, 8), 60);
 }
 
-TEST(BoardColours, theBandRunsFromDeepGreenToMintBetweenTheEndsCentres) {
+TEST(BoardColours, shadeTheSnakeFromDeepGreenAtTheTailToMintAtTheHead) {
     const QImage picture = painted(Game(28, 22));
     const int y = 11 * 40 + 20;
     const int tail = 11 * 40 + 20;
@@ -123,7 +123,7 @@ TEST(BoardColours, theBandRunsFromDeepGreenToMintBetweenTheEndsCentres) {
     expectColour(picture, head + 12, y, 0.65, 0.94, 0.64);
 }
 
-TEST(BoardColours, theBandIs0Point74CellsWideWithRoundEnds) {
+TEST(BoardColours, haveASnake0Point74CellsWideWithRoundEnds) {
     const QImage picture = painted(Game(28, 22));
     const int y = 11 * 40 + 20;
 
@@ -138,7 +138,7 @@ TEST(BoardColours, theBandIs0Point74CellsWideWithRoundEnds) {
     EXPECT_LT(channelOf(picture, 11 * 40 + 20 - 13, y - 13, 8), 90);
 }
 
-TEST(BoardColours, parallelRunsKeepAGap) {
+TEST(BoardColours, leaveAGapBetweenParallelRunsOfTheSnake) {
     const Game game = Games::ofLength(160);
     const QImage picture = painted(game);
     const SnakeCore::Cell middle = game.snake()[60];
@@ -150,7 +150,7 @@ TEST(BoardColours, parallelRunsKeepAGap) {
     EXPECT_GT(channelOf(picture, x, y + 20, 8), 140);
 }
 
-TEST(BoardColours, theEyesSitAheadOfTheHeadAcrossTheDirection) {
+TEST(BoardColours, haveEyesAheadOfTheHeadsCentreSideBySideAcrossTheDirection) {
     struct Look {
         Direction direction;
         QPointF first;
@@ -175,7 +175,7 @@ TEST(BoardColours, theEyesSitAheadOfTheHeadAcrossTheDirection) {
     }
 }
 
-TEST(BoardColours, theEyesIgnoreATurnThatIsStillPending) {
+TEST(BoardColours, keepTheEyesInPlaceWhileATurnIsPending) {
     Game game(28, 22);
     const QImage before = painted(game);
     game.turn(Direction::up);

@@ -12,13 +12,13 @@ namespace {
 using SnakeCore::Direction;
 using SnakeCore::Game;
 
-// The limits that the picture is held to.
+// The tolerance, in steps of 1/255 of a channel.
 constexpr double largestMean = 1;
 constexpr int largestStep = 24;
 
 constexpr double cell = 13.37;
 
-QImage paintedAfresh(const Game& game, const Painting::PixelGrid& grid) {
+QImage paintedAnew(const Game& game, const Painting::PixelGrid& grid) {
     Painting::BoardPicture picture(grid);
     picture.show(game);
     return picture.image();
@@ -30,49 +30,48 @@ void expectLikeReference(const QImage& actual, const QImage& expected) {
     EXPECT_LE(apart.largest, largestStep) << apart;
 }
 
-struct Sight {
+struct Case {
     std::size_t length;
     double scale;
 };
 
-class BoardPictureOf : public testing::TestWithParam<Sight> {};
+class BoardPictureOf : public testing::TestWithParam<Case> {};
 
-TEST_P(BoardPictureOf, aSnakeLooksAsPaintedTheStraightforwardWay) {
+TEST_P(BoardPictureOf, equalsTheReferencePainter) {
     const Game game = Games::ofLength(GetParam().length);
     const Painting::PixelGrid grid = Grids::usual(cell, GetParam().scale);
 
-    expectLikeReference(paintedAfresh(game, grid), ReferencePainter::paint(game, grid));
+    expectLikeReference(paintedAnew(game, grid), ReferencePainter::paint(game, grid));
 }
 
 INSTANTIATE_TEST_SUITE_P(LengthsAndScales, BoardPictureOf,
-                         testing::Values(Sight{4, 1}, Sight{4, 1.25}, Sight{4, 1.5}, Sight{4, 2},
-                                         Sight{4, 3}, Sight{9, 2}, Sight{60, 1}, Sight{60, 1.5},
-                                         Sight{60, 2}, Sight{160, 1.25}, Sight{400, 1},
-                                         Sight{400, 2}, Sight{615, 1.5}, Sight{616, 1},
-                                         Sight{616, 2}),
-                         [](const auto& sight) {
-                             return "length" + std::to_string(sight.param.length) + "scale" +
-                                    std::to_string(static_cast<int>(sight.param.scale * 100));
+                         testing::Values(Case{4, 1}, Case{4, 1.25}, Case{4, 1.5}, Case{4, 2},
+                                         Case{4, 3}, Case{9, 2}, Case{60, 1}, Case{60, 1.5},
+                                         Case{60, 2}, Case{160, 1.25}, Case{400, 1}, Case{400, 2},
+                                         Case{615, 1.5}, Case{616, 1}, Case{616, 2}),
+                         [](const auto& one) {
+                             return "length" + std::to_string(one.param.length) + "scale" +
+                                    std::to_string(static_cast<int>(one.param.scale * 100));
                          });
 
-TEST(BoardPicture, everyDirectionLooksAsPaintedTheStraightforwardWay) {
+TEST(BoardPicture, equalsTheReferencePainterInEveryDirection) {
     for (const Direction direction :
          {Direction::up, Direction::down, Direction::left, Direction::right}) {
         const Game game = Games::going(direction);
         const Painting::PixelGrid grid = Grids::usual(20, 1);
 
-        expectLikeReference(paintedAfresh(game, grid), ReferencePainter::paint(game, grid));
+        expectLikeReference(paintedAnew(game, grid), ReferencePainter::paint(game, grid));
     }
 }
 
-TEST(BoardPicture, restsBlurredAndDimmedAsPaintedTheStraightforwardWay) {
+TEST(BoardPicture, isBlurredAndDimmedLikeTheReferencePainterWhileIdle) {
     for (const double scale : {1.0, 1.5, 2.0}) {
         const Game game = Games::ofLength(60);
         const Painting::PixelGrid grid = Grids::usual(cell, scale);
 
-        const QImage resting = Painting::idlePicture(paintedAfresh(game, grid), 5 * scale);
+        const QImage idle = Painting::idlePicture(paintedAnew(game, grid), 5 * scale);
 
-        expectLikeReference(resting, ReferencePainter::paintIdle(game, grid));
+        expectLikeReference(idle, ReferencePainter::paintIdle(game, grid));
     }
 }
 
@@ -88,7 +87,7 @@ QRegion differingPixels(const QImage& left, const QImage& right) {
     return region;
 }
 
-TEST(BoardPicture, keptUpToDateIsThePicturePaintedAfresh) {
+TEST(BoardPicture, equalsANewPictureAfterManySteps) {
     const Painting::PixelGrid grid = Grids::usual(9.3, 1);
     Painting::BoardPicture picture(grid);
     Game game(28, 22);
@@ -99,10 +98,10 @@ TEST(BoardPicture, keptUpToDateIsThePicturePaintedAfresh) {
         picture.show(game);
     }
 
-    EXPECT_EQ(picture.image(), paintedAfresh(game, grid));
+    EXPECT_EQ(picture.image(), paintedAnew(game, grid));
 }
 
-TEST(BoardPicture, whatItReportsAsChangedHoldsEveryPixelThatDid) {
+TEST(BoardPicture, reportsEveryPixelThatChanged) {
     const Painting::PixelGrid grid = Grids::usual(16.4, 1);
     Painting::BoardPicture picture(grid);
     const Game fresh(28, 22);
@@ -119,11 +118,11 @@ TEST(BoardPicture, whatItReportsAsChangedHoldsEveryPixelThatDid) {
         const QRegion reported = picture.show(game);
 
         EXPECT_TRUE((differingPixels(before, picture.image()) - reported).isEmpty());
-        EXPECT_EQ(picture.image(), paintedAfresh(game, grid));
+        EXPECT_EQ(picture.image(), paintedAnew(game, grid));
     }
 }
 
-TEST(BoardPicture, isTheSameWhateverTheAreasItIsPaintedBy) {
+TEST(BoardPicture, isTheSameWhenPaintedInPieces) {
     const Game game = Games::ofLength(200);
     const Painting::PixelGrid grid = Grids::usual(13.37, 1);
     Painting::BoardPicture picture(grid);
@@ -140,7 +139,7 @@ TEST(BoardPicture, isTheSameWhateverTheAreasItIsPaintedBy) {
     EXPECT_EQ(inPieces, picture.image());
 }
 
-TEST(BoardPicture, aTurnIntoAWallMovesTheEyesAlone) {
+TEST(BoardPicture, movesOnlyTheEyesWhenTheSnakeTurnsIntoAWall) {
     Game game(28, 22);
     game.turn(Direction::up);
     for (int i = 0; i < 11; ++i) {
@@ -161,13 +160,13 @@ TEST(BoardPicture, aTurnIntoAWallMovesTheEyesAlone) {
     picture.show(game);
 
     ASSERT_TRUE(game.ended());
-    EXPECT_EQ(picture.image(), paintedAfresh(game, grid));
+    EXPECT_EQ(picture.image(), paintedAnew(game, grid));
     const QRegion changed = differingPixels(before, picture.image());
     EXPECT_FALSE(changed.isEmpty());
     EXPECT_TRUE((changed - grid.tiles({0, 0, 1, 1})).isEmpty());
 }
 
-TEST(BoardPicture, aStepOfAShortSnakeLeavesMostOfTheBoardAlone) {
+TEST(BoardPicture, changesAtMostATenthOfTheBoardInAStepOfAShortSnake) {
     const Painting::PixelGrid grid = Grids::usual(18, 1);
     Painting::BoardPicture picture(grid);
     Game game(28, 22);

@@ -5,10 +5,10 @@
 #include "SnakeCore/Game.hpp"
 #include "Support/ClosedWalk.hpp"
 
-/// Runs to paint.
+/// Games for tests and benchmarks of painting.
 namespace Games {
 
-/// A run of the usual board whose snake has at least `length` cells.
+/// A game on the usual board with a snake of at least `length` cells.
 [[nodiscard]] inline SnakeCore::Game ofLength(std::size_t length) {
     SnakeCore::Game game(28, 22);
     std::mt19937 generator(7);
@@ -21,7 +21,7 @@ namespace Games {
     return game;
 }
 
-/// A run that has just gone in `direction`.
+/// A game whose last step was in `direction`.
 [[nodiscard]] inline SnakeCore::Game going(SnakeCore::Direction direction) {
     SnakeCore::Game game(28, 22);
     if (direction == SnakeCore::Direction::left) {

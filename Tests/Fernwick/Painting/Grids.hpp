@@ -2,11 +2,11 @@
 
 #include "Painting/Board/PixelGrid.hpp"
 
-/// Places of boards on pixels.
+/// Grids for the tests.
 namespace Grids {
 
-/// The usual board with cells of `cell` points at `scale` pixels a point. Neither its corner nor
-/// its cells fall on whole pixels.
+/// A grid of 28 x 22 cells of `cell` points each, at `scale` pixels per point. Its corner and most
+/// of its cells lie on fractions of pixels.
 [[nodiscard]] inline Painting::PixelGrid usual(double cell, double scale) {
     const QPointF corner(0.3, 0.7);
     const QSizeF size(28 * cell * scale + 1, 22 * cell * scale + 1);

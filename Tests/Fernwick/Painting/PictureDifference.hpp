@@ -5,12 +5,11 @@
 #include <cstdlib>
 #include <ostream>
 
-/// How far two pictures of one size are apart, in steps of 1/255 of a channel.
+/// The difference between two pictures of the same size, in steps of 1/255 of a channel.
 struct PictureDifference {
     double mean = 0;
-    /// The largest difference of a channel that the antialiasing of an edge does not explain, and
-    /// where it is: two ways of antialiasing may disagree on a pixel by up to half of what lies
-    /// between it and its neighbours.
+    /// The largest difference of a channel, and where it is. Two antialiasing algorithms may
+    /// differ on a pixel by up to half of the contrast around it; such differences do not count.
     int largest = 0;
     QPoint place;
 

@@ -31,7 +31,7 @@ QRectF disc(const QPointF& centre, double diameter) {
     return {centre.x() - diameter / 2, centre.y() - diameter / 2, diameter, diameter};
 }
 
-// One pass of a running mean over a line of pixels that lie `stride` apart.
+// One pass of a box blur over pixels that are `stride` apart.
 void boxLine(quint32* line, qsizetype stride, int count, int radius, std::vector<quint32>& copy) {
     copy.resize(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
@@ -62,8 +62,8 @@ void boxLine(quint32* line, qsizetype stride, int count, int radius, std::vector
     }
 }
 
-// Three running means in each direction come near enough to a Gaussian.
-void blurThrice(QImage& image, double sigma) {
+// Approximates a Gaussian with three box blurs in each direction.
+void gaussianBlur(QImage& image, double sigma) {
     const int radius = static_cast<int>(std::lround((std::sqrt(4 * sigma * sigma + 1) - 1) / 2));
     std::vector<quint32> copy;
     auto* const pixels = reinterpret_cast<quint32*>(image.bits());
@@ -84,7 +84,7 @@ void paintShadow(QPainter& painter, const QImage& layer, const QColor& colour, d
     tint.setCompositionMode(QPainter::CompositionMode_SourceIn);
     tint.fillRect(QRectF(QPointF(), shadow.deviceIndependentSize()), colour);
     tint.end();
-    blurThrice(shadow, sigma);
+    gaussianBlur(shadow, sigma);
     painter.drawImage(QPointF(), shadow);
     painter.drawImage(QPointF(), layer);
 }
@@ -146,15 +146,15 @@ void paintEyes(QPainter& painter, const SnakeCore::Game& game, double cell) {
     }
 }
 
-QPainter& prepared(QPainter& painter, const Painting::PixelGrid& grid) {
+QPainter& setUp(QPainter& painter, const Painting::PixelGrid& grid) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.translate(grid.origin / grid.scale);
     return painter;
 }
 
-// The picture on a transparent ground.
-QImage paintClear(const SnakeCore::Game& game, const Painting::PixelGrid& grid) {
+// The picture on a transparent background.
+QImage paintTransparent(const SnakeCore::Game& game, const Painting::PixelGrid& grid) {
     const double cell = grid.cell / grid.scale;
     const QPointF fruit = centre(game.food(), cell);
     QImage image(grid.size, QImage::Format_ARGB32_Premultiplied);
@@ -164,20 +164,20 @@ QImage paintClear(const SnakeCore::Game& game, const Painting::PixelGrid& grid) 
     QImage bodyLayer = image;
     {
         QPainter painter(&fruitLayer);
-        paintFruit(prepared(painter, grid), fruit, cell);
+        paintFruit(setUp(painter, grid), fruit, cell);
     }
     {
         QPainter painter(&bodyLayer);
-        paintBody(prepared(painter, grid), game, cell);
+        paintBody(setUp(painter, grid), game, cell);
     }
     QPainter painter(&image);
-    paintDots(prepared(painter, grid), game, cell);
+    paintDots(setUp(painter, grid), game, cell);
     painter.resetTransform();
     paintShadow(painter, fruitLayer, withOpacity(orange, 0.55), 0.5 * grid.cell);
-    paintStem(prepared(painter, grid), fruit, cell);
+    paintStem(setUp(painter, grid), fruit, cell);
     painter.resetTransform();
     paintShadow(painter, bodyLayer, withOpacity(mint, 0.35), 0.45 * grid.cell);
-    paintEyes(prepared(painter, grid), game, cell);
+    paintEyes(setUp(painter, grid), game, cell);
     return image;
 }
 
@@ -196,11 +196,11 @@ QImage overSoil(const QImage& layer, double opacity) {
 }  // namespace
 
 QImage ReferencePainter::paint(const SnakeCore::Game& game, const Painting::PixelGrid& grid) {
-    return overSoil(paintClear(game, grid), 1);
+    return overSoil(paintTransparent(game, grid), 1);
 }
 
 QImage ReferencePainter::paintIdle(const SnakeCore::Game& game, const Painting::PixelGrid& grid) {
-    QImage layer = paintClear(game, grid);
-    blurThrice(layer, 5 * grid.scale);
+    QImage layer = paintTransparent(game, grid);
+    gaussianBlur(layer, 5 * grid.scale);
     return overSoil(layer, 0.4);
 }

@@ -5,14 +5,14 @@
 #include "Painting/Board/PixelGrid.hpp"
 #include "SnakeCore/Game.hpp"
 
-/// Paints boards the straightforward way, every step at full size with the toolkit's own painter:
-/// slow, and written without a look at how the product does it.
+/// A slow, straightforward implementation of the board's look: paints every frame completely, with
+/// QPainter and full-size blurs. Shares no code with the game's own painting.
 namespace ReferencePainter {
 
 /// `game` over the board's plain fill.
 [[nodiscard]] QImage paint(const SnakeCore::Game& game, const Painting::PixelGrid& grid);
 
-/// The same while no run is moving: the picture blurred and at opacity 0.4 over the plain fill.
+/// The same while no run is moving: blurred, at opacity 0.4 over the plain fill.
 [[nodiscard]] QImage paintIdle(const SnakeCore::Game& game, const Painting::PixelGrid& grid);
 
 }  // namespace ReferencePainter

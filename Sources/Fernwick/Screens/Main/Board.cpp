@@ -23,9 +23,11 @@ Board::Board(Painting::Backdrop& backdrop, const SnakeCore::Game& game, QWidget*
     announceScore();
 }
 
-void Board::place(const Painting::BoardGeometry& inWindow, qreal devicePixelRatio) {
-    if (inWindow != inWindow_ || devicePixelRatio != scale_) {
+void Board::place(const Painting::BoardGeometry& inWindow, const QRect& widget,
+                  qreal devicePixelRatio) {
+    if (inWindow != inWindow_ || widget != widget_ || devicePixelRatio != scale_) {
         inWindow_ = inWindow;
+        widget_ = widget;
         scale_ = devicePixelRatio;
         update();
     }
@@ -68,7 +70,7 @@ void Board::paintEvent(QPaintEvent* event) {
     prepareEdge();
     preparePicture();
     QPainter painter(this);
-    const WidgetPixels pixels(painter, inWindow_.frame.toAlignedRect(), scale_);
+    const WidgetPixels pixels(painter, widget_, scale_);
     const QColor scrim = Garden::withOpacity(Qt::black, scrim_);
     for (const QRect& part : event->region()) {
         const QRect area = pixels.of(part);
@@ -88,7 +90,7 @@ void Board::paintEvent(QPaintEvent* event) {
 
 Painting::PixelGrid Board::grid() const {
     const QRectF& frame = inWindow_.frame;
-    const QRect pixels = WidgetPixels::inWindow(frame.toAlignedRect(), scale_);
+    const QRect pixels = WidgetPixels::inWindow(widget_, scale_);
     return {pixels.size(),
             frame.topLeft() * scale_ - pixels.topLeft(),
             inWindow_.cell * scale_,
@@ -98,14 +100,13 @@ Painting::PixelGrid Board::grid() const {
 }
 
 QRegion Board::toPoints(const QRegion& pixels) const {
-    const QRect place = inWindow_.frame.toAlignedRect();
-    const QPoint first = WidgetPixels::inWindow(place, scale_).topLeft();
+    const QPoint first = WidgetPixels::inWindow(widget_, scale_).topLeft();
     QRegion points;
     for (const QRect& part : pixels) {
         const QRectF inWindow = part.translated(first);
         points += QRectF(inWindow.topLeft() / scale_, inWindow.size() / scale_)
                       .toAlignedRect()
-                      .translated(-place.topLeft());
+                      .translated(-widget_.topLeft());
     }
     return points;
 }
@@ -115,7 +116,7 @@ void Board::prepareEdge() {
         return;
     }
     const QRectF& frame = inWindow_.frame;
-    const QRect pixels = WidgetPixels::inWindow(frame.toAlignedRect(), scale_);
+    const QRect pixels = WidgetPixels::inWindow(widget_, scale_);
     const QRectF inPicture(frame.topLeft() * scale_ - pixels.topLeft(), frame.size() * scale_);
     edge_ = Painting::FrameEdge(backdrop_, pixels, Painting::FrameShape(inPicture, scale_));
     edgeRevision_ = backdrop_.revision();

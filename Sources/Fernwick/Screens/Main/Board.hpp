@@ -18,10 +18,11 @@ public:
     /// `backdrop` has to outlive the board.
     Board(Painting::Backdrop& backdrop, const SnakeCore::Game& game, QWidget* parent);
 
-    /// Sets the place of the board in the window, in points, and the device pixels per point. The
-    /// caller has fitted the backdrop to the same frame, and sets the widget's geometry to the
-    /// frame's toAlignedRect().
-    void place(const Painting::BoardGeometry& inWindow, qreal devicePixelRatio);
+    /// Sets the board's frame and this widget's geometry in the window, both in points, and the
+    /// device pixels per point. The caller has fitted the backdrop to the same frame; the widget's
+    /// geometry is the frame's toAlignedRect().
+    void place(const Painting::BoardGeometry& inWindow, const QRect& widget,
+               qreal devicePixelRatio);
 
     /// Shows `game`. Repaints only what differs from the game shown before.
     void setGame(const SnakeCore::Game& game);
@@ -43,6 +44,7 @@ private:
     Painting::Backdrop& backdrop_;
     SnakeCore::Game game_;
     Painting::BoardGeometry inWindow_;
+    QRect widget_;
     qreal scale_ = 1;
     bool idle_ = false;
     double scrim_ = 0;

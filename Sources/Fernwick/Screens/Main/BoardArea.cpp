@@ -27,11 +27,11 @@ BoardArea::BoardArea(Session& session, Painting::Backdrop& backdrop, QWidget* pa
     refresh();
 }
 
-void BoardArea::placeBoard(const QPoint& origin, const Painting::BoardGeometry& inWindow,
+void BoardArea::placeBoard(const Painting::BoardGeometry& inArea, const QPoint& origin,
                            qreal devicePixelRatio) {
-    frame_ = inWindow.frame;
-    const QRect place = frame_.toAlignedRect().translated(-origin);
-    board_->place(inWindow, devicePixelRatio);
+    frame_ = inArea.frame.translated(origin);
+    const QRect place = inArea.frame.toAlignedRect();
+    board_->place({inArea.cell, frame_}, place.translated(origin), devicePixelRatio);
     board_->setGeometry(place);
     overlay_->setGeometry(place);
     gameOver_->setGeometry(place);

@@ -21,9 +21,9 @@ class BoardArea : public QWidget {
 public:
     BoardArea(Session& session, Painting::Backdrop& backdrop, QWidget* parent = nullptr);
 
-    /// Sets the place of the board in the window, in points, and the device pixels per point.
-    /// `origin` is this widget's place in the window.
-    void placeBoard(const QPoint& origin, const Painting::BoardGeometry& inWindow,
+    /// Places the board; `inArea` is in points of this widget. `origin` is this widget's place in
+    /// the window, in points; `devicePixelRatio` is device pixels per point.
+    void placeBoard(const Painting::BoardGeometry& inArea, const QPoint& origin,
                     qreal devicePixelRatio);
     /// The board's frame in points of the window.
     [[nodiscard]] const QRectF& frame() const { return frame_; }

@@ -58,10 +58,9 @@ void ContentView::resizeEvent(QResizeEvent*) {
 
 void ContentView::placeBoard() {
     const QPoint origin = boardArea_->pos();
-    Painting::BoardGeometry board =
+    const Painting::BoardGeometry board =
         Painting::fitBoard(boardArea_->rect(), {int{Session::columns}, int{Session::rows}});
-    board.frame.translate(origin);
     scale_ = devicePixelRatioF();
-    backdrop_.fit(size(), scale_, board.frame);
-    boardArea_->placeBoard(origin, board, scale_);
+    backdrop_.fit(size(), scale_, board.frame.translated(origin));
+    boardArea_->placeBoard(board, origin, scale_);
 }

@@ -77,7 +77,7 @@ protected:
         holder.resize(600, 500);
         BoardArea area(session, backdrop, &holder);
         area.resize(holder.size());
-        area.placeBoard({}, Painting::fitBoard(area.rect(), {28, 22}), area.devicePixelRatioF());
+        area.placeBoard(Painting::fitBoard(area.rect(), {28, 22}), {}, area.devicePixelRatioF());
         constexpr int edge = 30;
         return area.grab(area.frame().toRect().adjusted(edge, edge, -edge, -edge)).toImage();
     }

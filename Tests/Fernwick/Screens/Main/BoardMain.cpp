@@ -2,7 +2,7 @@
 
 #include <QApplication>
 
-// Widgets need an application, and these no screen.
+// Widgets need a QApplication. The offscreen platform needs no display.
 int main(int argc, char* argv[]) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);

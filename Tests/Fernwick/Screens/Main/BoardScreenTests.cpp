@@ -3,13 +3,13 @@
 #include "Fernwick/Painting/Games.hpp"
 #include "Fernwick/Screens/Main/BoardWindow.hpp"
 
-// Run once for each scale of the screen.
+// CMakeLists.txt runs these tests at several scales of the screen.
 
 namespace {
 
 using SnakeCore::Game;
 
-TEST(BoardScreen, showsAfterManyStepsWhatPaintingAllOfItShows) {
+TEST(BoardScreen, showsTheSameAfterManyPartialRepaintsAsAfterAFullOne) {
     BoardWindow window(QSize(701, 563));
     Game game(28, 22);
     std::mt19937 generator(5);
@@ -29,7 +29,7 @@ TEST(BoardScreen, showsAfterManyStepsWhatPaintingAllOfItShows) {
     EXPECT_EQ(stepByStep, window.picture().copy(stepByStep.rect()));
 }
 
-TEST(BoardScreen, showsTheGameAgainAfterARest) {
+TEST(BoardScreen, showsTheGameAgainAfterBeingIdle) {
     BoardWindow window(QSize(701, 563));
     window.board().setGame(Games::ofLength(20));
     window.settle();
@@ -38,12 +38,12 @@ TEST(BoardScreen, showsTheGameAgainAfterARest) {
     window.board().setIdle(true);
     window.board().setScrim(0.48);
     window.settle();
-    const QImage resting = window.onScreen();
+    const QImage idle = window.onScreen();
     window.board().setIdle(false);
     window.board().setScrim(0);
     window.settle();
 
-    EXPECT_NE(resting, playing);
+    EXPECT_NE(idle, playing);
     EXPECT_EQ(window.onScreen(), playing);
 }
 

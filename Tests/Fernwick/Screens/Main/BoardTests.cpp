@@ -12,7 +12,7 @@ namespace {
 using SnakeCore::Direction;
 using SnakeCore::Game;
 
-TEST(Board, paintsNothingAnewForAnEqualGame) {
+TEST(Board, repaintsNothingForAnEqualGame) {
     BoardWindow window;
     const Game game = Games::ofLength(10);
     window.board().setGame(game);
@@ -25,7 +25,7 @@ TEST(Board, paintsNothingAnewForAnEqualGame) {
     EXPECT_TRUE(window.paintedOnSettling().isEmpty());
 }
 
-TEST(Board, paintsAnewOnlyAroundAStepOfTheSnake) {
+TEST(Board, repaintsOnlyTheSurroundingsOfAStep) {
     BoardWindow window;
     Game game(28, 22);
     window.board().setGame(game);
@@ -41,7 +41,7 @@ TEST(Board, paintsAnewOnlyAroundAStepOfTheSnake) {
     EXPECT_LT(painted.boundingRect().height(), window.board().height() / 2);
 }
 
-TEST(Board, paintedStepByStepShowsWhatPaintingItWholeShows) {
+TEST(Board, showsTheSameAfterManyStepsAsANewBoard) {
     BoardWindow window;
     Game game(28, 22);
     std::mt19937 generator(5);
@@ -51,14 +51,14 @@ TEST(Board, paintedStepByStepShowsWhatPaintingItWholeShows) {
         window.board().setGame(game);
         window.settle();
     }
-    BoardWindow afresh;
+    BoardWindow another;
 
-    afresh.board().setGame(game);
+    another.board().setGame(game);
 
-    EXPECT_EQ(window.picture(), afresh.picture());
+    EXPECT_EQ(window.picture(), another.picture());
 }
 
-TEST(Board, showsTheGroundOutsideItsRoundCornersUnderASnake) {
+TEST(Board, showsTheBackdropOutsideItsRoundCornersEvenWithASnakeThere) {
     BoardWindow window;
     const QImage ground = window.ground();
     Game game(28, 22);
@@ -81,7 +81,7 @@ TEST(Board, showsTheGroundOutsideItsRoundCornersUnderASnake) {
     EXPECT_NE(picture.pixel(corner + QPoint(8, 8)), ground.pixel(corner + QPoint(8, 8)));
 }
 
-TEST(Board, isTheGroundItselfAlongAnEmptyEdge) {
+TEST(Board, equalsTheBackdropAlongAnEmptyEdge) {
     BoardWindow window;
     const QImage ground = window.ground();
     const QImage picture = window.picture();
@@ -96,7 +96,7 @@ TEST(Board, isTheGroundItselfAlongAnEmptyEdge) {
     }
 }
 
-TEST(Board, aScrimDarkensThePictureInsideTheFrame) {
+TEST(Board, darkensThePictureInsideTheFrameByTheScrim) {
     BoardWindow window;
     const QPoint middle = window.middleOf({13, 11});
     const int bright = channelOf(window.picture(), middle.x(), middle.y(), 8);
@@ -123,7 +123,7 @@ TEST(Board, isBlurredAndDimmedWhileIdleAndSharpAgainAfterwards) {
     EXPECT_EQ(window.picture(), sharp);
 }
 
-TEST(Board, showsTheNextGameWhileIdleToo) {
+TEST(Board, showsANewGameWhileIdle) {
     BoardWindow window;
     window.board().setIdle(true);
     window.settle();
@@ -134,7 +134,7 @@ TEST(Board, showsTheNextGameWhileIdleToo) {
     EXPECT_NE(window.picture(), before);
 }
 
-TEST(Board, takesItsNewSizeFromItsParent) {
+TEST(Board, repaintsAtItsNewPlace) {
     BoardWindow window;
     const Game game = Games::ofLength(20);
     window.board().setGame(game);
@@ -148,7 +148,7 @@ TEST(Board, takesItsNewSizeFromItsParent) {
     EXPECT_EQ(window.picture(), direct.picture());
 }
 
-TEST(Board, tellsItsScoreAndKeysToAssistiveTechnology) {
+TEST(Board, namesScoreAndKeysToAssistiveTechnology) {
     BoardWindow window;
     window.board().setGame(Games::ofLength(6));
 
@@ -159,7 +159,7 @@ TEST(Board, tellsItsScoreAndKeysToAssistiveTechnology) {
               "Snake board. Score 20. Use arrow keys or W A S D to move.");
 }
 
-TEST(Board, hasANameBeforeTheFirstGame) {
+TEST(Board, hasAnAccessibleNameFromTheStart) {
     BoardWindow window;
 
     EXPECT_EQ(window.board().accessibleName().toStdString(),

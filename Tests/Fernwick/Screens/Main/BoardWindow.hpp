@@ -74,8 +74,9 @@ protected:
 
     void resizeEvent(QResizeEvent*) override {
         backdrop_.fit(size(), devicePixelRatioF(), frame());
-        board_->place(fitted(), devicePixelRatioF());
-        board_->setGeometry(frame().toAlignedRect());
+        const QRect place = frame().toAlignedRect();
+        board_->place(fitted(), place, devicePixelRatioF());
+        board_->setGeometry(place);
     }
 
 private:
