@@ -12,23 +12,23 @@
 #include "Storage/PreferencesFile.hpp"
 #include "Window/GameWindow.hpp"
 
-// Renders every scene at one size into a folder, with a contact sheet of all of them.
+// Renders every scene at one size into a folder, and a contact sheet of all scenes.
 
 namespace {
 
 constexpr int thumbnailWidth = 640;
 constexpr int sheetColumns = 3;
 
-class Silence : public SoundEffects {
+class NoSound : public SoundEffects {
 public:
     void play(SoundEffect) override {}
 };
 
 QImage render(const Scene& scene, const QSize& size, bool fullScreen) {
     Storage::PreferencesFile inMemory{std::filesystem::path()};
-    Silence silence;
+    NoSound sounds;
     scene.store(inMemory);
-    Session session(inMemory, silence, [&](SnakeCore::Game& game) { game = scene.game(); });
+    Session session(inMemory, sounds, [&](SnakeCore::Game& game) { game = scene.game(); });
     scene.arrange(session);
     GameWindow window(session);
     window.show();
@@ -61,12 +61,12 @@ int main(int argc, char* argv[]) {
     const bool fullScreen = QByteArray(argv[4]) == "full-screen";
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
-    // A locale's name ("de", "pt_BR"); English when none is given.
+    // A locale name such as "de" or "pt_BR"; English by default.
     const QString wanted = argc == 6 ? QString::fromLocal8Bit(argv[5]) : QString();
     const Language language(Language::bestFor({wanted}));
     applyGardenStyle();
     if (!QDir().mkpath(folder.path())) {
-        std::fputs("the folder cannot be made\n", stderr);
+        std::fputs("cannot create the folder\n", stderr);
         return 1;
     }
 
@@ -80,7 +80,7 @@ int main(int argc, char* argv[]) {
         const Scene& scene = scenes[static_cast<std::size_t>(index)];
         const QImage picture = render(scene, size, fullScreen);
         if (!picture.save(folder.filePath(scene.name + QStringLiteral(".png")))) {
-            std::fputs("a picture cannot be saved\n", stderr);
+            std::fputs("cannot save a picture\n", stderr);
             return 1;
         }
         addToSheet(painter, picture, index, thumbnail);

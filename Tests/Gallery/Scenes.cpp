@@ -5,10 +5,10 @@
 #include <array>
 #include <random>
 
+#include "Fernwick/Session/SavedScores.hpp"
 #include "Session/Preferences.hpp"
 #include "Session/Session.hpp"
 #include "SnakeCore/Game.hpp"
-#include "SnakeCore/HighScores.hpp"
 #include "Support/ClosedWalk.hpp"
 
 namespace {
@@ -42,9 +42,9 @@ std::int64_t distanceToFruit(const Game& game, Cell cell) {
     return std::abs(cell.x - game.food().x) + std::abs(cell.y - game.food().y);
 }
 
-// Plays as a hasty person does: always the free step that leads nearest to the fruit, as long as
-// that goes well.
-Game grownTo(std::int64_t score) {
+// Plays greedily, always taking the free step nearest to the fruit, up to `score` or until the next
+// step would end the run.
+Game playedGreedilyTo(std::int64_t score) {
     Game game(Session::columns, Session::rows);
     std::minstd_rand generator(seed);
     constexpr std::array directions{Direction::up, Direction::down, Direction::left,
@@ -71,15 +71,15 @@ Game grownTo(std::int64_t score) {
 }
 
 Game endedAt(std::int64_t score) {
-    Game game = grownTo(score);
+    Game game = playedGreedilyTo(score);
     while (!game.ended()) {
         game.step();
     }
     return game;
 }
 
-// Plays as a patient person does: round the whole board, again and again.
-Game patientlyGrownTo(std::int64_t score) {
+// Plays along a closed walk over the whole board, up to `score`.
+Game playedAlongCycleTo(std::int64_t score) {
     Game game(Session::columns, Session::rows);
     std::minstd_rand generator(seed);
     while (game.score() < score && !game.ended()) {
@@ -89,9 +89,9 @@ Game patientlyGrownTo(std::int64_t score) {
     return game;
 }
 
-// A full table of the classic pace, with names that test the rows, and one entry of the swift.
+// A full table for Classic, with names that are hard to lay out, and one entry for Swift.
 void storeFullTable(Preferences& preferences) {
-    const std::array<std::pair<const char*, std::int64_t>, 10> saved{{
+    SnakeCore::HighScores table = scoreTable({
         {"Ada Lovelace", 1240},
         {"WWWWWWWWWWWWWWWWWWWWWWWW", 980},
         {"مريم", 870},
@@ -102,11 +102,7 @@ void storeFullTable(Preferences& preferences) {
         {"Z̸͠o̴͝e̵͘", 240},
         {"Emmy", 120},
         {"Émilie", 90},
-    }};
-    SnakeCore::HighScores table;
-    for (const auto& [name, score] : saved) {
-        table.record(SnakeCore::UUID::random(), name, score, "Classic", SnakeCore::Date{0});
-    }
+    });
     table.record(SnakeCore::UUID::random(), "Mary", 300, "Swift", SnakeCore::Date{0});
     preferences.store(QStringLiteral("high-scores-v1"), QByteArray::fromStdString(table.encoded()));
 }
@@ -128,14 +124,14 @@ Game freshGame() {
 }
 
 Game pausedGame() {
-    return grownTo(220);
+    return playedGreedilyTo(220);
 }
 
 Game endedGame() {
     return endedAt(260);
 }
 
-// Starts a run and lets one tick pass, which takes it to the scene's game.
+// Starts a run and fires one tick, which replaces the game by the one of the scene.
 void run(Session& session) {
     session.start();
     QMetaObject::invokeMethod(session.findChild<QTimer*>(), "timeout");
@@ -162,7 +158,7 @@ std::vector<Scene> galleryScenes() {
     return {
         {"fresh", storeNothing, freshGame, [](Session&) {}},
         {"running", storeBest, pausedGame, run},
-        {"running-long", storeBest, [] { return patientlyGrownTo(2400); }, run},
+        {"running-long", storeBest, [] { return playedAlongCycleTo(2400); }, run},
         {"paused", storeBest, pausedGame,
          [](Session& session) {
              run(session);
@@ -181,11 +177,11 @@ std::vector<Scene> galleryScenes() {
              run(session);
              session.skipSaving();
          }},
-        {"won", storeBest, [] { return patientlyGrownTo(6120); }, run},
+        {"won", storeBest, [] { return playedAlongCycleTo(6120); }, run},
         sheet("sheet-gentle-empty", Pace::gentle),
         sheet("sheet-classic-full", Pace::classic),
         sheet("sheet-swift", Pace::swift),
-        {"sound-off", storeBest, [] { return grownTo(40); },
+        {"sound-off", storeBest, [] { return playedGreedilyTo(40); },
          [](Session& session) {
              session.setSound(false);
              run(session);

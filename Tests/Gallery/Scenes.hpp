@@ -9,14 +9,14 @@
 class Preferences;
 class Session;
 
-/// A screen of the game in one of its states.
+/// A state of the game to take a picture of.
 struct Scene {
     QString name;
-    /// Stores what the session reads when it is made.
+    /// Stores the preferences that the session reads at construction.
     std::function<void(Preferences&)> store;
-    /// The game that the first tick of a run shows.
+    /// The game after the first tick of a run.
     std::function<SnakeCore::Game()> game;
-    /// Brings the new session into the state.
+    /// Brings a new session into the state.
     std::function<void(Session&)> arrange;
 };
 
