@@ -23,7 +23,7 @@ constexpr std::size_t cells = 60;
 constexpr auto untilPlay = 1500ms;
 constexpr auto untilMeasured = 1000ms;
 
-std::chrono::duration<double> processorTime() {
+std::chrono::duration<double> cpuTime() {
     rusage usage{};
     getrusage(RUSAGE_SELF, &usage);
     const auto seconds = [](const timeval& time) {
@@ -72,13 +72,13 @@ private:
 
     void beginMeasuring() {
         steps_ = 0;
-        used_ = processorTime();
+        used_ = cpuTime();
         began_ = std::chrono::steady_clock::now();
         QTimer::singleShot(duration_, this, &Player::report);
     }
 
     void report() {
-        const std::chrono::duration<double> used = processorTime() - used_;
+        const std::chrono::duration<double> used = cpuTime() - used_;
         const std::chrono::duration<double> passed = std::chrono::steady_clock::now() - began_;
         std::cout << "{\"used\": " << used.count() << ", \"passed\": " << passed.count()
                   << ", \"steps\": " << steps_ << ", \"cells\": " << session_.game().snake().size()
