@@ -13,6 +13,7 @@ TEST(BoardScreen, showsTheSameAfterManyPartialRepaintsAsAfterAFullOne) {
     BoardWindow window(QSize(701, 563));
     Game game(28, 22);
     std::mt19937 generator(5);
+    game.turn(SnakeCore::Direction::up);
     for (int step = 0; step < 60; ++step) {
         game.turn(alongCycle(game));
         game.step(generator);
