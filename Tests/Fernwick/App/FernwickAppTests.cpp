@@ -16,26 +16,26 @@ protected:
 
     TemporaryFolder folder;
     Storage::PreferencesFile preferences{folder.path() / "preferences.cbor"};
-    HeardSounds sounds;
+    SoundRecorder sounds;
     FernwickApp fernwick{preferences, sounds};
     Session& session{fernwick.session()};
 };
 
 }  // namespace
 
-TEST_F(Application, pausesAMovingSnakeWhenItIsLeftAndLeavesItPaused) {
-    for (const Qt::ApplicationState left :
+TEST_F(Application, pausesWhenDeactivatedAndStaysPausedWhenReactivated) {
+    for (const Qt::ApplicationState inactive :
          {Qt::ApplicationInactive, Qt::ApplicationHidden, Qt::ApplicationSuspended}) {
         session.start();
 
-        changeState(left);
+        changeState(inactive);
         EXPECT_EQ(session.phase(), Session::Phase::paused);
         changeState(Qt::ApplicationActive);
         EXPECT_EQ(session.phase(), Session::Phase::paused);
     }
 }
 
-TEST_F(Application, changesNothingElseWhenItIsLeft) {
+TEST_F(Application, changesNothingWhenDeactivatedOutsideARunningGame) {
     changeState(Qt::ApplicationInactive);
     EXPECT_EQ(session.phase(), Session::Phase::fresh);
 
@@ -52,7 +52,7 @@ TEST_F(Application, changesNothingElseWhenItIsLeft) {
     EXPECT_EQ(session.phase(), Session::Phase::awaitingName);
 }
 
-TEST_F(Application, showsItsWindowAndTakesTheKeys) {
+TEST_F(Application, showsItsWindowAndHandlesKeys) {
     fernwick.show();
     QCoreApplication::processEvents();
 
@@ -62,7 +62,7 @@ TEST_F(Application, showsItsWindowAndTakesTheKeys) {
     EXPECT_TRUE(session.running());
 }
 
-TEST_F(Application, comesForwardFromBeingMinimised) {
+TEST_F(Application, restoresItsMinimisedWindowWhenBroughtForward) {
     fernwick.show();
     fernwick.window().showMinimized();
     QCoreApplication::processEvents();

@@ -3,25 +3,25 @@
 
 namespace {
 
-class Gathering : public SessionTest {};
+class BestAndSound : public SessionTest {};
 
 using Sounds = std::vector<SoundEffect>;
 
 }  // namespace
 
-TEST_F(Gathering, popsAndRaisesTheBestAtOnce) {
+TEST_F(BestAndSound, eatingAFruitPlaysPopAndStoresTheNewBestAtOnce) {
     session.start();
 
     eatFirstFruit();
 
     EXPECT_EQ(session.game().score(), 10);
-    EXPECT_EQ(sounds.heard, Sounds{SoundEffect::pop});
+    EXPECT_EQ(sounds.played, Sounds{SoundEffect::pop});
     EXPECT_EQ(session.best(), 10);
     EXPECT_TRUE(session.running());
-    EXPECT_EQ(onDisk().integer("best-Classic"), 10);
+    EXPECT_EQ(storedPreferences().integer("best-Classic"), 10);
 }
 
-TEST_F(Gathering, isSilentWithTheSoundOff) {
+TEST_F(BestAndSound, nothingIsPlayedWhileTheSoundIsOff) {
     session.setSound(false);
     session.start();
 
@@ -29,11 +29,11 @@ TEST_F(Gathering, isSilentWithTheSoundOff) {
     endRun();
 
     EXPECT_TRUE(session.game().ended());
-    EXPECT_TRUE(sounds.heard.empty());
-    EXPECT_EQ(onDisk().integer("best-Classic"), session.game().score());
+    EXPECT_TRUE(sounds.played.empty());
+    EXPECT_EQ(storedPreferences().integer("best-Classic"), session.game().score());
 }
 
-TEST_F(Gathering, leavesAHigherBestAlone) {
+TEST_F(BestAndSound, aHigherBestIsKept) {
     preferences.store("best-Classic", 400);
     session.choosePace(session.pace());
     session.start();
@@ -41,10 +41,10 @@ TEST_F(Gathering, leavesAHigherBestAlone) {
     eatFirstFruit();
 
     EXPECT_EQ(session.best(), 400);
-    EXPECT_EQ(onDisk().integer("best-Classic"), 400);
+    EXPECT_EQ(storedPreferences().integer("best-Classic"), 400);
 }
 
-TEST_F(Gathering, leavesABestOfTheSameScoreAlone) {
+TEST_F(BestAndSound, aBestEqualToTheScoreIsNotStoredAgain) {
     preferences.store("best-Classic", 10);
     session.choosePace(session.pace());
     const auto written = std::filesystem::last_write_time(settingsPath());
@@ -56,7 +56,7 @@ TEST_F(Gathering, leavesABestOfTheSameScoreAlone) {
     EXPECT_EQ(std::filesystem::last_write_time(settingsPath()), written);
 }
 
-TEST_F(Gathering, comparesTheBestUnderThePaceChosenMeanwhile) {
+TEST_F(BestAndSound, theBestIsStoredUnderThePaceChosenDuringTheRun) {
     preferences.store("best-Swift", 5);
     session.start();
     session.choosePace(Pace::swift);
@@ -64,36 +64,35 @@ TEST_F(Gathering, comparesTheBestUnderThePaceChosenMeanwhile) {
     eatFirstFruit();
 
     EXPECT_EQ(session.best(), 10);
-    EXPECT_EQ(onDisk().integer("best-Swift"), 10);
-    EXPECT_EQ(onDisk().integer("best-Classic"), 0);
+    EXPECT_EQ(storedPreferences().integer("best-Swift"), 10);
+    EXPECT_EQ(storedPreferences().integer("best-Classic"), 0);
     EXPECT_EQ(session.runPace(), Pace::classic);
 }
 
-TEST_F(Gathering, makesNoSoundOnATickThatOnlyMoves) {
+TEST_F(BestAndSound, aTickWithoutFruitPlaysNothing) {
     session.start();
 
     fireTimer();
 
-    EXPECT_TRUE(sounds.heard.empty());
+    EXPECT_TRUE(sounds.played.empty());
 }
 
-TEST_F(Gathering, endsWithATink) {
+TEST_F(BestAndSound, theEndOfARunPlaysTink) {
     session.start();
     eatFirstFruit();
-    sounds.heard.clear();
 
     while (session.running()) {
-        sounds.heard.clear();
+        sounds.played.clear();
         fireTimer();
     }
 
-    EXPECT_EQ(sounds.heard, Sounds{SoundEffect::tink});
+    EXPECT_EQ(sounds.played, Sounds{SoundEffect::tink});
 }
 
-TEST_F(Gathering, allTheGardenHoldsWinsWithBothSoundsInTheLastTick) {
+TEST_F(BestAndSound, fillingTheBoardWinsAndPlaysPopAndTinkInTheLastTick) {
     session.start();
     while (session.running()) {
-        sounds.heard.clear();
+        sounds.played.clear();
         session.key(static_cast<GameKey>(alongCycle(session.game())));
         fireTimer();
     }
@@ -101,8 +100,8 @@ TEST_F(Gathering, allTheGardenHoldsWinsWithBothSoundsInTheLastTick) {
     EXPECT_TRUE(session.game().won());
     EXPECT_EQ(session.game().score(), 6120);
     EXPECT_EQ(session.game().snake().size(), 616U);
-    EXPECT_EQ(sounds.heard, (Sounds{SoundEffect::pop, SoundEffect::tink}));
+    EXPECT_EQ(sounds.played, (Sounds{SoundEffect::pop, SoundEffect::tink}));
     EXPECT_TRUE(session.awaitingName());
     EXPECT_EQ(session.best(), 6120);
-    EXPECT_EQ(onDisk().integer("best-Classic"), 6120);
+    EXPECT_EQ(storedPreferences().integer("best-Classic"), 6120);
 }

@@ -4,9 +4,9 @@
 
 namespace {
 
-class Changed : public SessionTest {
+class ChangedSignal : public SessionTest {
 protected:
-    /// How often `changed()` is emitted by a call.
+    /// How many times `operation` emits `changed()`.
     template <typename Operation>
     int emissionsOf(Operation operation) {
         const QSignalSpy spy(&session, &Session::changed);
@@ -17,7 +17,7 @@ protected:
 
 }  // namespace
 
-TEST_F(Changed, isEmittedOnceByEachOperationThatChangesSomething) {
+TEST_F(ChangedSignal, isEmittedOnceByEachOperationThatChangesSomething) {
     EXPECT_EQ(emissionsOf([&] { session.choosePace(Pace::swift); }), 1);
     EXPECT_EQ(emissionsOf([&] { session.start(); }), 1);
     EXPECT_EQ(emissionsOf([&] { session.key(GameKey::up); }), 1);
@@ -35,7 +35,7 @@ TEST_F(Changed, isEmittedOnceByEachOperationThatChangesSomething) {
     EXPECT_EQ(emissionsOf([&] { session.skipSaving(); }), 1);
 }
 
-TEST_F(Changed, isNotEmittedByARefusedOperation) {
+TEST_F(ChangedSignal, isNotEmittedByARefusedOperation) {
     EXPECT_EQ(emissionsOf([&] { session.pause(); }), 0);
     EXPECT_EQ(emissionsOf([&] { session.key(GameKey::escape); }), 0);
     EXPECT_EQ(emissionsOf([&] { session.saveScore(); }), 0);
@@ -49,7 +49,7 @@ TEST_F(Changed, isNotEmittedByARefusedOperation) {
     EXPECT_EQ(emissionsOf([&] { fireTimer(); }), 0);
 }
 
-TEST_F(Changed, isEmittedWhenEverythingHasItsNewValue) {
+TEST_F(ChangedSignal, isEmittedAfterAllGettersHaveTheirNewValues) {
     bool consistent = false;
     session.start();
     QObject::connect(&session, &Session::changed, &session, [&] {

@@ -14,65 +14,64 @@ namespace {
 
 class Clock : public SessionTest {
 protected:
-    /// How far the snake has come; every fresh one begins in the same column.
-    [[nodiscard]] std::int64_t cellsGone() const {
+    /// The number of cells the snake has moved; it always starts in the same column.
+    [[nodiscard]] std::int64_t cellsMoved() const {
         return session.game().snake()[0].x - SnakeCore::Game(28, 22).snake()[0].x;
     }
 
-    void waitForCell(std::int64_t cells) const {
-        while (cellsGone() < cells) {
+    void waitUntilMoved(std::int64_t cells) const {
+        while (cellsMoved() < cells) {
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         }
     }
 
-    /// Plays straight up into the wall, past the fruit.
-    void saveARunAs(const char* name) {
+    /// Saves a run that goes straight up into the wall and scores 0.
+    void playZeroScoreAs(const char* name) {
         session.start();
         session.key(GameKey::up);
         endRun();
-        session.editName(QString::fromLatin1(name));
-        session.saveScore();
+        saveScoreAs(name);
     }
 };
 
 }  // namespace
 
-TEST_F(Clock, aStallCostsOneLateTickAndNoBurst) {
+TEST_F(Clock, aStalledEventLoopDelaysOneTickAndCausesNoBurst) {
     session.choosePace(Pace::gentle);
     session.start();
-    waitForCell(1);
+    waitUntilMoved(1);
 
     std::this_thread::sleep_for(2s);
-    const auto stallEnded = steady_clock::now();
-    waitForCell(2);
-    EXPECT_EQ(cellsGone(), 2);
-    waitForCell(3);
+    const auto endOfStall = steady_clock::now();
+    waitUntilMoved(2);
+    EXPECT_EQ(cellsMoved(), 2);
+    waitUntilMoved(3);
 
-    // The system's timers may be early by what is left of their last millisecond.
-    EXPECT_GE(steady_clock::now() - stallEnded, tickInterval(Pace::gentle) - 2ms);
-    EXPECT_EQ(cellsGone(), 3);
+    // Qt timers have a resolution of one millisecond and may fire early by the remainder.
+    EXPECT_GE(steady_clock::now() - endOfStall, tickInterval(Pace::gentle) - 2ms);
+    EXPECT_EQ(cellsMoved(), 3);
 }
 
-TEST_F(Clock, setBackOrForwardDoesNotChangeThePaceOfARun) {
+TEST_F(Clock, settingTheWallClockDoesNotChangeTheTickInterval) {
     for (const auto jump : {-24h, 24h}) {
         session.choosePace(Pace::swift);
         session.start();
-        waitForCell(1);
-        const auto began = steady_clock::now();
+        waitUntilMoved(1);
+        const auto start = steady_clock::now();
 
-        const WallClock moved(jump);
-        waitForCell(4);
+        const WallClock shifted(jump);
+        waitUntilMoved(4);
 
-        EXPECT_GE(steady_clock::now() - began, tickInterval(Pace::swift));
-        EXPECT_LT(steady_clock::now() - began, 10s);
-        EXPECT_EQ(cellsGone(), 4);
+        EXPECT_GE(steady_clock::now() - start, tickInterval(Pace::swift));
+        EXPECT_LT(steady_clock::now() - start, 10s);
+        EXPECT_EQ(cellsMoved(), 4);
     }
 }
 
-TEST_F(Clock, setBackBetweenTwoRunsKeepsBothAndRanksByTheDatesTheyBear) {
-    saveARunAs("Ada");
-    const WallClock moved(-24h);
-    saveARunAs("Ben");
+TEST_F(Clock, runsSavedAfterTheClockIsSetBackRankByTheirDates) {
+    playZeroScoreAs("Ada");
+    const WallClock shifted(-24h);
+    playZeroScoreAs("Ben");
 
     const auto& entries = session.scores().entries();
     ASSERT_EQ(entries.size(), 2U);

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// The focused widget: records the key presses that reach it.
+/// Stands in for the focused widget and records the key presses it receives.
 class FocusedWidget : public QObject {
 public:
     std::vector<int> received;
@@ -21,14 +21,14 @@ public:
     }
 };
 
-class KeyPress : public SessionTest {
+class KeyMonitoring : public SessionTest {
 protected:
     void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, quint32 scanCode = 0) {
         QKeyEvent event(QEvent::KeyPress, key, modifiers, scanCode, 0, 0);
-        QCoreApplication::sendEvent(&control, &event);
+        QCoreApplication::sendEvent(&widget, &event);
     }
 
-    FocusedWidget control;
+    FocusedWidget widget;
     KeyMonitor monitor{session};
 };
 
@@ -36,32 +36,32 @@ constexpr quint32 scanCodeOfW = 25;
 
 }  // namespace
 
-TEST_F(KeyPress, ofTheGameIsConsumed) {
+TEST_F(KeyMonitoring, consumesGameKeys) {
     press(Qt::Key_Space);
 
     EXPECT_TRUE(session.running());
-    EXPECT_TRUE(control.received.empty());
+    EXPECT_TRUE(widget.received.empty());
 }
 
-TEST_F(KeyPress, ofNoGameKeyReachesTheFocusedWidget) {
+TEST_F(KeyMonitoring, passesOtherKeysToTheFocusedWidget) {
     press(Qt::Key_Return);
 
-    EXPECT_EQ(control.received, std::vector<int>{Qt::Key_Return});
+    EXPECT_EQ(widget.received, std::vector<int>{Qt::Key_Return});
 }
 
-TEST_F(KeyPress, withCtrlAltOrMetaHeldReachesTheFocusedWidget) {
+TEST_F(KeyMonitoring, passesKeysPressedWithCtrlAltOrMeta) {
     for (const Qt::KeyboardModifier held :
          {Qt::ControlModifier, Qt::AltModifier, Qt::MetaModifier}) {
-        control.received.clear();
+        widget.received.clear();
         press(Qt::Key_Space, held);
         press(Qt::Key_R, held | Qt::ShiftModifier);
 
-        EXPECT_EQ(control.received, (std::vector<int>{Qt::Key_Space, Qt::Key_R}));
+        EXPECT_EQ(widget.received, (std::vector<int>{Qt::Key_Space, Qt::Key_R}));
         EXPECT_FALSE(session.started());
     }
 }
 
-TEST_F(KeyPress, withShiftHeldStillTurnsTheSnake) {
+TEST_F(KeyMonitoring, handlesKeysPressedWithShift) {
     session.start();
 
     press(Qt::Key_W, Qt::ShiftModifier, scanCodeOfW);
@@ -70,7 +70,7 @@ TEST_F(KeyPress, withShiftHeldStillTurnsTheSnake) {
     EXPECT_EQ(session.game().direction(), SnakeCore::Direction::up);
 }
 
-TEST_F(KeyPress, ofAnArrowWithTheKeypadModifierTurnsTheSnake) {
+TEST_F(KeyMonitoring, handlesArrowsWithTheKeypadModifier) {
     session.start();
 
     press(Qt::Key_Up, Qt::KeypadModifier);
@@ -79,48 +79,48 @@ TEST_F(KeyPress, ofAnArrowWithTheKeypadModifierTurnsTheSnake) {
     EXPECT_EQ(session.game().direction(), SnakeCore::Direction::up);
 }
 
-TEST_F(KeyPress, countsByThePositionRatherThanTheLetter) {
+TEST_F(KeyMonitoring, recognisesLettersByTheirPosition) {
     session.start();
 
     press(Qt::Key_Z, Qt::NoModifier, scanCodeOfW);
     fireTimer();
 
     EXPECT_EQ(session.game().direction(), SnakeCore::Direction::up);
-    EXPECT_TRUE(control.received.empty());
+    EXPECT_TRUE(widget.received.empty());
 }
 
-TEST_F(KeyPress, ofAGameLetterAtAnotherPositionReachesTheFocusedWidget) {
+TEST_F(KeyMonitoring, passesAGameLetterAtAnotherPosition) {
     press(Qt::Key_W, Qt::NoModifier, 52);
 
-    EXPECT_EQ(control.received, std::vector<int>{Qt::Key_W});
+    EXPECT_EQ(widget.received, std::vector<int>{Qt::Key_W});
 }
 
-TEST_F(KeyPress, reachesTheFocusedWidgetWhileANameIsAwaited) {
+TEST_F(KeyMonitoring, passesAllKeysWhileANameIsAwaited) {
     startAndEndRun();
 
     for (const int key : {Qt::Key_W, Qt::Key_Space, Qt::Key_R, Qt::Key_Escape}) {
         press(key);
     }
 
-    EXPECT_EQ(control.received.size(), 4U);
+    EXPECT_EQ(widget.received.size(), 4U);
     EXPECT_TRUE(session.awaitingName());
 }
 
-TEST_F(KeyPress, countsAndItsReleaseDoesNot) {
+TEST_F(KeyMonitoring, ignoresKeyReleases) {
     QKeyEvent release(QEvent::KeyRelease, Qt::Key_Space, Qt::NoModifier);
-    QCoreApplication::sendEvent(&control, &release);
+    QCoreApplication::sendEvent(&widget, &release);
 
     EXPECT_FALSE(session.started());
 }
 
-TEST_F(KeyPress, fromAutoRepeatCountsToo) {
+TEST_F(KeyMonitoring, handlesAutoRepeatedPresses) {
     QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, QString(), true);
-    QCoreApplication::sendEvent(&control, &repeat);
+    QCoreApplication::sendEvent(&widget, &repeat);
 
     EXPECT_TRUE(session.running());
 }
 
-TEST(GameKeyOfAPress, isFoundByTheScanCode) {
+TEST(GameKeyOfEvent, isFoundByTheScanCode) {
     const std::vector<std::pair<quint32, std::optional<GameKey>>> positions{
         {111, GameKey::up},   {25, GameKey::up},    {116, GameKey::down},   {39, GameKey::down},
         {113, GameKey::left}, {38, GameKey::left},  {114, GameKey::right},  {40, GameKey::right},
@@ -133,7 +133,7 @@ TEST(GameKeyOfAPress, isFoundByTheScanCode) {
     }
 }
 
-TEST(GameKeyOfAPress, isFoundByTheLetterWithoutAScanCode) {
+TEST(GameKeyOfEvent, isFoundByTheQtKeyWithoutAScanCode) {
     const std::vector<std::pair<Qt::Key, std::optional<GameKey>>> letters{
         {Qt::Key_Up, GameKey::up},       {Qt::Key_W, GameKey::up},
         {Qt::Key_Down, GameKey::down},   {Qt::Key_S, GameKey::down},

@@ -2,9 +2,9 @@
 
 namespace {
 
-class Key : public SessionTest {
+class GameKeys : public SessionTest {
 protected:
-    /// Where the head goes at the next tick.
+    /// The direction the snake moves in at the next tick.
     SnakeCore::Direction nextStep() {
         fireTimer();
         return session.game().direction();
@@ -17,21 +17,21 @@ constexpr GameKey allKeys[] = {GameKey::up,    GameKey::down,   GameKey::left,  
 
 }  // namespace
 
-TEST_F(Key, upTurnsTheSnakeUp) {
+TEST_F(GameKeys, upTurnsTheSnakeUp) {
     session.start();
 
     EXPECT_TRUE(session.key(GameKey::up));
     EXPECT_EQ(nextStep(), SnakeCore::Direction::up);
 }
 
-TEST_F(Key, downTurnsTheSnakeDown) {
+TEST_F(GameKeys, downTurnsTheSnakeDown) {
     session.start();
 
     EXPECT_TRUE(session.key(GameKey::down));
     EXPECT_EQ(nextStep(), SnakeCore::Direction::down);
 }
 
-TEST_F(Key, leftAndRightTurnASnakeThatMovesUp) {
+TEST_F(GameKeys, leftAndRightTurnASnakeMovingUp) {
     for (const auto& [key, direction] : {std::pair(GameKey::left, SnakeCore::Direction::left),
                                          std::pair(GameKey::right, SnakeCore::Direction::right)}) {
         session.start();
@@ -43,7 +43,7 @@ TEST_F(Key, leftAndRightTurnASnakeThatMovesUp) {
     }
 }
 
-TEST_F(Key, twoTurnsWithinOneTickAreBothMade) {
+TEST_F(GameKeys, twoTurnsWithinOneTickBothTakeEffect) {
     session.start();
 
     session.key(GameKey::up);
@@ -53,7 +53,7 @@ TEST_F(Key, twoTurnsWithinOneTickAreBothMade) {
     EXPECT_EQ(nextStep(), SnakeCore::Direction::left);
 }
 
-TEST_F(Key, forADirectionIsConsumedAndDoesNothingBeforeTheFirstRun) {
+TEST_F(GameKeys, directionsAreConsumedButIgnoredBeforeTheFirstRun) {
     for (const GameKey key : directionKeys) {
         EXPECT_TRUE(session.key(key));
     }
@@ -62,7 +62,7 @@ TEST_F(Key, forADirectionIsConsumedAndDoesNothingBeforeTheFirstRun) {
     EXPECT_EQ(session.game(), SnakeCore::Game(28, 22));
 }
 
-TEST_F(Key, forADirectionIsConsumedAndDoesNothingWhilePaused) {
+TEST_F(GameKeys, directionsAreConsumedButIgnoredWhilePaused) {
     session.start();
     session.pause();
     for (const GameKey key : directionKeys) {
@@ -73,7 +73,7 @@ TEST_F(Key, forADirectionIsConsumedAndDoesNothingWhilePaused) {
     EXPECT_EQ(nextStep(), SnakeCore::Direction::right);
 }
 
-TEST_F(Key, forADirectionIsConsumedAndDoesNothingAfterTheEnd) {
+TEST_F(GameKeys, directionsAreConsumedButIgnoredAfterTheEnd) {
     startAndEndRun();
     session.skipSaving();
     const SnakeCore::Game ended = session.game();
@@ -84,13 +84,13 @@ TEST_F(Key, forADirectionIsConsumedAndDoesNothingAfterTheEnd) {
     EXPECT_EQ(session.game(), ended);
 }
 
-TEST_F(Key, spaceStartsTheFirstRun) {
+TEST_F(GameKeys, spaceStartsTheFirstRun) {
     EXPECT_TRUE(session.key(GameKey::space));
 
     EXPECT_EQ(session.phase(), Session::Phase::running);
 }
 
-TEST_F(Key, spacePausesAndResumes) {
+TEST_F(GameKeys, spacePausesAndResumes) {
     session.start();
 
     EXPECT_TRUE(session.key(GameKey::space));
@@ -99,7 +99,7 @@ TEST_F(Key, spacePausesAndResumes) {
     EXPECT_EQ(session.phase(), Session::Phase::running);
 }
 
-TEST_F(Key, spaceStartsANewRunAfterASavedOne) {
+TEST_F(GameKeys, spaceStartsANewRunAfterASavedOne) {
     startAndEndRun();
     saveScoreAs("Ada");
 
@@ -108,7 +108,7 @@ TEST_F(Key, spaceStartsANewRunAfterASavedOne) {
     EXPECT_EQ(session.phase(), Session::Phase::running);
 }
 
-TEST_F(Key, spaceStartsANewRunAfterASkippedOne) {
+TEST_F(GameKeys, spaceStartsANewRunAfterASkippedOne) {
     startAndEndRun();
     session.skipSaving();
 
@@ -117,7 +117,7 @@ TEST_F(Key, spaceStartsANewRunAfterASkippedOne) {
     EXPECT_EQ(session.phase(), Session::Phase::running);
 }
 
-TEST_F(Key, escapePausesAndNeverResumes) {
+TEST_F(GameKeys, escapePausesAndNeverResumes) {
     session.start();
 
     EXPECT_TRUE(session.key(GameKey::escape));
@@ -126,7 +126,7 @@ TEST_F(Key, escapePausesAndNeverResumes) {
     EXPECT_EQ(session.phase(), Session::Phase::paused);
 }
 
-TEST_F(Key, escapeIsConsumedBeforeTheFirstRunAndAfterTheEnd) {
+TEST_F(GameKeys, escapeIsConsumedBeforeTheFirstRunAndAfterTheEnd) {
     EXPECT_TRUE(session.key(GameKey::escape));
     EXPECT_EQ(session.phase(), Session::Phase::fresh);
 
@@ -136,7 +136,7 @@ TEST_F(Key, escapeIsConsumedBeforeTheFirstRunAndAfterTheEnd) {
     EXPECT_EQ(session.phase(), Session::Phase::skipped);
 }
 
-TEST_F(Key, restartStartsARunFromEveryPhaseThatHandlesKeys) {
+TEST_F(GameKeys, restartStartsARunFromEveryPhaseThatHandlesKeys) {
     EXPECT_TRUE(session.key(GameKey::restart));
     EXPECT_EQ(session.phase(), Session::Phase::running);
 
@@ -156,7 +156,7 @@ TEST_F(Key, restartStartsARunFromEveryPhaseThatHandlesKeys) {
     EXPECT_EQ(session.phase(), Session::Phase::running);
 }
 
-TEST_F(Key, passesWhileANameIsAwaited) {
+TEST_F(GameKeys, areNotConsumedWhileANameIsAwaited) {
     startAndEndRun();
     for (const GameKey key : allKeys) {
         EXPECT_FALSE(session.key(key));
@@ -165,7 +165,7 @@ TEST_F(Key, passesWhileANameIsAwaited) {
     EXPECT_EQ(session.phase(), Session::Phase::awaitingName);
 }
 
-TEST_F(Key, passesWhileTheSheetIsUp) {
+TEST_F(GameKeys, areNotConsumedWhileTheScoreSheetIsOpen) {
     session.start();
     session.openScores();
     for (const GameKey key : allKeys) {

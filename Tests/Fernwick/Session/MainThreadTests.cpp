@@ -4,11 +4,11 @@
 
 #include "Session/MainThread.hpp"
 
-TEST(MainThread, isWhereTheInterfaceMayRun) {
+TEST(MainThread, assertionPassesOnTheMainThread) {
     assertMainThread();
 }
 
-TEST(MainThreadDeathTest, isTheOnlyPlaceWhereTheInterfaceMayRun) {
+TEST(MainThreadDeathTest, assertionAbortsOnAnyOtherThread) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     EXPECT_DEATH(std::thread([] { assertMainThread(); }).join(),
                  "Fernwick/FernwickApp:[0-9]+: not on the main thread");

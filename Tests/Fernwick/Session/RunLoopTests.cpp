@@ -10,7 +10,7 @@ class RunLoop : public SessionTest {};
 
 }  // namespace
 
-TEST_F(RunLoop, startsAFreshRunOfTheChosenPace) {
+TEST_F(RunLoop, startBeginsAFreshRunAtTheChosenPace) {
     const SnakeCore::UUID before = session.runID();
     session.choosePace(Pace::gentle);
 
@@ -21,10 +21,10 @@ TEST_F(RunLoop, startsAFreshRunOfTheChosenPace) {
     EXPECT_NE(session.runID(), before);
     EXPECT_EQ(session.runPace(), Pace::gentle);
     EXPECT_FALSE(session.savedRun());
-    EXPECT_TRUE(timerRuns());
+    EXPECT_TRUE(timerIsActive());
 }
 
-TEST_F(RunLoop, ticksAtTheIntervalOfThePace) {
+TEST_F(RunLoop, timerUsesTheIntervalOfThePace) {
     for (const Pace pace : allPaces) {
         session.choosePace(pace);
         session.start();
@@ -35,7 +35,7 @@ TEST_F(RunLoop, ticksAtTheIntervalOfThePace) {
     }
 }
 
-TEST_F(RunLoop, advancesByItselfInRealTime) {
+TEST_F(RunLoop, timerAdvancesTheRunInRealTime) {
     session.choosePace(Pace::swift);
     session.start();
 
@@ -43,7 +43,7 @@ TEST_F(RunLoop, advancesByItselfInRealTime) {
     EXPECT_EQ(session.phase(), Session::Phase::running);
 }
 
-TEST_F(RunLoop, movesTheSnakeOneCellATick) {
+TEST_F(RunLoop, eachTickMovesTheSnakeOneCell) {
     session.start();
 
     fireTimer();
@@ -52,7 +52,7 @@ TEST_F(RunLoop, movesTheSnakeOneCellATick) {
     EXPECT_EQ(session.phase(), Session::Phase::running);
 }
 
-TEST_F(RunLoop, replacesARunningRunWhenStartedAgain) {
+TEST_F(RunLoop, startReplacesARunningRunAndItsTimer) {
     session.start();
     fireTimer();
     const SnakeCore::UUID first = session.runID();
@@ -64,10 +64,10 @@ TEST_F(RunLoop, replacesARunningRunWhenStartedAgain) {
     EXPECT_NE(session.runID(), first);
     EXPECT_TRUE(firstTimer.isNull());
     EXPECT_EQ(session.findChildren<QTimer*>().size(), 1);
-    EXPECT_TRUE(timerRuns());
+    EXPECT_TRUE(timerIsActive());
 }
 
-TEST_F(RunLoop, startsOverFromAPausedRun) {
+TEST_F(RunLoop, startReplacesAPausedRun) {
     session.start();
     fireTimer();
     session.pause();
@@ -78,10 +78,9 @@ TEST_F(RunLoop, startsOverFromAPausedRun) {
     EXPECT_EQ(session.game(), SnakeCore::Game(28, 22));
 }
 
-TEST_F(RunLoop, startsOverAfterASavedRun) {
+TEST_F(RunLoop, startBeginsANewRunAfterASavedOne) {
     startAndEndRun();
-    session.editName(QStringLiteral("Ada"));
-    session.saveScore();
+    saveScoreAs("Ada");
     const SnakeCore::UUID saved = session.runID();
 
     session.start();
@@ -91,7 +90,7 @@ TEST_F(RunLoop, startsOverAfterASavedRun) {
     EXPECT_FALSE(session.savedRun());
 }
 
-TEST_F(RunLoop, startsOverAfterASkippedRun) {
+TEST_F(RunLoop, startBeginsANewRunAfterASkippedOne) {
     startAndEndRun();
     session.skipSaving();
 
@@ -100,7 +99,7 @@ TEST_F(RunLoop, startsOverAfterASkippedRun) {
     EXPECT_EQ(session.phase(), Session::Phase::running);
 }
 
-TEST_F(RunLoop, refusesToStartWhileANameIsAwaited) {
+TEST_F(RunLoop, startIsRefusedWhileANameIsAwaited) {
     startAndEndRun();
     const SnakeCore::UUID ended = session.runID();
 
@@ -111,7 +110,7 @@ TEST_F(RunLoop, refusesToStartWhileANameIsAwaited) {
     EXPECT_TRUE(session.game().ended());
 }
 
-TEST_F(RunLoop, refusesToStartWhileTheSheetIsUp) {
+TEST_F(RunLoop, startIsRefusedWhileTheScoreSheetIsOpen) {
     session.openScores();
     const SnakeCore::UUID before = session.runID();
 
@@ -122,16 +121,16 @@ TEST_F(RunLoop, refusesToStartWhileTheSheetIsUp) {
     EXPECT_EQ(timer(), nullptr);
 }
 
-TEST_F(RunLoop, pausesAndStopsTheTimer) {
+TEST_F(RunLoop, pauseStopsTheTimer) {
     session.start();
 
     session.pause();
 
     EXPECT_EQ(session.phase(), Session::Phase::paused);
-    EXPECT_FALSE(timerRuns());
+    EXPECT_FALSE(timerIsActive());
 }
 
-TEST_F(RunLoop, resumesWithANewTimerOfThePaceOfThatMoment) {
+TEST_F(RunLoop, resumeCreatesANewTimerAtTheCurrentPace) {
     session.start();
     const QPointer<QTimer> firstTimer = timer();
     session.pause();
@@ -144,7 +143,7 @@ TEST_F(RunLoop, resumesWithANewTimerOfThePaceOfThatMoment) {
     EXPECT_EQ(timer()->intervalAsDuration(), 85ms);
 }
 
-TEST_F(RunLoop, keepsTheRunningTimersIntervalWhenThePaceChanges) {
+TEST_F(RunLoop, choosingAPaceDoesNotChangeARunningTimer) {
     session.start();
 
     session.choosePace(Pace::swift);
@@ -152,13 +151,13 @@ TEST_F(RunLoop, keepsTheRunningTimersIntervalWhenThePaceChanges) {
     EXPECT_EQ(timer()->intervalAsDuration(), 130ms);
 }
 
-TEST_F(RunLoop, doesNotPauseBeforeTheFirstRun) {
+TEST_F(RunLoop, pauseIsRefusedBeforeTheFirstRun) {
     session.pause();
 
     EXPECT_EQ(session.phase(), Session::Phase::fresh);
 }
 
-TEST_F(RunLoop, doesNotPauseAnEndedRun) {
+TEST_F(RunLoop, pauseIsRefusedAfterTheEnd) {
     startAndEndRun();
     session.pause();
     EXPECT_EQ(session.phase(), Session::Phase::awaitingName);
@@ -168,24 +167,23 @@ TEST_F(RunLoop, doesNotPauseAnEndedRun) {
     EXPECT_EQ(session.phase(), Session::Phase::skipped);
 
     startAndEndRun();
-    session.editName(QStringLiteral("Ada"));
-    session.saveScore();
+    saveScoreAs("Ada");
     session.pause();
     EXPECT_EQ(session.phase(), Session::Phase::saved);
-    EXPECT_FALSE(timerRuns());
+    EXPECT_FALSE(timerIsActive());
 }
 
-TEST_F(RunLoop, doesNotResumeWhileTheSheetIsUp) {
+TEST_F(RunLoop, resumeIsRefusedWhileTheScoreSheetIsOpen) {
     session.start();
     session.openScores();
 
     session.pause();
 
     EXPECT_EQ(session.phase(), Session::Phase::paused);
-    EXPECT_FALSE(timerRuns());
+    EXPECT_FALSE(timerIsActive());
 }
 
-TEST_F(RunLoop, ignoresAFiringAfterAPause) {
+TEST_F(RunLoop, timeoutsAfterAPauseAreIgnored) {
     session.start();
     session.pause();
 
@@ -194,25 +192,25 @@ TEST_F(RunLoop, ignoresAFiringAfterAPause) {
     EXPECT_EQ(session.game(), SnakeCore::Game(28, 22));
 }
 
-TEST_F(RunLoop, ignoresAFiringAfterTheEnd) {
+TEST_F(RunLoop, timeoutsAfterTheEndAreIgnored) {
     startAndEndRun();
     const SnakeCore::Game ended = session.game();
-    sounds.heard.clear();
+    sounds.played.clear();
 
     fireTimer();
 
     EXPECT_EQ(session.game(), ended);
-    EXPECT_TRUE(sounds.heard.empty());
+    EXPECT_TRUE(sounds.played.empty());
 }
 
-TEST_F(RunLoop, endsIntoNameEntry) {
+TEST_F(RunLoop, theEndOfARunAwaitsAName) {
     startAndEndRun();
 
     EXPECT_EQ(session.phase(), Session::Phase::awaitingName);
-    EXPECT_FALSE(timerRuns());
+    EXPECT_FALSE(timerIsActive());
 }
 
-TEST_F(RunLoop, awaitsANameForAScoreOfZeroToo) {
+TEST_F(RunLoop, aRunWithAScoreOfZeroAwaitsANameToo) {
     session.start();
     session.key(GameKey::up);
     endRun();
@@ -222,7 +220,7 @@ TEST_F(RunLoop, awaitsANameForAScoreOfZeroToo) {
     EXPECT_FALSE(std::filesystem::exists(settingsPath()));
 }
 
-TEST_F(RunLoop, opensTheSheetOnTheChosenPaceFromAnyState) {
+TEST_F(RunLoop, openScoresSelectsTheChosenPaceInAnyPhase) {
     session.choosePace(Pace::gentle);
     session.openScores();
     EXPECT_TRUE(session.showingScores());
@@ -237,7 +235,7 @@ TEST_F(RunLoop, opensTheSheetOnTheChosenPaceFromAnyState) {
     EXPECT_EQ(session.phase(), Session::Phase::awaitingName);
 }
 
-TEST_F(RunLoop, pausesARunningRunForTheSheet) {
+TEST_F(RunLoop, openScoresPausesARunningRun) {
     session.start();
 
     session.openScores();
@@ -245,10 +243,10 @@ TEST_F(RunLoop, pausesARunningRunForTheSheet) {
     EXPECT_EQ(session.phase(), Session::Phase::paused);
     EXPECT_TRUE(session.showingScores());
     EXPECT_EQ(session.scorePace(), session.pace());
-    EXPECT_FALSE(timerRuns());
+    EXPECT_FALSE(timerIsActive());
 }
 
-TEST_F(RunLoop, leavesAPausedRunPausedForTheSheetAndAfterIt) {
+TEST_F(RunLoop, openAndCloseScoresLeaveAPausedRunPaused) {
     session.start();
     session.pause();
 

@@ -4,25 +4,23 @@ namespace {
 
 class SaveScore : public SessionTest {
 protected:
-    /// Whether a table or a name has been stored.
-    [[nodiscard]] bool holdsAnEntry() const {
-        return onDisk().bytes("high-scores-v1") || onDisk().text("player-name");
+    [[nodiscard]] bool tableOrNameStored() const {
+        return storedPreferences().bytes("high-scores-v1") ||
+               storedPreferences().text("player-name");
     }
 };
 
 }  // namespace
 
-TEST_F(SaveScore, doesNothingWhenNoNameIsAwaited) {
-    session.editName(QStringLiteral("Ada"));
-
-    session.saveScore();
+TEST_F(SaveScore, doesNothingBeforeTheFirstRun) {
+    saveScoreAs("Ada");
 
     EXPECT_FALSE(session.savedRun());
     EXPECT_TRUE(session.scores().entries().empty());
     EXPECT_FALSE(std::filesystem::exists(settingsPath()));
 }
 
-TEST_F(SaveScore, doesNothingWhileARunIsMoving) {
+TEST_F(SaveScore, doesNothingDuringARun) {
     session.editName(QStringLiteral("Ada"));
     session.start();
 
@@ -32,17 +30,16 @@ TEST_F(SaveScore, doesNothingWhileARunIsMoving) {
     EXPECT_TRUE(session.scores().entries().empty());
 }
 
-TEST_F(SaveScore, refusesANameOfBlanks) {
+TEST_F(SaveScore, refusesANameOfWhiteSpace) {
     startAndEndRun();
-    session.editName(QStringLiteral(" \t\u3000 "));
 
-    session.saveScore();
+    saveScoreAs(" \t\u3000 ");
 
     EXPECT_TRUE(session.awaitingName());
     EXPECT_FALSE(session.savedRun());
     EXPECT_EQ(session.playerName(), QStringLiteral(" \t\u3000 "));
     EXPECT_TRUE(session.scores().entries().empty());
-    EXPECT_FALSE(holdsAnEntry());
+    EXPECT_FALSE(tableOrNameStored());
 }
 
 TEST_F(SaveScore, refusesAnEmptyName) {
@@ -56,9 +53,8 @@ TEST_F(SaveScore, refusesAnEmptyName) {
 
 TEST_F(SaveScore, recordsTheRunAndStoresTableAndName) {
     startAndEndRun();
-    session.editName(QStringLiteral("  Ada "));
 
-    session.saveScore();
+    saveScoreAs("  Ada ");
 
     EXPECT_TRUE(session.savedRun());
     EXPECT_FALSE(session.awaitingName());
@@ -69,12 +65,12 @@ TEST_F(SaveScore, recordsTheRunAndStoresTableAndName) {
     EXPECT_EQ(entry.name, "Ada");
     EXPECT_EQ(entry.score, session.game().score());
     EXPECT_EQ(entry.pace, "Classic");
-    EXPECT_EQ(onDisk().text("player-name"), "Ada");
-    EXPECT_EQ(onDisk().bytes("high-scores-v1"),
+    EXPECT_EQ(storedPreferences().text("player-name"), "Ada");
+    EXPECT_EQ(storedPreferences().bytes("high-scores-v1"),
               QByteArray::fromStdString(session.scores().encoded()));
 }
 
-TEST_F(SaveScore, datesTheEntryNow) {
+TEST_F(SaveScore, datesTheEntryWithTheCurrentTime) {
     startAndEndRun();
     session.editName(QStringLiteral("Ada"));
     const SnakeCore::Date before = SnakeCore::Date::now();
@@ -85,27 +81,24 @@ TEST_F(SaveScore, datesTheEntryNow) {
     EXPECT_LE(session.scores().entries().front().date, SnakeCore::Date::now());
 }
 
-TEST_F(SaveScore, savesARunOnce) {
+TEST_F(SaveScore, savesARunOnlyOnce) {
     startAndEndRun();
-    session.editName(QStringLiteral("Ada"));
-    session.saveScore();
-    session.editName(QStringLiteral("Grace"));
+    saveScoreAs("Ada");
 
-    session.saveScore();
+    saveScoreAs("Grace");
 
     EXPECT_EQ(session.scores().entries().size(), 1U);
     EXPECT_EQ(session.playerName(), "Grace");
-    EXPECT_EQ(onDisk().text("player-name"), "Ada");
+    EXPECT_EQ(storedPreferences().text("player-name"), "Ada");
 }
 
-TEST_F(SaveScore, keepsThePaceTheRunWasStartedWith) {
+TEST_F(SaveScore, recordsThePaceTheRunWasStartedWith) {
     session.choosePace(Pace::swift);
     session.start();
     session.choosePace(Pace::gentle);
     endRun();
-    session.editName(QStringLiteral("Ada"));
 
-    session.saveScore();
+    saveScoreAs("Ada");
 
     EXPECT_EQ(session.scores().entries().front().pace, "Swift");
 }
@@ -115,9 +108,8 @@ TEST_F(SaveScore, savesAScoreOfZero) {
     session.key(GameKey::up);
     endRun();
     ASSERT_EQ(session.game().score(), 0);
-    session.editName(QStringLiteral("Ada"));
 
-    session.saveScore();
+    saveScoreAs("Ada");
 
     EXPECT_TRUE(session.savedRun());
     EXPECT_EQ(session.scores().entries().front().score, 0);
@@ -126,17 +118,17 @@ TEST_F(SaveScore, savesAScoreOfZero) {
 TEST_F(SaveScore, keepsEarlierEntries) {
     for (const char* name : {"Ada", "Grace", "Ada"}) {
         startAndEndRun();
-        session.editName(QString::fromUtf8(name));
-        session.saveScore();
+        saveScoreAs(name);
     }
 
     EXPECT_EQ(session.scores().entries().size(), 3U);
-    EXPECT_EQ(
-        SnakeCore::HighScores(onDisk().bytes("high-scores-v1")->toStdString()).entries().size(),
-        3U);
+    EXPECT_EQ(SnakeCore::HighScores(storedPreferences().bytes("high-scores-v1")->toStdString())
+                  .entries()
+                  .size(),
+              3U);
 }
 
-TEST_F(SaveScore, leavesASkippedRunOut) {
+TEST_F(SaveScore, doesNothingAfterSkipping) {
     startAndEndRun();
     session.editName(QStringLiteral("Ada"));
 
@@ -146,5 +138,5 @@ TEST_F(SaveScore, leavesASkippedRunOut) {
     EXPECT_FALSE(session.awaitingName());
     EXPECT_FALSE(session.savedRun());
     EXPECT_TRUE(session.scores().entries().empty());
-    EXPECT_FALSE(holdsAnEntry());
+    EXPECT_FALSE(tableOrNameStored());
 }

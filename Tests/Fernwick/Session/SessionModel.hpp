@@ -9,11 +9,11 @@
 #include "Session/SoundEffects.hpp"
 #include "SnakeCore/ReferenceGame.hpp"
 
-/// What a session must be like after any row of actions, told a second time in the plainest way:
-/// one state, one reference game, and what each action does to them.
+/// A plain second implementation of Session over a reference game, to compare against after any
+/// sequence of operations.
 struct SessionModel {
-    Session::Phase state = Session::Phase::fresh;
-    bool sheet = false;
+    Session::Phase phase = Session::Phase::fresh;
+    bool showingScores = false;
     Pace pace = Pace::classic;
     Pace runPace = Pace::classic;
     Pace scorePace = Pace::classic;
@@ -21,66 +21,68 @@ struct SessionModel {
     std::array<std::int64_t, 3> bests{};
     std::size_t savedRuns = 0;
     SnakeCore::ReferenceGame game{28, 22};
-    std::vector<SoundEffect> heard;
+    std::vector<SoundEffect> played;
 
     [[nodiscard]] std::int64_t& best() { return bests[static_cast<std::size_t>(pace)]; }
 
-    [[nodiscard]] bool isLive() const {
-        return state == Session::Phase::running || state == Session::Phase::paused;
+    [[nodiscard]] bool inRun() const {
+        return phase == Session::Phase::running || phase == Session::Phase::paused;
     }
-    /// The speed buttons are greyed in the middle of a run and while a name is awaited.
-    [[nodiscard]] bool offersPaces() const {
-        return !isLive() && state != Session::Phase::awaitingName;
+    /// The speed buttons are disabled during a run and while a name is awaited.
+    [[nodiscard]] bool canChoosePace() const {
+        return !inRun() && phase != Session::Phase::awaitingName;
     }
-    [[nodiscard]] bool takesKeys() const { return state != Session::Phase::awaitingName && !sheet; }
+    [[nodiscard]] bool handlesKeys() const {
+        return phase != Session::Phase::awaitingName && !showingScores;
+    }
 
-    /// A new session over what the last one has stored.
+    /// Restarts the program: stored values stay.
     void launch() {
-        state = Session::Phase::fresh;
-        sheet = false;
+        phase = Session::Phase::fresh;
+        showingScores = false;
         pace = runPace = scorePace = Pace::classic;
         game = SnakeCore::ReferenceGame(28, 22);
     }
 
     void start() {
-        if (state == Session::Phase::awaitingName || sheet) {
+        if (phase == Session::Phase::awaitingName || showingScores) {
             return;
         }
-        state = Session::Phase::running;
+        phase = Session::Phase::running;
         runPace = pace;
         game = SnakeCore::ReferenceGame(28, 22);
     }
 
     void pause() {
-        if (!isLive() || sheet) {
+        if (!inRun() || showingScores) {
             return;
         }
-        state = state == Session::Phase::running ? Session::Phase::paused : Session::Phase::running;
+        phase = phase == Session::Phase::running ? Session::Phase::paused : Session::Phase::running;
     }
 
-    void leave() {
-        if (state == Session::Phase::running) {
-            state = Session::Phase::paused;
+    void pauseIfRunning() {
+        if (phase == Session::Phase::running) {
+            phase = Session::Phase::paused;
         }
     }
 
     void openScores() {
-        leave();
-        sheet = true;
+        pauseIfRunning();
+        showingScores = true;
         scorePace = pace;
     }
 
     void turn(SnakeCore::Direction direction) {
-        if (state == Session::Phase::running && takesKeys()) {
+        if (phase == Session::Phase::running && handlesKeys()) {
             game.turn(direction);
         }
     }
 
     void space() {
-        if (!takesKeys()) {
+        if (!handlesKeys()) {
             return;
         }
-        if (isLive()) {
+        if (inRun()) {
             pause();
         } else {
             start();
@@ -88,34 +90,34 @@ struct SessionModel {
     }
 
     void escape() {
-        if (takesKeys()) {
-            leave();
+        if (handlesKeys()) {
+            pauseIfRunning();
         }
     }
 
     void restart() {
-        if (takesKeys()) {
+        if (handlesKeys()) {
             start();
         }
     }
 
     void save(bool nameIsBlank) {
-        if (state == Session::Phase::awaitingName && !nameIsBlank) {
-            state = Session::Phase::saved;
+        if (phase == Session::Phase::awaitingName && !nameIsBlank) {
+            phase = Session::Phase::saved;
             ++savedRuns;
         }
     }
 
     void skip() {
-        if (state == Session::Phase::awaitingName) {
-            state = Session::Phase::skipped;
+        if (phase == Session::Phase::awaitingName) {
+            phase = Session::Phase::skipped;
         }
     }
 
-    /// `generator` lays the next fruit somewhere; where the session laid it is for the caller.
+    /// `generator` places the next fruit; the caller must then copy its position from the session.
     template <typename Generator>
     void tick(Generator& generator) {
-        if (state != Session::Phase::running) {
+        if (phase != Session::Phase::running) {
             return;
         }
         const std::int64_t before = game.score;
@@ -125,7 +127,7 @@ struct SessionModel {
             best() = std::max(best(), game.score);
         }
         if (game.ended) {
-            state = Session::Phase::awaitingName;
+            phase = Session::Phase::awaitingName;
             play(SoundEffect::tink);
         }
     }
@@ -133,7 +135,7 @@ struct SessionModel {
 private:
     void play(SoundEffect effect) {
         if (sound) {
-            heard.push_back(effect);
+            played.push_back(effect);
         }
     }
 };

@@ -5,10 +5,10 @@
 #include <QTimer>
 #include <optional>
 #include <ostream>
-#include <string>
 #include <utility>
 #include <vector>
 
+#include "Fernwick/Session/SavedScores.hpp"
 #include "Session/Session.hpp"
 #include "Session/SoundEffects.hpp"
 #include "Storage/PreferencesFile.hpp"
@@ -20,34 +20,27 @@ inline std::ostream& operator<<(std::ostream& out, Session::Phase phase) {
     return out << names[static_cast<int>(phase)];
 }
 
-/// Records the sounds that were played, in order.
-class HeardSounds : public SoundEffects {
+/// Records the played sounds in order.
+class SoundRecorder : public SoundEffects {
 public:
-    void play(SoundEffect effect) override { heard.push_back(effect); }
+    void play(SoundEffect effect) override { played.push_back(effect); }
 
-    std::vector<SoundEffect> heard;
+    std::vector<SoundEffect> played;
 };
 
-/// Names and scores for a high-score table.
-using SavedScores = std::vector<std::pair<std::string, std::int64_t>>;
-
-/// Stores a table with an entry of the pace "Classic" for each of `saved`.
+/// Stores the table of `saved`, if not empty.
 inline Preferences& storeScores(Preferences& preferences, const SavedScores& saved) {
-    SnakeCore::HighScores table;
-    for (const auto& [name, score] : saved) {
-        table.record(SnakeCore::UUID::random(), name, score, "Classic", SnakeCore::Date{0});
-    }
     if (!saved.empty()) {
-        preferences.store("high-scores-v1", QByteArray::fromStdString(table.encoded()));
+        preferences.store("high-scores-v1", QByteArray::fromStdString(scoreTable(saved).encoded()));
     }
     return preferences;
 }
 
-/// A session over a real settings file in a temporary folder. Time passes only when a test fires
-/// the session's timer.
+/// A session with a settings file in a temporary folder. Tests fire its timer explicitly. They
+/// change the session through its operations only.
 class SessionTest : public ::testing::Test {
 protected:
-    /// `saved` is in the settings file before the session reads it.
+    /// Stores `saved` before the session reads the settings file.
     explicit SessionTest(const SavedScores& saved = {})
         : session(storeScores(preferences, saved), sounds,
                   [this](SnakeCore::Game& game) { step(game); }) {}
@@ -56,35 +49,32 @@ protected:
         return folder_.path() / "preferences.cbor";
     }
 
-    /// The settings as a program started now would find them.
-    [[nodiscard]] Storage::PreferencesFile onDisk() const {
+    /// The settings file, read anew.
+    [[nodiscard]] Storage::PreferencesFile storedPreferences() const {
         return Storage::PreferencesFile(settingsPath());
     }
 
     [[nodiscard]] QTimer* timer() const { return session.findChild<QTimer*>(); }
-    [[nodiscard]] bool timerRuns() const { return timer() != nullptr && timer()->isActive(); }
+    [[nodiscard]] bool timerIsActive() const { return timer() != nullptr && timer()->isActive(); }
 
-    /// Fires the session's timer once, even if it has been stopped.
+    /// Fires the timer once, even if it is stopped.
     void fireTimer() const { QMetaObject::invokeMethod(timer(), "timeout"); }
 
-    /// Fires the timer as long as it runs, at most `ticks` times.
-    void letPass(int ticks) const {
-        for (; ticks > 0 && timerRuns(); --ticks) {
+    /// Fires the timer until the snake has hit the wall ahead.
+    void endRun() const {
+        for (std::int64_t tick = 0; tick < Session::columns && timerIsActive(); ++tick) {
             fireTimer();
         }
     }
 
-    /// Runs straight ahead into the wall.
-    void endRun() const { letPass(static_cast<int>(Session::columns)); }
-
-    /// Eats the first fruit, which always lies straight ahead of a fresh snake.
+    /// Fires the timer until the first fruit is eaten, which always lies straight ahead.
     void eatFirstFruit() const {
-        while (timerRuns() && session.game().score() == 0) {
+        while (timerIsActive() && session.game().score() == 0) {
             fireTimer();
         }
     }
 
-    /// Ends a run, which then awaits a name.
+    /// Plays a run to its end, where it awaits a name.
     void startAndEndRun() {
         session.start();
         endRun();
@@ -95,7 +85,7 @@ protected:
         session.saveScore();
     }
 
-    /// Starts a run whose first tick brings it to `game`.
+    /// Starts a run and replaces its game by `game` in the first tick.
     void startRunAt(const SnakeCore::Game& game) {
         session.start();
         next_ = game;
@@ -116,6 +106,6 @@ private:
 
 protected:
     Storage::PreferencesFile preferences{settingsPath()};
-    HeardSounds sounds;
+    SoundRecorder sounds;
     Session session;
 };

@@ -4,21 +4,21 @@ namespace {
 
 class Settings : public SessionTest {
 protected:
-    /// A second session, as the next start of the program would make it.
-    struct NextStart {
-        explicit NextStart(const std::filesystem::path& path) : preferences(path) {}
+    /// A second session over the same settings file, as after a restart of the program.
+    struct NextLaunch {
+        explicit NextLaunch(const std::filesystem::path& path) : preferences(path) {}
 
         Storage::PreferencesFile preferences;
-        HeardSounds sounds;
+        SoundRecorder sounds;
         Session session{preferences, sounds};
     };
 
-    [[nodiscard]] NextStart nextStart() const { return NextStart(settingsPath()); }
+    [[nodiscard]] NextLaunch launchAgain() const { return NextLaunch(settingsPath()); }
 };
 
 }  // namespace
 
-TEST_F(Settings, ofAFirstLaunchAreTheDefaults) {
+TEST_F(Settings, haveDefaultsOnTheFirstLaunch) {
     EXPECT_EQ(session.pace(), Pace::classic);
     EXPECT_EQ(session.best(), 0);
     EXPECT_TRUE(session.sound());
@@ -35,14 +35,14 @@ TEST_F(Settings, ofAFirstLaunchAreTheDefaults) {
     EXPECT_EQ(timer(), nullptr);
 }
 
-TEST_F(Settings, ofAFirstLaunchWriteNothing) {
+TEST_F(Settings, areNotWrittenOnTheFirstLaunch) {
     EXPECT_FALSE(std::filesystem::exists(settingsPath()));
 }
 
-TEST_F(Settings, holdABestForEachPace) {
+TEST_F(Settings, includeABestForEachPace) {
     preferences.store("best-Classic", 250);
     preferences.store("best-Gentle", 30);
-    NextStart next = nextStart();
+    NextLaunch next = launchAgain();
 
     EXPECT_EQ(next.session.best(), 250);
     next.session.choosePace(Pace::gentle);
@@ -51,72 +51,71 @@ TEST_F(Settings, holdABestForEachPace) {
     EXPECT_EQ(next.session.best(), 0);
 }
 
-TEST_F(Settings, giveABestOfZeroForWhatIsNoNumber) {
+TEST_F(Settings, readABestThatIsNotANumberAsZero) {
     preferences.store("best-Classic", QStringLiteral("250"));
 
-    EXPECT_EQ(nextStart().session.best(), 0);
+    EXPECT_EQ(launchAgain().session.best(), 0);
 }
 
-TEST_F(Settings, keepTheSoundSwitchedOff) {
+TEST_F(Settings, restoreASoundThatWasSwitchedOff) {
     session.setSound(false);
 
     EXPECT_FALSE(session.sound());
-    EXPECT_FALSE(nextStart().session.sound());
+    EXPECT_FALSE(launchAgain().session.sound());
 }
 
-TEST_F(Settings, keepTheSoundSwitchedOnAgain) {
+TEST_F(Settings, restoreASoundThatWasSwitchedBackOn) {
     session.setSound(false);
     session.setSound(true);
 
-    EXPECT_TRUE(nextStart().session.sound());
-    EXPECT_EQ(onDisk().boolean("sound"), true);
+    EXPECT_TRUE(launchAgain().session.sound());
+    EXPECT_EQ(storedPreferences().boolean("sound"), true);
 }
 
-TEST_F(Settings, storeNoSoundThatDidNotChange) {
+TEST_F(Settings, areNotWrittenWhenTheSoundDoesNotChange) {
     session.setSound(true);
 
     EXPECT_FALSE(std::filesystem::exists(settingsPath()));
 }
 
-TEST_F(Settings, takeASoundThatIsNoBoolForAbsent) {
+TEST_F(Settings, ignoreASoundThatIsNotABool) {
     for (const QCborValue& stored :
          {QCborValue(QStringLiteral("false")), QCborValue(0), QCborValue(0.0),
           QCborValue(QByteArray("\0", 1)), QCborValue(QCborValue::Null)}) {
         preferences.store("sound", stored);
 
-        EXPECT_TRUE(nextStart().session.sound());
+        EXPECT_TRUE(launchAgain().session.sound());
     }
 }
 
-TEST_F(Settings, offerTheLastNameAgain) {
+TEST_F(Settings, restoreTheLastName) {
     preferences.store("player-name", QStringLiteral("Ada"));
 
-    EXPECT_EQ(nextStart().session.playerName(), "Ada");
+    EXPECT_EQ(launchAgain().session.playerName(), "Ada");
 }
 
-TEST_F(Settings, takeANameThatIsNoTextForAbsent) {
+TEST_F(Settings, ignoreANameThatIsNotText) {
     preferences.store("player-name", QByteArray("Ada"));
 
-    EXPECT_EQ(nextStart().session.playerName(), "");
+    EXPECT_EQ(launchAgain().session.playerName(), "");
 }
 
-TEST_F(Settings, giveAnEmptyTableForBytesThatAreNone) {
+TEST_F(Settings, readInvalidScoreDataAsAnEmptyTable) {
     for (const QCborValue& stored : {QCborValue(QByteArray("[{\"id\":")), QCborValue(QByteArray()),
                                      QCborValue(QStringLiteral("[]")), QCborValue(7)}) {
         preferences.store("high-scores-v1", stored);
 
-        EXPECT_TRUE(nextStart().session.scores().entries().empty());
+        EXPECT_TRUE(launchAgain().session.scores().entries().empty());
     }
 }
 
-TEST_F(Settings, bringASavedRunBackAtTheNextStart) {
+TEST_F(Settings, restoreASavedRunAtTheNextLaunch) {
     session.start();
     eatFirstFruit();
     endRun();
-    session.editName(QStringLiteral("  Ada   Lovelace "));
-    session.saveScore();
+    saveScoreAs("  Ada   Lovelace ");
 
-    const NextStart next = nextStart();
+    const NextLaunch next = launchAgain();
 
     ASSERT_EQ(next.session.scores().entries().size(), 1U);
     EXPECT_EQ(next.session.scores(), session.scores());
@@ -126,9 +125,9 @@ TEST_F(Settings, bringASavedRunBackAtTheNextStart) {
     EXPECT_EQ(next.session.pace(), Pace::classic);
 }
 
-TEST_F(Settings, doNotKeepThePace) {
+TEST_F(Settings, doNotIncludeThePace) {
     session.choosePace(Pace::swift);
     session.start();
 
-    EXPECT_EQ(nextStart().session.pace(), Pace::classic);
+    EXPECT_EQ(launchAgain().session.pace(), Pace::classic);
 }

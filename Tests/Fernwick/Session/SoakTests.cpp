@@ -16,22 +16,23 @@ using SnakeCore::Direction;
 
 namespace {
 
-/// A session and its model, which are told the same and must say the same.
+/// Applies the same random operations to a session and to its model and compares the two.
 class Soak : public testing::Test {
 protected:
     static constexpr double secondsInAnHour = 3600;
 
-    /// Nothing is stored: what this plays through in seconds, a disk would take hours for.
+    /// Kept in memory: writing a file at every change would take hours.
     Storage::PreferencesFile preferences{std::filesystem::path()};
-    HeardSounds sounds;
-    std::optional<Session> launched{std::in_place, preferences, sounds};
+    SoundRecorder sounds;
+    std::optional<Session> session{std::in_place, preferences, sounds};
     SessionModel model;
     std::mt19937_64 random;
     std::size_t endedRuns = 0;
-    /// The states that have been seen, each with and without the sheet.
+    /// The phases reached, with and without the score sheet.
     std::set<std::pair<Session::Phase, bool>> seen;
-    double played = 0;
-    bool plansAhead = false;
+    double secondsPlayed = 0;
+    /// Steers along the closed walk instead of at random.
+    bool followsWalk = false;
 
     [[nodiscard]] bool chance(double probability) {
         return std::bernoulli_distribution(probability)(random);
@@ -41,175 +42,175 @@ protected:
     }
 
     void tick() {
-        QTimer* timer = launched->findChild<QTimer*>();
+        QTimer* timer = session->findChild<QTimer*>();
         if (timer == nullptr) {
             return;
         }
-        // Also while it rests: a firing may be on its way when a run is paused.
+        // Also while paused: a timeout event may already be queued when the run is paused.
         QMetaObject::invokeMethod(timer, "timeout");
-        const bool moved = model.state == Session::Phase::running;
+        const bool wasRunning = model.phase == Session::Phase::running;
         const std::int64_t before = model.game.score;
         model.tick(random);
-        if (moved) {
-            played += std::chrono::duration<double>(timer->intervalAsDuration()).count();
+        if (wasRunning) {
+            secondsPlayed += std::chrono::duration<double>(timer->intervalAsDuration()).count();
         }
         if (model.game.score > before && !model.game.ended) {
-            model.game.food = launched->game().food();
+            model.game.food = session->game().food();
         }
-        endedRuns += moved && model.game.ended ? 1 : 0;
+        endedRuns += wasRunning && model.game.ended ? 1 : 0;
     }
 
     void pressTurn(GameKey key) {
-        EXPECT_EQ(launched->key(key), model.takesKeys());
+        EXPECT_EQ(session->key(key), model.handlesKeys());
         model.turn(static_cast<Direction>(key));
     }
 
     void steer() {
-        if (!plansAhead) {
+        if (!followsWalk) {
             static constexpr std::array keys{GameKey::up, GameKey::down, GameKey::left,
                                              GameKey::right};
             pressTurn(keys[below(keys.size())]);
         } else {
-            pressTurn(static_cast<GameKey>(alongCycle(launched->game())));
+            pressTurn(static_cast<GameKey>(alongCycle(session->game())));
         }
     }
 
     void pressOther() {
         switch (below(3)) {
             case 0:
-                EXPECT_EQ(launched->key(GameKey::space), model.takesKeys());
+                EXPECT_EQ(session->key(GameKey::space), model.handlesKeys());
                 model.space();
                 break;
             case 1:
-                EXPECT_EQ(launched->key(GameKey::escape), model.takesKeys());
+                EXPECT_EQ(session->key(GameKey::escape), model.handlesKeys());
                 model.escape();
                 break;
             default:
-                EXPECT_EQ(launched->key(GameKey::restart), model.takesKeys());
+                EXPECT_EQ(session->key(GameKey::restart), model.handlesKeys());
                 model.restart();
         }
     }
 
     void choosePace() {
-        if (model.offersPaces()) {
+        if (model.canChoosePace()) {
             const Pace pace = allPaces[below(allPaces.size())];
-            launched->choosePace(pace);
+            session->choosePace(pace);
             model.pace = pace;
         }
     }
 
     void saveOrSkip() {
         if (chance(0.5)) {
-            launched->skipSaving();
+            session->skipSaving();
             model.skip();
             return;
         }
         const bool blank = chance(0.3);
-        launched->editName(blank ? QStringLiteral(" \t ") : QStringLiteral(" Ada  Fern "));
-        launched->saveScore();
+        session->editName(blank ? QStringLiteral(" \t ") : QStringLiteral(" Ada  Fern "));
+        session->saveScore();
         model.save(blank);
     }
 
-    void useAControl() {
+    void useControl() {
         switch (below(7)) {
             case 0:
-                launched->start();
+                session->start();
                 model.start();
                 break;
             case 1:
-                launched->pause();
+                session->pause();
                 model.pause();
                 break;
             case 2:
-                launched->openScores();
+                session->openScores();
                 model.openScores();
                 break;
             case 3:
-                launched->closeScores();
-                model.sheet = false;
+                session->closeScores();
+                model.showingScores = false;
                 break;
             case 4:
-                launched->setSound(!launched->sound());
+                session->setSound(!session->sound());
                 model.sound = !model.sound;
                 break;
             case 5:
                 choosePace();
                 break;
             default:
-                // As when another window comes to the front.
-                if (launched->running()) {
-                    launched->pause();
+                // The application is deactivated.
+                if (session->running()) {
+                    session->pause();
                 }
-                model.leave();
+                model.pauseIfRunning();
         }
     }
 
-    void quitAndLaunchAgain() {
-        launched.emplace(preferences, sounds);
+    void restartProgram() {
+        session.emplace(preferences, sounds);
         model.launch();
     }
 
     void act() {
-        const bool moving = model.state == Session::Phase::running;
-        if (moving && chance(0.97)) {
-            if (plansAhead || chance(0.4)) {
+        const bool running = model.phase == Session::Phase::running;
+        if (running && chance(0.97)) {
+            if (followsWalk || chance(0.4)) {
                 steer();
             }
             tick();
             return;
         }
-        plansAhead = chance(0.5);
-        if (model.state == Session::Phase::awaitingName && chance(0.5)) {
+        followsWalk = chance(0.5);
+        if (model.phase == Session::Phase::awaitingName && chance(0.5)) {
             saveOrSkip();
         } else if (chance(0.5)) {
             pressOther();
         } else if (chance(0.1)) {
             tick();
         } else if (chance(0.05)) {
-            quitAndLaunchAgain();
+            restartProgram();
         } else {
-            useAControl();
+            useControl();
         }
     }
 
-    void expectTheSame() {
-        ASSERT_EQ(launched->phase(), model.state);
-        ASSERT_EQ(launched->showingScores(), model.sheet);
-        ASSERT_EQ(launched->pace(), model.pace);
-        ASSERT_EQ(launched->runPace(), model.runPace);
-        ASSERT_EQ(launched->scorePace(), model.scorePace);
-        ASSERT_EQ(launched->sound(), model.sound);
-        ASSERT_EQ(launched->best(), model.best());
-        ASSERT_EQ(launched->scores().entries().size(), model.savedRuns);
-        ASSERT_EQ(sounds.heard, model.heard);
-        ASSERT_TRUE(std::ranges::equal(launched->game().snake(), model.game.snake));
-        ASSERT_EQ(launched->game().food(), model.game.food);
-        ASSERT_EQ(launched->game().direction(), model.game.direction);
-        ASSERT_EQ(launched->game().score(), model.game.score);
-        ASSERT_EQ(launched->game().won(), model.game.won);
-        const QTimer* timer = launched->findChild<QTimer*>();
-        ASSERT_EQ(timer != nullptr && timer->isActive(), model.state == Session::Phase::running);
-        sounds.heard.clear();
-        model.heard.clear();
-        seen.emplace(model.state, model.sheet);
+    void expectEqual() {
+        ASSERT_EQ(session->phase(), model.phase);
+        ASSERT_EQ(session->showingScores(), model.showingScores);
+        ASSERT_EQ(session->pace(), model.pace);
+        ASSERT_EQ(session->runPace(), model.runPace);
+        ASSERT_EQ(session->scorePace(), model.scorePace);
+        ASSERT_EQ(session->sound(), model.sound);
+        ASSERT_EQ(session->best(), model.best());
+        ASSERT_EQ(session->scores().entries().size(), model.savedRuns);
+        ASSERT_EQ(sounds.played, model.played);
+        ASSERT_TRUE(std::ranges::equal(session->game().snake(), model.game.snake));
+        ASSERT_EQ(session->game().food(), model.game.food);
+        ASSERT_EQ(session->game().direction(), model.game.direction);
+        ASSERT_EQ(session->game().score(), model.game.score);
+        ASSERT_EQ(session->game().won(), model.game.won);
+        const QTimer* timer = session->findChild<QTimer*>();
+        ASSERT_EQ(timer != nullptr && timer->isActive(), model.phase == Session::Phase::running);
+        sounds.played.clear();
+        model.played.clear();
+        seen.emplace(model.phase, model.showingScores);
     }
 };
 
 }  // namespace
 
-// FERNWICK_SOAK_HOURS of play, with a random player of FERNWICK_SOAK_SEED.
-TEST_F(Soak, hoursOfPlayByARandomPlayerNeverContradictTheModel) {
+// FERNWICK_SOAK_HOURS sets the hours of play, FERNWICK_SOAK_SEED the random seed.
+TEST_F(Soak, hoursOfRandomPlayMatchTheModel) {
     const double hours = environmentNumber("FERNWICK_SOAK_HOURS", 4);
     const auto seed = static_cast<std::uint64_t>(environmentNumber("FERNWICK_SOAK_SEED", 2026));
     random.seed(seed);
     std::size_t actions = 0;
-    while (played < hours * secondsInAnHour) {
+    while (secondsPlayed < hours * secondsInAnHour) {
         act();
         ++actions;
-        expectTheSame();
+        expectEqual();
         ASSERT_FALSE(HasFailure()) << "after action " << actions << " of seed " << seed;
     }
-    // Six states with and without the sheet, but for a run that moves under it.
+    // All six phases with and without the score sheet, except running with it.
     EXPECT_EQ(seen.size(), 11U);
     std::cout << hours << " h of play, " << actions << " actions, " << endedRuns << " ended runs, "
               << model.savedRuns << " saved, seed " << seed << '\n';

@@ -2,11 +2,11 @@
 
 #include <chrono>
 
-/// Sets the date and time of this process, as a person or a time server would the machine's, for
-/// as long as it lives. Clocks that only count on are left alone.
+/// Shifts the wall clock (CLOCK_REALTIME) of this process for the lifetime of the object. Monotonic
+/// clocks are not affected.
 class WallClock {
 public:
-    explicit WallClock(std::chrono::seconds ahead);
+    explicit WallClock(std::chrono::seconds shift);
     WallClock(const WallClock&) = delete;
     WallClock& operator=(const WallClock&) = delete;
     ~WallClock();

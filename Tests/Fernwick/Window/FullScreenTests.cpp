@@ -10,7 +10,7 @@
 #include "Window/FullScreen.hpp"
 #include "Window/LaunchView.hpp"
 
-TEST(LaunchView, takesItsWindowToFullScreenOnTheTurnAfterItIsShown) {
+TEST(LaunchView, makesItsWindowFullScreenInTheNextEventLoopIteration) {
     QWidget window;
     new LaunchView(&window);
 
@@ -21,7 +21,7 @@ TEST(LaunchView, takesItsWindowToFullScreenOnTheTurnAfterItIsShown) {
     EXPECT_TRUE(window.isFullScreen());
 }
 
-TEST(LaunchView, leavesAWindowThatIsInFullScreenAlready) {
+TEST(LaunchView, leavesAFullScreenWindowAlone) {
     QWidget window;
     new LaunchView(&window);
 
@@ -31,7 +31,7 @@ TEST(LaunchView, leavesAWindowThatIsInFullScreenAlready) {
     EXPECT_TRUE(window.isFullScreen());
 }
 
-TEST(LaunchView, forgetsAWindowThatIsGoneByThen) {
+TEST(LaunchView, doesNothingIfTheWindowIsDestroyedFirst) {
     auto window = std::make_unique<QWidget>();
     new LaunchView(window.get());
     window->show();
@@ -42,7 +42,7 @@ TEST(LaunchView, forgetsAWindowThatIsGoneByThen) {
     EXPECT_TRUE(QApplication::topLevelWidgets().isEmpty());
 }
 
-TEST(LaunchView, asksOnlyOnceEvenWhenMovedOrShownAgain) {
+TEST(LaunchView, requestsFullScreenOnlyOnceEvenIfReparentedOrShownAgain) {
     QWidget window;
     QWidget other;
     auto* view = new LaunchView(&window);
@@ -62,7 +62,7 @@ TEST(LaunchView, asksOnlyOnceEvenWhenMovedOrShownAgain) {
     EXPECT_FALSE(other.isFullScreen());
 }
 
-TEST(LaunchView, doesNotFightAPlayerWhoLeavesFullScreen) {
+TEST(LaunchView, doesNotReenterFullScreenAfterThePlayerLeavesIt) {
     QWidget window;
     new LaunchView(&window);
     window.show();
@@ -76,7 +76,7 @@ TEST(LaunchView, doesNotFightAPlayerWhoLeavesFullScreen) {
 
 namespace {
 
-/// A window that remembers at which sizes it was painted.
+/// Records the window size at every paint event.
 class PaintedWindow : public QWidget {
 public:
     std::vector<QSize> sizes;
@@ -87,7 +87,7 @@ protected:
 
 }  // namespace
 
-TEST(LaunchView, hasItsWindowPaintedInFullScreenOnly) {
+TEST(LaunchView, delaysPaintingUntilTheWindowIsFullScreen) {
     PaintedWindow window;
     window.resize(300, 200);
     new LaunchView(&window);
@@ -98,7 +98,7 @@ TEST(LaunchView, hasItsWindowPaintedInFullScreenOnly) {
     EXPECT_EQ(window.sizes.front(), window.screen()->size());
 }
 
-TEST(LaunchView, hasItsWindowPaintedAlsoWhenTheDesktopGivesItNoNewSize) {
+TEST(LaunchView, paintsEvenIfTheWindowIsNotResized) {
     PaintedWindow window;
     window.setFixedSize(window.screen()->size());
     new LaunchView(&window);
@@ -114,7 +114,7 @@ TEST(ToggleFullScreen, doesNothingWithoutAWindow) {
     EXPECT_TRUE(QApplication::topLevelWidgets().isEmpty());
 }
 
-TEST(ToggleFullScreen, passesOverAMinimisedWindow) {
+TEST(ToggleFullScreen, ignoresAMinimisedWindow) {
     QWidget window;
     window.showMinimized();
     QCoreApplication::processEvents();
@@ -130,7 +130,7 @@ class Window : public WindowTest {};
 
 }  // namespace
 
-TEST_F(Window, isCalledFernwickAndHasNoTitleBar) {
+TEST_F(Window, isTitledFernwickAndFrameless) {
     EXPECT_EQ(window.windowTitle(), "Fernwick");
     EXPECT_EQ(window.objectName(), "main");
     EXPECT_TRUE(window.windowFlags().testFlag(Qt::FramelessWindowHint));
@@ -140,14 +140,14 @@ TEST_F(Window, hasItsDefaultSizeOutsideFullScreen) {
     EXPECT_TRUE(window.isFullScreen());
 
     toggleFullScreen();
-    settle();
+    processEvents();
 
     EXPECT_EQ(window.size(), QSize(940, 860));
 }
 
-TEST_F(Window, refusesToShrinkBelowItsMinimum) {
+TEST_F(Window, cannotShrinkBelowItsMinimumSize) {
     toggleFullScreen();
-    settle();
+    processEvents();
 
     window.resize(300, 200);
 
@@ -155,9 +155,9 @@ TEST_F(Window, refusesToShrinkBelowItsMinimum) {
     EXPECT_EQ(window.size(), QSize(820, 760));
 }
 
-TEST_F(Window, staysOutOfFullScreenThroughARestart) {
+TEST_F(Window, staysOutOfFullScreenWhenANewRunStarts) {
     toggleFullScreen();
-    settle();
+    processEvents();
 
     startRun();
     endRun();

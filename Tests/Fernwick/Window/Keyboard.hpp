@@ -7,17 +7,17 @@
 
 #include "Support/Screen.hpp"
 
-/// Works a window as someone with nothing but a keyboard does.
+/// Operates a window with the keyboard.
 namespace Keyboard {
 
-/// Presses and releases a key the way a keyboard does: whatever has the focus gets it.
+/// Presses and releases a key; the focused widget receives it.
 inline void press(QWidget& window, Qt::Key key, Qt::KeyboardModifiers held = {}) {
     QTest::keyClick(window.windowHandle(), key, held);
     QCoreApplication::processEvents();
     QCoreApplication::processEvents();
 }
 
-/// Every control that Tab (or Backtab) reaches from where the focus is, in order, each once.
+/// The controls that repeated presses of `key` (Tab or Backtab) reach from the current focus.
 [[nodiscard]] inline QList<QWidget*> tabStops(QWidget& window, Qt::Key key = Qt::Key_Tab) {
     QList<QWidget*> stops;
     for (;;) {
@@ -38,7 +38,7 @@ inline void press(QWidget& window, Qt::Key key, Qt::KeyboardModifiers held = {})
     return names;
 }
 
-/// Walks to the control that goes by `name`; tells whether Tab leads there.
+/// Presses Tab until the control called `name` has the focus. False if Tab does not reach it.
 inline bool tabTo(QWidget& window, const QString& name) {
     const qsizetype stops = tabStops(window).size();
     for (qsizetype step = 0; step < stops; ++step) {

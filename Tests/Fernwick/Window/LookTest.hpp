@@ -11,7 +11,7 @@
 #include "Session/Pace.hpp"
 #include "Support/Look.hpp"
 
-/// The window out of full screen, at the size that is the test's parameter.
+/// The window out of full screen at the size given by the test parameter.
 class LookTest : public WindowTest, public ::testing::WithParamInterface<QSize> {
 protected:
     explicit LookTest(const SavedScores& saved = {}) : WindowTest(saved) { resizeTo(GetParam()); }
@@ -21,7 +21,7 @@ protected:
             leaveFullScreen();
         }
         window.resize(size);
-        settle();
+        processEvents();
     }
 
     [[nodiscard]] Garden::TrackedLabel& label(const QString& text) const {
@@ -32,33 +32,35 @@ protected:
         return *found;
     }
 
+    [[nodiscard]] QRect labelRect(const QString& text) const { return rectOf(label(text)); }
+
     void expectLabel(const QString& text, const Look::Type& type, const QColor& colour) const {
         SCOPED_TRACE(text.toStdString());
         Look::expectType(label(text), type);
         EXPECT_EQ(label(text).colour(), colour);
     }
 
-    /// Where the frame of the board stands, in points of the window.
-    [[nodiscard]] QRectF boardFrame() const { return the<BoardArea>().frame(); }
+    /// The frame of the board, in window coordinates.
+    [[nodiscard]] QRectF boardFrame() const { return child<BoardArea>().frame(); }
 
     [[nodiscard]] double cell() const { return boardFrame().width() / 28; }
 
-    /// The middle of a cell of the board, in points of the window.
-    [[nodiscard]] QPointF middleOf(const SnakeCore::Cell& place) const {
-        return boardFrame().topLeft() + cell() * QPointF(static_cast<double>(place.x) + 0.5,
-                                                         static_cast<double>(place.y) + 0.5);
+    /// The centre of a cell of the board, in window coordinates.
+    [[nodiscard]] QPointF centreOf(const SnakeCore::Cell& position) const {
+        return boardFrame().topLeft() + cell() * QPointF(static_cast<double>(position.x) + 0.5,
+                                                         static_cast<double>(position.y) + 0.5);
     }
 
-    /// The window once nothing on it moves any more.
+    /// The window after all animations have finished.
     [[nodiscard]] QImage picture() {
-        EXPECT_TRUE(QTest::qWaitFor([this] { return isStill(); }));
-        return window.grab().toImage();
+        waitForAnimations();
+        return grab();
     }
 };
 
-inline std::string nameOfSize(const ::testing::TestParamInfo<QSize>& size) {
+inline std::string sizeName(const ::testing::TestParamInfo<QSize>& size) {
     return std::to_string(size.param.width()) + "x" + std::to_string(size.param.height());
 }
 
-/// The smallest window and a common screen.
-inline const auto bothSizes = ::testing::Values(QSize(820, 760), QSize(1920, 1080));
+/// The minimum window size and a common screen size.
+inline const auto windowSizes = ::testing::Values(QSize(820, 760), QSize(1920, 1080));

@@ -4,7 +4,6 @@
 #include <QTest>
 #include <QTimer>
 #include <QWindow>
-#include <functional>
 
 #include "Fernwick/Window/Keyboard.hpp"
 #include "Fernwick/Window/WindowTest.hpp"
@@ -14,7 +13,7 @@ namespace {
 constexpr Qt::Key firstMenu = Qt::Key_F10;
 const QStringList fileItems{"New Game", "Quit"};
 
-/// The commands by their shortcuts and through the menus themselves, in and out of full screen.
+/// The commands through their shortcuts and through the menus, in and out of full screen.
 class MenuKeys : public WindowTest, public ::testing::WithParamInterface<bool> {
 protected:
     MenuKeys() {
@@ -25,22 +24,15 @@ protected:
 
     void press(Qt::Key key, Qt::KeyboardModifiers held = {}) { Keyboard::press(window, key, held); }
 
-    void command(Qt::Key key) { press(key, Qt::ControlModifier); }
-
-    void inEveryState(const std::function<void(Session::Phase)>& check) {
-        for (const Session::Phase state : everyState) {
-            SCOPED_TRACE(state);
-            arriveAt(state);
-            check(state);
-        }
-    }
+    void pressCtrl(Qt::Key key) { press(key, Qt::ControlModifier); }
 
     [[nodiscard]] static QMenu* openMenu() {
         return qobject_cast<QMenu*>(QApplication::activePopupWidget());
     }
 
-    /// Walks through the menus to the item that goes by `title`; tells whether the keys lead there.
-    bool walkTo(const QString& title) {
+    /// Moves through the menus with the arrow keys to the item called `title`. False if they do not
+    /// reach it, because it is disabled.
+    bool moveTo(const QString& title) {
         press(firstMenu);
         if (!fileItems.contains(title)) {
             press(Qt::Key_Right);
@@ -56,7 +48,7 @@ protected:
     }
 
     void choose(const QString& title) {
-        ASSERT_TRUE(walkTo(title)) << title.toStdString();
+        ASSERT_TRUE(moveTo(title)) << title.toStdString();
         press(Qt::Key_Return);
         closeMenus();
     }
@@ -68,25 +60,25 @@ protected:
         ASSERT_EQ(openMenu(), nullptr);
     }
 
-    void click(const QWidget& place, const QPoint& position) {
-        QTest::mouseClick(place.window()->windowHandle(), Qt::LeftButton, {},
-                          place.mapTo(place.window(), position));
-        settle();
+    void click(const QWidget& widget, const QPoint& position) {
+        QTest::mouseClick(widget.window()->windowHandle(), Qt::LeftButton, {},
+                          widget.mapTo(widget.window(), position));
+        processEvents();
     }
 
-    /// Opens the menu that holds `title` with the mouse and clicks on the item.
+    /// Opens the menu that contains `title` with the mouse and clicks the item.
     void clickOn(const QString& title) {
-        // In full screen the bar comes when the pointer touches the top edge.
+        // In full screen the menu bar appears when the pointer touches the top edge.
         QTest::mouseMove(window.windowHandle(), QPoint(window.width() / 2, 0));
-        settle();
-        auto& bar = *window.findChild<QMenuBar*>();
+        processEvents();
+        auto& bar = child<QMenuBar>();
         ASSERT_TRUE(bar.isVisible());
-        QAction* head = bar.actions().at(fileItems.contains(title) ? 0 : 1);
-        click(bar, bar.actionGeometry(head).center());
-        ASSERT_EQ(openMenu(), head->menu());
-        for (QAction* item : head->menu()->actions()) {
+        QAction* menuTitle = bar.actions().at(fileItems.contains(title) ? 0 : 1);
+        click(bar, bar.actionGeometry(menuTitle).center());
+        ASSERT_EQ(openMenu(), menuTitle->menu());
+        for (QAction* item : menuTitle->menu()->actions()) {
             if (item->text() == title) {
-                click(*head->menu(), head->menu()->actionGeometry(item).center());
+                click(*menuTitle->menu(), menuTitle->menu()->actionGeometry(item).center());
             }
         }
         closeMenus();
@@ -94,66 +86,66 @@ protected:
 };
 
 INSTANTIATE_TEST_SUITE_P(In, MenuKeys, ::testing::Bool(), [](const auto& fullScreen) {
-    return fullScreen.param ? "FullScreen" : "AWindow";
+    return fullScreen.param ? "FullScreen" : "Window";
 });
 
 }  // namespace
 
-TEST_P(MenuKeys, controlNStartsARunUnlessANameIsAwaited) {
-    inEveryState([this](Session::Phase state) {
+TEST_P(MenuKeys, ctrlNStartsARunUnlessANameIsAwaited) {
+    inEveryPhase([this](Session::Phase phase) {
         const SnakeCore::UUID before = session.runID();
-        command(Qt::Key_N);
-        EXPECT_EQ(session.runID() == before, state == Session::Phase::awaitingName);
-        EXPECT_EQ(session.running(), state != Session::Phase::awaitingName);
+        pressCtrl(Qt::Key_N);
+        EXPECT_EQ(session.runID() == before, phase == Session::Phase::awaitingName);
+        EXPECT_EQ(session.running(), phase != Session::Phase::awaitingName);
     });
 }
 
-TEST_P(MenuKeys, controlLOpensTheSheetInEveryState) {
-    inEveryState([this](Session::Phase state) {
-        command(Qt::Key_L);
+TEST_P(MenuKeys, ctrlLOpensTheScoreSheetInEveryPhase) {
+    inEveryPhase([this](Session::Phase phase) {
+        pressCtrl(Qt::Key_L);
         EXPECT_TRUE(session.showingScores());
         EXPECT_FALSE(session.running());
-        EXPECT_EQ(session.awaitingName(), state == Session::Phase::awaitingName);
+        EXPECT_EQ(session.awaitingName(), phase == Session::Phase::awaitingName);
         press(Qt::Key_Escape);
         EXPECT_FALSE(session.showingScores());
     });
 }
 
-TEST_P(MenuKeys, controlPPausesAndResumesALiveRunOnly) {
-    inEveryState([this](Session::Phase state) {
-        command(Qt::Key_P);
-        EXPECT_EQ(session.phase(), state == Session::Phase::running  ? Session::Phase::paused
-                                   : state == Session::Phase::paused ? Session::Phase::running
-                                                                     : state);
+TEST_P(MenuKeys, ctrlPPausesAndResumesOnlyDuringARun) {
+    inEveryPhase([this](Session::Phase phase) {
+        pressCtrl(Qt::Key_P);
+        EXPECT_EQ(session.phase(), phase == Session::Phase::running  ? Session::Phase::paused
+                                   : phase == Session::Phase::paused ? Session::Phase::running
+                                                                     : phase);
     });
 }
 
-TEST_P(MenuKeys, f11AndControlMetaFToggleFullScreenInEveryState) {
-    inEveryState([this](Session::Phase state) {
+TEST_P(MenuKeys, f11AndCtrlMetaFToggleFullScreenInEveryPhase) {
+    inEveryPhase([this](Session::Phase phase) {
         press(Qt::Key_F11);
         waitForFullScreen(!GetParam());
         press(Qt::Key_F, Qt::ControlModifier | Qt::MetaModifier);
         waitForFullScreen(GetParam());
-        EXPECT_EQ(session.phase(), state);
+        EXPECT_EQ(session.phase(), phase);
     });
 }
 
-TEST_P(MenuKeys, controlQEndsTheProgram) {
-    QTimer::singleShot(0, &window, [this] { command(Qt::Key_Q); });
+TEST_P(MenuKeys, ctrlQQuits) {
+    QTimer::singleShot(0, &window, [this] { pressCtrl(Qt::Key_Q); });
     QTimer::singleShot(5000, &window, [] { QCoreApplication::exit(1); });
 
     EXPECT_EQ(QApplication::exec(), 0);
 }
 
-TEST_P(MenuKeys, underTheSheetStartAndResumeNothing) {
-    pauseRun();
+TEST_P(MenuKeys, commandsNeitherStartNorResumeWhileTheScoreSheetIsOpen) {
+    startAndPauseRun();
     const SnakeCore::UUID run = session.runID();
-    command(Qt::Key_L);
+    pressCtrl(Qt::Key_L);
     for (const Qt::Key key : {Qt::Key_N, Qt::Key_P, Qt::Key_L}) {
-        command(key);
+        pressCtrl(key);
     }
     choose("Resume");
-    EXPECT_FALSE(walkTo("New Game"));
+    EXPECT_FALSE(moveTo("New Game"));
     press(Qt::Key_Return);
     closeMenus();
     clickOn("New Game");
@@ -163,7 +155,7 @@ TEST_P(MenuKeys, underTheSheetStartAndResumeNothing) {
     EXPECT_TRUE(session.showingScores());
 }
 
-TEST_P(MenuKeys, commandsThatAreNoneNeverReachTheGame) {
+TEST_P(MenuKeys, unassignedKeyCombinationsDoNotReachTheGame) {
     startRun();
     const SnakeCore::UUID run = session.runID();
     for (const Qt::KeyboardModifier held :
@@ -179,7 +171,7 @@ TEST_P(MenuKeys, commandsThatAreNoneNeverReachTheGame) {
     EXPECT_EQ(session.game().direction(), SnakeCore::Direction::right);
 }
 
-TEST_P(MenuKeys, theMenusOpenByF10AndCloseByEscape) {
+TEST_P(MenuKeys, f10OpensTheMenusAndEscapeClosesThem) {
     press(firstMenu);
     ASSERT_NE(openMenu(), nullptr);
     EXPECT_EQ(openMenu()->actions().front()->text(), "New Game");
@@ -189,16 +181,16 @@ TEST_P(MenuKeys, theMenusOpenByF10AndCloseByEscape) {
     closeMenus();
 }
 
-TEST_P(MenuKeys, altAloneGoesToTheBar) {
+TEST_P(MenuKeys, altAloneActivatesTheMenuBar) {
     press(Qt::Key_Alt);
 
-    const auto& bar = *window.findChild<QMenuBar*>();
+    const auto& bar = child<QMenuBar>();
     EXPECT_TRUE(bar.isVisible());
     EXPECT_EQ(bar.activeAction(), bar.actions().front());
     closeMenus();
 }
 
-TEST_P(MenuKeys, anOpenMenuKeepsTheKeysFromTheGame) {
+TEST_P(MenuKeys, anOpenMenuKeepsKeysFromTheGame) {
     startRun();
     const SnakeCore::UUID run = session.runID();
     press(firstMenu);
@@ -213,7 +205,7 @@ TEST_P(MenuKeys, anOpenMenuKeepsTheKeysFromTheGame) {
     EXPECT_EQ(session.game().direction(), SnakeCore::Direction::right);
 }
 
-TEST_P(MenuKeys, everyItemIsChosenByTheKeyboard) {
+TEST_P(MenuKeys, everyItemCanBeChosenWithTheKeyboard) {
     choose("New Game");
     EXPECT_EQ(session.phase(), Session::Phase::running);
     choose("Pause");
@@ -230,7 +222,7 @@ TEST_P(MenuKeys, everyItemIsChosenByTheKeyboard) {
     EXPECT_TRUE(session.showingScores());
 }
 
-TEST_P(MenuKeys, everyItemIsChosenByAClick) {
+TEST_P(MenuKeys, everyItemCanBeClicked) {
     clickOn("New Game");
     EXPECT_EQ(session.phase(), Session::Phase::running);
     clickOn("Pause");
@@ -245,11 +237,11 @@ TEST_P(MenuKeys, everyItemIsChosenByAClick) {
     EXPECT_TRUE(session.showingScores());
 }
 
-TEST_P(MenuKeys, newGameIsRefusedInTheMenuWhileANameIsAwaited) {
-    arriveAt(Session::Phase::awaitingName);
+TEST_P(MenuKeys, newGameIsDisabledWhileANameIsAwaited) {
+    enterPhase(Session::Phase::awaitingName);
     const SnakeCore::UUID run = session.runID();
 
-    EXPECT_FALSE(walkTo("New Game"));
+    EXPECT_FALSE(moveTo("New Game"));
     press(Qt::Key_Return);
     closeMenus();
     clickOn("New Game");

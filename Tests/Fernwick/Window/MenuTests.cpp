@@ -9,7 +9,7 @@ namespace {
 class Menus : public WindowTest {
 protected:
     [[nodiscard]] QMenu* menu(const QString& title) const {
-        for (const QAction* action : window.findChild<QMenuBar*>()->actions()) {
+        for (const QAction* action : child<QMenuBar>().actions()) {
             if (action->text() == title) {
                 return action->menu();
             }
@@ -39,15 +39,15 @@ protected:
     void choose(const QString& title) {
         ASSERT_NE(item(title), nullptr) << title.toStdString();
         item(title)->trigger();
-        settle();
+        processEvents();
     }
 
     [[nodiscard]] bool canChoose(const QString& title) const {
         return item(title) != nullptr && item(title)->isEnabled();
     }
 
-    /// What can be chosen in every state but for "New Game" and the title of the pause item.
-    void expectTheUnconditionalItems() const {
+    /// The items that are always enabled, except for "Pause" or "Resume", whose title changes.
+    void expectUnconditionalItemsEnabled() const {
         EXPECT_TRUE(canChoose("Toggle Full Screen"));
         EXPECT_TRUE(canChoose("High Scores"));
         EXPECT_TRUE(canChoose("Sound Effects"));
@@ -57,13 +57,13 @@ protected:
 
 }  // namespace
 
-TEST_F(Menus, holdTheirItemsInOrder) {
+TEST_F(Menus, listTheirItemsInOrder) {
     EXPECT_EQ(titles("File"), QStringList({"New Game", "—", "Quit"}));
     EXPECT_EQ(titles("Game"),
               QStringList({"Toggle Full Screen", "—", "High Scores", "Resume", "Sound Effects"}));
 }
 
-TEST_F(Menus, haveTheirShortcuts) {
+TEST_F(Menus, showShortcuts) {
     EXPECT_EQ(item("New Game")->shortcut(), QKeySequence("Ctrl+N"));
     EXPECT_EQ(item("Quit")->shortcut(), QKeySequence("Ctrl+Q"));
     EXPECT_EQ(item("Toggle Full Screen")->shortcuts(),
@@ -73,62 +73,23 @@ TEST_F(Menus, haveTheirShortcuts) {
     EXPECT_TRUE(item("Sound Effects")->shortcuts().isEmpty());
 }
 
-TEST_F(Menus, ofAFreshGame) {
-    EXPECT_TRUE(canChoose("New Game"));
-    EXPECT_TRUE(canChoose("Resume"));
-    EXPECT_EQ(item("Pause"), nullptr);
-    expectTheUnconditionalItems();
+TEST_F(Menus, enableTheirItemsInEveryPhase) {
+    inEveryPhase([this](Session::Phase phase) {
+        const bool running = phase == Session::Phase::running;
+        EXPECT_EQ(canChoose("New Game"), phase != Session::Phase::awaitingName);
+        EXPECT_TRUE(canChoose(running ? "Pause" : "Resume"));
+        EXPECT_EQ(item(running ? "Resume" : "Pause"), nullptr);
+        expectUnconditionalItemsEnabled();
+    });
 }
 
-TEST_F(Menus, ofARunningGame) {
-    startRun();
-
-    EXPECT_TRUE(canChoose("New Game"));
-    EXPECT_TRUE(canChoose("Pause"));
-    EXPECT_EQ(item("Resume"), nullptr);
-    expectTheUnconditionalItems();
-}
-
-TEST_F(Menus, ofAPausedGame) {
-    pauseRun();
-
-    EXPECT_TRUE(canChoose("New Game"));
-    EXPECT_TRUE(canChoose("Resume"));
-    expectTheUnconditionalItems();
-}
-
-TEST_F(Menus, whileANameIsAwaited) {
-    endRunAwaitingName();
-
+TEST_F(Menus, disableNewGameWhileTheScoreSheetIsOpen) {
+    openScores();
     EXPECT_FALSE(canChoose("New Game"));
-    EXPECT_TRUE(canChoose("Resume"));
-    expectTheUnconditionalItems();
-}
-
-TEST_F(Menus, afterASavedRun) {
-    saveRunAs("Ada");
-
-    EXPECT_TRUE(canChoose("New Game"));
-    EXPECT_TRUE(canChoose("Resume"));
-    expectTheUnconditionalItems();
-}
-
-TEST_F(Menus, afterASkippedRun) {
-    skipRun();
-
-    EXPECT_TRUE(canChoose("New Game"));
-    EXPECT_TRUE(canChoose("Resume"));
-    expectTheUnconditionalItems();
-}
-
-TEST_F(Menus, whileTheSheetIsUp) {
-    session.openScores();
-    settle();
-    EXPECT_FALSE(canChoose("New Game"));
-    expectTheUnconditionalItems();
+    expectUnconditionalItemsEnabled();
 
     session.closeScores();
-    settle();
+    processEvents();
     EXPECT_TRUE(canChoose("New Game"));
 }
 
@@ -152,20 +113,20 @@ TEST_F(Menus, pauseAndResume) {
     EXPECT_TRUE(session.running());
 }
 
-TEST_F(Menus, resumeNothingBeforeTheFirstRun) {
+TEST_F(Menus, doNotResumeBeforeTheFirstRun) {
     choose("Resume");
 
     EXPECT_FALSE(session.started());
 }
 
-TEST_F(Menus, openTheSheet) {
+TEST_F(Menus, openTheScoreSheet) {
     choose("High Scores");
 
     EXPECT_TRUE(session.showingScores());
 }
 
-TEST_F(Menus, openTheSheetWhileANameIsAwaited) {
-    endRunAwaitingName();
+TEST_F(Menus, openTheScoreSheetWhileANameIsAwaited) {
+    playToNameEntry();
 
     choose("High Scores");
 
@@ -179,16 +140,16 @@ TEST_F(Menus, switchTheSoundOffAndOn) {
 
     choose("Sound Effects");
     EXPECT_FALSE(session.sound());
-    EXPECT_EQ(onDisk().boolean("sound"), false);
+    EXPECT_EQ(storedPreferences().boolean("sound"), false);
 
     choose("Sound Effects");
     EXPECT_TRUE(session.sound());
-    EXPECT_EQ(onDisk().boolean("sound"), true);
+    EXPECT_EQ(storedPreferences().boolean("sound"), true);
 }
 
-TEST_F(Menus, followTheSoundSwitchedElsewhere) {
+TEST_F(Menus, showASoundSwitchedElsewhere) {
     session.setSound(false);
-    settle();
+    processEvents();
 
     EXPECT_FALSE(item("Sound Effects")->isChecked());
 }

@@ -11,18 +11,13 @@ protected:
     [[nodiscard]] static QAccessibleInterface& accessible(QObject& object) {
         return *QAccessible::queryAccessibleInterface(&object);
     }
-
-    void openSheet() {
-        session.openScores();
-        settle();
-    }
 };
 
 }  // namespace
 
-TEST_F(WindowAccessibility, theSheetIsAModalDialogWithAName) {
-    openSheet();
-    auto& sheet = accessible(*window.findChild<HighScoresView*>());
+TEST_F(WindowAccessibility, theScoreSheetIsANamedModalDialog) {
+    openScores();
+    auto& sheet = accessible(child<HighScoresView>());
 
     EXPECT_EQ(sheet.role(), QAccessible::Dialog);
     EXPECT_TRUE(sheet.state().modal);
@@ -30,25 +25,25 @@ TEST_F(WindowAccessibility, theSheetIsAModalDialogWithAName) {
     EXPECT_FALSE(sheet.state().invisible);
 
     session.closeScores();
-    settle();
+    processEvents();
     EXPECT_TRUE(sheet.state().invisible);
 }
 
-TEST_F(WindowAccessibility, theFocusGoesIntoTheDialogAndBack) {
-    endRunAwaitingName();
-    openSheet();
-    EXPECT_TRUE(accessible(*window.findChild<HighScoresView*>()).state().focused);
+TEST_F(WindowAccessibility, theFocusMovesIntoTheDialogAndBack) {
+    playToNameEntry();
+    openScores();
+    EXPECT_TRUE(accessible(child<HighScoresView>()).state().focused);
 
     session.closeScores();
-    settle();
-    EXPECT_TRUE(accessible(*window.findChild<NameField*>()).state().focused);
+    processEvents();
+    EXPECT_TRUE(accessible(child<NameField>()).state().focused);
 }
 
-TEST_F(WindowAccessibility, theScoresAreAListOfRows) {
-    saveRunAs("Ada");
+TEST_F(WindowAccessibility, theScoresAreAListOfItems) {
+    playAndSaveAs("Ada");
 
-    EXPECT_EQ(accessible(*window.findChild<ScoreRows*>()).role(), QAccessible::List);
-    auto& row = accessible(*window.findChild<ScoreRow*>());
+    EXPECT_EQ(accessible(child<ScoreRows>()).role(), QAccessible::List);
+    auto& row = accessible(child<ScoreRow>());
     EXPECT_EQ(row.role(), QAccessible::ListItem);
     EXPECT_EQ(row.text(QAccessible::Name), QStringLiteral("01 Ada %1").arg(session.game().score()));
 }

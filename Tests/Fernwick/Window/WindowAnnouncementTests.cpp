@@ -3,33 +3,33 @@
 
 #include "Fernwick/Window/WindowTest.hpp"
 
-// The toolkit keeps silent without a real accessibility bus: these tests bring one along.
+// Qt sends accessibility events only on an AT-SPI bus, which CMakeLists.txt provides.
 
 namespace {
 
-/// What assistive tools are told while this lives.
+/// Records the accessible name changes that Qt sends during the lifetime of the object.
 class Announcements {
 public:
     Announcements() {
-        heard_.clear();
-        previous_ = QAccessible::installUpdateHandler(&hear);
+        names_.clear();
+        previous_ = QAccessible::installUpdateHandler(&record);
     }
     ~Announcements() { QAccessible::installUpdateHandler(previous_); }
     Announcements(const Announcements&) = delete;
     Announcements& operator=(const Announcements&) = delete;
 
-    /// How often something to be seen changed its name to `name`.
-    [[nodiscard]] qsizetype timesNamed(const QString& name) const { return heard_.count(name); }
+    /// How many times a visible widget changed its name to `name`.
+    [[nodiscard]] qsizetype count(const QString& name) const { return names_.count(name); }
 
 private:
-    static void hear(QAccessibleEvent* event) {
+    static void record(QAccessibleEvent* event) {
         auto* widget = qobject_cast<QWidget*>(event->object());
         if (event->type() == QAccessible::NameChanged && widget != nullptr && widget->isVisible()) {
-            heard_.append(event->accessibleInterface()->text(QAccessible::Name));
+            names_.append(event->accessibleInterface()->text(QAccessible::Name));
         }
     }
 
-    static inline QStringList heard_;
+    static inline QStringList names_;
     QAccessible::UpdateHandler previous_ = nullptr;
 };
 
@@ -39,15 +39,9 @@ protected:
         EXPECT_TRUE(QTest::qWaitFor([] { return QAccessible::isActive(); }));
     }
 
-    void save() {
-        session.editName(QStringLiteral("Ada"));
-        session.saveScore();
-        settle();
-    }
-
     void pauseOrResume() {
         session.pause();
-        settle();
+        processEvents();
     }
 };
 
@@ -58,53 +52,54 @@ const QString saved = QStringLiteral("Score saved · Top 10");
 
 }  // namespace
 
-TEST_F(WindowAnnouncements, startingPausingAndGoingOnAreToldOnceEach) {
-    const Announcements told;
+TEST_F(WindowAnnouncements, includeEachStartPauseAndResumeOnce) {
+    const Announcements announcements;
     startRun();
-    EXPECT_EQ(told.timesNamed(moving), 1);
+    EXPECT_EQ(announcements.count(moving), 1);
     pauseOrResume();
-    EXPECT_EQ(told.timesNamed(paused), 1);
+    EXPECT_EQ(announcements.count(paused), 1);
     pauseOrResume();
-    EXPECT_EQ(told.timesNamed(moving), 2);
-    EXPECT_EQ(told.timesNamed(paused), 1);
+    EXPECT_EQ(announcements.count(moving), 2);
+    EXPECT_EQ(announcements.count(paused), 1);
 }
 
-TEST_F(WindowAnnouncements, theEndIsToldOnce) {
-    const Announcements told;
-    endRunAwaitingName();
+TEST_F(WindowAnnouncements, includeTheEndOnce) {
+    const Announcements announcements;
+    playToNameEntry();
 
-    EXPECT_EQ(told.timesNamed(ended), 1);
+    EXPECT_EQ(announcements.count(ended), 1);
 }
 
-TEST_F(WindowAnnouncements, everySaveIsToldOnce) {
-    const Announcements told;
+TEST_F(WindowAnnouncements, includeEverySaveOnce) {
+    const Announcements announcements;
     for (int saves = 1; saves <= 3; ++saves) {
         startRun();
-        endRunAwaitingName();
-        EXPECT_EQ(told.timesNamed(saved), saves - 1);
-        save();
-        EXPECT_EQ(told.timesNamed(saved), saves);
-        EXPECT_EQ(told.timesNamed(ended), saves);
+        playToNameEntry();
+        EXPECT_EQ(announcements.count(saved), saves - 1);
+        saveScoreAs("Ada");
+        processEvents();
+        EXPECT_EQ(announcements.count(saved), saves);
+        EXPECT_EQ(announcements.count(ended), saves);
     }
 }
 
-TEST_F(WindowAnnouncements, aSkipIsNotToldAsASave) {
-    saveRunAs("Ada");
+TEST_F(WindowAnnouncements, doNotReportASkipAsASave) {
+    playAndSaveAs("Ada");
     startRun();
-    endRunAwaitingName();
-    const Announcements told;
-    skipRun();
+    playToNameEntry();
+    const Announcements announcements;
+    playAndSkip();
 
-    EXPECT_EQ(told.timesNamed(saved), 0);
-    EXPECT_EQ(told.timesNamed("Top 10"), 1);
+    EXPECT_EQ(announcements.count(saved), 0);
+    EXPECT_EQ(announcements.count("Top 10"), 1);
 }
 
-TEST_F(WindowAnnouncements, aNewRunTellsNothingOfTheCardThatGoes) {
-    saveRunAs("Ada");
-    const Announcements told;
+TEST_F(WindowAnnouncements, omitTheClosingCardWhenANewRunStarts) {
+    playAndSaveAs("Ada");
+    const Announcements announcements;
     startRun();
 
-    EXPECT_EQ(told.timesNamed("Top 10"), 0);
-    EXPECT_EQ(told.timesNamed(saved), 0);
-    EXPECT_EQ(told.timesNamed(moving), 1);
+    EXPECT_EQ(announcements.count("Top 10"), 0);
+    EXPECT_EQ(announcements.count(saved), 0);
+    EXPECT_EQ(announcements.count(moving), 1);
 }

@@ -8,8 +8,8 @@
 
 namespace {
 
-/// A grip at the rim of the window: which edges it moves, and where it lies as steps of -1, 0 or 1
-/// from the middle.
+/// A resizable edge or corner of the window. `side` is its direction from the centre: -1, 0 or 1
+/// horizontally and vertically.
 struct Grip {
     Qt::Edges edges;
     QPoint side;
@@ -27,74 +27,72 @@ const std::array grips{
     Grip{Qt::LeftEdge | Qt::BottomEdge, {-1, 1}, Qt::SizeBDiagCursor},
 };
 
-/// How a window without a title bar is taken hold of.
 class Chrome : public WindowTest {
 protected:
     Chrome() { leaveFullScreen(); }
 
-    [[nodiscard]] WindowChrome& chrome() const { return *window.findChild<WindowChrome*>(); }
-
-    /// A point on the rim, `inside` points from it.
-    [[nodiscard]] QPoint pointOf(const Grip& grip, int inside) const {
+    /// A point `inset` points inside the border.
+    [[nodiscard]] QPoint pointOf(const Grip& grip, int inset) const {
         const QPoint middle = window.rect().center();
-        const auto along = [inside](int side, int half, int last) {
-            return side == 0 ? half : side < 0 ? inside : last - inside;
+        const auto along = [inset](int side, int half, int last) {
+            return side == 0 ? half : side < 0 ? inset : last - inset;
         };
         return {along(grip.side.x(), middle.x(), window.width() - 1),
                 along(grip.side.y(), middle.y(), window.height() - 1)};
     }
 
-    /// An empty place of the band, right of the menus.
+    /// A point of the title band to the right of the menus.
     [[nodiscard]] QPoint emptyBand() const { return {window.width() / 2, 20}; }
 
-    void doubleClick(const QPoint& place) {
-        QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, {}, place);
-        settle();
+    void doubleClick(const QPoint& position) {
+        QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, {}, position);
+        processEvents();
     }
 
-    [[nodiscard]] bool staysAsItIs() {
-        settle();
+    [[nodiscard]] bool staysNormal() {
+        processEvents();
         return window.windowState() == Qt::WindowNoState;
     }
 };
 
 }  // namespace
 
-TEST_F(Chrome, takesHoldOfTheRimAlone) {
+TEST_F(Chrome, reportsResizeEdgesOnlyAtTheBorder) {
     for (const Grip& grip : grips) {
-        for (const int inside : {0, 5}) {
-            EXPECT_EQ(chrome().edgesAt(pointOf(grip, inside)), grip.edges) << grip.side.x();
+        for (const int inset : {0, 5}) {
+            EXPECT_EQ(child<WindowChrome>().edgesAt(pointOf(grip, inset)), grip.edges)
+                << grip.side.x();
         }
-        EXPECT_EQ(chrome().edgesAt(pointOf(grip, 6)), Qt::Edges());
+        EXPECT_EQ(child<WindowChrome>().edgesAt(pointOf(grip, 6)), Qt::Edges());
     }
-    EXPECT_EQ(chrome().edgesAt(window.rect().center()), Qt::Edges());
+    EXPECT_EQ(child<WindowChrome>().edgesAt(window.rect().center()), Qt::Edges());
 }
 
-TEST_F(Chrome, hasNoGripsInFullScreenAndWhenMaximised) {
+TEST_F(Chrome, reportsNoResizeEdgesInFullScreenOrMaximised) {
     window.showMaximized();
-    settle();
+    processEvents();
     for (const Grip& grip : grips) {
-        EXPECT_EQ(chrome().edgesAt(pointOf(grip, 0)), Qt::Edges());
+        EXPECT_EQ(child<WindowChrome>().edgesAt(pointOf(grip, 0)), Qt::Edges());
     }
     window.showFullScreen();
-    settle();
+    processEvents();
     for (const Grip& grip : grips) {
-        EXPECT_EQ(chrome().edgesAt(pointOf(grip, 0)), Qt::Edges());
+        EXPECT_EQ(child<WindowChrome>().edgesAt(pointOf(grip, 0)), Qt::Edges());
     }
 }
 
-TEST_F(Chrome, tellsByThePointerWhatAGripWouldDo) {
+TEST_F(Chrome, showsAResizeCursorAtEachEdge) {
     for (const Grip& grip : grips) {
         QTest::mouseMove(window.windowHandle(), pointOf(grip, 2));
-        settle();
+        processEvents();
         EXPECT_EQ(window.cursor().shape(), grip.cursor) << grip.side.x() << grip.side.y();
         QTest::mouseMove(window.windowHandle(), window.rect().center());
-        settle();
+        processEvents();
         EXPECT_EQ(window.cursor().shape(), Qt::ArrowCursor);
     }
 }
 
-TEST_F(Chrome, maximisesByADoubleClickOnTheBandAndBack) {
+TEST_F(Chrome, doubleClickOnTheTitleBandMaximisesAndRestores) {
     doubleClick(emptyBand());
     EXPECT_TRUE(QTest::qWaitFor([this] { return window.isMaximized(); }));
 
@@ -102,13 +100,13 @@ TEST_F(Chrome, maximisesByADoubleClickOnTheBandAndBack) {
     EXPECT_TRUE(QTest::qWaitFor([this] { return !window.isMaximized(); }));
 }
 
-TEST_F(Chrome, takesADoubleClickNowhereElse) {
-    const auto& bar = *window.findChild<QMenuBar*>();
+TEST_F(Chrome, doubleClickElsewhereDoesNothing) {
+    const auto& bar = child<QMenuBar>();
     doubleClick(bar.mapTo(&window, bar.rect().center()));
     QTest::keyClick(window.windowHandle(), Qt::Key_Escape);
-    EXPECT_TRUE(staysAsItIs());
+    EXPECT_TRUE(staysNormal());
     doubleClick({window.width() / 2, 60});
-    EXPECT_TRUE(staysAsItIs());
+    EXPECT_TRUE(staysNormal());
 
     window.showFullScreen();
     waitForFullScreen(true);
@@ -116,7 +114,7 @@ TEST_F(Chrome, takesADoubleClickNowhereElse) {
     EXPECT_FALSE(window.isMaximized());
 }
 
-TEST_F(Chrome, leavesTheControlsInTheBandTheirClicks) {
+TEST_F(Chrome, titleBandButtonsReceiveTheirClicks) {
     auto* maximise = button("Maximise");
     QTest::mousePress(window.windowHandle(), Qt::LeftButton, {},
                       maximise->mapTo(&window, maximise->rect().center()));
@@ -124,5 +122,5 @@ TEST_F(Chrome, leavesTheControlsInTheBandTheirClicks) {
     QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, emptyBand());
 
     EXPECT_FALSE(maximise->isDown());
-    EXPECT_TRUE(staysAsItIs());
+    EXPECT_TRUE(staysNormal());
 }

@@ -5,51 +5,53 @@
 #include <cstdlib>
 
 #include "Fernwick/Window/WindowTest.hpp"
+#include "Support/Look.hpp"
 
-// Needs a real screen with a window manager and a pointer of its own.
+// Runs on an X server with a window manager; xdotool moves the pointer.
 
 namespace {
 
 constexpr int dragSteps = 10;
-// What a hand takes from one place to the next, in milliseconds.
-constexpr int handPause = 60;
-// A drag begins only once the pointer has gone some way.
-constexpr int slack = 16;
+// Between two steps of a drag, in milliseconds.
+constexpr int stepPause = 60;
+// How far the window may end up from where it is dragged to: a drag starts only after the pointer
+// has moved some points.
+constexpr int tolerance = 16;
 
-class Drag : public WindowTest {
+class WindowDrag : public WindowTest {
 protected:
-    Drag() {
+    WindowDrag() {
         leaveFullScreen();
-        // With room on every side.
+        // Leaves room on every side.
         window.move(300, 100);
-        EXPECT_TRUE(atRest());
+        EXPECT_TRUE(stopsMoving());
     }
 
-    static void hand(const QStringList& doing) {
-        ASSERT_EQ(QProcess::execute(QStringLiteral("xdotool"), doing), 0);
-        settle();
+    static void xdotool(const QStringList& arguments) {
+        ASSERT_EQ(QProcess::execute(QStringLiteral("xdotool"), arguments), 0);
+        processEvents();
     }
 
-    static void pointAt(const QPoint& place) {
-        hand({"mousemove", QString::number(place.x()), QString::number(place.y())});
+    static void movePointer(const QPoint& position) {
+        xdotool({"mousemove", QString::number(position.x()), QString::number(position.y())});
     }
 
-    /// Holds the left button down over a way that begins at `begin`, in points of the window.
-    void drag(const QPoint& begin, const QPoint& by) {
-        const QPoint from = window.mapToGlobal(begin);
-        pointAt(from);
-        hand({"mousedown", "1"});
+    /// Drags with the left button from `start`, in window coordinates, by `offset`.
+    void drag(const QPoint& start, const QPoint& offset) {
+        const QPoint from = window.mapToGlobal(start);
+        movePointer(from);
+        xdotool({"mousedown", "1"});
         for (int step = 1; step <= dragSteps; ++step) {
-            pointAt(from + by * step / dragSteps);
-            // The window manager takes hold where it is told of the drag.
-            QTest::qWait(handPause);
+            movePointer(from + offset * step / dragSteps);
+            // Gives the window manager time to take over the drag.
+            QTest::qWait(stepPause);
         }
-        // A window hears where it has been moved to only when it is let go.
-        hand({"mouseup", "1"});
+        // The window gets its new position only when the button is released.
+        xdotool({"mouseup", "1"});
     }
 
-    /// Waits until the window manager has done with the window.
-    [[nodiscard]] bool atRest() {
+    /// Waits until the geometry of the window has been constant for 50 ms.
+    [[nodiscard]] bool stopsMoving() {
         QRect before;
         return QTest::qWaitFor([this, &before] {
             const QRect now = window.geometry();
@@ -60,34 +62,24 @@ protected:
         });
     }
 
-    /// Whether the window comes to stand within the slack of `wanted`.
-    [[nodiscard]] bool comesTo(const QRect& wanted) const {
+    /// Waits until the geometry of the window is within the tolerance of `wanted`.
+    [[nodiscard]] bool reaches(const QRect& wanted) const {
         return QTest::qWaitFor([this, wanted] {
             const QRect now = window.geometry();
             const QMargins off(now.left() - wanted.left(), now.top() - wanted.top(),
                                now.right() - wanted.right(), now.bottom() - wanted.bottom());
-            return std::abs(off.left()) <= slack && std::abs(off.top()) <= slack &&
-                   std::abs(off.right()) <= slack && std::abs(off.bottom()) <= slack;
+            return std::abs(off.left()) <= tolerance && std::abs(off.top()) <= tolerance &&
+                   std::abs(off.right()) <= tolerance && std::abs(off.bottom()) <= tolerance;
         });
     }
 
-    [[nodiscard]] std::string place() const {
-        const QRect now = window.geometry();
-        return QStringLiteral("%1,%2 %3x%4")
-            .arg(now.x())
-            .arg(now.y())
-            .arg(now.width())
-            .arg(now.height())
-            .toStdString();
-    }
-
-    static constexpr QPoint way{60, 45};
+    static constexpr QPoint distance{60, 45};
 };
 
-/// Which sides move with the pointer, as -1, 0 and 1.
-class DragAnEdge : public Drag, public ::testing::WithParamInterface<QPoint> {};
+/// The parameter is the edge that is dragged: -1, 0 or 1 horizontally and vertically.
+class EdgeDrag : public WindowDrag, public ::testing::WithParamInterface<QPoint> {};
 
-INSTANTIATE_TEST_SUITE_P(Of, DragAnEdge,
+INSTANTIATE_TEST_SUITE_P(Of, EdgeDrag,
                          ::testing::Values(QPoint(-1, 0), QPoint(1, 0), QPoint(0, -1), QPoint(0, 1),
                                            QPoint(-1, -1), QPoint(1, -1), QPoint(-1, 1),
                                            QPoint(1, 1)),
@@ -101,62 +93,64 @@ INSTANTIATE_TEST_SUITE_P(Of, DragAnEdge,
 
 }  // namespace
 
-TEST_F(Drag, byTheBandMovesTheWindow) {
+TEST_F(WindowDrag, onTheTitleBandMovesTheWindow) {
     const QRect before = window.geometry();
-    drag({window.width() / 2, 20}, way);
+    drag({window.width() / 2, 20}, distance);
 
-    EXPECT_TRUE(comesTo(before.translated(way))) << place();
+    EXPECT_TRUE(reaches(before.translated(distance)))
+        << ::testing::PrintToString(window.geometry());
 }
 
-TEST_F(Drag, belowTheBandMovesNothing) {
+TEST_F(WindowDrag, belowTheTitleBandDoesNotMoveTheWindow) {
     const QRect before = window.geometry();
-    drag({window.width() / 2, 60}, way);
+    drag({window.width() / 2, 60}, distance);
 
-    EXPECT_TRUE(atRest());
+    EXPECT_TRUE(stopsMoving());
     EXPECT_EQ(window.geometry(), before);
 }
 
-TEST_F(Drag, movesNothingInFullScreen) {
+TEST_F(WindowDrag, doesNotMoveAFullScreenWindow) {
     window.showFullScreen();
     waitForFullScreen(true);
     const QRect before = window.geometry();
-    drag({window.width() / 2, 20}, way);
+    drag({window.width() / 2, 20}, distance);
 
-    EXPECT_TRUE(atRest());
+    EXPECT_TRUE(stopsMoving());
     EXPECT_EQ(window.geometry(), before);
 }
 
-TEST_F(Drag, aMereClickHoldsNothing) {
+TEST_F(WindowDrag, doesNotStartFromAClick) {
     const QRect before = window.geometry();
     const QPoint band = window.mapToGlobal(QPoint(window.width() / 2, 20));
-    pointAt(band);
-    hand({"click", "1"});
+    movePointer(band);
+    xdotool({"click", "1"});
     for (int step = 1; step <= dragSteps; ++step) {
-        pointAt(band + way * step / dragSteps);
+        movePointer(band + distance * step / dragSteps);
     }
 
-    EXPECT_TRUE(atRest());
+    EXPECT_TRUE(stopsMoving());
     EXPECT_EQ(window.geometry(), before);
 }
 
-TEST_F(Drag, stopsAtTheSmallestWindow) {
+TEST_F(WindowDrag, stopsAtTheMinimumSize) {
     drag({window.width() - 3, window.height() - 3}, {-400, -400});
 
-    EXPECT_TRUE(QTest::qWaitFor([this] { return window.size() == QSize(820, 760); })) << place();
-    EXPECT_TRUE(atRest());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return window.size() == QSize(820, 760); }))
+        << ::testing::PrintToString(window.geometry());
+    EXPECT_TRUE(stopsMoving());
     EXPECT_EQ(window.size(), QSize(820, 760));
 }
 
-TEST_P(DragAnEdge, movesThatEdgeAlone) {
+TEST_P(EdgeDrag, movesOnlyThatEdge) {
     const QPoint side = GetParam();
     const QRect before = window.geometry();
     const auto along = [](int at, int length) {
         return at == 0 ? length / 2 : at < 0 ? 2 : length - 3;
     };
-    const QPoint outwards(side.x() * way.x(), side.y() * way.y());
+    const QPoint outwards(side.x() * distance.x(), side.y() * distance.y());
     drag({along(side.x(), window.width()), along(side.y(), window.height())}, outwards);
 
     const QRect wanted = before.adjusted(std::min(outwards.x(), 0), std::min(outwards.y(), 0),
                                          std::max(outwards.x(), 0), std::max(outwards.y(), 0));
-    EXPECT_TRUE(comesTo(wanted)) << place();
+    EXPECT_TRUE(reaches(wanted)) << ::testing::PrintToString(window.geometry());
 }

@@ -6,35 +6,45 @@
 #include <QTest>
 #include <algorithm>
 #include <array>
+#include <functional>
 
 #include "Fernwick/Session/SessionTest.hpp"
 #include "Session/KeyMonitor.hpp"
 #include "Support/Screen.hpp"
 #include "Window/GameWindow.hpp"
 
-/// Every state that a game can be in.
-inline constexpr std::array everyState{Session::Phase::fresh,   Session::Phase::running,
-                                       Session::Phase::paused,  Session::Phase::awaitingName,
-                                       Session::Phase::skipped, Session::Phase::saved};
+inline constexpr std::array allPhases{Session::Phase::fresh,   Session::Phase::running,
+                                      Session::Phase::paused,  Session::Phase::awaitingName,
+                                      Session::Phase::skipped, Session::Phase::saved};
 
-/// The whole window around a session whose time passes only when a test lets it.
+/// Whether a run is running or paused in `phase`.
+constexpr bool inRun(Session::Phase phase) {
+    return phase == Session::Phase::running || phase == Session::Phase::paused;
+}
+
+/// Whether no run has begun yet in `phase`, or the last one is saved or skipped.
+constexpr bool betweenRuns(Session::Phase phase) {
+    return !inRun(phase) && phase != Session::Phase::awaitingName;
+}
+
+/// The main window over the session of `SessionTest`.
 class WindowTest : public SessionTest {
 protected:
     explicit WindowTest(const SavedScores& saved = {}) : SessionTest(saved) {
         window.show();
-        settle();
+        processEvents();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
         waitForFullScreen(true);
     }
 
-    /// On a real screen the desktop takes its time over it.
+    /// Under a window manager the change takes a while.
     void waitForFullScreen(bool fullScreen) {
-        const bool hasDesktop = QGuiApplication::platformName() != QStringLiteral("offscreen");
-        EXPECT_TRUE(QTest::qWaitFor([this, fullScreen, hasDesktop] {
-            const bool fills = window.size() == window.screen()->size();
-            return window.isFullScreen() == fullScreen && (!hasDesktop || fills == fullScreen);
+        const bool managed = QGuiApplication::platformName() != QStringLiteral("offscreen");
+        EXPECT_TRUE(QTest::qWaitFor([this, fullScreen, managed] {
+            const bool fillsScreen = window.size() == window.screen()->size();
+            return window.isFullScreen() == fullScreen && (!managed || fillsScreen == fullScreen);
         }));
-        settle();
+        processEvents();
     }
 
     void leaveFullScreen() {
@@ -42,24 +52,44 @@ protected:
         waitForFullScreen(false);
     }
 
-    /// Lets the window follow the session and lay out anew what that changed.
-    static void settle() {
+    /// Twice: layout requests post further events.
+    static void processEvents() {
         QCoreApplication::processEvents();
         QCoreApplication::processEvents();
     }
 
+    [[nodiscard]] bool animationsFinished() const {
+        const auto animations = window.findChildren<QAbstractAnimation*>();
+        return std::ranges::none_of(animations, [](const QAbstractAnimation* animation) {
+            return animation->state() == QAbstractAnimation::Running;
+        });
+    }
+
+    void waitForAnimations() {
+        EXPECT_TRUE(QTest::qWaitFor([this] { return animationsFinished(); }));
+        processEvents();
+    }
+
+    [[nodiscard]] QImage grab() { return window.grab().toImage(); }
+
+    /// The first widget of type `T` in the window.
     template <typename T>
-    [[nodiscard]] T& the() const {
+    [[nodiscard]] T& child() const {
         return *window.findChild<T*>();
     }
 
-    /// Where `widget` stands, in points of `root`.
-    [[nodiscard]] static QRect placeIn(const QWidget& root, const QWidget& widget) {
+    /// The rectangle of `widget` in the coordinates of `root`.
+    [[nodiscard]] static QRect rectIn(const QWidget& root, const QWidget& widget) {
         return {widget.mapTo(&root, QPoint()), widget.size()};
     }
 
-    /// Where `widget` stands, in points of the window.
-    [[nodiscard]] QRect placeOf(const QWidget& widget) const { return placeIn(window, widget); }
+    /// The rectangle of `widget` in the coordinates of the window.
+    [[nodiscard]] QRect rectOf(const QWidget& widget) const { return rectIn(window, widget); }
+
+    template <typename T>
+    [[nodiscard]] QRect rectOf() const {
+        return rectOf(child<T>());
+    }
 
     [[nodiscard]] bool shows(const QString& text) const { return Screen::shows(window, text); }
 
@@ -75,74 +105,80 @@ protected:
     void press(const QString& name) {
         ASSERT_NE(button(name), nullptr) << name.toStdString();
         button(name)->click();
-        settle();
+        processEvents();
     }
 
-    /// Gives the current pace a personal best.
+    /// Stores a best for the pace "Classic" and has the session load it.
     void setBest(std::int64_t best) {
         preferences.store("best-Classic", QCborValue(qint64{best}));
         session.choosePace(Pace::classic);
-        settle();
+        processEvents();
+    }
+
+    void openScores() {
+        session.openScores();
+        processEvents();
     }
 
     void startRun() {
         session.start();
-        settle();
+        processEvents();
     }
 
-    void pauseRun() {
+    void startAndPauseRun() {
         startRun();
         session.pause();
-        settle();
+        processEvents();
     }
 
-    void endRunAwaitingName() {
+    void playToNameEntry() {
         startAndEndRun();
-        settle();
+        processEvents();
     }
 
-    void saveRunAs(const QString& name) {
+    void playAndSaveAs(const QString& name) {
         startAndEndRun();
         saveScoreAs(name);
-        settle();
+        processEvents();
     }
 
-    void skipRun() {
+    void playAndSkip() {
         startAndEndRun();
         session.skipSaving();
-        settle();
+        processEvents();
     }
 
-    [[nodiscard]] bool isStill() const {
-        const auto animations = window.findChildren<QAbstractAnimation*>();
-        return std::none_of(animations.begin(), animations.end(), [](const auto* animation) {
-            return animation->state() == QAbstractAnimation::Running;
-        });
-    }
-
-    /// Brings the game into `state`. Nothing leads back to a fresh game, and a run that awaits a
-    /// name has to be saved or skipped before another.
-    void arriveAt(Session::Phase state) {
-        switch (state) {
+    /// Brings the session into `phase`. Fresh cannot be entered again, and a run that awaits a name
+    /// must be saved or skipped before the next one.
+    void enterPhase(Session::Phase phase) {
+        switch (phase) {
             case Session::Phase::running:
                 startRun();
                 break;
             case Session::Phase::paused:
-                pauseRun();
+                startAndPauseRun();
                 break;
             case Session::Phase::awaitingName:
-                endRunAwaitingName();
+                playToNameEntry();
                 break;
             case Session::Phase::saved:
-                saveRunAs("Ada");
+                playAndSaveAs("Ada");
                 break;
             case Session::Phase::skipped:
-                skipRun();
+                playAndSkip();
                 break;
             case Session::Phase::fresh:
                 break;
         }
-        ASSERT_EQ(session.phase(), state);
+        ASSERT_EQ(session.phase(), phase);
+    }
+
+    void inEveryPhase(const std::function<void(Session::Phase)>& check) {
+        for (const Session::Phase phase : allPhases) {
+            SCOPED_TRACE(phase);
+            enterPhase(phase);
+            check(phase);
+        }
     }
 
     KeyMonitor keyMonitor{session};

@@ -7,12 +7,12 @@
 #include <stdexcept>
 #include <vector>
 
-/// A text as a catalogue holds it.
+/// An entry of a .ts file.
 struct CatalogueEntry {
     QString context;
     QString source;
     QString translation;
-    /// "unfinished", "vanished" or "obsolete"; empty for one that is done.
+    /// "unfinished", "vanished" or "obsolete"; empty for a finished translation.
     QString state;
 };
 
@@ -21,7 +21,7 @@ inline std::ostream& operator<<(std::ostream& out, const CatalogueEntry& entry) 
                << entry.translation.toStdString() << '"';
 }
 
-/// Every text of the catalogue at `path`, in its order.
+/// All entries of the .ts file at `path`, in file order. Throws if it cannot be read.
 [[nodiscard]] inline std::vector<CatalogueEntry> readCatalogue(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {

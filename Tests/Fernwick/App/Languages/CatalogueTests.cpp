@@ -28,7 +28,7 @@ Keys keysOf(const std::vector<CatalogueEntry>& entries) {
     return keys;
 }
 
-/// Every text that the sources ask a translation of, found by the translators' own tool.
+/// Every text marked for translation in the sources, extracted with lupdate.
 Keys textsOfTheSources() {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("fernwick_de.ts"));
@@ -37,7 +37,7 @@ Keys textsOfTheSources() {
         QStringLiteral(LUPDATE),
         {QStringLiteral("-silent"), QStringLiteral(SOURCE_FOLDER), QStringLiteral("-ts"), path});
     if (!lupdate.waitForFinished() || lupdate.exitCode() != 0) {
-        throw std::runtime_error("the tool that reads the sources failed");
+        throw std::runtime_error("lupdate failed");
     }
     return keysOf(readCatalogue(path));
 }
@@ -52,7 +52,6 @@ std::string differenceOf(const Keys& some, const Keys& others) {
     return text;
 }
 
-/// What a number or a name is put in place of.
 const QStringList& placeholders() {
     static const QStringList all{QStringLiteral("%lld"), QStringLiteral("%@")};
     return all;
@@ -70,7 +69,7 @@ bool isInCapitals(const QString& text) {
            std::ranges::none_of(text, [](QChar letter) { return letter.isLower(); });
 }
 
-/// The spaces around the dots of `text`, as a row of lengths.
+/// The number of spaces before and after every part of `text` between middle dots.
 std::vector<qsizetype> spacesAroundDots(const QString& text) {
     std::vector<qsizetype> lengths;
     for (const QString& part : text.split(u'·')) {
@@ -88,38 +87,37 @@ protected:
     std::vector<CatalogueEntry> entries = readCatalogue(pathOf(GetParam()));
 };
 
-INSTANTIATE_TEST_SUITE_P(Languages, Catalogue, ::testing::ValuesIn(everyLanguage()),
-                         nameOfLanguage);
+INSTANTIATE_TEST_SUITE_P(Languages, Catalogue, ::testing::ValuesIn(allLanguages()), languageName);
 
 }  // namespace
 
-TEST(Catalogues, areCarriedInsideTheProgramAllOfThem) {
+TEST(Catalogues, areAllEmbeddedInTheProgram) {
     QStringList files;
-    for (const QString& name : everyLanguage()) {
+    for (const QString& name : allLanguages()) {
         files.append(QStringLiteral("fernwick_%1.ts").arg(name));
     }
     EXPECT_GE(files.size(), 13);
     EXPECT_EQ(files, QDir(QStringLiteral(CATALOGUE_FOLDER)).entryList(QDir::Files, QDir::Name));
 }
 
-TEST(Catalogues, holdEveryTextOfTheSourcesAndNoOther) {
+TEST(Catalogues, containExactlyTheTextsOfTheSources) {
     const Keys wanted = textsOfTheSources();
     ASSERT_GT(wanted.size(), 60U);
-    for (const QString& language : everyLanguage()) {
-        const Keys held = keysOf(readCatalogue(pathOf(language)));
-        EXPECT_EQ(differenceOf(wanted, held), "") << "missing in " << language.toStdString();
-        EXPECT_EQ(differenceOf(held, wanted), "") << "left over in " << language.toStdString();
+    for (const QString& language : allLanguages()) {
+        const Keys present = keysOf(readCatalogue(pathOf(language)));
+        EXPECT_EQ(differenceOf(wanted, present), "") << "missing in " << language.toStdString();
+        EXPECT_EQ(differenceOf(present, wanted), "") << "left over in " << language.toStdString();
     }
 }
 
-TEST_P(Catalogue, isFinished) {
+TEST_P(Catalogue, translatesEveryText) {
     for (const CatalogueEntry& entry : entries) {
         EXPECT_EQ(entry.state, QString()) << entry;
         EXPECT_FALSE(entry.translation.trimmed().isEmpty()) << entry;
     }
 }
 
-TEST_P(Catalogue, keepsEachPlaceholderOnce) {
+TEST_P(Catalogue, keepsAllPlaceholders) {
     for (const CatalogueEntry& entry : entries) {
         for (const QString& placeholder : placeholders()) {
             EXPECT_EQ(entry.translation.count(placeholder), entry.source.count(placeholder))
@@ -129,13 +127,13 @@ TEST_P(Catalogue, keepsEachPlaceholderOnce) {
     }
 }
 
-TEST_P(Catalogue, keepsTheSpacesAroundDotsAndAddsNoneAtTheEnds) {
+TEST_P(Catalogue, keepsTheSpacesAroundDotsAndAtTheEnds) {
     for (const CatalogueEntry& entry : entries) {
         EXPECT_EQ(spacesAroundDots(entry.translation), spacesAroundDots(entry.source)) << entry;
     }
 }
 
-TEST_P(Catalogue, writesCapitalsAsItsLanguageDoes) {
+TEST_P(Catalogue, keepsUpperCaseTextsInUpperCase) {
     const QLocale locale(GetParam());
     for (const CatalogueEntry& entry : entries) {
         const QString translation = withoutPlaceholders(entry.translation);
@@ -145,19 +143,19 @@ TEST_P(Catalogue, writesCapitalsAsItsLanguageDoes) {
     }
 }
 
-TEST_P(Catalogue, saysTheSameOfTheSameInEveryPlace) {
+TEST_P(Catalogue, translatesEqualTextsEqually) {
     std::map<QString, QString> seen;
     for (const CatalogueEntry& entry : entries) {
-        const auto [known, isNew] = seen.emplace(entry.source, entry.translation);
-        EXPECT_EQ(known->second, entry.translation) << entry;
+        const auto [first, isNew] = seen.emplace(entry.source, entry.translation);
+        EXPECT_EQ(first->second, entry.translation) << entry;
     }
 }
 
-TEST_P(Catalogue, isWhatTheGameSpeaks) {
+TEST_P(Catalogue, isLoadedByTheProgram) {
     const Language language(GetParam());
     for (const CatalogueEntry& entry : entries) {
-        const QString spoken = QCoreApplication::translate(entry.context.toUtf8().constData(),
-                                                           entry.source.toUtf8().constData());
-        EXPECT_EQ(spoken, entry.translation) << entry;
+        const QString displayed = QCoreApplication::translate(entry.context.toUtf8().constData(),
+                                                              entry.source.toUtf8().constData());
+        EXPECT_EQ(displayed, entry.translation) << entry;
     }
 }

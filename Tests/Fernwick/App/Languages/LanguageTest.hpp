@@ -7,36 +7,36 @@
 
 inline const QSize smallestWindow(820, 760);
 
-/// The smallest window, out of full screen, in a language that is spoken before any of it is made.
+/// The smallest window, out of full screen. Its texts are in the language that is installed when it
+/// is constructed; see `InstalledLanguage`.
 class LanguageTest : public WindowTest {
 protected:
     LanguageTest() {
         leaveFullScreen();
         window.resize(smallestWindow);
-        settle();
+        processEvents();
     }
-
-    [[nodiscard]] QImage picture() { return window.grab().toImage(); }
 };
 
-/// Speaks a language; to be inherited before a `LanguageTest`.
-struct Speaker {
-    explicit Speaker(const QString& name) : language(name) {}
+/// Installs a language. A fixture inherits it before `LanguageTest`, so that it is constructed
+/// first.
+struct InstalledLanguage {
+    explicit InstalledLanguage(const QString& name) : language(name) {}
 
     Language language;
 };
 
-/// The languages other than English.
-inline const QStringList& everyLanguage() {
+/// All languages but English.
+inline const QStringList& allLanguages() {
     static const QStringList names = Language::translated();
     return names;
 }
 
-inline std::string nameOfLanguage(const ::testing::TestParamInfo<QString>& language) {
+inline std::string languageName(const ::testing::TestParamInfo<QString>& language) {
     return language.param.toStdString();
 }
 
-// Found by the test library, so that a failure tells the language.
+// GoogleTest prints the parameter of a failed test with this.
 inline void PrintTo(const QString& text, std::ostream* out) {
     *out << text.toStdString();
 }

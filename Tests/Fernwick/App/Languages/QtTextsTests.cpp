@@ -8,7 +8,7 @@
 
 namespace {
 
-/// The titles of the menu that a right click on a text field opens; in German, their keys too.
+/// The item titles of the context menu of a name field, each with its shortcut after a tab.
 QStringList titlesOfFieldMenu() {
     NameField field;
     field.setText("Ada");
@@ -22,14 +22,13 @@ QStringList titlesOfFieldMenu() {
     return titles;
 }
 
-class ToolkitTexts : public ::testing::TestWithParam<QString> {};
+class QtTexts : public ::testing::TestWithParam<QString> {};
 
-INSTANTIATE_TEST_SUITE_P(Languages, ToolkitTexts, ::testing::ValuesIn(everyLanguage()),
-                         nameOfLanguage);
+INSTANTIATE_TEST_SUITE_P(Languages, QtTexts, ::testing::ValuesIn(allLanguages()), languageName);
 
 }  // namespace
 
-TEST_P(ToolkitTexts, leaveNoEnglishInTheMenuOfTheNameField) {
+TEST_P(QtTexts, areTranslatedInTheMenuOfTheNameField) {
     const auto titles = [] {
         QStringList all = titlesOfFieldMenu();
         for (QString& title : all) {
@@ -49,7 +48,7 @@ TEST_P(ToolkitTexts, leaveNoEnglishInTheMenuOfTheNameField) {
     }
 }
 
-TEST_P(ToolkitTexts, leaveNoEnglishInWhatIsSaidOfAButton) {
+TEST_P(QtTexts, areTranslatedInTheAccessibleActionOfAButton) {
     const QString english = QAccessibleActionInterface::tr("Press");
     const Language language(GetParam());
     const QString press = QAccessibleActionInterface::pressAction();
@@ -59,7 +58,7 @@ TEST_P(ToolkitTexts, leaveNoEnglishInWhatIsSaidOfAButton) {
     EXPECT_NE(translated, english);
 }
 
-TEST(ToolkitTextsInGerman, nameKeysAsGermanKeyboardsDo) {
+TEST(QtTextsInGerman, useGermanKeyNames) {
     const Language german("de");
 
     EXPECT_EQ(QKeySequence(Qt::CTRL | Qt::Key_N).toString(QKeySequence::NativeText), "Strg+N");

@@ -8,7 +8,7 @@
 #include "Screens/Scores/ScoreRow.hpp"
 #include "SnakeCore/Game.hpp"
 
-// Colours on the finished window, at places that the numbers determine.
+// Colours of pixels of the rendered window, at positions known from the layout.
 
 namespace {
 
@@ -21,15 +21,15 @@ using SnakeCore::Game;
 
 constexpr QColor fruit = Garden::srgb(1.0, 0.52, 0.39);
 constexpr QColor tail = Garden::srgb(0.23, 0.58, 0.40);
-// Dithered ground may be a step off, and so may what is laid over it.
+// Dithering and blending may be off by one step each.
 constexpr int dithered = 2;
 
 class WindowColours : public LookTest {
 protected:
     using LookTest::LookTest;
 
-    /// A run whose snake has just stepped in `direction`.
-    void runTowards(Direction direction) {
+    /// Starts a run whose snake has just moved in `direction`.
+    void startRunTowards(Direction direction) {
         Game game(Session::columns, Session::rows);
         if (direction == Direction::left) {
             game.turn(Direction::up);
@@ -39,27 +39,27 @@ protected:
         game.step();
         ASSERT_EQ(game.direction(), direction);
         startRunAt(game);
-        settle();
+        processEvents();
     }
 
-    /// A place on the board that neither the snake nor the fruit comes near.
-    [[nodiscard]] QPointF emptyGround() const { return middleOf({3, 20}) + QPointF(0, cell() / 2); }
+    /// A point of the board far from the snake and the fruit.
+    [[nodiscard]] QPointF emptyBoard() const { return centreOf({3, 20}) + QPointF(0, cell() / 2); }
 
-    [[nodiscard]] QColor seenAt(const QPointF& point) { return colourAt(picture(), point); }
+    [[nodiscard]] QColor windowColourAt(const QPointF& point) { return colourAt(picture(), point); }
 
-    /// The plate of a row, left of everything that is written on it.
-    [[nodiscard]] QPointF plateOf(const ScoreRow& row) const {
-        return QRectF(placeOf(row)).center() - QPointF(row.width() / 2.0 - 6, 0);
+    /// A point of the background of a row, to the left of its texts.
+    [[nodiscard]] QPointF backgroundOf(const ScoreRow& row) const {
+        return QRectF(rectOf(row)).center() - QPointF(row.width() / 2.0 - 6, 0);
     }
 
-    [[nodiscard]] QPointF fillOf(const QString& button_) const {
-        const QRectF place = placeOf(*button(button_));
+    [[nodiscard]] QPointF fillOf(const QString& buttonName) const {
+        const QRectF place = rectOf(*button(buttonName));
         return {place.left() + 20, place.center().y()};
     }
 
     void expectText(const QString& text, int tolerance) {
         SCOPED_TRACE(text.toStdString());
-        const QRect place = placeOf(label(text));
+        const QRect place = labelRect(text);
         const QImage seen = picture();
         const QColor ground = colourAt(seen, place.topLeft());
         EXPECT_LE(Look::nearestTo(over(label(text).colour(), ground), seen, place), tolerance);
@@ -71,12 +71,12 @@ protected:
     WindowColoursWithASavedScore() : WindowColours({{"Grace", 2000}}) {}
 };
 
-INSTANTIATE_TEST_SUITE_P(Look, WindowColours, bothSizes, nameOfSize);
-INSTANTIATE_TEST_SUITE_P(Look, WindowColoursWithASavedScore, bothSizes, nameOfSize);
+INSTANTIATE_TEST_SUITE_P(Look, WindowColours, windowSizes, sizeName);
+INSTANTIATE_TEST_SUITE_P(Look, WindowColoursWithASavedScore, windowSizes, sizeName);
 
 }  // namespace
 
-TEST_P(WindowColours, lightTheCornerWithMintAndLeaveTheFarSideInTheNight) {
+TEST_P(WindowColours, backgroundFadesFromMintToNight) {
     const QImage seen = picture();
 
     expectColour(colourAt(seen, {0, 0}),
@@ -86,7 +86,7 @@ TEST_P(WindowColours, lightTheCornerWithMintAndLeaveTheFarSideInTheNight) {
     expectColour(colourAt(seen, {window.width() - 3.0, 3}), Garden::night, 1);
 }
 
-TEST_P(WindowColours, strokeTheFrameAlongItsOutline) {
+TEST_P(WindowColours, boardFrameHasAMintOutline) {
     startRun();
     const QImage seen = picture();
     const QPointF innerSide(boardFrame().center().x(), boardFrame().top() + 0.01);
@@ -96,29 +96,29 @@ TEST_P(WindowColours, strokeTheFrameAlongItsOutline) {
                  over(Garden::withOpacity(Garden::mint, 0.16 * covered), Garden::soil), dithered);
 }
 
-TEST_P(WindowColours, dotTheBoardFaintly) {
+TEST_P(WindowColours, boardDotsAreFaintMint) {
     startRun();
     const QImage seen = picture();
 
-    const QColor dot = colourAt(seen, middleOf({3, 18}));
+    const QColor dot = colourAt(seen, centreOf({3, 18}));
     const QColor whole = over(Garden::withOpacity(Garden::mint, 0.12), Garden::soil);
 
-    expectColour(colourAt(seen, emptyGround()), Garden::soil, 1);
+    expectColour(colourAt(seen, emptyBoard()), Garden::soil, 1);
     EXPECT_GT(dot.green(), Garden::soil.green() + 5);
     EXPECT_LE(dot.green(), whole.green() + 1);
 }
 
-TEST_P(WindowColours, paintTheFruitTheTailAndTheHead) {
+TEST_P(WindowColours, fruitTailAndHeadHaveTheirColours) {
     startRun();
     const QImage seen = picture();
     const Game& game = session.game();
 
-    expectColour(colourAt(seen, middleOf(game.food())), fruit, 1);
-    expectColour(colourAt(seen, middleOf(game.snake().back())), tail, dithered);
-    expectColour(colourAt(seen, middleOf(game.snake().front())), Garden::mint, dithered);
+    expectColour(colourAt(seen, centreOf(game.food())), fruit, 1);
+    expectColour(colourAt(seen, centreOf(game.snake().back())), tail, dithered);
+    expectColour(colourAt(seen, centreOf(game.snake().front())), Garden::mint, dithered);
 }
 
-TEST_P(WindowColours, openTheEyesTowardsWhereTheSnakeGoes) {
+TEST_P(WindowColours, eyesLookInTheDirectionOfTheSnake) {
     struct Eyes {
         Direction direction;
         QPointF one;
@@ -130,9 +130,9 @@ TEST_P(WindowColours, openTheEyesTowardsWhereTheSnakeGoes) {
                            Eyes{Direction::right, {0.15, -0.16}, {0.15, 0.16}}};
     for (const Eyes& eyes : table) {
         SCOPED_TRACE(static_cast<int>(eyes.direction));
-        runTowards(eyes.direction);
+        startRunTowards(eyes.direction);
         const QImage seen = picture();
-        const QPointF head = middleOf(session.game().snake().front());
+        const QPointF head = centreOf(session.game().snake().front());
         for (const QPointF& eye : {eyes.one, eyes.other}) {
             EXPECT_LT(colourAt(seen, head + cell() * eye).green(), 110);
             EXPECT_GT(colourAt(seen, head - cell() * eye * 1.8).green(), 150);
@@ -140,72 +140,70 @@ TEST_P(WindowColours, openTheEyesTowardsWhereTheSnakeGoes) {
     }
 }
 
-TEST_P(WindowColours, dimTheIdleBoardUnderTheCards) {
-    expectColour(seenAt(emptyGround()), over(QColor::fromRgbF(0, 0, 0, 0.48F), Garden::soil),
+TEST_P(WindowColours, boardIsDimmedBehindCards) {
+    expectColour(windowColourAt(emptyBoard()), over(QColor::fromRgbF(0, 0, 0, 0.48F), Garden::soil),
                  dithered);
 
-    endRunAwaitingName();
+    playToNameEntry();
 
-    expectColour(seenAt(emptyGround()), over(QColor::fromRgbF(0, 0, 0, 0.65F), Garden::soil),
+    expectColour(windowColourAt(emptyBoard()), over(QColor::fromRgbF(0, 0, 0, 0.65F), Garden::soil),
                  dithered);
 }
 
-TEST_P(WindowColours, writeTheTitlesInTheirColours) {
+TEST_P(WindowColours, titlesHaveTheirColours) {
     expectText("FERNWICK", 12);
     expectText("Find your flow.", 12);
 
-    endRunAwaitingName();
+    playToNameEntry();
 
     expectText("Game over.", 12);
     expectText("Leave your name in the garden.", 30);
 }
 
-TEST_P(WindowColours, writeTheNumbersAndTheRunningDotInMint) {
+TEST_P(WindowColours, numbersAndTheRunningStatusDotAreMint) {
     startRun();
     const QImage seen = picture();
 
-    expectColour(colourAt(seen, QRectF(placeOf(the<Garden::StatusDot>())).center()), Garden::mint,
-                 1);
+    expectColour(colourAt(seen, QRectF(rectOf<Garden::StatusDot>()).center()), Garden::mint, 1);
     EXPECT_LE(Look::nearestTo(Garden::mint, seen, QRectF(window.width() - 140, 60, 102, 50)), 20);
-    pauseRun();
-    expectColour(seenAt(QRectF(placeOf(the<Garden::StatusDot>())).center()), Garden::muted, 1);
+    startAndPauseRun();
+    expectColour(windowColourAt(QRectF(rectOf<Garden::StatusDot>()).center()), Garden::muted, 1);
 }
 
-TEST_P(WindowColours, fillTheMintButtonByItsThreeStates) {
-    endRunAwaitingName();
+TEST_P(WindowColours, mintButtonFillsDifferWhenPressedAndDisabled) {
+    playToNameEntry();
     session.editName(QStringLiteral("Ada"));
-    settle();
-    expectColour(seenAt(fillOf("Save score")), Garden::mint, 1);
-    const QColor ground = seenAt(fillOf("Save score") - QPointF(30, 0));
+    processEvents();
+    expectColour(windowColourAt(fillOf("Save score")), Garden::mint, 1);
+    const QColor ground = windowColourAt(fillOf("Save score") - QPointF(30, 0));
 
     QTest::mousePress(button("Save score"), Qt::LeftButton);
-    const QColor pressed = seenAt(fillOf("Save score"));
+    const QColor pressed = windowColourAt(fillOf("Save score"));
     session.editName(QString());
-    settle();
+    processEvents();
     QTest::mouseRelease(button("Save score"), Qt::LeftButton, {}, QPoint(-40, 0));
 
     expectColour(pressed, over(Garden::withOpacity(Garden::mint, 0.7), ground), dithered);
-    expectColour(seenAt(fillOf("Save score")), over(Garden::withOpacity(Garden::mint, 0.3), ground),
-                 dithered);
+    expectColour(windowColourAt(fillOf("Save score")),
+                 over(Garden::withOpacity(Garden::mint, 0.3), ground), dithered);
 }
 
-TEST_P(WindowColours, layTheSheetInPlainNight) {
-    session.openScores();
-    settle();
-    const QRectF sheet = placeOf(the<HighScoresView>());
+TEST_P(WindowColours, scoreSheetBackgroundIsNight) {
+    openScores();
+    const QRectF sheet = rectOf<HighScoresView>();
 
-    expectColour(seenAt({sheet.left() + 12, sheet.center().y()}), Garden::night, 0);
-    expectColour(seenAt({sheet.right() - 12, sheet.center().y()}), Garden::night, 0);
+    expectColour(windowColourAt({sheet.left() + 12, sheet.center().y()}), Garden::night, 0);
+    expectColour(windowColourAt({sheet.right() - 12, sheet.center().y()}), Garden::night, 0);
 }
 
-TEST_P(WindowColoursWithASavedScore, layEachRowOnAFaintPlateAndTheSavedOneOnMint) {
-    saveRunAs("Ada");
+TEST_P(WindowColoursWithASavedScore, rowsAreFaintWhiteAndTheSavedRowIsMint) {
+    playAndSaveAs("Ada");
     const QList<ScoreRow*> rows = window.findChildren<ScoreRow*>();
     ASSERT_EQ(rows.size(), 2);
-    const QColor ground = seenAt(placeOf(*rows[1]).bottomLeft() + QPointF(6, 30));
+    const QColor ground = windowColourAt(rectOf(*rows[1]).bottomLeft() + QPointF(6, 30));
 
-    expectColour(seenAt(plateOf(*rows[0])), over(Garden::withOpacity(Qt::white, 0.025), ground),
-                 dithered);
-    expectColour(seenAt(plateOf(*rows[1])), over(Garden::withOpacity(Garden::mint, 0.12), ground),
-                 dithered);
+    expectColour(windowColourAt(backgroundOf(*rows[0])),
+                 over(Garden::withOpacity(Qt::white, 0.025), ground), dithered);
+    expectColour(windowColourAt(backgroundOf(*rows[1])),
+                 over(Garden::withOpacity(Garden::mint, 0.12), ground), dithered);
 }

@@ -1,5 +1,5 @@
+#include "Fernwick/Window/Layout.hpp"
 #include "Fernwick/Window/LookTest.hpp"
-#include "Fernwick/Window/Tidiness.hpp"
 #include "Screens/Main/HeaderRow.hpp"
 #include "Screens/Scores/HighScoresView.hpp"
 #include "Screens/Scores/NameField.hpp"
@@ -8,20 +8,10 @@
 
 namespace {
 
-/// In the smallest window everything has to find its room.
+/// Everything has to fit into the smallest window.
 class Fitting : public LookTest {
 protected:
     using LookTest::LookTest;
-
-    void expectTidyWindow() const { Tidiness::expectTidyWindow(window); }
-
-    void expectTidySheet() {
-        session.openScores();
-        settle();
-        Tidiness::expectTidySheet(window);
-        session.closeScores();
-        settle();
-    }
 };
 
 SavedScores tableOfLongNames() {
@@ -45,53 +35,52 @@ protected:
     FittingLongNames() : Fitting(tableOfLongNames()) {}
 };
 
-INSTANTIATE_TEST_SUITE_P(Look, Fitting, ::testing::Values(QSize(820, 760)), nameOfSize);
-INSTANTIATE_TEST_SUITE_P(Look, FittingLongNames, ::testing::Values(QSize(820, 760)), nameOfSize);
+INSTANTIATE_TEST_SUITE_P(Look, Fitting, ::testing::Values(QSize(820, 760)), sizeName);
+INSTANTIATE_TEST_SUITE_P(Look, FittingLongNames, ::testing::Values(QSize(820, 760)), sizeName);
 
 }  // namespace
 
 TEST_P(Fitting, everythingFitsBeforeAndDuringARun) {
-    expectTidyWindow();
+    Layout::expectWindowFits(window);
     startRun();
-    expectTidyWindow();
-    pauseRun();
-    expectTidyWindow();
+    Layout::expectWindowFits(window);
+    startAndPauseRun();
+    Layout::expectWindowFits(window);
 }
 
 TEST_P(Fitting, everythingFitsAfterARun) {
-    endRunAwaitingName();
-    expectTidyWindow();
-    skipRun();
-    expectTidyWindow();
-    saveRunAs(QString(24, u'W'));
-    expectTidyWindow();
+    playToNameEntry();
+    Layout::expectWindowFits(window);
+    playAndSkip();
+    Layout::expectWindowFits(window);
+    playAndSaveAs(QString(24, u'W'));
+    Layout::expectWindowFits(window);
 }
 
-TEST_P(FittingLongNames, everythingFitsUnderAFullTableOfLongNames) {
-    expectTidySheet();
-    skipRun();
-    expectTidyWindow();
+TEST_P(FittingLongNames, everythingFitsWithAFullTable) {
+    Layout::expectScoreSheetFits(session, window);
+    playAndSkip();
+    Layout::expectWindowFits(window);
 }
 
-TEST_P(Fitting, theSheetFitsWithAnEmptyTable) {
-    expectTidySheet();
+TEST_P(Fitting, theScoreSheetFitsWithAnEmptyTable) {
+    Layout::expectScoreSheetFits(session, window);
 }
 
-TEST_P(FittingLongNames, rowsAreAsWideAsTheirBoardWhateverTheNames) {
-    session.openScores();
-    settle();
+TEST_P(FittingLongNames, rowsKeepTheWidthOfTheList) {
+    openScores();
 
-    const auto& rows = *the<HighScoresView>().findChild<ScoreRows*>();
+    const auto& rows = *child<HighScoresView>().findChild<ScoreRows*>();
     const QList<ScoreRow*> shown = rows.findChildren<ScoreRow*>();
     ASSERT_EQ(shown.size(), 10);
     for (const ScoreRow* row : shown) {
-        EXPECT_EQ(placeIn(rows, *row).x(), 0);
+        EXPECT_EQ(rectIn(rows, *row).x(), 0);
         EXPECT_EQ(row->width(), rows.width());
         EXPECT_EQ(row->height(), shown.front()->height());
     }
 }
 
-TEST_P(Fitting, scoresOfOneToSevenDigitsKeepTheTilesApartAndTheRightEdgeStill) {
+TEST_P(Fitting, scoresOfOneToSevenDigitsFitAndStayRightAligned) {
     auto& score = *window.findChildren<Garden::RollingDigits*>().front();
     const int right = window.width() - 38;
     for (const std::int64_t value : {7, 42, 123, 1234, 12345, 123456, 1234567}) {
@@ -99,26 +88,26 @@ TEST_P(Fitting, scoresOfOneToSevenDigitsKeepTheTilesApartAndTheRightEdgeStill) {
         score.setValue(value);
         setBest(value);
 
-        expectTidyWindow();
+        Layout::expectWindowFits(window);
         const QList<Garden::RollingDigits*> both = window.findChildren<Garden::RollingDigits*>();
-        EXPECT_EQ(Look::rightOf(placeOf(*both.back())), right);
-        EXPECT_EQ(the<HeaderRow>().width(), window.width() - 2 * 38);
+        EXPECT_EQ(Look::rightOf(rectOf(*both.back())), right);
+        EXPECT_EQ(child<HeaderRow>().width(), window.width() - 2 * 38);
     }
 }
 
-TEST_P(Fitting, anotherDigitMovesNothingBelowTheHeader) {
+TEST_P(Fitting, moreDigitsMoveNothingBelowTheHeader) {
     const QRectF board = boardFrame();
-    const QRect hint = placeOf(label("or WASD to move"));
+    const QRect hint = labelRect("or WASD to move");
 
     setBest(1234567);
 
     EXPECT_EQ(boardFrame(), board);
-    EXPECT_EQ(placeOf(label("or WASD to move")), hint);
+    EXPECT_EQ(labelRect("or WASD to move"), hint);
 }
 
-TEST_P(Fitting, aNameTooLongForItsFieldStaysInsideThePadding) {
-    endRunAwaitingName();
-    const QRect field = placeOf(the<NameField>());
+TEST_P(Fitting, aLongNameStaysInsideThePaddingOfItsField) {
+    playToNameEntry();
+    const QRect field = rectOf<NameField>();
     const QRect left(field.topLeft() + QPoint(2, 2), QSize(10, field.height() - 4));
     const QRect right = left.translated(field.width() - 14, 0);
     const auto paddingOf = [&](const QImage& seen) {
@@ -131,8 +120,8 @@ TEST_P(Fitting, aNameTooLongForItsFieldStaysInsideThePadding) {
     for (const QString& name :
          {QString(24, u'W'), QStringLiteral("🌿").repeated(24), QString(24, u'م')}) {
         session.editName(name);
-        settle();
-        EXPECT_EQ(placeOf(the<NameField>()), field);
+        processEvents();
+        EXPECT_EQ(rectOf<NameField>(), field);
         EXPECT_EQ(paddingOf(picture()), empty) << name.toStdString();
     }
 }

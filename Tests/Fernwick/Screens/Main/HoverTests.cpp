@@ -8,87 +8,80 @@
 
 namespace {
 
-/// What the window answers to the pointer alone.
 class Hover : public WindowTest {
 protected:
     Hover() { leaveFullScreen(); }
 
     void pointAt(const QWidget& widget) {
         QTest::mouseMove(window.windowHandle(), widget.mapTo(&window, widget.rect().center()));
-        settle();
+        processEvents();
     }
 
-    void pointAtNothing() {
+    void pointAtBackground() {
         QTest::mouseMove(window.windowHandle(), QPoint(20, window.height() / 2));
-        settle();
+        processEvents();
     }
 
-    /// Whether `widget` looks different under the pointer.
-    bool answers(QWidget& widget) {
-        pointAtNothing();
+    /// Whether `widget` is drawn differently while the pointer is over it.
+    bool highlights(QWidget& widget) {
+        pointAtBackground();
         const QImage resting = widget.grab().toImage();
         pointAt(widget);
         const bool differs = widget.grab().toImage() != resting;
-        pointAtNothing();
+        pointAtBackground();
         EXPECT_EQ(widget.grab().toImage(), resting);
         return differs;
     }
 
-    void expectAnswersIn(const QWidget& root) {
-        int asked = 0;
+    void expectHighlightsIn(const QWidget& root) {
+        int checked = 0;
         for (auto* control : root.findChildren<QAbstractButton*>()) {
-            // What is chosen already has nothing to promise.
-            const bool chosen = control->isCheckable() && control->isChecked();
-            if (control->isVisible() && !chosen) {
+            // A choice that is already selected does not highlight.
+            const bool selected = control->isCheckable() && control->isChecked();
+            if (control->isVisible() && !selected) {
                 SCOPED_TRACE(Screen::nameOf(control).toStdString());
-                EXPECT_EQ(answers(*control), control->isEnabled());
-                ++asked;
+                EXPECT_EQ(highlights(*control), control->isEnabled());
+                ++checked;
             }
         }
-        EXPECT_GT(asked, 0);
+        EXPECT_GT(checked, 0);
     }
 };
 
 }  // namespace
 
-TEST_F(Hover, everyControlThatCanBePressedAnswersInEveryState) {
-    for (const Session::Phase state : everyState) {
-        SCOPED_TRACE(state);
-        arriveAt(state);
-        expectAnswersIn(window);
-    }
+TEST_F(Hover, highlightsEveryEnabledControlInEveryPhase) {
+    inEveryPhase([this](Session::Phase) { expectHighlightsIn(window); });
 }
 
-TEST_F(Hover, everyControlOfTheSheetAnswers) {
-    session.openScores();
-    settle();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return isStill(); }));
+TEST_F(Hover, highlightsEveryControlOfTheScoreSheet) {
+    openScores();
+    waitForAnimations();
 
-    expectAnswersIn(*window.findChild<HighScoresView*>());
+    expectHighlightsIn(child<HighScoresView>());
 }
 
-TEST_F(Hover, whatLiesUnderTheSheetDoesNot) {
-    session.openScores();
-    settle();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return isStill(); }));
+TEST_F(Hover, doesNotHighlightControlsBehindTheScoreSheet) {
+    openScores();
+    waitForAnimations();
 
-    EXPECT_FALSE(answers(*button("Let's grow")));
-    EXPECT_FALSE(answers(*button("Toggle sound effects")));
+    EXPECT_FALSE(highlights(*button("Let's grow")));
+    EXPECT_FALSE(highlights(*button("Toggle sound effects")));
 }
 
-TEST_F(Hover, theMenuTitlesAnswer) {
-    auto& bar = *window.findChild<QMenuBar*>();
+TEST_F(Hover, highlightsTheMenuTitles) {
+    auto& bar = child<QMenuBar>();
     const QImage resting = bar.grab().toImage();
     for (QAction* title : bar.actions()) {
         QTest::mouseMove(window.windowHandle(),
                          bar.mapTo(&window, bar.actionGeometry(title).center()));
-        settle();
+        processEvents();
         EXPECT_NE(bar.grab().toImage(), resting) << title->text().toStdString();
     }
 }
 
-TEST_F(Hover, theNameFieldPromisesWriting) {
-    endRunAwaitingName();
+TEST_F(Hover, showsATextCursorOverTheNameField) {
+    playToNameEntry();
 
-    EXPECT_EQ(window.findChild<NameField*>()->cursor().shape(), Qt::IBeamCursor);
+    EXPECT_EQ(child<NameField>().cursor().shape(), Qt::IBeamCursor);
 }

@@ -13,18 +13,18 @@ const std::vector<Qt::Key> gameKeys{Qt::Key_Up,    Qt::Key_Down,   Qt::Key_Left,
                                     Qt::Key_W,     Qt::Key_A,      Qt::Key_S,    Qt::Key_D,
                                     Qt::Key_Space, Qt::Key_Escape, Qt::Key_R};
 
-/// What the keys of the game do while the keyboard is on one of the window's controls.
+/// The keys of the game while a control of the window has the focus.
 class Keys : public WindowTest {
 protected:
-    /// Calls `check` in `state` with the keyboard on each control that Tab reaches, one by one.
-    void onEveryControl(Session::Phase state, const std::function<void()>& check) {
-        arriveAt(state);
+    /// Calls `check` in `phase` for every control that Tab reaches, with the focus on it.
+    void onEveryControl(Session::Phase phase, const std::function<void()>& check) {
+        enterPhase(phase);
         leaveFullScreen();
         const QStringList names = Keyboard::namesOf(Keyboard::tabStops(window));
         ASSERT_GE(names.size(), 5);
         for (const QString& name : names) {
             SCOPED_TRACE(name.toStdString());
-            arriveAt(state);
+            enterPhase(phase);
             ASSERT_TRUE(Keyboard::tabTo(window, name));
             check();
         }
@@ -32,7 +32,7 @@ protected:
 
     void press(Qt::Key key) { Keyboard::press(window, key); }
 
-    /// Expects that no control has taken a press for its own.
+    /// Expects that no control has handled a key.
     void expectNoControlPressed() const {
         EXPECT_TRUE(session.sound());
         EXPECT_FALSE(session.showingScores());
@@ -42,7 +42,7 @@ protected:
     }
 };
 
-/// The same before the first run, which each session has only once.
+/// A session cannot return to the phase before the first run, so each test has one control.
 class KeysBeforeTheFirstRun : public Keys, public ::testing::WithParamInterface<const char*> {
 protected:
     KeysBeforeTheFirstRun() {
@@ -64,21 +64,21 @@ INSTANTIATE_TEST_SUITE_P(On, KeysBeforeTheFirstRun,
 
 }  // namespace
 
-TEST_P(KeysBeforeTheFirstRun, spaceStartsIt) {
+TEST_P(KeysBeforeTheFirstRun, spaceStartsARun) {
     press(Qt::Key_Space);
 
     EXPECT_EQ(session.phase(), Session::Phase::running);
     expectNoControlPressed();
 }
 
-TEST_P(KeysBeforeTheFirstRun, rStartsIt) {
+TEST_P(KeysBeforeTheFirstRun, rStartsARun) {
     press(Qt::Key_R);
 
     EXPECT_EQ(session.phase(), Session::Phase::running);
     expectNoControlPressed();
 }
 
-TEST_P(KeysBeforeTheFirstRun, theOthersDoNothing) {
+TEST_P(KeysBeforeTheFirstRun, directionsAndEscapeDoNothing) {
     for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_Left, Qt::Key_Right, Qt::Key_W,
                               Qt::Key_A, Qt::Key_S, Qt::Key_D, Qt::Key_Escape}) {
         press(key);
@@ -89,7 +89,7 @@ TEST_P(KeysBeforeTheFirstRun, theOthersDoNothing) {
     expectNoControlPressed();
 }
 
-TEST_F(Keys, spaceTakesABreathOnEveryControl) {
+TEST_F(Keys, spacePausesWhateverHasTheFocus) {
     onEveryControl(Session::Phase::running, [this] {
         press(Qt::Key_Space);
 
@@ -98,7 +98,7 @@ TEST_F(Keys, spaceTakesABreathOnEveryControl) {
     });
 }
 
-TEST_F(Keys, spaceGoesOnWithTheSameRunOnEveryControl) {
+TEST_F(Keys, spaceResumesTheSameRunWhateverHasTheFocus) {
     onEveryControl(Session::Phase::paused, [this] {
         const SnakeCore::UUID run = session.runID();
         press(Qt::Key_Space);
@@ -109,9 +109,9 @@ TEST_F(Keys, spaceGoesOnWithTheSameRunOnEveryControl) {
     });
 }
 
-TEST_F(Keys, spacePlaysAgainOnEveryControl) {
-    for (const Session::Phase settled : {Session::Phase::saved, Session::Phase::skipped}) {
-        onEveryControl(settled, [this] {
+TEST_F(Keys, spaceStartsANewRunAfterTheEndWhateverHasTheFocus) {
+    for (const Session::Phase ended : {Session::Phase::saved, Session::Phase::skipped}) {
+        onEveryControl(ended, [this] {
             const SnakeCore::UUID run = session.runID();
             press(Qt::Key_Space);
 
@@ -122,10 +122,10 @@ TEST_F(Keys, spacePlaysAgainOnEveryControl) {
     }
 }
 
-TEST_F(Keys, rBeginsAnewOnEveryControl) {
-    for (const Session::Phase state : {Session::Phase::running, Session::Phase::paused,
+TEST_F(Keys, rStartsANewRunWhateverHasTheFocus) {
+    for (const Session::Phase phase : {Session::Phase::running, Session::Phase::paused,
                                        Session::Phase::saved, Session::Phase::skipped}) {
-        onEveryControl(state, [this] {
+        onEveryControl(phase, [this] {
             const SnakeCore::UUID run = session.runID();
             press(Qt::Key_R);
 
@@ -136,7 +136,7 @@ TEST_F(Keys, rBeginsAnewOnEveryControl) {
     }
 }
 
-TEST_F(Keys, escapeOnlyPausesOnEveryControl) {
+TEST_F(Keys, escapePausesAndNeverResumesWhateverHasTheFocus) {
     onEveryControl(Session::Phase::running, [this] {
         press(Qt::Key_Escape);
         EXPECT_EQ(session.phase(), Session::Phase::paused);
@@ -147,7 +147,7 @@ TEST_F(Keys, escapeOnlyPausesOnEveryControl) {
     });
 }
 
-TEST_F(Keys, arrowsTurnTheSnakeAndMoveNoFocus) {
+TEST_F(Keys, arrowsTurnTheSnakeWithoutMovingTheFocus) {
     onEveryControl(Session::Phase::running, [this] {
         const QWidget* const focus = QApplication::focusWidget();
         press(Qt::Key_Up);
@@ -162,9 +162,9 @@ TEST_F(Keys, arrowsTurnTheSnakeAndMoveNoFocus) {
     });
 }
 
-TEST_F(Keys, arrowsDoNothingWhereNoSnakeMoves) {
-    for (const Session::Phase state : {Session::Phase::paused, Session::Phase::skipped}) {
-        onEveryControl(state, [this, state] {
+TEST_F(Keys, directionsDoNothingWhenNoRunIsRunning) {
+    for (const Session::Phase phase : {Session::Phase::paused, Session::Phase::skipped}) {
+        onEveryControl(phase, [this, phase] {
             const QWidget* const focus = QApplication::focusWidget();
             const SnakeCore::Game before = session.game();
             for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_Left, Qt::Key_Right,
@@ -172,7 +172,7 @@ TEST_F(Keys, arrowsDoNothingWhereNoSnakeMoves) {
                 press(key);
             }
 
-            EXPECT_EQ(session.phase(), state);
+            EXPECT_EQ(session.phase(), phase);
             EXPECT_EQ(session.game(), before);
             EXPECT_EQ(QApplication::focusWidget(), focus);
             expectNoControlPressed();
@@ -180,30 +180,30 @@ TEST_F(Keys, arrowsDoNothingWhereNoSnakeMoves) {
     }
 }
 
-TEST_F(Keys, returnDoesNothingWhileNoControlHasTheFocus) {
-    for (const Session::Phase state : {Session::Phase::running, Session::Phase::paused,
+TEST_F(Keys, returnDoesNothingWithoutAFocusedControl) {
+    for (const Session::Phase phase : {Session::Phase::running, Session::Phase::paused,
                                        Session::Phase::saved, Session::Phase::skipped}) {
-        arriveAt(state);
+        enterPhase(phase);
         window.setFocus();
         for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
             press(key);
         }
-        EXPECT_EQ(session.phase(), state);
+        EXPECT_EQ(session.phase(), phase);
     }
 }
 
-TEST_F(Keys, belongToTheNameFieldWhileANameIsAwaited) {
-    arriveAt(Session::Phase::awaitingName);
+TEST_F(Keys, goToTheNameFieldWhileANameIsAwaited) {
+    enterPhase(Session::Phase::awaitingName);
     for (const Qt::Key key : gameKeys) {
         press(key);
     }
 
     EXPECT_EQ(session.phase(), Session::Phase::awaitingName);
     EXPECT_EQ(session.playerName(), "wasd r");
-    EXPECT_TRUE(window.findChild<NameField*>()->hasFocus());
+    EXPECT_TRUE(child<NameField>().hasFocus());
 }
 
-TEST_F(Keys, startNoRunWhileANameIsAwaitedWhateverHasTheFocus) {
+TEST_F(Keys, doNotStartARunWhileANameIsAwaitedWhateverHasTheFocus) {
     onEveryControl(Session::Phase::awaitingName, [this] {
         const SnakeCore::UUID run = session.runID();
         for (const Qt::Key key : {Qt::Key_R, Qt::Key_Escape, Qt::Key_Up, Qt::Key_A}) {
@@ -212,20 +212,20 @@ TEST_F(Keys, startNoRunWhileANameIsAwaitedWhateverHasTheFocus) {
         EXPECT_EQ(session.phase(), Session::Phase::awaitingName);
         EXPECT_EQ(session.runID(), run);
         session.editName(QString());
-        settle();
+        processEvents();
     });
 }
 
-TEST_F(Keys, spacePressesTheButtonsOfTheForm) {
-    arriveAt(Session::Phase::awaitingName);
+TEST_F(Keys, spacePressesTheFocusedButtonOfTheNameForm) {
+    enterPhase(Session::Phase::awaitingName);
     session.editName(QStringLiteral("Ada"));
-    settle();
+    processEvents();
     ASSERT_TRUE(Keyboard::tabTo(window, "Save score"));
     press(Qt::Key_Space);
     EXPECT_EQ(session.phase(), Session::Phase::saved);
 
-    arriveAt(Session::Phase::running);
-    arriveAt(Session::Phase::awaitingName);
+    enterPhase(Session::Phase::running);
+    enterPhase(Session::Phase::awaitingName);
     ASSERT_TRUE(Keyboard::tabTo(window, "Skip saving"));
     press(Qt::Key_Space);
     EXPECT_EQ(session.phase(), Session::Phase::skipped);

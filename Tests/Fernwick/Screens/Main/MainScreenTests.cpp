@@ -4,22 +4,20 @@ namespace {
 
 class MainScreen : public WindowTest {};
 
-const QStringList speeds{"Gentle", "Classic", "Swift"};
-
 }  // namespace
 
-TEST_F(MainScreen, namesTheGame) {
+TEST_F(MainScreen, showsTheTitleAndTagline) {
     EXPECT_TRUE(shows("FERNWICK"));
     EXPECT_TRUE(shows("A little room to grow."));
 }
 
-TEST_F(MainScreen, tellsTheKeys) {
+TEST_F(MainScreen, showsTheKeyHints) {
     EXPECT_TRUE(shows("↑ ↓ ← →"));
     EXPECT_TRUE(shows("or WASD to move"));
     EXPECT_TRUE(shows("·   SPACE to pause   ·   R to restart"));
 }
 
-TEST_F(MainScreen, invitesBeforeTheFirstRun) {
+TEST_F(MainScreen, showsTheStartCardBeforeTheFirstRun) {
     EXPECT_TRUE(shows("THE CLASSIC, REPLANTED"));
     EXPECT_TRUE(shows("Find your flow."));
     EXPECT_TRUE(shows("Gather the fruit. Grow a little longer. Stay curious."));
@@ -27,7 +25,7 @@ TEST_F(MainScreen, invitesBeforeTheFirstRun) {
     EXPECT_TRUE(shows("PRESS SPACE"));
 }
 
-TEST_F(MainScreen, showsNoCardWhileTheSnakeMoves) {
+TEST_F(MainScreen, showsNoCardWhileRunning) {
     startRun();
 
     EXPECT_TRUE(shows("IN THE FLOW"));
@@ -36,8 +34,8 @@ TEST_F(MainScreen, showsNoCardWhileTheSnakeMoves) {
     EXPECT_FALSE(shows("Game over."));
 }
 
-TEST_F(MainScreen, offersToGoOnWhilePaused) {
-    pauseRun();
+TEST_F(MainScreen, showsThePauseCardWhilePaused) {
+    startAndPauseRun();
 
     EXPECT_TRUE(shows("TAKE A BREATH"));
     EXPECT_TRUE(shows("No rush."));
@@ -47,7 +45,7 @@ TEST_F(MainScreen, offersToGoOnWhilePaused) {
 }
 
 TEST_F(MainScreen, showsTheGameOverCardAfterTheEnd) {
-    endRunAwaitingName();
+    playToNameEntry();
 
     EXPECT_TRUE(shows("ANOTHER CHANCE TO GROW"));
     EXPECT_TRUE(shows("Game over."));
@@ -62,7 +60,7 @@ TEST_F(MainScreen, startsTheFirstRunFromTheCard) {
 }
 
 TEST_F(MainScreen, resumesFromTheCard) {
-    pauseRun();
+    startAndPauseRun();
     const SnakeCore::UUID run = session.runID();
 
     press("Keep growing");
@@ -71,46 +69,15 @@ TEST_F(MainScreen, resumesFromTheCard) {
     EXPECT_EQ(session.runID(), run);
 }
 
-TEST_F(MainScreen, letsTheSpeedBeChosenBeforeTheFirstRun) {
-    for (const QString& speed : speeds) {
-        EXPECT_TRUE(canPress(speed)) << speed.toStdString();
-    }
+TEST_F(MainScreen, enablesTheSpeedsOnlyBetweenRuns) {
+    inEveryPhase([this](Session::Phase phase) {
+        for (const char* speed : {"Gentle", "Classic", "Swift"}) {
+            EXPECT_EQ(canPress(speed), betweenRuns(phase)) << speed;
+        }
+    });
 }
 
-TEST_F(MainScreen, keepsTheSpeedWhileARunIsLive) {
-    startRun();
-    for (const QString& speed : speeds) {
-        EXPECT_FALSE(canPress(speed)) << speed.toStdString();
-    }
-
-    session.pause();
-    settle();
-    for (const QString& speed : speeds) {
-        EXPECT_FALSE(canPress(speed)) << speed.toStdString();
-    }
-}
-
-TEST_F(MainScreen, keepsTheSpeedWhileANameIsAwaited) {
-    endRunAwaitingName();
-
-    for (const QString& speed : speeds) {
-        EXPECT_FALSE(canPress(speed)) << speed.toStdString();
-    }
-}
-
-TEST_F(MainScreen, letsTheSpeedBeChosenOnceTheNameIsSettled) {
-    skipRun();
-    for (const QString& speed : speeds) {
-        EXPECT_TRUE(canPress(speed)) << speed.toStdString();
-    }
-
-    saveRunAs("Ada");
-    for (const QString& speed : speeds) {
-        EXPECT_TRUE(canPress(speed)) << speed.toStdString();
-    }
-}
-
-TEST_F(MainScreen, showsTheBestOfTheSpeedThatIsChosen) {
+TEST_F(MainScreen, loadsTheBestOfTheChosenSpeed) {
     preferences.store("best-Swift", 70);
 
     press("Swift");
@@ -121,21 +88,12 @@ TEST_F(MainScreen, showsTheBestOfTheSpeedThatIsChosen) {
     EXPECT_FALSE(button("Classic")->isChecked());
 }
 
-TEST_F(MainScreen, offersThePauseButtonOnlyInALiveRun) {
-    EXPECT_FALSE(canPress("Pause or resume"));
-    startRun();
-    EXPECT_TRUE(canPress("Pause or resume"));
-    session.pause();
-    settle();
-    EXPECT_TRUE(canPress("Pause or resume"));
-    endRunAwaitingName();
-    EXPECT_FALSE(canPress("Pause or resume"));
-    session.skipSaving();
-    settle();
-    EXPECT_FALSE(canPress("Pause or resume"));
+TEST_F(MainScreen, enablesThePauseButtonOnlyDuringARun) {
+    inEveryPhase(
+        [this](Session::Phase phase) { EXPECT_EQ(canPress("Pause or resume"), inRun(phase)); });
 }
 
-TEST_F(MainScreen, pausesAndResumesByTheButton) {
+TEST_F(MainScreen, pausesAndResumesWithTheButton) {
     startRun();
 
     press("Pause or resume");
@@ -144,17 +102,17 @@ TEST_F(MainScreen, pausesAndResumesByTheButton) {
     EXPECT_TRUE(session.running());
 }
 
-TEST_F(MainScreen, switchesTheSoundByTheButton) {
+TEST_F(MainScreen, togglesTheSoundWithTheButton) {
     press("Toggle sound effects");
     EXPECT_FALSE(session.sound());
-    EXPECT_EQ(onDisk().boolean("sound"), false);
+    EXPECT_EQ(storedPreferences().boolean("sound"), false);
 
     press("Toggle sound effects");
     EXPECT_TRUE(session.sound());
-    EXPECT_EQ(onDisk().boolean("sound"), true);
+    EXPECT_EQ(storedPreferences().boolean("sound"), true);
 }
 
-TEST_F(MainScreen, opensTheSheetByTheButtonAndPauses) {
+TEST_F(MainScreen, pausesAndOpensTheScoreSheetWithTheButton) {
     startRun();
 
     press("High scores");
@@ -164,12 +122,12 @@ TEST_F(MainScreen, opensTheSheetByTheButtonAndPauses) {
     EXPECT_TRUE(shows("The high scores."));
 }
 
-TEST_F(MainScreen, readsOutTheBoardWithItsScore) {
+TEST_F(MainScreen, exposesTheBoardWithItsScoreToScreenReaders) {
     EXPECT_TRUE(shows("Snake board. Score 0. Use arrow keys or W A S D to move."));
 
     session.start();
     eatFirstFruit();
-    settle();
+    processEvents();
 
     EXPECT_TRUE(shows("Snake board. Score 10. Use arrow keys or W A S D to move."));
 }

@@ -6,10 +6,10 @@
 
 namespace {
 
-const QStringList marks{"Minimise", "Maximise", "Close"};
-const QStringList speedStops{"Gentle", "Classic", "Swift"};
-const QStringList icons{"High scores", "Toggle sound effects"};
-const QStringList pauseIcon{"Pause or resume"};
+const QStringList windowButtons{"Minimise", "Maximise", "Close"};
+const QStringList speeds{"Gentle", "Classic", "Swift"};
+const QStringList iconButtons{"High scores", "Toggle sound effects"};
+const QStringList pauseButton{"Pause or resume"};
 
 class TabOrder : public LookTest {
 protected:
@@ -19,25 +19,25 @@ protected:
         const QList<QWidget*> stops = Keyboard::tabStops(window);
         EXPECT_EQ(Keyboard::namesOf(stops), names)
             << Keyboard::namesOf(stops).join(", ").toStdString();
-        expectInTheOrderOfSight(stops);
-        expectTheSameBackwards(names);
+        expectVisualOrder(stops);
+        expectSameBackwards(names);
     }
 
-    /// Shift and Tab lead the other way round, from wherever the focus is.
-    void expectTheSameBackwards(QStringList names) {
+    /// Expects Shift+Tab to reach the same controls in reverse order.
+    void expectSameBackwards(QStringList names) {
         QStringList back = Keyboard::namesOf(Keyboard::tabStops(window, Qt::Key_Backtab));
         std::reverse(back.begin(), back.end());
-        // Begun at another stop, it is the same round.
+        // It may start at another control of the same cycle.
         const auto begin = std::find(names.begin(), names.end(), back.front());
         std::rotate(names.begin(), begin, names.end());
         EXPECT_EQ(back, names) << back.join(", ").toStdString();
     }
 
-    /// From the top down, and from the left within a row.
-    void expectInTheOrderOfSight(const QList<QWidget*>& stops) const {
+    /// Expects the order top to bottom, and left to right within a row.
+    void expectVisualOrder(const QList<QWidget*>& stops) const {
         for (qsizetype index = 1; index < stops.size(); ++index) {
-            const QRect before = placeOf(*stops[index - 1]);
-            const QRect next = placeOf(*stops[index]);
+            const QRect before = rectOf(*stops[index - 1]);
+            const QRect next = rectOf(*stops[index]);
             const bool sameRow =
                 next.top() <= before.center().y() && next.bottom() >= before.center().y();
             EXPECT_TRUE(sameRow ? next.x() > before.x() : next.y() > before.y())
@@ -51,66 +51,66 @@ protected:
     TabOrderWithScores() : TabOrder({{"A", 9}, {"B", 8}, {"C", 7}, {"D", 6}, {"E", 5}}) {}
 };
 
-INSTANTIATE_TEST_SUITE_P(Smallest, TabOrder, ::testing::Values(QSize(820, 760)), nameOfSize);
+INSTANTIATE_TEST_SUITE_P(Smallest, TabOrder, ::testing::Values(QSize(820, 760)), sizeName);
 INSTANTIATE_TEST_SUITE_P(Smallest, TabOrderWithScores, ::testing::Values(QSize(820, 760)),
-                         nameOfSize);
+                         sizeName);
 
 }  // namespace
 
-TEST_P(TabOrder, beforeTheFirstRunLeadsPastTheSpeedsToTheCard) {
-    expectStops(marks + speedStops + QStringList("Let's grow") + icons);
+TEST_P(TabOrder, includesSpeedsAndStartCardBeforeTheFirstRun) {
+    expectStops(windowButtons + speeds + QStringList("Let's grow") + iconButtons);
 }
 
-TEST_P(TabOrder, inARunLeadsToTheSymbolsAlone) {
+TEST_P(TabOrder, includesOnlyButtonsWithoutTextDuringARun) {
     startRun();
 
-    expectStops(marks + icons + pauseIcon);
+    expectStops(windowButtons + iconButtons + pauseButton);
 }
 
-TEST_P(TabOrder, inAPauseLeadsToTheCardAndTheSymbols) {
-    pauseRun();
+TEST_P(TabOrder, includesThePauseCardWhilePaused) {
+    startAndPauseRun();
 
-    expectStops(marks + QStringList("Keep growing") + icons + pauseIcon);
+    expectStops(windowButtons + QStringList("Keep growing") + iconButtons + pauseButton);
 }
 
-TEST_P(TabOrder, passesOverSavingWhileTheNameIsEmpty) {
-    endRunAwaitingName();
+TEST_P(TabOrder, skipsSaveWhileTheNameIsEmpty) {
+    playToNameEntry();
     window.setFocus();
 
-    expectStops(marks + QStringList{"Player name", "Skip saving"} + icons);
+    expectStops(windowButtons + QStringList{"Player name", "Skip saving"} + iconButtons);
 }
 
-TEST_P(TabOrder, leadsThroughTheFormOnceThereIsAName) {
-    endRunAwaitingName();
+TEST_P(TabOrder, includesTheWholeFormOnceThereIsAName) {
+    playToNameEntry();
     session.editName(QStringLiteral("Ada"));
-    settle();
+    processEvents();
     window.setFocus();
 
-    expectStops(marks + QStringList{"Player name", "Save score", "Skip saving"} + icons);
+    expectStops(windowButtons + QStringList{"Player name", "Save score", "Skip saving"} +
+                iconButtons);
 }
 
-TEST_P(TabOrder, passesOverABoardThatHasNothingToScroll) {
-    saveRunAs("Ada");
+TEST_P(TabOrder, skipsAScoreListThatDoesNotScroll) {
+    playAndSaveAs("Ada");
 
-    expectStops(marks + speedStops + QStringList("Play again") + icons);
+    expectStops(windowButtons + speeds + QStringList("Play again") + iconButtons);
 }
 
-TEST_P(TabOrderWithScores, stopsAtABoardThatScrolls) {
-    skipRun();
+TEST_P(TabOrderWithScores, includesAScoreListThatScrolls) {
+    playAndSkip();
 
-    expectStops(marks + speedStops + QStringList{"Scores", "Play again"} + icons);
+    expectStops(windowButtons + speeds + QStringList{"Scores", "Play again"} + iconButtons);
 }
 
-TEST_P(TabOrder, staysInTheSheetWhileItIsUp) {
-    session.openScores();
-    settle();
+TEST_P(TabOrder, staysInTheOpenScoreSheet) {
+    openScores();
 
-    expectStops(speedStops + QStringList("Done"));
+    expectStops(speeds + QStringList("Done"));
 }
 
-TEST_P(TabOrder, leavesTheMarksOutInFullScreen) {
+TEST_P(TabOrder, skipsTheWindowButtonsInFullScreen) {
     window.showFullScreen();
     waitForFullScreen(true);
 
-    expectStops(speedStops + QStringList("Let's grow") + icons);
+    expectStops(speeds + QStringList("Let's grow") + iconButtons);
 }

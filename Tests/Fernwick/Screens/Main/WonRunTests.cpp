@@ -3,7 +3,7 @@
 
 namespace {
 
-/// A run whose next step fills the board.
+/// A game whose next step fills the board.
 SnakeCore::Game almostWonGame() {
     SnakeCore::Game game(Session::columns, Session::rows);
     for (SnakeCore::Game next = game; !next.ended();) {
@@ -18,23 +18,22 @@ class WonRun : public WindowTest {};
 
 }  // namespace
 
-TEST_F(WonRun, isFullyGrownAndCanBeSaved) {
+TEST_F(WonRun, showsTheWinAndCanBeSaved) {
     startRunAt(almostWonGame());
-    sounds.heard.clear();
+    sounds.played.clear();
     session.key(static_cast<GameKey>(alongCycle(session.game())));
     fireTimer();
-    settle();
+    processEvents();
 
-    EXPECT_EQ(sounds.heard, (std::vector{SoundEffect::pop, SoundEffect::tink}));
+    EXPECT_EQ(sounds.played, (std::vector{SoundEffect::pop, SoundEffect::tink}));
     EXPECT_TRUE(shows("Fully grown."));
     EXPECT_FALSE(shows("Game over."));
     EXPECT_TRUE(shows("6120 POINTS  ·  Classic"));
     EXPECT_TRUE(shows("ANOTHER CHANCE TO GROW"));
 
-    session.editName(QStringLiteral("Ada"));
-    session.saveScore();
-    settle();
+    saveScoreAs("Ada");
+    processEvents();
 
     EXPECT_TRUE(shows("01 Ada 6120"));
-    EXPECT_EQ(onDisk().integer(QStringLiteral("best-Classic")), 6120);
+    EXPECT_EQ(storedPreferences().integer(QStringLiteral("best-Classic")), 6120);
 }

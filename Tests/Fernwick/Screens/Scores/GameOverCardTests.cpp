@@ -8,7 +8,7 @@ namespace {
 
 class GameOverCard : public WindowTest {
 protected:
-    [[nodiscard]] NameField& field() const { return *window.findChild<NameField*>(); }
+    [[nodiscard]] NameField& field() const { return child<NameField>(); }
 
     [[nodiscard]] QString resultLine(const QString& pace) const {
         return QStringLiteral("%1 POINTS  ·  %2").arg(session.game().score()).arg(pace);
@@ -16,22 +16,22 @@ protected:
 
     void type(const QString& text) {
         QTest::keyClicks(&field(), text);
-        settle();
+        processEvents();
     }
 };
 
 }  // namespace
 
-TEST_F(GameOverCard, tellsHowTheRunEndedAndWhatItScored) {
+TEST_F(GameOverCard, showsTheScoreAndPaceOfTheRun) {
     session.choosePace(Pace::swift);
-    endRunAwaitingName();
+    playToNameEntry();
 
     EXPECT_TRUE(shows("Game over."));
     EXPECT_TRUE(shows(resultLine("Swift")));
 }
 
 TEST_F(GameOverCard, asksForAName) {
-    endRunAwaitingName();
+    playToNameEntry();
 
     EXPECT_TRUE(shows("Leave your name in the garden."));
     EXPECT_TRUE(shows("Player name"));
@@ -42,14 +42,14 @@ TEST_F(GameOverCard, asksForAName) {
     EXPECT_FALSE(shows("Play again"));
 }
 
-TEST_F(GameOverCard, putsTheFocusIntoTheFieldAtOnce) {
-    endRunAwaitingName();
+TEST_F(GameOverCard, focusesTheNameField) {
+    playToNameEntry();
 
     EXPECT_TRUE(field().hasFocus());
 }
 
-TEST_F(GameOverCard, takesLettersSpaceAndRAsPartOfTheName) {
-    endRunAwaitingName();
+TEST_F(GameOverCard, typesGameKeysIntoTheName) {
+    playToNameEntry();
 
     type("war r W");
 
@@ -57,7 +57,7 @@ TEST_F(GameOverCard, takesLettersSpaceAndRAsPartOfTheName) {
     EXPECT_TRUE(session.awaitingName());
 }
 
-TEST_F(GameOverCard, takesALetterThatComesInTheTurnThatEndsTheRun) {
+TEST_F(GameOverCard, typesAKeyPressedRightAfterTheLastTickIntoTheName) {
     startAndEndRun();
 
     QTest::keyClick(window.windowHandle(), Qt::Key_W);
@@ -65,8 +65,8 @@ TEST_F(GameOverCard, takesALetterThatComesInTheTurnThatEndsTheRun) {
     EXPECT_EQ(session.playerName(), "w");
 }
 
-TEST_F(GameOverCard, savesOnlyANameThatIsMoreThanBlanks) {
-    endRunAwaitingName();
+TEST_F(GameOverCard, enablesSaveOnlyForANonBlankName) {
+    playToNameEntry();
     EXPECT_FALSE(canPress("Save score"));
 
     type("   ");
@@ -77,12 +77,12 @@ TEST_F(GameOverCard, savesOnlyANameThatIsMoreThanBlanks) {
     EXPECT_TRUE(canPress("Save score"));
 }
 
-TEST_F(GameOverCard, staysUpWhenReturnFindsNoName) {
-    endRunAwaitingName();
+TEST_F(GameOverCard, ignoresReturnWhileTheNameIsBlank) {
+    playToNameEntry();
     type("  ");
 
     QTest::keyClick(&field(), Qt::Key_Return);
-    settle();
+    processEvents();
 
     EXPECT_TRUE(session.awaitingName());
     EXPECT_TRUE(shows("Leave your name in the garden."));
@@ -90,20 +90,20 @@ TEST_F(GameOverCard, staysUpWhenReturnFindsNoName) {
     EXPECT_TRUE(field().hasFocus());
 }
 
-TEST_F(GameOverCard, savesByReturn) {
-    endRunAwaitingName();
+TEST_F(GameOverCard, savesOnReturn) {
+    playToNameEntry();
     type("Ada");
 
     QTest::keyClick(&field(), Qt::Key_Return);
-    settle();
+    processEvents();
 
     EXPECT_TRUE(session.savedRun());
-    EXPECT_EQ(onDisk().text("player-name"), "Ada");
+    EXPECT_EQ(storedPreferences().text("player-name"), "Ada");
     EXPECT_FALSE(session.running());
 }
 
-TEST_F(GameOverCard, savesByTheButton) {
-    endRunAwaitingName();
+TEST_F(GameOverCard, savesWithTheButton) {
+    playToNameEntry();
     type("Ada");
 
     press("Save score");
@@ -111,8 +111,8 @@ TEST_F(GameOverCard, savesByTheButton) {
     EXPECT_TRUE(session.savedRun());
 }
 
-TEST_F(GameOverCard, keepsNoMoreThan24Characters) {
-    endRunAwaitingName();
+TEST_F(GameOverCard, limitsTheNameTo24Characters) {
+    playToNameEntry();
 
     type(QString(25, u'x'));
 
@@ -120,42 +120,40 @@ TEST_F(GameOverCard, keepsNoMoreThan24Characters) {
     EXPECT_EQ(session.playerName(), QString(24, u'x'));
 }
 
-TEST_F(GameOverCard, countsWhatThePlayerSeesAsOneCharacterAsOne) {
-    endRunAwaitingName();
+TEST_F(GameOverCard, countsGraphemeClustersAsCharacters) {
+    playToNameEntry();
     const QString family = QStringLiteral("👨‍👩‍👧‍👦");
 
     field().insert(family.repeated(24));
-    settle();
+    processEvents();
     EXPECT_EQ(field().text(), family.repeated(24));
 
     field().insert(QStringLiteral("x"));
-    settle();
+    processEvents();
     EXPECT_EQ(field().text(), family.repeated(24));
 }
 
-TEST_F(GameOverCard, cutsALongerPaste) {
-    endRunAwaitingName();
+TEST_F(GameOverCard, truncatesALongerPaste) {
+    playToNameEntry();
 
     field().insert(QString(300, u'ä'));
-    settle();
+    processEvents();
 
     EXPECT_EQ(field().text(), QString(24, u'ä'));
 }
 
-TEST_F(GameOverCard, offersTheLastNameAgain) {
-    saveRunAs("  Ada   Lovelace ");
+TEST_F(GameOverCard, prefillsTheLastName) {
+    playAndSaveAs("  Ada   Lovelace ");
 
-    session.start();
-    endRun();
-    settle();
+    playToNameEntry();
 
     EXPECT_EQ(field().text(), "Ada Lovelace");
     EXPECT_TRUE(canPress("Save score"));
     EXPECT_TRUE(field().hasFocus());
 }
 
-TEST_F(GameOverCard, showsTheBoardWithTheSavedRun) {
-    saveRunAs("Ada");
+TEST_F(GameOverCard, listsTheSavedRun) {
+    playAndSaveAs("Ada");
 
     EXPECT_TRUE(shows("Score saved · Top 10"));
     EXPECT_TRUE(shows(QStringLiteral("01 Ada %1").arg(session.game().score())));
@@ -164,8 +162,8 @@ TEST_F(GameOverCard, showsTheBoardWithTheSavedRun) {
     EXPECT_FALSE(shows("Save score"));
 }
 
-TEST_F(GameOverCard, showsThePlainBoardAfterSkipping) {
-    endRunAwaitingName();
+TEST_F(GameOverCard, showsTheScoreListWithoutTheRunAfterSkipping) {
+    playToNameEntry();
     type("Ada");
 
     press("Skip saving");
@@ -176,9 +174,9 @@ TEST_F(GameOverCard, showsThePlainBoardAfterSkipping) {
     EXPECT_TRUE(session.scores().entries().empty());
 }
 
-TEST_F(GameOverCard, showsTheBoardOfTheRunsPaceEvenWhenAnotherIsChosen) {
+TEST_F(GameOverCard, keepsShowingTheScoresOfTheRunsPace) {
     session.choosePace(Pace::swift);
-    saveRunAs("Ada");
+    playAndSaveAs("Ada");
 
     press("Gentle");
 
@@ -186,8 +184,8 @@ TEST_F(GameOverCard, showsTheBoardOfTheRunsPaceEvenWhenAnotherIsChosen) {
     EXPECT_TRUE(shows(QStringLiteral("01 Ada %1").arg(session.game().score())));
 }
 
-TEST_F(GameOverCard, playsAgainByTheButton) {
-    saveRunAs("Ada");
+TEST_F(GameOverCard, startsANewRunWithTheButton) {
+    playAndSaveAs("Ada");
 
     press("Play again");
 
@@ -195,22 +193,22 @@ TEST_F(GameOverCard, playsAgainByTheButton) {
     EXPECT_FALSE(shows("Game over."));
 }
 
-TEST_F(GameOverCard, playsAgainBySpaceRightAfterASave) {
-    endRunAwaitingName();
+TEST_F(GameOverCard, startsANewRunOnSpaceRightAfterSaving) {
+    playToNameEntry();
     type("Ada");
     QTest::keyClick(&field(), Qt::Key_Return);
-    settle();
+    processEvents();
 
     QTest::keyClick(&window, Qt::Key_Space);
 
     EXPECT_TRUE(session.running());
 }
 
-TEST_F(GameOverCard, playsAgainBySpaceRightAfterSkippingByKeyboard) {
-    endRunAwaitingName();
+TEST_F(GameOverCard, startsANewRunOnSpaceRightAfterSkippingWithTheKeyboard) {
+    playToNameEntry();
     button("Skip saving")->setFocus(Qt::TabFocusReason);
     QTest::keyClick(button("Skip saving"), Qt::Key_Return);
-    settle();
+    processEvents();
     ASSERT_FALSE(session.awaitingName());
 
     QTest::keyClick(&window, Qt::Key_Space);

@@ -10,35 +10,28 @@ namespace {
 
 class HighScoresSheet : public WindowTest {
 protected:
-    void open() {
-        session.openScores();
-        settle();
-    }
-
-    [[nodiscard]] HighScoresView* sheet() const { return window.findChild<HighScoresView*>(); }
-
-    [[nodiscard]] bool isUp() const { return sheet() != nullptr && sheet()->isVisible(); }
+    [[nodiscard]] HighScoresView& sheet() const { return child<HighScoresView>(); }
 
     [[nodiscard]] QAbstractButton* speed(const QString& name) const {
-        return Screen::button(*sheet(), name);
+        return Screen::button(sheet(), name);
     }
 
     void pressKey(Qt::Key key) {
         QTest::keyClick(QApplication::focusWidget(), key);
-        settle();
+        processEvents();
     }
 };
 
 }  // namespace
 
-TEST_F(HighScoresSheet, isNotThereUntilItIsAskedFor) {
-    EXPECT_FALSE(isUp());
+TEST_F(HighScoresSheet, isClosedAtFirst) {
+    EXPECT_FALSE(sheet().isVisible());
 }
 
 TEST_F(HighScoresSheet, showsItsTexts) {
-    open();
+    openScores();
 
-    EXPECT_TRUE(isUp());
+    EXPECT_TRUE(sheet().isVisible());
     EXPECT_TRUE(shows("The high scores."));
     EXPECT_TRUE(shows("Top 10 for each speed · saved on this Mac"));
     EXPECT_TRUE(shows("Speed"));
@@ -48,68 +41,68 @@ TEST_F(HighScoresSheet, showsItsTexts) {
 TEST_F(HighScoresSheet, opensOnTheChosenPace) {
     session.choosePace(Pace::swift);
 
-    open();
+    openScores();
 
     EXPECT_TRUE(speed("Swift")->isChecked());
     EXPECT_FALSE(speed("Classic")->isChecked());
 }
 
-TEST_F(HighScoresSheet, listsTheLeadersOfOnePace) {
-    saveRunAs("Ada");
+TEST_F(HighScoresSheet, listsTheLeadersOfTheSelectedPace) {
+    playAndSaveAs("Ada");
     const QString row = QStringLiteral("01 Ada %1").arg(session.game().score());
 
-    open();
-    EXPECT_TRUE(Screen::shows(*sheet(), row));
+    openScores();
+    EXPECT_TRUE(Screen::shows(sheet(), row));
 
     speed("Gentle")->click();
-    settle();
-    EXPECT_FALSE(Screen::shows(*sheet(), row));
-    EXPECT_TRUE(Screen::shows(*sheet(), "A fresh start. Be the first on the board."));
+    processEvents();
+    EXPECT_FALSE(Screen::shows(sheet(), row));
+    EXPECT_TRUE(Screen::shows(sheet(), "A fresh start. Be the first on the board."));
 }
 
-TEST_F(HighScoresSheet, switchesNothingButItsOwnPace) {
-    open();
+TEST_F(HighScoresSheet, doesNotChangeThePaceOfTheGame) {
+    openScores();
 
     speed("Swift")->click();
-    settle();
+    processEvents();
 
     EXPECT_EQ(session.scorePace(), Pace::swift);
     EXPECT_EQ(session.pace(), Pace::classic);
 }
 
-TEST_F(HighScoresSheet, closesByDone) {
-    open();
+TEST_F(HighScoresSheet, closesWithDone) {
+    openScores();
 
     press("Done");
 
     EXPECT_FALSE(session.showingScores());
-    EXPECT_FALSE(isUp());
+    EXPECT_FALSE(sheet().isVisible());
 }
 
-TEST_F(HighScoresSheet, closesByEscapeAndLeavesTheRunPaused) {
+TEST_F(HighScoresSheet, closesOnEscapeAndLeavesTheRunPaused) {
     startRun();
-    open();
+    openScores();
 
     pressKey(Qt::Key_Escape);
 
     EXPECT_FALSE(session.showingScores());
-    EXPECT_FALSE(isUp());
+    EXPECT_FALSE(sheet().isVisible());
     EXPECT_FALSE(session.running());
 }
 
-TEST_F(HighScoresSheet, closesByAnEscapeThatComesInTheTurnThatOpensIt) {
+TEST_F(HighScoresSheet, closesOnEscapePressedRightAfterOpening) {
     session.openScores();
 
     QTest::keyClick(window.windowHandle(), Qt::Key_Escape);
-    settle();
+    processEvents();
 
     EXPECT_FALSE(session.showingScores());
-    EXPECT_FALSE(isUp());
+    EXPECT_FALSE(sheet().isVisible());
 }
 
-TEST_F(HighScoresSheet, takesEveryKeyFromTheGame) {
+TEST_F(HighScoresSheet, keepsKeysFromTheGame) {
     startRun();
-    open();
+    openScores();
     const SnakeCore::Game before = session.game();
 
     for (const Qt::Key key : {Qt::Key_Space, Qt::Key_R, Qt::Key_Up, Qt::Key_A}) {
@@ -120,44 +113,44 @@ TEST_F(HighScoresSheet, takesEveryKeyFromTheGame) {
     EXPECT_FALSE(session.running());
 }
 
-TEST_F(HighScoresSheet, keepsTheKeyboardFocusInside) {
-    open();
+TEST_F(HighScoresSheet, keepsTheFocusInside) {
+    openScores();
 
     for (int presses = 0; presses < 12; ++presses) {
         pressKey(Qt::Key_Tab);
-        EXPECT_TRUE(sheet()->isAncestorOf(QApplication::focusWidget()));
+        EXPECT_TRUE(sheet().isAncestorOf(QApplication::focusWidget()));
     }
     for (int presses = 0; presses < 12; ++presses) {
         pressKey(Qt::Key_Backtab);
-        EXPECT_TRUE(sheet()->isAncestorOf(QApplication::focusWidget()));
+        EXPECT_TRUE(sheet().isAncestorOf(QApplication::focusWidget()));
     }
 }
 
-TEST_F(HighScoresSheet, givesTheFocusBackToTheNameField) {
-    endRunAwaitingName();
-    open();
-    EXPECT_FALSE(window.findChild<NameField*>()->hasFocus());
+TEST_F(HighScoresSheet, returnsTheFocusToTheNameField) {
+    playToNameEntry();
+    openScores();
+    EXPECT_FALSE(child<NameField>().hasFocus());
 
     pressKey(Qt::Key_Escape);
 
-    EXPECT_TRUE(window.findChild<NameField*>()->hasFocus());
+    EXPECT_TRUE(child<NameField>().hasFocus());
     EXPECT_TRUE(session.awaitingName());
 }
 
-TEST_F(HighScoresSheet, keepsItsWidthWhateverTheNames) {
-    saveRunAs(QString(24, u'W'));
+TEST_F(HighScoresSheet, keepsItsWidthWithALongName) {
+    playAndSaveAs(QString(24, u'W'));
 
-    open();
+    openScores();
 
-    EXPECT_EQ(sheet()->width(), 440);
+    EXPECT_EQ(sheet().width(), 440);
 }
 
-TEST_F(HighScoresSheet, opensAgainOnTheChosenPace) {
-    open();
+TEST_F(HighScoresSheet, reopensOnTheChosenPace) {
+    openScores();
     speed("Swift")->click();
     press("Done");
 
-    open();
+    openScores();
 
     EXPECT_TRUE(speed("Classic")->isChecked());
 }

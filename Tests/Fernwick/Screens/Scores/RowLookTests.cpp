@@ -1,6 +1,6 @@
+#include "Fernwick/Session/SavedScores.hpp"
 #include "Garden/Look/Palette.hpp"
 #include "Screens/Scores/ScoreRow.hpp"
-#include "SnakeCore/HighScores.hpp"
 #include "Support/Look.hpp"
 
 namespace {
@@ -13,15 +13,13 @@ constexpr int rankWidth = 25;
 const QString shortName = QStringLiteral("A");
 constexpr int nameLeft = padding + rankWidth + 14;
 
-/// One row on black.
+/// One row on a black background.
 class RowLook : public ::testing::Test {
 protected:
     QImage picture(std::int64_t rank, const QString& name, std::int64_t score,
                    bool highlighted = false) {
         row_.resize(rowWidth, row_.sizeHint().height());
-        SnakeCore::HighScores table;
-        table.record(SnakeCore::UUID::random(), name.toStdString(), score, "Classic",
-                     SnakeCore::Date{0});
+        const SnakeCore::HighScores table = scoreTable({{name.toStdString(), score}});
         row_.show(rank, table.entries().front(), highlighted);
         QImage image(row_.size() * row_.devicePixelRatioF(), QImage::Format_RGB32);
         image.setDevicePixelRatio(row_.devicePixelRatioF());
@@ -30,16 +28,16 @@ protected:
         return image;
     }
 
-    /// The columns, from `left` to before `right`, that hold ink; in points.
+    /// The left and right edge of what is drawn between `left` and `right`, in points.
     [[nodiscard]] static std::pair<double, double> inkBetween(const QImage& image, int left,
                                                               int right) {
         const double scale = image.devicePixelRatio();
-        const QColor plate = Look::colourAt(image, QPointF(7, image.height() / scale / 2));
+        const QColor background = Look::colourAt(image, QPointF(7, image.height() / scale / 2));
         double first = right;
         double last = left;
         for (int x = qRound(left * scale); x < qRound(right * scale); ++x) {
             for (int y = 0; y < image.height(); ++y) {
-                if (distance(image.pixelColor(x, y), plate) > 30) {
+                if (distance(image.pixelColor(x, y), background) > 30) {
                     first = std::min(first, x / scale);
                     last = std::max(last, (x + 1) / scale);
                 }
@@ -58,12 +56,12 @@ const QStringList longNames{QString(24, u'W'), QStringLiteral("🌿").repeated(2
 
 }  // namespace
 
-TEST_F(RowLook, isALineOfMediumTypePaddedBy10) {
+TEST_F(RowLook, isALineOfMediumTextPaddedBy10) {
     Look::expectType(row_, {Look::sans, 14, QFont::Medium});
     EXPECT_EQ(row_.sizeHint().height(), row_.fontMetrics().height() + 2 * 10);
 }
 
-TEST_F(RowLook, centresTheRankIn25PointsBehindThePadding) {
+TEST_F(RowLook, centresTheRankIn25PointsAfterThePadding) {
     const auto [first, last] = inkBetween(picture(10, shortName, 0), 0, nameLeft);
 
     EXPECT_GE(first, padding);
@@ -71,14 +69,14 @@ TEST_F(RowLook, centresTheRankIn25PointsBehindThePadding) {
     EXPECT_NEAR((first + last) / 2, padding + rankWidth / 2.0, 1);
 }
 
-TEST_F(RowLook, beginsTheName14BehindTheRank) {
+TEST_F(RowLook, startsTheName14AfterTheRank) {
     const auto [first, last] =
         inkBetween(picture(1, QStringLiteral("HHH"), 0), padding + rankWidth, rowWidth / 2);
 
     EXPECT_NEAR(first, nameLeft + 1, 1);
 }
 
-TEST_F(RowLook, endsTheScoreAtThePadding) {
+TEST_F(RowLook, rightAlignsTheScore) {
     for (const std::int64_t score : {0LL, 10LL, 4321LL, 1234567LL}) {
         const auto [first, last] = inkBetween(picture(1, shortName, score), rowWidth / 2, rowWidth);
         EXPECT_LE(last, rowWidth - padding);
@@ -111,22 +109,22 @@ TEST_F(RowLook, keepsALongNameBetweenTheRankAndTheScore) {
     }
 }
 
-TEST_F(RowLook, isPlainInFaintWhiteAndPickedOutInMint) {
+TEST_F(RowLook, isFaintWhiteOrMintWhenHighlighted) {
     const QColor black = Qt::black;
-    const QPointF plate(7, row_.sizeHint().height() / 2.0);
+    const QPointF background(7, row_.sizeHint().height() / 2.0);
 
-    Look::expectColour(Look::colourAt(picture(1, shortName, 0), plate),
+    Look::expectColour(Look::colourAt(picture(1, shortName, 0), background),
                        Look::over(Garden::withOpacity(Qt::white, 0.025), black), 1);
-    Look::expectColour(Look::colourAt(picture(1, shortName, 0, true), plate),
+    Look::expectColour(Look::colourAt(picture(1, shortName, 0, true), background),
                        Look::over(Garden::withOpacity(Garden::mint, 0.12), black), 1);
 }
 
-TEST_F(RowLook, roundsThePlatesCornersBy9) {
+TEST_F(RowLook, roundsItsCornersBy9) {
     const QImage image = picture(1, shortName, 0, true);
-    const QColor plate = Look::colourAt(image, QPointF(7, row_.height() / 2.0));
+    const QColor background = Look::colourAt(image, QPointF(7, row_.height() / 2.0));
 
     EXPECT_EQ(Look::colourAt(image, QPointF(0.2, 0.2)), QColor(Qt::black));
-    EXPECT_EQ(Look::colourAt(image, QPointF(9.5, 0.2)), plate);
-    EXPECT_EQ(Look::colourAt(image, QPointF(0.2, 9.5)), plate);
-    EXPECT_NE(Look::colourAt(image, QPointF(4, 0.2)), plate);
+    EXPECT_EQ(Look::colourAt(image, QPointF(9.5, 0.2)), background);
+    EXPECT_EQ(Look::colourAt(image, QPointF(0.2, 9.5)), background);
+    EXPECT_NE(Look::colourAt(image, QPointF(4, 0.2)), background);
 }

@@ -2,34 +2,28 @@
 
 #include <QCoreApplication>
 #include <QScrollArea>
-#include <utility>
 
+#include "Fernwick/Session/SavedScores.hpp"
 #include "Screens/Scores/ScoreRow.hpp"
 #include "Screens/Scores/ScoreRows.hpp"
-#include "SnakeCore/HighScores.hpp"
 #include "Support/Screen.hpp"
 
 namespace {
 
-constexpr int boardWidth = 376;
-constexpr int boardHeight = 150;
+constexpr int listWidth = 376;
+constexpr int listHeight = 150;
 
-class Rows : public ::testing::Test {
+class ScoreRowsTest : public ::testing::Test {
 protected:
-    Rows() { rows.resize(boardWidth, boardHeight); }
+    ScoreRowsTest() { rows.resize(listWidth, listHeight); }
 
-    /// Entries as the table ranks them.
-    static std::vector<SnakeCore::HighScore> entries(
-        const std::vector<std::pair<std::string, std::int64_t>>& saved) {
-        SnakeCore::HighScores table;
-        for (const auto& [name, score] : saved) {
-            table.record(SnakeCore::UUID::random(), name, score, "Classic", SnakeCore::Date{0});
-        }
-        return table.leaders("Classic");
+    /// The entries in ranking order.
+    static std::vector<SnakeCore::HighScore> entries(const SavedScores& saved) {
+        return scoreTable(saved).leaders("Classic");
     }
 
     static std::vector<SnakeCore::HighScore> entries(std::int64_t count) {
-        std::vector<std::pair<std::string, std::int64_t>> saved;
+        SavedScores saved;
         for (std::int64_t index = 0; index < count; ++index) {
             saved.emplace_back("Ada", 100 - index);
         }
@@ -43,20 +37,20 @@ protected:
 
 }  // namespace
 
-TEST_F(Rows, withoutEntriesShowTheInvitationOnly) {
+TEST_F(ScoreRowsTest, showsOnlyTheInvitationWithoutEntries) {
     rows.setEntries({});
 
     EXPECT_EQ(Screen::texts(rows), QStringList("A fresh start. Be the first on the board."));
     EXPECT_FALSE(rows.findChild<QScrollArea*>()->isVisibleTo(&rows));
 }
 
-TEST_F(Rows, withEntriesShowNoInvitation) {
+TEST_F(ScoreRowsTest, showsNoInvitationWithEntries) {
     rows.setEntries(entries(1));
 
     EXPECT_FALSE(Screen::shows(rows, "A fresh start. Be the first on the board."));
 }
 
-TEST_F(Rows, areRankedWithTwoDigitsFromOne) {
+TEST_F(ScoreRowsTest, showsTwoDigitRanksFromOne) {
     rows.setEntries(entries(10));
 
     EXPECT_TRUE(Screen::shows(rows, "01 Ada 100"));
@@ -65,26 +59,26 @@ TEST_F(Rows, areRankedWithTwoDigitsFromOne) {
     EXPECT_EQ(rows.findChildren<ScoreRow*>().size(), 10);
 }
 
-TEST_F(Rows, showAScoreOfZero) {
+TEST_F(ScoreRowsTest, showsAScoreOfZero) {
     rows.setEntries(entries({{"Ada", 0}}));
 
     EXPECT_TRUE(Screen::shows(rows, "01 Ada 0"));
 }
 
-TEST_F(Rows, showNoGroupingInALargeScore) {
+TEST_F(ScoreRowsTest, showsALargeScoreWithoutSeparators) {
     rows.setEntries(entries({{"Ada", 1234567}}));
 
     EXPECT_TRUE(Screen::shows(rows, "01 Ada 1234567"));
 }
 
-TEST_F(Rows, shrinkWithTheEntries) {
+TEST_F(ScoreRowsTest, removesRowsForFewerEntries) {
     rows.setEntries(entries(10));
     rows.setEntries(entries(2));
 
     EXPECT_EQ(rows.findChildren<ScoreRow*>().size(), 2);
 }
 
-TEST_F(Rows, pickOutTheHighlightedEntryOnly) {
+TEST_F(ScoreRowsTest, highlightsOnlyTheGivenEntry) {
     const std::vector<SnakeCore::HighScore> three = entries(3);
     rows.setEntries(three);
     const QImage plain = picture();
@@ -94,13 +88,13 @@ TEST_F(Rows, pickOutTheHighlightedEntryOnly) {
 
     const QList<ScoreRow*> shown = rows.findChildren<ScoreRow*>();
     for (qsizetype index = 0; index < shown.size(); ++index) {
-        const QPoint place = shown[index]->mapTo(&rows, QPoint(boardWidth / 2, 4));
+        const QPoint place = shown[index]->mapTo(&rows, QPoint(listWidth / 2, 4));
         const bool differs = plain.pixel(place) != highlighted.pixel(place);
         EXPECT_EQ(differs, index == 1) << index;
     }
 }
 
-TEST_F(Rows, highlightNothingForAnIdThatIsInNone) {
+TEST_F(ScoreRowsTest, highlightsNothingForAnUnknownId) {
     const std::vector<SnakeCore::HighScore> three = entries(3);
     rows.setEntries(three);
     const QImage plain = picture();
@@ -110,7 +104,7 @@ TEST_F(Rows, highlightNothingForAnIdThatIsInNone) {
     EXPECT_EQ(picture(), plain);
 }
 
-TEST_F(Rows, bringTheHighlightedEntryIntoSight) {
+TEST_F(ScoreRowsTest, scrollsToTheHighlightedEntry) {
     const std::vector<SnakeCore::HighScore> ten = entries(10);
 
     rows.setEntries(ten, ten[9].id);
@@ -121,7 +115,7 @@ TEST_F(Rows, bringTheHighlightedEntryIntoSight) {
     EXPECT_TRUE(rows.rect().contains(last->mapTo(&rows, last->rect().center())));
 }
 
-TEST_F(Rows, cutALongNameAndKeepTheScoreWhole) {
+TEST_F(ScoreRowsTest, elidesALongNameAndKeepsTheScoreWhole) {
     rows.setEntries(entries({{"Ada", 6120}}));
     const QImage withShortName = picture();
 

@@ -14,15 +14,15 @@
 
 namespace {
 
-/// The sheet of high scores while it comes and goes.
+/// The animation of the score sheet when it opens and closes.
 class SheetMotion : public WindowTest {
 protected:
     [[nodiscard]] QVariantAnimation& motion() const {
-        return *window.findChild<SheetShade*>()->findChild<QVariantAnimation*>();
+        return *child<SheetShade>().findChild<QVariantAnimation*>();
     }
 
-    /// Stops the clock of the motion in the middle of its way.
-    void holdHalfway() {
+    /// Pauses the animation halfway.
+    void pauseHalfway() {
         ASSERT_EQ(motion().state(), QAbstractAnimation::Running);
         motion().pause();
         motion().setCurrentTime(motion().duration() / 2);
@@ -30,55 +30,48 @@ protected:
 
     void openAndWait() {
         session.openScores();
-        waitUntilStill();
+        waitForAnimations();
     }
 
-    void waitUntilStill() {
-        EXPECT_TRUE(QTest::qWaitFor([this] { return isStill(); }));
-        settle();
-    }
-
-    [[nodiscard]] QImage picture() { return window.grab().toImage(); }
-
-    [[nodiscard]] HighScoresView& sheet() const { return *window.findChild<HighScoresView*>(); }
+    [[nodiscard]] HighScoresView& sheet() const { return child<HighScoresView>(); }
 
     void click(const QWidget& control) {
         QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {},
                           control.mapTo(&window, control.rect().center()));
-        settle();
+        processEvents();
     }
 
-    /// A place on the sheet with nothing on it.
-    [[nodiscard]] QColor plainSheet(const QImage& seen) const {
+    /// The colour of an empty point of the score sheet.
+    [[nodiscard]] QColor sheetColour(const QImage& seen) const {
         return Look::colourAt(seen, sheet().mapTo(&window, QPoint(14, sheet().height() / 2)));
     }
 };
 
 }  // namespace
 
-TEST_F(SheetMotion, comesOutOfWhatLiesBehind) {
-    const QImage before = picture();
+TEST_F(SheetMotion, fadesInOverTheScreenBehind) {
+    const QImage before = grab();
     session.openScores();
-    const QColor behind = plainSheet(before);
-    holdHalfway();
-    const QColor halfway = plainSheet(picture());
+    const QColor behind = sheetColour(before);
+    pauseHalfway();
+    const QColor halfway = sheetColour(grab());
     motion().resume();
-    waitUntilStill();
-    const QColor atLast = plainSheet(picture());
+    waitForAnimations();
+    const QColor finished = sheetColour(grab());
 
-    Look::expectColour(atLast, Garden::night, 0);
+    Look::expectColour(finished, Garden::night, 0);
     EXPECT_NE(halfway, behind);
-    EXPECT_NE(halfway, atLast);
+    EXPECT_NE(halfway, finished);
 }
 
-TEST_F(SheetMotion, risesALittleAsItComes) {
+TEST_F(SheetMotion, risesWhileFadingIn) {
     session.openScores();
-    holdHalfway();
-    const QImage halfway = picture();
+    pauseHalfway();
+    const QImage halfway = grab();
     motion().resume();
-    waitUntilStill();
-    const QImage atLast = picture();
-    // Through the upper edge of the sheet, which is brighter than both sides of it.
+    waitForAnimations();
+    const QImage finished = grab();
+    // The top border of the sheet, which is brighter than what is above and below.
     const auto brightestRow = [this](const QImage& seen) {
         const QPoint middle = sheet().mapTo(&window, QPoint(sheet().width() / 2, 0));
         int brightest = middle.y() - 5;
@@ -91,12 +84,12 @@ TEST_F(SheetMotion, risesALittleAsItComes) {
         return brightest;
     };
 
-    EXPECT_GT(brightestRow(halfway), brightestRow(atLast));
+    EXPECT_GT(brightestRow(halfway), brightestRow(finished));
 }
 
-TEST_F(SheetMotion, takesClicksAndKeysBeforeItHasCome) {
+TEST_F(SheetMotion, acceptsClicksAndKeysWhileFadingIn) {
     session.openScores();
-    holdHalfway();
+    pauseHalfway();
 
     click(*Screen::button(sheet(), "Swift"));
     EXPECT_EQ(session.scorePace(), Pace::swift);
@@ -106,13 +99,13 @@ TEST_F(SheetMotion, takesClicksAndKeysBeforeItHasCome) {
     EXPECT_FALSE(session.showingScores());
 }
 
-TEST_F(SheetMotion, beginsToGoAsItStood) {
+TEST_F(SheetMotion, startsFadingOutAtFullOpacity) {
     openAndWait();
-    const QImage up = picture();
+    const QImage up = grab();
     session.closeScores();
-    holdHalfway();
+    pauseHalfway();
     motion().setCurrentTime(motion().duration());
-    const QImage leaving = picture();
+    const QImage leaving = grab();
 
     const QRect place(sheet().mapTo(&window, QPoint()), sheet().size());
     for (int y = place.top() - 2; y < place.bottom() + 2; ++y) {
@@ -123,28 +116,28 @@ TEST_F(SheetMotion, beginsToGoAsItStood) {
     }
 }
 
-TEST_F(SheetMotion, leavesWhatLiesBehindAsItWas) {
-    const QImage before = picture();
+TEST_F(SheetMotion, restoresTheScreenBehind) {
+    const QImage before = grab();
     openAndWait();
     session.closeScores();
-    holdHalfway();
-    EXPECT_NE(picture(), before);
+    pauseHalfway();
+    EXPECT_NE(grab(), before);
 
     motion().resume();
-    waitUntilStill();
+    waitForAnimations();
 
-    EXPECT_EQ(picture(), before);
+    EXPECT_EQ(grab(), before);
 }
 
-TEST_F(SheetMotion, lingersForTheEyeAloneOnceClosed) {
-    pauseRun();
+TEST_F(SheetMotion, takesNoInputWhileFadingOut) {
+    startAndPauseRun();
     openAndWait();
-    const QColor up = plainSheet(picture());
+    const QColor up = sheetColour(grab());
     session.closeScores();
-    holdHalfway();
+    pauseHalfway();
 
     EXPECT_FALSE(sheet().isVisible());
-    EXPECT_NE(plainSheet(picture()), up);
+    EXPECT_NE(sheetColour(grab()), up);
     Keyboard::press(window, Qt::Key_Space);
     EXPECT_TRUE(session.running());
     Keyboard::press(window, Qt::Key_Escape);
@@ -153,76 +146,76 @@ TEST_F(SheetMotion, lingersForTheEyeAloneOnceClosed) {
     EXPECT_TRUE(session.running());
 }
 
-TEST_F(SheetMotion, givesTheFocusBackBeforeItHasGone) {
-    endRunAwaitingName();
+TEST_F(SheetMotion, returnsTheFocusBeforeTheFadeOutEnds) {
+    playToNameEntry();
     openAndWait();
     session.closeScores();
-    holdHalfway();
+    pauseHalfway();
 
-    EXPECT_TRUE(window.findChild<NameField*>()->hasFocus());
+    EXPECT_TRUE(child<NameField>().hasFocus());
     Keyboard::press(window, Qt::Key_R);
     EXPECT_EQ(session.playerName(), "r");
 }
 
-TEST_F(SheetMotion, turnsRoundOnItsWay) {
-    const QImage before = picture();
+TEST_F(SheetMotion, canReverseMidway) {
+    const QImage before = grab();
     openAndWait();
-    const QImage up = picture();
+    const QImage up = grab();
 
     session.closeScores();
-    holdHalfway();
+    pauseHalfway();
     motion().resume();
     session.openScores();
     EXPECT_TRUE(sheet().isVisible());
-    waitUntilStill();
-    EXPECT_EQ(picture(), up);
+    waitForAnimations();
+    EXPECT_EQ(grab(), up);
 
     session.closeScores();
     session.openScores();
     session.closeScores();
-    waitUntilStill();
-    EXPECT_EQ(picture(), before);
+    waitForAnimations();
+    EXPECT_EQ(grab(), before);
 }
 
-TEST_F(SheetMotion, leavesNothingInAWindowThatIsResizedMeanwhile) {
+TEST_F(SheetMotion, endsWhenTheWindowIsResized) {
     leaveFullScreen();
     openAndWait();
     session.closeScores();
-    holdHalfway();
+    pauseHalfway();
     motion().resume();
     window.resize(1000, 900);
-    settle();
+    processEvents();
 
-    EXPECT_TRUE(isStill());
-    EXPECT_FALSE(window.findChild<SheetShade*>()->isVisible());
+    EXPECT_TRUE(animationsFinished());
+    EXPECT_FALSE(child<SheetShade>().isVisible());
 }
 
-TEST_F(SheetMotion, wakesTheProcessorOnlyOnItsWay) {
-    settle();
+TEST_F(SheetMotion, wakesTheEventLoopOnlyWhileAnimating) {
+    processEvents();
     EXPECT_LE(wakeups(200), idleWakeups);
 
     session.openScores();
     EXPECT_GT(wakeups(200), idleWakeups);
-    waitUntilStill();
+    waitForAnimations();
     EXPECT_LE(wakeups(200), idleWakeups);
 
     session.closeScores();
     EXPECT_GT(wakeups(200), idleWakeups);
-    waitUntilStill();
+    waitForAnimations();
     EXPECT_LE(wakeups(200), idleWakeups);
 }
 
-TEST_F(SheetMotion, isNoneUnderReducedMotion) {
+TEST_F(SheetMotion, isSkippedUnderReducedMotion) {
     const StillStyle still;
-    settle();
-    const QImage before = picture();
+    processEvents();
+    const QImage before = grab();
 
     session.openScores();
-    EXPECT_TRUE(isStill());
-    Look::expectColour(plainSheet(picture()), Garden::night, 0);
+    EXPECT_TRUE(animationsFinished());
+    Look::expectColour(sheetColour(grab()), Garden::night, 0);
     session.closeScores();
-    EXPECT_TRUE(isStill());
-    settle();
+    EXPECT_TRUE(animationsFinished());
+    processEvents();
 
-    EXPECT_EQ(picture(), before);
+    EXPECT_EQ(grab(), before);
 }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QCoreApplication>
 
 #include "Garden/Widgets/IconView.hpp"
 #include "Garden/Widgets/RollingDigits.hpp"
@@ -12,12 +13,14 @@
 #include "Screens/Scores/HighScoresView.hpp"
 #include "Screens/Scores/NameField.hpp"
 #include "Screens/Scores/ScoreRows.hpp"
+#include "Session/Session.hpp"
 #include "Support/Look.hpp"
 #include "Support/Screen.hpp"
 
-/// A screen is tidy when everything on it has the room it needs and none of another's.
-namespace Tidiness {
+/// Checks that widgets have the size they need and do not overlap.
+namespace Layout {
 
+/// Labels, numbers, icons, buttons and the like, as opposed to containers.
 inline bool isElement(const QWidget& widget) {
     return qobject_cast<const Garden::TrackedLabel*>(&widget) != nullptr ||
            qobject_cast<const Garden::RollingDigits*>(&widget) != nullptr ||
@@ -29,8 +32,8 @@ inline bool isElement(const QWidget& widget) {
            qobject_cast<const Garden::Rule*>(&widget) != nullptr;
 }
 
-/// What is shown inside `root` and is not made up of smaller things.
-inline QList<QWidget*> elementsOf(const QWidget& root) {
+/// The visible elements in `root`; a list of scores counts as one.
+inline QList<QWidget*> visibleElements(const QWidget& root) {
     QList<QWidget*> elements;
     for (QWidget* widget : root.findChildren<QWidget*>()) {
         const bool insideRows = qobject_cast<ScoreRows*>(widget->parentWidget()) != nullptr;
@@ -41,39 +44,47 @@ inline QList<QWidget*> elementsOf(const QWidget& root) {
     return elements;
 }
 
-/// Expects every element of `root` whole, inside the padding of `root` and apart from the others.
-inline void expectTidy(const QWidget& root, const QMargins& padding) {
-    const QList<QWidget*> elements = elementsOf(root);
+/// Expects every element in `root` to have its preferred size, to lie inside the padding and its
+/// parent, and to overlap no other element.
+inline void expectFits(const QWidget& root, const QMargins& padding) {
+    const QList<QWidget*> elements = visibleElements(root);
     ASSERT_FALSE(elements.empty());
-    const auto placeOf = [&root](const QWidget& widget) {
+    const auto rectOf = [&root](const QWidget& widget) {
         return QRect(widget.mapTo(&root, QPoint()), widget.size());
     };
     for (qsizetype index = 0; index < elements.size(); ++index) {
         const QWidget& element = *elements[index];
         SCOPED_TRACE(Screen::nameOf(elements[index]).toStdString());
-        const QRect place = placeOf(element);
-        EXPECT_TRUE(root.rect().marginsRemoved(padding).contains(place));
+        const QRect rect = rectOf(element);
+        EXPECT_TRUE(root.rect().marginsRemoved(padding).contains(rect));
         EXPECT_TRUE(element.parentWidget()->rect().contains(element.geometry()));
         const QSize needed = element.sizeHint().boundedTo(element.maximumSize());
         EXPECT_GE(element.width(), needed.width());
         EXPECT_GE(element.height(), needed.height());
         for (qsizetype other = 0; other < index; ++other) {
-            EXPECT_FALSE(place.intersects(placeOf(*elements[other])))
+            EXPECT_FALSE(rect.intersects(rectOf(*elements[other])))
                 << Screen::nameOf(elements[other]).toStdString();
         }
     }
 }
 
-/// The same of the whole window.
-inline void expectTidyWindow(const QWidget& window) {
-    expectTidy(window, {38, 0, 38, 26});
+inline void expectWindowFits(const QWidget& window) {
+    expectFits(window, {38, 0, 38, 26});
 }
 
-/// The same of the sheet of high scores, which is up and has to lie inside the window.
-inline void expectTidySheet(const QWidget& window) {
+/// Opens the score sheet, expects it and its contents to fit into the window, and closes it.
+inline void expectScoreSheetFits(Session& session, const QWidget& window) {
+    const auto processEvents = [] {
+        QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
+    };
+    session.openScores();
+    processEvents();
     const auto& sheet = *window.findChild<HighScoresView*>();
     EXPECT_TRUE(window.rect().contains(QRect(sheet.mapTo(&window, QPoint()), sheet.size())));
-    expectTidy(sheet, {32, 32, 32, 32});
+    expectFits(sheet, {32, 32, 32, 32});
+    session.closeScores();
+    processEvents();
 }
 
-}  // namespace Tidiness
+}  // namespace Layout

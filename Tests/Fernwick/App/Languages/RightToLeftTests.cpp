@@ -13,15 +13,14 @@
 
 namespace {
 
-struct ArabicSpeaker : Speaker {
-    ArabicSpeaker() : Speaker(QStringLiteral("ar")) {}
+struct Arabic : InstalledLanguage {
+    Arabic() : InstalledLanguage(QStringLiteral("ar")) {}
 };
 
-/// The screen of those who read from right to left.
-class MirroredScreen : public ArabicSpeaker, public LanguageTest {
+class RightToLeft : public Arabic, public LanguageTest {
 protected:
-    [[nodiscard]] QRect placeOfText(const QString& text) const {
-        return placeOf(*Screen::find<Garden::TrackedLabel>(window, text));
+    [[nodiscard]] QRect labelRect(const QString& text) const {
+        return rectOf(*Screen::find<Garden::TrackedLabel>(window, text));
     }
 
     static QImage pictureOf(QWidget& widget) {
@@ -29,21 +28,19 @@ protected:
     }
 
     static QImage rowOf(const std::string& name, std::int64_t score = 40) {
-        SnakeCore::HighScores table;
-        table.record(SnakeCore::UUID::random(), name, score, "Classic", SnakeCore::Date{0});
         ScoreRow row;
-        row.show(1, table.leaders("Classic").front(), false);
+        row.show(1, scoreTable({{name, score}}).leaders("Classic").front(), false);
         row.resize(300, row.sizeHint().height());
         return row.grab().toImage();
     }
 
-    /// The highest line between two columns of a row on which anything but its ground is to be
-    /// seen; the height of the row when there is none.
+    /// The topmost line with anything but background between the columns `left` and `right`; the
+    /// height of the row if there is none.
     static int topOfInk(const QImage& row, int left, int right) {
-        const int ground = qGray(row.pixel(row.width() / 2, 2));
+        const int background = qGray(row.pixel(row.width() / 2, 2));
         for (int y = 0; y < row.height(); ++y) {
             for (int x = left; x < right; ++x) {
-                if (qGray(row.pixel(x, y)) > ground + 40) {
+                if (qGray(row.pixel(x, y)) > background + 40) {
                     return y;
                 }
             }
@@ -55,7 +52,7 @@ protected:
         return topOfInk(row, left, right) < row.height();
     }
 
-    /// Whether a name of letters and dots has its letters before the dots, seen from the left.
+    /// Whether the letters of a name of letters and dots are to the left of the dots.
     static bool hasLettersAtTheLeft(const QImage& row) {
         constexpr int rankAndScore = 48;
         int left = rankAndScore;
@@ -70,13 +67,13 @@ protected:
         return topOfInk(row, left, middle) < topOfInk(row, middle, right);
     }
 
-    /// The inside of the board, without the light that falls on its surroundings.
+    /// The inside of the board, without the background around it, which is mirrored.
     static QImage boardOf(Session& session) {
         Painting::Backdrop backdrop;
-        QWidget holder;
-        holder.resize(600, 500);
-        BoardArea area(session, backdrop, &holder);
-        area.resize(holder.size());
+        QWidget parent;
+        parent.resize(600, 500);
+        BoardArea area(session, backdrop, &parent);
+        area.resize(parent.size());
         area.placeBoard(Painting::fitBoard(area.rect(), {28, 22}), {}, area.devicePixelRatioF());
         constexpr int edge = 30;
         return area.grab(area.frame().toRect().adjusted(edge, edge, -edge, -edge)).toImage();
@@ -87,39 +84,39 @@ constexpr int sidePadding = 38;
 
 }  // namespace
 
-TEST_F(MirroredScreen, beginsItsRowsAtTheRight) {
+TEST_F(RightToLeft, startsRowsAtTheRight) {
     const int right = smallestWindow.width() - sidePadding;
-    const QRect arrows = placeOfText(QStringLiteral("↑ ↓ ← →"));
+    const QRect arrows = labelRect(QStringLiteral("↑ ↓ ← →"));
     const QRect tagline =
-        placeOfText(QCoreApplication::translate("HeaderRow", "A little room to grow."));
+        labelRect(QCoreApplication::translate("HeaderRow", "A little room to grow."));
     const QList<Garden::ChoiceButton*> speeds =
-        the<ControlRow>().findChildren<Garden::ChoiceButton*>();
+        child<ControlRow>().findChildren<Garden::ChoiceButton*>();
 
     EXPECT_EQ(arrows.right() + 1, right);
     EXPECT_EQ(tagline.right() + 1, right);
-    EXPECT_GT(placeOf(*speeds[0]).left(), placeOf(*speeds[1]).left());
-    EXPECT_GT(placeOf(*speeds[1]).left(), placeOf(*speeds[2]).left());
+    EXPECT_GT(rectOf(*speeds[0]).left(), rectOf(*speeds[1]).left());
+    EXPECT_GT(rectOf(*speeds[1]).left(), rectOf(*speeds[2]).left());
 }
 
-TEST_F(MirroredScreen, endsItsRowsAtTheLeft) {
+TEST_F(RightToLeft, endsRowsAtTheLeft) {
     const QList<Garden::RollingDigits*> tiles = window.findChildren<Garden::RollingDigits*>();
     const QRect status =
-        placeOfText(QCoreApplication::translate("ControlRow", "THE CLASSIC, REPLANTED"));
+        labelRect(QCoreApplication::translate("ControlRow", "THE CLASSIC, REPLANTED"));
 
-    EXPECT_EQ(placeOf(*tiles[1]).left(), sidePadding);
-    EXPECT_GT(placeOf(*tiles[0]).left(), placeOf(*tiles[1]).right());
+    EXPECT_EQ(rectOf(*tiles[1]).left(), sidePadding);
+    EXPECT_GT(rectOf(*tiles[0]).left(), rectOf(*tiles[1]).right());
     EXPECT_EQ(status.left(), sidePadding);
 }
 
-TEST_F(MirroredScreen, letsABestGrowAwayFromTheEdge) {
+TEST_F(RightToLeft, growsThePersonalBestAwayFromTheEdge) {
     auto& best = *window.findChildren<Garden::RollingDigits*>()[1];
     setBest(1234567);
 
-    EXPECT_EQ(placeOf(best).left(), sidePadding);
+    EXPECT_EQ(rectOf(best).left(), sidePadding);
     EXPECT_EQ(best.width(), best.sizeHint().width());
 }
 
-TEST_F(MirroredScreen, keepsTheOrderOfTheArrowKeys) {
+TEST_F(RightToLeft, doesNotReorderTheArrowKeyHint) {
     const QString keys = QStringLiteral("↑ ↓ ← →");
     auto& arrows = *Screen::find<Garden::TrackedLabel>(window, keys);
     const QImage mirrored = pictureOf(arrows);
@@ -130,7 +127,7 @@ TEST_F(MirroredScreen, keepsTheOrderOfTheArrowKeys) {
     EXPECT_EQ(mirrored, pictureOf(otherArrows));
 }
 
-TEST_F(MirroredScreen, leavesTheBoardAsItIs) {
+TEST_F(RightToLeft, doesNotMirrorTheBoard) {
     session.start();
     const QImage mirrored = boardOf(session);
     const Language english{QString()};
@@ -138,7 +135,7 @@ TEST_F(MirroredScreen, leavesTheBoardAsItIs) {
     EXPECT_EQ(mirrored, boardOf(session));
 }
 
-TEST_F(MirroredScreen, turnsTheSnakeTheWayTheKeyPoints) {
+TEST_F(RightToLeft, doesNotMirrorTheTurnKeys) {
     session.start();
     Keyboard::press(window, Qt::Key_Up);
     fireTimer();
@@ -148,15 +145,15 @@ TEST_F(MirroredScreen, turnsTheSnakeTheWayTheKeyPoints) {
     EXPECT_EQ(session.game().direction(), SnakeCore::Direction::left);
 }
 
-TEST_F(MirroredScreen, movesBetweenSpeedsTheWayTheArrowPoints) {
+TEST_F(RightToLeft, arrowKeysMoveBetweenSpeedsInVisualOrder) {
     session.openScores();
     session.chooseScorePace(Pace::gentle);
-    settle();
-    const auto& speeds = *the<HighScoresView>().findChild<Garden::ChoiceGroup*>();
+    processEvents();
+    const auto& speeds = *child<HighScoresView>().findChild<Garden::ChoiceGroup*>();
     const auto choices = speeds.findChildren<Garden::ChoiceButton*>();
     const auto chosenBy = [&](Qt::Key key) {
         QTest::keyClick(choices[speeds.current()], key);
-        settle();
+        processEvents();
         return speeds.current();
     };
 
@@ -165,15 +162,15 @@ TEST_F(MirroredScreen, movesBetweenSpeedsTheWayTheArrowPoints) {
     EXPECT_EQ(chosenBy(Qt::Key_Right), 1);
 }
 
-TEST_F(MirroredScreen, isLitFromTheCornerThatReadingBeginsAt) {
-    const QImage seen = picture();
+TEST_F(RightToLeft, mirrorsTheBackgroundGradient) {
+    const QImage seen = grab();
     constexpr int inset = 2;
     const int right = seen.width() - 1 - inset;
 
     EXPECT_GT(qGray(seen.pixel(right, inset)), qGray(seen.pixel(inset, inset)));
 }
 
-TEST_F(MirroredScreen, putsTheRankAtTheRightAndTheScoreAtTheLeftOfARow) {
+TEST_F(RightToLeft, putsTheRankAtTheRightAndTheScoreAtTheLeft) {
     const QImage row = rowOf("i", 12345678);
     constexpr int padding = 14;
     constexpr int rankWidth = 25;
@@ -185,7 +182,7 @@ TEST_F(MirroredScreen, putsTheRankAtTheRightAndTheScoreAtTheLeftOfARow) {
     EXPECT_FALSE(hasInk(row, width / 2, width - 2 * padding - rankWidth - 10));
 }
 
-TEST_F(MirroredScreen, beginsNamesOfEveryScriptBesideTheRank) {
+TEST_F(RightToLeft, startsNamesOfEveryScriptNextToTheRank) {
     for (const char* name : {"Ada", "مريم"}) {
         const QImage row = rowOf(name);
         const int begin = row.width() - 14 - 25 - 14;
@@ -194,7 +191,7 @@ TEST_F(MirroredScreen, beginsNamesOfEveryScriptBesideTheRank) {
     }
 }
 
-TEST_F(MirroredScreen, readsANameInTheDirectionOfItsLetters) {
+TEST_F(RightToLeft, displaysANameInTheDirectionOfItsScript) {
     EXPECT_TRUE(hasLettersAtTheLeft(rowOf("Ada............")));
     const Language english{QString()};
     EXPECT_FALSE(hasLettersAtTheLeft(rowOf("مريم............")));
