@@ -178,29 +178,19 @@ void Session::play(SoundEffect effect) {
     }
 }
 
-void Session::turn(SnakeCore::Direction direction) {
-    if (running()) {
-        game_.turn(direction);
-        Q_EMIT changed();
-    }
-}
-
 bool Session::key(GameKey key) {
     if (awaitingName() || showingScores_) {
         return false;
     }
     switch (key) {
         case GameKey::up:
-            turn(SnakeCore::Direction::up);
-            break;
         case GameKey::down:
-            turn(SnakeCore::Direction::down);
-            break;
         case GameKey::left:
-            turn(SnakeCore::Direction::left);
-            break;
         case GameKey::right:
-            turn(SnakeCore::Direction::right);
+            if (running()) {
+                game_.turn(static_cast<SnakeCore::Direction>(key));
+                Q_EMIT changed();
+            }
             break;
         case GameKey::space:
             inRun() ? pause() : start();

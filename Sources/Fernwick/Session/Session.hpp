@@ -107,7 +107,6 @@ private:
     void stopTimer();
     void tick();
     void togglePause();
-    void turn(SnakeCore::Direction direction);
     void play(SoundEffect effect);
 
     Preferences& preferences_;
