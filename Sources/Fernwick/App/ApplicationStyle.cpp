@@ -1,7 +1,7 @@
 #include "App/ApplicationStyle.hpp"
 
 #include <QApplication>
-#include <QIconEngine>
+#include <QIcon>
 #include <QPalette>
 #include <QProxyStyle>
 #include <QToolTip>
@@ -15,38 +15,17 @@ constexpr double fontSize = 13;
 constexpr double toolTipFontSize = 12;
 constexpr double disabledOpacity = 0.45;
 
-constexpr auto ourStyle = "Fusion";
-
-/// A standard icon of the style, loaded when it is first painted. Loading one initialises Qt's
-/// image format plugins, which nothing else at start-up needs.
-class LateIcon : public QIconEngine {
-public:
-    explicit LateIcon(QStyle::StandardPixmap which) : which_(which) {}
-
-    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode,
-               QIcon::State state) override {
-        icon().paint(painter, rect, Qt::AlignCenter, mode, state);
-    }
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-        return icon().pixmap(size, mode, state);
-    }
-    [[nodiscard]] QIconEngine* clone() const override { return new LateIcon(which_); }
-
-private:
-    [[nodiscard]] QIcon icon() const { return QProxyStyle(ourStyle).standardIcon(which_); }
-
-    QStyle::StandardPixmap which_;
-};
-
 class GardenStyle : public QProxyStyle {
 public:
-    GardenStyle() : QProxyStyle(ourStyle) {}
+    GardenStyle() : QProxyStyle("Fusion") {}
 
     [[nodiscard]] QIcon standardIcon(StandardPixmap which, const QStyleOption* option,
                                      const QWidget* widget) const override {
-        // Every QMenuBar asks for this icon when it is made.
+        // Every QMenuBar asks for this icon when it is made, for the case that its titles do not
+        // fit, which they always do. Loading it would initialise Qt's image format plugins, which
+        // nothing else at start-up needs.
         return which == SP_ToolBarHorizontalExtensionButton
-                   ? QIcon(new LateIcon(which))
+                   ? QIcon()
                    : QProxyStyle::standardIcon(which, option, widget);
     }
 };

@@ -8,7 +8,12 @@
 FernwickApp::FernwickApp(Preferences& preferences, SoundEffects& soundEffects)
     : session_(preferences, soundEffects), keyMonitor_(session_), window_(session_) {
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
-            &FernwickApp::applicationStateChanged);
+            [this](Qt::ApplicationState state) {
+                assertMainThread();
+                if (state != Qt::ApplicationActive && session_.running()) {
+                    session_.pause();
+                }
+            });
 }
 
 void FernwickApp::show() {
@@ -20,14 +25,5 @@ void FernwickApp::show() {
 void FernwickApp::bringForward(const QByteArray& activationToken) {
     Desktop::setActivationToken(activationToken);
     window_.setWindowState(window_.windowState() & ~Qt::WindowMinimized);
-    window_.show();
-    window_.raise();
-    window_.activateWindow();
-}
-
-void FernwickApp::applicationStateChanged(Qt::ApplicationState state) {
-    assertMainThread();
-    if (state != Qt::ApplicationActive && session_.running()) {
-        session_.pause();
-    }
+    show();
 }

@@ -27,8 +27,6 @@ public:
     [[nodiscard]] GameWindow& window() { return window_; }
 
 private:
-    void applicationStateChanged(Qt::ApplicationState state);
-
     Session session_;
     KeyMonitor keyMonitor_;
     GameWindow window_;

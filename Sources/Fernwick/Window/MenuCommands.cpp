@@ -14,8 +14,25 @@
 MenuCommands::MenuCommands(Session& session, QMenuBar& bar, QWidget& window)
     : QObject(&window), session_(session), window_(window) {
     //: Titles of menus; they and their items are worded as the desktops of the language do.
-    fillFileMenu(*bar.addMenu(tr("File")));
-    fillGameMenu(*bar.addMenu(tr("Game")));
+    QMenu& file = *bar.addMenu(tr("File"));
+    QMenu& game = *bar.addMenu(tr("Game"));
+    newGame_ = add(file, tr("New Game"), {QKeySequence(Qt::CTRL | Qt::Key_N)},
+                   [this] { session_.start(); });
+    file.addSeparator();
+    add(file, tr("Quit"), {QKeySequence(Qt::CTRL | Qt::Key_Q)}, [] { QCoreApplication::quit(); });
+
+    add(game, tr("Toggle Full Screen"),
+        {QKeySequence(Qt::CTRL | Qt::META | Qt::Key_F), QKeySequence(Qt::Key_F11)},
+        toggleFullScreen);
+    game.addSeparator();
+    add(game, tr("High Scores"), {QKeySequence(Qt::CTRL | Qt::Key_L)},
+        [this] { session_.openScores(); });
+    pause_ =
+        add(game, tr("Resume"), {QKeySequence(Qt::CTRL | Qt::Key_P)}, [this] { session_.pause(); });
+    soundEffects_ = add(game, tr("Sound Effects"), {},
+                        [this] { session_.setSound(soundEffects_->isChecked()); });
+    soundEffects_->setCheckable(true);
+
     connect(&session_, &Session::changed, this, &MenuCommands::refresh);
     refresh();
 }
@@ -31,27 +48,6 @@ QAction* MenuCommands::add(QMenu& menu, const QString& title, const QList<QKeySe
         action();
     });
     return item;
-}
-
-void MenuCommands::fillFileMenu(QMenu& menu) {
-    newGame_ = add(menu, tr("New Game"), {QKeySequence(Qt::CTRL | Qt::Key_N)},
-                   [this] { session_.start(); });
-    menu.addSeparator();
-    add(menu, tr("Quit"), {QKeySequence(Qt::CTRL | Qt::Key_Q)}, [] { QCoreApplication::quit(); });
-}
-
-void MenuCommands::fillGameMenu(QMenu& menu) {
-    add(menu, tr("Toggle Full Screen"),
-        {QKeySequence(Qt::CTRL | Qt::META | Qt::Key_F), QKeySequence(Qt::Key_F11)},
-        toggleFullScreen);
-    menu.addSeparator();
-    add(menu, tr("High Scores"), {QKeySequence(Qt::CTRL | Qt::Key_L)},
-        [this] { session_.openScores(); });
-    pause_ =
-        add(menu, tr("Resume"), {QKeySequence(Qt::CTRL | Qt::Key_P)}, [this] { session_.pause(); });
-    soundEffects_ = add(menu, tr("Sound Effects"), {},
-                        [this] { session_.setSound(soundEffects_->isChecked()); });
-    soundEffects_->setCheckable(true);
 }
 
 void MenuCommands::refresh() {

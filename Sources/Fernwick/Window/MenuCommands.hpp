@@ -23,8 +23,6 @@ public:
 private:
     QAction* add(QMenu& menu, const QString& title, const QList<QKeySequence>& shortcuts,
                  std::function<void()> action);
-    void fillFileMenu(QMenu& menu);
-    void fillGameMenu(QMenu& menu);
     void refresh();
 
     Session& session_;

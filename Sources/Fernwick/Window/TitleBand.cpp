@@ -31,31 +31,18 @@ TitleBand::TitleBand(QWidget* window) : QWidget(window), menuBar_(new QMenuBar(t
     row->setSpacing(markSpacing);
     row->addWidget(menuBar_, 0, Qt::AlignVCenter);
     row->addStretch();
+    const auto addMark = [&](Garden::IconButton* mark, auto action) {
+        row->addWidget(mark, 0, Qt::AlignVCenter);
+        marks_.append(mark);
+        connect(mark, &QAbstractButton::clicked, window, action);
+    };
     //: Help for the marks of the window, as the desktops of the language say it.
     maximize_ = new Garden::IconButton(Garden::Icon::windowMaximize, tr("Maximise"));
-    addMark(*row, new Garden::IconButton(Garden::Icon::windowMinimize, tr("Minimise")),
-            &TitleBand::minimize);
-    addMark(*row, maximize_, &TitleBand::toggleMaximized);
-    addMark(*row, new Garden::IconButton(Garden::Icon::windowClose, tr("Close")),
-            &TitleBand::close);
-}
-
-void TitleBand::addMark(QHBoxLayout& row, Garden::IconButton* mark, void (TitleBand::*action)()) {
-    row.addWidget(mark, 0, Qt::AlignVCenter);
-    marks_.append(mark);
-    connect(mark, &QAbstractButton::clicked, this, action);
-}
-
-void TitleBand::minimize() {
-    window()->showMinimized();
-}
-
-void TitleBand::toggleMaximized() {
-    window()->setWindowState(window()->windowState() ^ Qt::WindowMaximized);
-}
-
-void TitleBand::close() {
-    window()->close();
+    addMark(new Garden::IconButton(Garden::Icon::windowMinimize, tr("Minimise")),
+            &QWidget::showMinimized);
+    addMark(maximize_,
+            [window] { window->setWindowState(window->windowState() ^ Qt::WindowMaximized); });
+    addMark(new Garden::IconButton(Garden::Icon::windowClose, tr("Close")), &QWidget::close);
 }
 
 void TitleBand::watchWindow() {
@@ -106,7 +93,7 @@ void TitleBand::followWindowState() {
 void TitleBand::followPointer(int y) {
     pointerInBand_ = y < height;
     if (y <= 0) {
-        reveal();
+        menuBar_->show();
     } else {
         concealUnlessUsed();
     }
@@ -130,10 +117,6 @@ bool TitleBand::followKeys(const QKeyEvent& event) {
     return false;
 }
 
-void TitleBand::reveal() {
-    menuBar_->show();
-}
-
 void TitleBand::concealUnlessUsed() {
     if (window()->isFullScreen() && !pointerInBand_ &&
         QApplication::activePopupWidget() == nullptr) {
@@ -142,6 +125,6 @@ void TitleBand::concealUnlessUsed() {
 }
 
 void TitleBand::openFirstMenu() {
-    reveal();
+    menuBar_->show();
     menuBar_->setActiveAction(menuBar_->actions().constFirst());
 }

@@ -3,7 +3,6 @@
 #include <QList>
 #include <QWidget>
 
-class QHBoxLayout;
 class QMenuBar;
 class QKeyEvent;
 
@@ -31,14 +30,9 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void addMark(QHBoxLayout& row, Garden::IconButton* mark, void (TitleBand::*action)());
-    void minimize();
-    void toggleMaximized();
-    void close();
     void followWindowState();
     void followPointer(int y);
     bool followKeys(const QKeyEvent& event);
-    void reveal();
     void concealUnlessUsed();
     void openFirstMenu();
 
