@@ -7,7 +7,6 @@
 
 #include "Garden/Widgets/IconView.hpp"
 #include "Garden/Widgets/RollingDigits.hpp"
-#include "Garden/Widgets/Rule.hpp"
 #include "Garden/Widgets/StatusDot.hpp"
 #include "Garden/Widgets/TrackedLabel.hpp"
 #include "Screens/Scores/HighScoresView.hpp"
@@ -29,7 +28,7 @@ inline bool isElement(const QWidget& widget) {
            qobject_cast<const NameField*>(&widget) != nullptr ||
            qobject_cast<const ScoreRows*>(&widget) != nullptr ||
            qobject_cast<const Garden::StatusDot*>(&widget) != nullptr ||
-           qobject_cast<const Garden::Rule*>(&widget) != nullptr;
+           widget.objectName() == QLatin1String("rule");
 }
 
 /// The visible elements in `root`; a list of scores counts as one.

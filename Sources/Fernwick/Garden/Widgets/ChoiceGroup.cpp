@@ -1,12 +1,12 @@
 #include "Garden/Widgets/ChoiceGroup.hpp"
 
-#include <QHBoxLayout>
 #include <QPainter>
 
 #include "Garden/Look/Palette.hpp"
 #include "Garden/Look/RoundedShape.hpp"
 #include "Garden/Widgets/Accessibility.hpp"
 #include "Garden/Widgets/ChoiceButton.hpp"
+#include "Garden/Widgets/Layout.hpp"
 
 namespace Garden {
 
@@ -23,9 +23,7 @@ ChoiceGroup::ChoiceGroup(const QStringList& choices, const QString& accessibleNa
     setAccessibleRole(*this, QAccessible::Grouping);
     setAccessibleName(accessibleName);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(groupPadding, groupPadding, groupPadding, groupPadding);
-    row->setSpacing(0);
+    auto* row = layOut<QHBoxLayout>(this, 0, groupPadding);
     for (int index = 0; index < choices.size(); ++index) {
         auto* button = new ChoiceButton(choices[index], this);
         connect(button, &ChoiceButton::clicked, this, [this, index] { Q_EMIT chosen(index); });

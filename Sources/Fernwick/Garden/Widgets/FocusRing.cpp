@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPen>
+#include <QWidget>
 
 namespace Garden {
 
@@ -30,6 +31,15 @@ void FocusRing::paint(QPainter& painter, const QPainterPath& path, const QColor&
     if (visible_) {
         painter.setRenderHint(QPainter::Antialiasing);
         painter.strokePath(path, QPen(colour, width));
+    }
+}
+
+void releaseFocus(const QWidget& hidden) {
+    // QApplication::focusWidget() is null while another application is active; the window still
+    // remembers its focus widget and would give it the focus on activation.
+    const QWidget* focus = hidden.window()->focusWidget();
+    if (focus != nullptr && (focus == &hidden || hidden.isAncestorOf(focus))) {
+        hidden.window()->setFocus(Qt::OtherFocusReason);
     }
 }
 

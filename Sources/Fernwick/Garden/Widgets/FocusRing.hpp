@@ -5,6 +5,7 @@
 
 class QPainter;
 class QPainterPath;
+class QWidget;
 
 namespace Garden {
 
@@ -28,5 +29,9 @@ private:
     // The focus left temporarily while the ring was visible.
     bool resumes_ = false;
 };
+
+/// Call before hiding `hidden`. If it contains the focus widget, moves the focus to its window;
+/// otherwise Qt would give it to the next control in the tab order.
+void releaseFocus(const QWidget& hidden);
 
 }  // namespace Garden

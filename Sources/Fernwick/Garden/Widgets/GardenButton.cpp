@@ -1,8 +1,10 @@
 #include "Garden/Widgets/GardenButton.hpp"
 
 #include <QPainter>
+#include <cmath>
 
 #include "Garden/Look/Fonts.hpp"
+#include "Garden/Look/Icons.hpp"
 #include "Garden/Look/Palette.hpp"
 #include "Garden/Look/RoundedShape.hpp"
 
@@ -11,21 +13,67 @@ namespace Garden {
 namespace {
 
 constexpr double fontSize = 13;
-constexpr QSize padding(30, 13);
+constexpr QSize capsulePadding(30, 13);
+constexpr QSize arrowPadding(25, 15);
+constexpr double cornerRadius = 22;
+constexpr int arrowSpacing = 8;
+// Odd in an even height, so that the shaft fills one row of pixels, at the middle of the letters.
+constexpr int arrowSize = 13;
+
+constexpr double pressedFill = 0.7;
+constexpr double disabledFill = 0.3;
+constexpr double hoverEdgeOpacity = 0.7;
+constexpr double hoverEdgeInset = 0.75;
+constexpr double ringInset = 3;
 
 }  // namespace
 
-GardenButton::GardenButton(const QString& text, QWidget* parent)
-    : QuietButton(text, sans(fontSize, QFont::DemiBold), padding, parent) {}
+GardenButton::GardenButton(const QString& text, QWidget* parent, Style style)
+    : QuietButton(text, sans(fontSize, QFont::DemiBold),
+                  style == Style::arrow ? arrowPadding : capsulePadding, parent),
+      style_(style) {}
+
+QSize GardenButton::sizeHint() const {
+    return QuietButton::sizeHint() +
+           QSize(style_ == Style::arrow ? arrowSpacing + arrowSize : 0, 0);
+}
+
+QPainterPath GardenButton::shape(double distance, double radius) const {
+    const QRectF place = inset(rect(), distance);
+    return style_ == Style::arrow ? continuousRoundedRect(place, radius) : continuousCapsule(place);
+}
 
 void GardenButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const auto capsule = [this](double distance) {
-        return continuousCapsule(inset(rect(), distance));
-    };
-    paintFill(painter, capsule(0), capsule(hoverEdgeInset), capsule(filledRingInset));
+    painter.setRenderHint(QPainter::Antialiasing);
+    const double enabledOpacity = isDown() ? pressedFill : 1;
+    painter.fillPath(shape(0, cornerRadius),
+                     withOpacity(mint, isEnabled() ? enabledOpacity : disabledFill));
+    if (hovered()) {
+        painter.strokePath(shape(hoverEdgeInset, cornerRadius),
+                           QPen(withOpacity(Qt::white, hoverEdgeOpacity), 2 * hoverEdgeInset));
+    }
+    focusRing().paint(painter, shape(ringInset, cornerRadius - ringInset), ink);
     painter.setPen(ink);
-    painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
+    if (style_ == Style::arrow) {
+        paintTextAndArrow(painter);
+    } else {
+        painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
+    }
+}
+
+void GardenButton::paintTextAndArrow(QPainter& painter) const {
+    const int content = sizeHint().width() - 2 * arrowPadding.width();
+    const QRectF line(std::floor((width() - content) / 2.0), 0, content, height());
+    painter.setLayoutDirection(layoutDirection());
+    // AlignLeft is the leading side in either layout direction.
+    painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text());
+    if (isRightToLeft()) {
+        painter.setTransform(QTransform(-1, 0, 0, 1, width(), 0), true);
+    }
+    paintIcon(painter, Icon::arrowRight,
+              QRectF(line.right() - arrowSize, (height() - arrowSize) / 2.0, arrowSize, arrowSize),
+              ink);
 }
 
 }  // namespace Garden

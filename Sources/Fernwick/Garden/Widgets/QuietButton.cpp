@@ -3,24 +3,21 @@
 #include <QFontMetricsF>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QPainterPath>
 #include <cmath>
 
 #include "Garden/Look/Contrast.hpp"
 #include "Garden/Look/Palette.hpp"
+#include "Garden/Look/RoundedShape.hpp"
 #include "Garden/Widgets/Accessibility.hpp"
 
 namespace Garden {
 
 namespace {
 
-constexpr double pressedFill = 0.7;
-constexpr double disabledFill = 0.3;
-constexpr double hoverEdgeOpacity = 0.7;
-
 constexpr QColor hoveredQuiet = srgb(0.66, 0.80, 0.70);
 constexpr double pressedQuiet = 0.7;
 constexpr double disabledQuiet = 0.4;
+constexpr double ringRadius = 6;
 
 }  // namespace
 
@@ -56,16 +53,12 @@ QColor QuietButton::quietColour() const {
     return legible(hovered() ? hoveredQuiet : muted);
 }
 
-void QuietButton::paintFill(QPainter& painter, const QPainterPath& shape, const QPainterPath& edge,
-                            const QPainterPath& ring) const {
-    const double enabledOpacity = isDown() ? pressedFill : 1;
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(shape, withOpacity(mint, isEnabled() ? enabledOpacity : disabledFill));
-    if (hovered()) {
-        painter.strokePath(edge,
-                           QPen(withOpacity(Qt::white, hoverEdgeOpacity), 2 * hoverEdgeInset));
-    }
-    focusRing_.paint(painter, ring, ink);
+void QuietButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setPen(quietColour());
+    painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
+    focusRing_.paint(painter,
+                     continuousRoundedRect(inset(rect(), FocusRing::width / 2), ringRadius), mint);
 }
 
 void QuietButton::keyPressEvent(QKeyEvent* event) {

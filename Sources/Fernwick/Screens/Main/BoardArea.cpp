@@ -1,6 +1,6 @@
 #include "Screens/Main/BoardArea.hpp"
 
-#include "Garden/Widgets/Focus.hpp"
+#include "Garden/Widgets/FocusRing.hpp"
 #include "Screens/Main/Board.hpp"
 #include "Screens/Main/Overlay.hpp"
 #include "Screens/Scores/GameOverView.hpp"

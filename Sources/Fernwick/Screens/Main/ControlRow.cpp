@@ -1,10 +1,9 @@
 #include "Screens/Main/ControlRow.hpp"
 
-#include <QHBoxLayout>
-
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/Palette.hpp"
 #include "Garden/Widgets/ChoiceGroup.hpp"
+#include "Garden/Widgets/Layout.hpp"
 #include "Garden/Widgets/StatusDot.hpp"
 #include "Garden/Widgets/TrackedLabel.hpp"
 #include "Session/Session.hpp"
@@ -24,20 +23,16 @@ ControlRow::ControlRow(Session& session, QWidget* parent)
       dot_(new Garden::StatusDot),
       status_(new Garden::TrackedLabel({}, Garden::sans(statusSize, QFont::Medium, statusTracking),
                                        Garden::muted)) {
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(statusSpacing);
+    auto* row = Garden::layOut<QHBoxLayout>(this, statusSpacing);
     row->addWidget(speeds_);
     row->addStretch();
     row->addWidget(dot_);
     row->addWidget(status_);
-    connect(speeds_, &Garden::ChoiceGroup::chosen, this, &ControlRow::choose);
+    connect(speeds_, &Garden::ChoiceGroup::chosen, this, [this](int index) {
+        session_.choosePace(allPaces.at(static_cast<std::size_t>(index)));
+    });
     connect(&session_, &Session::changed, this, &ControlRow::refresh);
     refresh();
-}
-
-void ControlRow::choose(int index) {
-    session_.choosePace(allPaces.at(static_cast<std::size_t>(index)));
 }
 
 QString ControlRow::statusWord() const {

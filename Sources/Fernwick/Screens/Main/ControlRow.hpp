@@ -18,7 +18,6 @@ public:
     explicit ControlRow(Session& session, QWidget* parent = nullptr);
 
 private:
-    void choose(int index);
     void refresh();
     [[nodiscard]] QString statusWord() const;
 

@@ -1,12 +1,10 @@
 #include "Screens/Main/HeaderRow.hpp"
 
-#include <QHBoxLayout>
-
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/Palette.hpp"
 #include "Garden/Widgets/IconView.hpp"
+#include "Garden/Widgets/Layout.hpp"
 #include "Garden/Widgets/RollingDigits.hpp"
-#include "Garden/Widgets/Rule.hpp"
 #include "Garden/Widgets/TrackedLabel.hpp"
 #include "Session/Session.hpp"
 
@@ -21,6 +19,8 @@ constexpr int titleBlockSpacing = 7;
 constexpr double labelSize = 9;
 constexpr double labelTracking = 2;
 constexpr int tileSpacing = 7;
+constexpr QSize ruleSize(1, 36);
+constexpr double ruleOpacity = 0.25;
 constexpr int rulePadding = 12;
 
 }  // namespace
@@ -30,15 +30,18 @@ HeaderRow::HeaderRow(Session& session, QWidget* parent)
       session_(session),
       score_(new Garden::RollingDigits(Qt::AlignLeft, this)),
       best_(new Garden::RollingDigits(Qt::AlignRight, this)) {
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(0);
+    auto* rule = new QWidget;
+    rule->setObjectName(QStringLiteral("rule"));
+    rule->setFixedSize(ruleSize);
+    rule->setPalette(Garden::withOpacity(Garden::muted, ruleOpacity));
+    rule->setAutoFillBackground(true);
+    auto* row = Garden::layOut<QHBoxLayout>(this, 0);
     row->addLayout(titleBlock());
     row->addStretch();
     //: A tiny label above a number; so is the next. In capitals where the script has them.
     row->addLayout(scoreTile(tr("SCORE"), score_, Qt::AlignLeft));
     row->addSpacing(rulePadding);
-    row->addWidget(new Garden::Rule, 0, Qt::AlignVCenter);
+    row->addWidget(rule, 0, Qt::AlignVCenter);
     row->addSpacing(rulePadding);
     row->addLayout(scoreTile(tr("PERSONAL BEST"), best_, Qt::AlignRight));
     connect(&session_, &Session::changed, this, &HeaderRow::refresh);

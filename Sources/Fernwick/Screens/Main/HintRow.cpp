@@ -1,10 +1,9 @@
 #include "Screens/Main/HintRow.hpp"
 
-#include <QHBoxLayout>
-
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/Palette.hpp"
 #include "Garden/Widgets/IconButton.hpp"
+#include "Garden/Widgets/Layout.hpp"
 #include "Garden/Widgets/TrackedLabel.hpp"
 #include "Session/Session.hpp"
 
@@ -30,9 +29,7 @@ HintRow::HintRow(Session& session, QWidget* parent)
       scores_(new Garden::IconButton(Garden::Icon::trophy, tr("High scores"))),
       sound_(new Garden::IconButton(Garden::Icon::speakerWaves, tr("Toggle sound effects"))),
       pause_(new Garden::IconButton(Garden::Icon::play, tr("Pause or resume"))) {
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(hintSpacing);
+    auto* row = Garden::layOut<QHBoxLayout>(this, hintSpacing);
     auto* arrows = hint(QStringLiteral("↑ ↓ ← →"), arrowsSize);
     // Not mirrored: the arrows stand in their own order.
     arrows->setLayoutDirection(Qt::LeftToRight);

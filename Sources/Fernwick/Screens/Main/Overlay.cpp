@@ -1,12 +1,11 @@
 #include "Screens/Main/Overlay.hpp"
 
-#include <QVBoxLayout>
-
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/NumberText.hpp"
 #include "Garden/Look/Palette.hpp"
+#include "Garden/Widgets/GardenButton.hpp"
 #include "Garden/Widgets/IconView.hpp"
-#include "Garden/Widgets/OverlayButton.hpp"
+#include "Garden/Widgets/Layout.hpp"
 #include "Garden/Widgets/TrackedLabel.hpp"
 #include "Session/Session.hpp"
 
@@ -33,10 +32,8 @@ Overlay::Overlay(Session& session, QWidget* parent)
                                       Garden::primaryText)),
       line_(new Garden::TrackedLabel({}, Garden::sans(lineSize, QFont::Normal),
                                      Garden::withOpacity(Qt::white, lineOpacity))),
-      button_(new Garden::OverlayButton({})) {
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(padding, padding, padding, padding);
-    column->setSpacing(spacing);
+      button_(new Garden::GardenButton({}, this, Garden::GardenButton::Style::arrow)) {
+    auto* column = Garden::layOut<QVBoxLayout>(this, spacing, padding);
     column->addStretch();
     column->addWidget(symbol_, 0, Qt::AlignHCenter);
     column->addWidget(title_, 0, Qt::AlignHCenter);
@@ -50,7 +47,8 @@ Overlay::Overlay(Session& session, QWidget* parent)
             tr("PRESS SPACE"), Garden::sans(hintSize, QFont::Medium, hintTracking), Garden::muted),
         0, Qt::AlignHCenter);
     column->addStretch();
-    connect(button_, &QAbstractButton::clicked, this, &Overlay::press);
+    connect(button_, &QAbstractButton::clicked, this,
+            [this] { session_.inRun() ? session_.pause() : session_.start(); });
     connect(&session_, &Session::changed, this, &Overlay::refresh);
     refresh();
 }
@@ -79,8 +77,4 @@ void Overlay::refresh() {
         line_->setText(tr("Gather the fruit. Grow a little longer. Stay curious."));
         button_->setText(tr("Let's grow"));
     }
-}
-
-void Overlay::press() {
-    session_.inRun() ? session_.pause() : session_.start();
 }

@@ -6,7 +6,7 @@ class Session;
 
 namespace Garden {
 class IconView;
-class OverlayButton;
+class GardenButton;
 class TrackedLabel;
 }  // namespace Garden
 
@@ -23,11 +23,10 @@ public:
 
 private:
     void refresh();
-    void press();
 
     Session& session_;
     Garden::IconView* symbol_;
     Garden::TrackedLabel* title_;
     Garden::TrackedLabel* line_;
-    Garden::OverlayButton* button_;
+    Garden::GardenButton* button_;
 };

@@ -3,9 +3,9 @@
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/NumberText.hpp"
 #include "Garden/Look/Palette.hpp"
-#include "Garden/Widgets/Focus.hpp"
+#include "Garden/Widgets/FocusRing.hpp"
+#include "Garden/Widgets/Layout.hpp"
 #include "Garden/Widgets/TrackedLabel.hpp"
-#include "Screens/Scores/CardLayout.hpp"
 #include "Screens/Scores/NameEntry.hpp"
 #include "Screens/Scores/SavedBoard.hpp"
 #include "Session/Session.hpp"
@@ -17,6 +17,7 @@ constexpr double resultSize = 11;
 constexpr double resultTracking = 2;
 constexpr int widestCard = 400;
 constexpr int cardPadding = 24;
+constexpr int spacing = 14;
 
 }  // namespace
 
@@ -31,14 +32,13 @@ GameOverView::GameOverView(Session& session, QWidget* parent)
       savedBoard_(new SavedBoard(session)) {
     auto* card = new QWidget(this);
     card->setMaximumWidth(widestCard);
-    QVBoxLayout* column = cardColumn(*card);
+    auto* column = Garden::layOut<QVBoxLayout>(card, spacing);
     column->addWidget(headline_, 0, Qt::AlignHCenter);
     column->addWidget(result_, 0, Qt::AlignHCenter);
     column->addWidget(nameEntry_);
     column->addWidget(savedBoard_);
 
-    auto* area = new QHBoxLayout(this);
-    area->setContentsMargins(cardPadding, cardPadding, cardPadding, cardPadding);
+    auto* area = Garden::layOut<QHBoxLayout>(this, 0, cardPadding);
     area->addStretch();
     // The stretch factor lets the card grow to its maximum width before the margins grow.
     area->addWidget(card, 1, Qt::AlignVCenter);

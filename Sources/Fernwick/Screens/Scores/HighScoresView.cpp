@@ -3,7 +3,6 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
-#include <QVBoxLayout>
 
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/Palette.hpp"
@@ -12,6 +11,7 @@
 #include "Garden/Widgets/ChoiceGroup.hpp"
 #include "Garden/Widgets/GardenButton.hpp"
 #include "Garden/Widgets/IconView.hpp"
+#include "Garden/Widgets/Layout.hpp"
 #include "Garden/Widgets/TrackedLabel.hpp"
 #include "Screens/Scores/ScoreRows.hpp"
 #include "Session/Session.hpp"
@@ -42,9 +42,7 @@ HighScoresView::HighScoresView(Session& session, QWidget* parent)
     rows_->setFixedHeight(boardHeight);
     auto* done = new Garden::GardenButton(tr("Done"));
 
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(padding, padding, padding, padding);
-    column->setSpacing(spacing);
+    auto* column = Garden::layOut<QVBoxLayout>(this, spacing, padding);
     column->addWidget(new Garden::IconView(Garden::Icon::trophy, emblemSize, Garden::mint), 0,
                       Qt::AlignHCenter);
     column->addWidget(
@@ -63,7 +61,7 @@ HighScoresView::HighScoresView(Session& session, QWidget* parent)
     connect(speed_, &Garden::ChoiceGroup::chosen, this, [this](int index) {
         session_.chooseScorePace(allPaces.at(static_cast<std::size_t>(index)));
     });
-    connect(done, &QAbstractButton::clicked, this, &HighScoresView::close);
+    connect(done, &QAbstractButton::clicked, &session_, &Session::closeScores);
     connect(&session_, &Session::changed, this, &HighScoresView::refresh);
     refresh();
 }
@@ -76,13 +74,9 @@ void HighScoresView::refresh() {
     rows_->setEntries(session_.scores().leaders(rawValue(session_.scorePace())));
 }
 
-void HighScoresView::close() {
-    session_.closeScores();
-}
-
 void HighScoresView::keyPressEvent(QKeyEvent* event) {
     if (event->matches(QKeySequence::Cancel)) {
-        close();
+        session_.closeScores();
     } else {
         QWidget::keyPressEvent(event);
     }
@@ -91,9 +85,7 @@ void HighScoresView::keyPressEvent(QKeyEvent* event) {
 void HighScoresView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    constexpr double inset = 0.5;
     painter.fillPath(Garden::continuousRoundedRect(rect(), cornerRadius), Garden::night);
-    painter.strokePath(Garden::continuousRoundedRect(
-                           QRectF(rect()).adjusted(inset, inset, -inset, -inset), cornerRadius),
+    painter.strokePath(Garden::continuousRoundedRect(Garden::inset(rect(), 0.5), cornerRadius),
                        QPen(Garden::withOpacity(Garden::mint, edgeOpacity), 1));
 }

@@ -22,7 +22,6 @@ protected:
 
 private:
     void refresh();
-    void close();
 
     Session& session_;
     Garden::ChoiceGroup* speed_;

@@ -1,14 +1,13 @@
 #include "Screens/Scores/NameEntry.hpp"
 
-#include <QVBoxLayout>
 #include <algorithm>
 
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/Palette.hpp"
 #include "Garden/Widgets/GardenButton.hpp"
-#include "Garden/Widgets/PlainButton.hpp"
+#include "Garden/Widgets/Layout.hpp"
+#include "Garden/Widgets/QuietButton.hpp"
 #include "Garden/Widgets/TrackedLabel.hpp"
-#include "Screens/Scores/CardLayout.hpp"
 #include "Screens/Scores/NameField.hpp"
 #include "Session/Session.hpp"
 #include "SnakeCore/Graphemes.hpp"
@@ -16,6 +15,7 @@
 
 namespace {
 
+constexpr int spacing = 14;
 constexpr double promptSize = 14;
 constexpr double hintSize = 10;
 constexpr double skipSize = 12;
@@ -39,10 +39,9 @@ NameEntry::NameEntry(Session& session, QWidget* parent)
     //: Shown in the empty field.
     field_->setPlaceholderText(tr("Your name"));
     field_->setAccessibleName(tr("Player name"));
-    auto* skip =
-        new Garden::PlainButton(tr("Skip saving"), Garden::sans(skipSize, QFont::Normal), this);
+    auto* skip = new Garden::QuietButton(tr("Skip saving"), Garden::sans(skipSize, QFont::Normal));
 
-    QVBoxLayout* column = cardColumn(*this);
+    auto* column = Garden::layOut<QVBoxLayout>(this, spacing);
     column->addWidget(
         new Garden::TrackedLabel(tr("Leave your name in the garden."),
                                  Garden::sans(promptSize, QFont::Normal), Garden::muted),

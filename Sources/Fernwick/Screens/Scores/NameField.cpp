@@ -57,9 +57,8 @@ void NameField::paintEvent(QPaintEvent* event) {
     {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        constexpr double inset = edgeWidth / 2;
-        const QPainterPath shape = Garden::continuousRoundedRect(
-            QRectF(rect()).adjusted(inset, inset, -inset, -inset), cornerRadius);
+        const QPainterPath shape =
+            Garden::continuousRoundedRect(Garden::inset(rect(), edgeWidth / 2), cornerRadius);
         painter.fillPath(shape, Garden::withOpacity(Qt::white, plateOpacity));
         painter.strokePath(
             shape,

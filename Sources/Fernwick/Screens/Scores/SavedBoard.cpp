@@ -5,13 +5,14 @@
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/Palette.hpp"
 #include "Garden/Widgets/GardenButton.hpp"
+#include "Garden/Widgets/Layout.hpp"
 #include "Garden/Widgets/TrackedLabel.hpp"
-#include "Screens/Scores/CardLayout.hpp"
 #include "Screens/Scores/ScoreRows.hpp"
 #include "Session/Session.hpp"
 
 namespace {
 
+constexpr int spacing = 14;
 constexpr double titleSize = 12;
 constexpr int boardHeight = 150;
 constexpr double hintSize = 9;
@@ -29,7 +30,7 @@ SavedBoard::SavedBoard(Session& session, QWidget* parent)
     auto* replay = new Garden::GardenButton(tr("Play again"), this);
     connect(replay, &QAbstractButton::clicked, &session_, &Session::start);
 
-    QVBoxLayout* column = cardColumn(*this);
+    auto* column = Garden::layOut<QVBoxLayout>(this, spacing);
     column->addWidget(title_, 0, Qt::AlignHCenter);
     column->addWidget(rows_);
     column->addWidget(replay, 0, Qt::AlignHCenter);

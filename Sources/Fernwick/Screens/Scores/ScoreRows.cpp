@@ -4,12 +4,12 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyle>
-#include <QVBoxLayout>
 
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/Palette.hpp"
 #include "Garden/Look/RoundedShape.hpp"
 #include "Garden/Widgets/Accessibility.hpp"
+#include "Garden/Widgets/Layout.hpp"
 #include "Garden/Widgets/TrackedLabel.hpp"
 #include "Screens/Scores/ScoreRow.hpp"
 
@@ -50,9 +50,7 @@ ScoreRows::ScoreRows(QWidget* parent)
       column_(nullptr) {
     Garden::setAccessibleRole(*this, QAccessible::List);
     auto* list = new QWidget;
-    column_ = new QVBoxLayout(list);
-    column_->setContentsMargins(0, 0, 0, 0);
-    column_->setSpacing(rowSpacing);
+    column_ = Garden::layOut<QVBoxLayout>(list, rowSpacing);
     column_->addStretch();
     scrollArea_->setWidget(list);
     scrollArea_->setWidgetResizable(true);
@@ -65,8 +63,7 @@ ScoreRows::ScoreRows(QWidget* parent)
     scrollArea_->viewport()->setAutoFillBackground(false);
     list->setAutoFillBackground(false);
 
-    auto* forms = new QVBoxLayout(this);
-    forms->setContentsMargins(0, 0, 0, 0);
+    auto* forms = Garden::layOut<QVBoxLayout>(this, 0);
     forms->addWidget(empty_, 0, Qt::AlignCenter);
     forms->addWidget(scrollArea_);
     empty_->setContentsMargins(0, emptyTextPadding, 0, emptyTextPadding);
@@ -110,11 +107,8 @@ void ScoreRows::resizeEvent(QResizeEvent*) {
 
 void ScoreRows::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    constexpr double inset = Garden::FocusRing::width / 2;
-    focusRing_.paint(painter,
-                     Garden::continuousRoundedRect(
-                         QRectF(rect()).adjusted(inset, inset, -inset, -inset), ringRadius),
-                     Garden::mint);
+    const QRectF ring = Garden::inset(rect(), Garden::FocusRing::width / 2);
+    focusRing_.paint(painter, Garden::continuousRoundedRect(ring, ringRadius), Garden::mint);
 }
 
 void ScoreRows::setRowCount(std::size_t count) {

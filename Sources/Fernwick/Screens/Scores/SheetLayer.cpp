@@ -2,7 +2,7 @@
 
 #include <QMouseEvent>
 
-#include "Garden/Widgets/Focus.hpp"
+#include "Garden/Widgets/FocusRing.hpp"
 #include "Screens/Scores/HighScoresView.hpp"
 #include "Screens/Scores/SheetShade.hpp"
 #include "Session/Session.hpp"

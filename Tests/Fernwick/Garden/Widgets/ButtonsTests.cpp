@@ -10,8 +10,7 @@
 #include "Garden/Look/Palette.hpp"
 #include "Garden/Widgets/GardenButton.hpp"
 #include "Garden/Widgets/IconButton.hpp"
-#include "Garden/Widgets/OverlayButton.hpp"
-#include "Garden/Widgets/PlainButton.hpp"
+#include "Garden/Widgets/QuietButton.hpp"
 #include "Support/Picture.hpp"
 
 namespace {
@@ -24,8 +23,9 @@ QColor fillOf(QWidget& button) {
 std::vector<std::unique_ptr<QAbstractButton>> oneOfEach() {
     std::vector<std::unique_ptr<QAbstractButton>> buttons;
     buttons.push_back(std::make_unique<Garden::GardenButton>(QStringLiteral("Done")));
-    buttons.push_back(std::make_unique<Garden::OverlayButton>(QStringLiteral("Let's grow")));
-    buttons.push_back(std::make_unique<Garden::PlainButton>(QStringLiteral("Skip saving"),
+    buttons.push_back(std::make_unique<Garden::GardenButton>(QStringLiteral("Let's grow"), nullptr,
+                                                             Garden::GardenButton::Style::arrow));
+    buttons.push_back(std::make_unique<Garden::QuietButton>(QStringLiteral("Skip saving"),
                                                             Garden::sans(12, QFont::Normal)));
     buttons.push_back(
         std::make_unique<Garden::IconButton>(Garden::Icon::trophy, QStringLiteral("High scores")));
@@ -92,8 +92,9 @@ TEST(GardenButton, hasRoundEnds) {
     EXPECT_GT(image.pixelColor(0, image.height() / 2).green(), 100);
 }
 
-TEST(OverlayButton, drawsItsTextAndAnArrowInInk) {
-    Garden::OverlayButton button(QStringLiteral("Let's grow"));
+TEST(ArrowButton, drawsItsTextAndAnArrowInInk) {
+    Garden::GardenButton button(QStringLiteral("Let's grow"), nullptr,
+                                Garden::GardenButton::Style::arrow);
     const QFontMetricsF metrics(button.font());
     const int textWidth = qCeil(metrics.horizontalAdvance(button.text()));
     EXPECT_EQ(button.sizeHint().height(), qCeil(metrics.height()) + 30);
@@ -106,10 +107,11 @@ TEST(OverlayButton, drawsItsTextAndAnArrowInInk) {
     EXPECT_GT(countOf(image.copy(rightOfText), Garden::ink), 20);
 }
 
-TEST(OverlayButton, mirrorsItsArrowInRightToLeftLayouts) {
+TEST(ArrowButton, mirrorsItsArrowInRightToLeftLayouts) {
     constexpr int padding = 25;
     constexpr int arrow = 13;
-    Garden::OverlayButton button(QStringLiteral("oooo"));
+    Garden::GardenButton button(QStringLiteral("oooo"), nullptr,
+                                Garden::GardenButton::Style::arrow);
     const QImage leftToRight = picture(button);
     button.setLayoutDirection(Qt::RightToLeft);
     const QImage rightToLeft = picture(button);
@@ -120,8 +122,8 @@ TEST(OverlayButton, mirrorsItsArrowInRightToLeftLayouts) {
     EXPECT_NE(rightToLeft, leftToRight);
 }
 
-TEST(OverlayButton, growsWithANewText) {
-    Garden::OverlayButton button({});
+TEST(ArrowButton, growsWithANewText) {
+    Garden::GardenButton button({}, nullptr, Garden::GardenButton::Style::arrow);
     const int before = button.sizeHint().width();
 
     button.setText(QStringLiteral("Keep growing"));
@@ -129,8 +131,8 @@ TEST(OverlayButton, growsWithANewText) {
     EXPECT_GT(button.sizeHint().width(), before + 40);
 }
 
-TEST(PlainButton, drawsOnlyItsTextInMuted) {
-    Garden::PlainButton button(QStringLiteral("Skip saving"), Garden::sans(12, QFont::Normal));
+TEST(QuietButton, drawsOnlyItsTextInMuted) {
+    Garden::QuietButton button(QStringLiteral("Skip saving"), Garden::sans(12, QFont::Normal));
     const QImage image = picture(button, 4);
 
     EXPECT_GT(countOf(image, Garden::muted), 50);

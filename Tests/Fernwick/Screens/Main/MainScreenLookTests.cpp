@@ -6,7 +6,6 @@
 #include "Garden/Widgets/IconButton.hpp"
 #include "Garden/Widgets/IconView.hpp"
 #include "Garden/Widgets/RollingDigits.hpp"
-#include "Garden/Widgets/Rule.hpp"
 #include "Garden/Widgets/StatusDot.hpp"
 #include "Screens/Main/Board.hpp"
 #include "Screens/Main/ControlRow.hpp"
@@ -96,7 +95,7 @@ TEST_P(MainScreenLook, alignsTheScoreLeftAndTheBestRight) {
 }
 
 TEST_P(MainScreenLook, separatesTheTilesByARuleWith12OnEachSide) {
-    const QRect rule = rectOf<Garden::Rule>();
+    const QRect rule = rectInWindow(*window.findChild<QWidget*>("rule"));
     const QRect scoreTile = labelRect("SCORE") | numberRect("SCORE");
     const QRect bestTile = labelRect("PERSONAL BEST") | numberRect("PERSONAL BEST");
 

@@ -3,8 +3,6 @@
 #include "Garden/Widgets/ChoiceGroup.hpp"
 #include "Garden/Widgets/GardenButton.hpp"
 #include "Garden/Widgets/IconView.hpp"
-#include "Garden/Widgets/OverlayButton.hpp"
-#include "Garden/Widgets/PlainButton.hpp"
 #include "Screens/Main/Overlay.hpp"
 #include "Screens/Scores/GameOverView.hpp"
 #include "Screens/Scores/HighScoresView.hpp"
@@ -118,7 +116,7 @@ TEST_P(OverlayLook, hasItsFontsAndColours) {
 }
 
 TEST_P(OverlayLook, padsItsButtonBy25And15) {
-    const QAbstractButton& overlayButton = child<Garden::OverlayButton>();
+    const QAbstractButton& overlayButton = *Screen::find<Garden::GardenButton>(window, "Let's grow");
     const QFontMetricsF metrics(overlayButton.font());
 
     Look::expectType(overlayButton, {Look::sans, 13, QFont::DemiBold});
@@ -162,7 +160,7 @@ TEST_P(GameOverCardLook, hasItsFontsAndColours) {
     expectLabel("Leave your name in the garden.", {Look::sans, 14, QFont::Normal}, muted);
     expectLabel("Up to 24 characters · saved on this Mac", {Look::sans, 10, QFont::Normal}, muted);
     Look::expectType(child<NameField>(), {Look::sans, 18, QFont::Normal});
-    Look::expectType(*Screen::find<Garden::PlainButton>(window, "Skip saving"),
+    Look::expectType(*Screen::find<Garden::QuietButton>(window, "Skip saving"),
                      {Look::sans, 12, QFont::Normal});
     expectGardenButton("Save score");
 }
