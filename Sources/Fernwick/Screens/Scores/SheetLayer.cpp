@@ -1,27 +1,52 @@
 #include "Screens/Scores/SheetLayer.hpp"
 
 #include <QMouseEvent>
+#include <QPainter>
 
+#include "Garden/Look/Motion.hpp"
+#include "Garden/Look/Palette.hpp"
 #include "Garden/Widgets/FocusRing.hpp"
+#include "Garden/Widgets/RiseEffect.hpp"
 #include "Screens/Scores/HighScoresView.hpp"
-#include "Screens/Scores/SheetShade.hpp"
 #include "Session/Session.hpp"
 
+namespace {
+
+constexpr double scrimOpacity = 0.48;
+
+// Without the window's background, which would show in the rounded corners.
+QPixmap pictureOf(QWidget& sheet) {
+    QPixmap picture(sheet.size() * sheet.devicePixelRatioF());
+    picture.setDevicePixelRatio(sheet.devicePixelRatioF());
+    picture.fill(Qt::transparent);
+    sheet.render(&picture, {}, {}, QWidget::DrawChildren);
+    return picture;
+}
+
+}  // namespace
+
 SheetLayer::SheetLayer(Session& session, QWidget* parent)
-    : QWidget(parent), session_(session), shade_(new SheetShade(parent)) {
+    : QWidget(parent), session_(session), presence_(this) {
     hide();
+    presence_.setStartValue(0.0);
+    presence_.setEndValue(1.0);
+    presence_.setDuration(Garden::sheetDuration);
+    presence_.setEasingCurve(QEasingCurve::OutCubic);
+    connect(&presence_, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
+        if (effect_ != nullptr) {
+            effect_->setPresence(value.toDouble());
+        }
+        update();
+    });
+    connect(&presence_, &QVariantAnimation::finished, this, &SheetLayer::finish);
     connect(&session_, &Session::changed, this, &SheetLayer::refresh);
     refresh();
 }
 
 void SheetLayer::refresh() {
-    if (session_.showingScores() == isVisibleTo(parentWidget())) {
-        return;
-    }
-    if (session_.showingScores()) {
-        present();
-    } else {
-        dismiss();
+    const bool presented = sheet_ != nullptr && !sheet_->isHidden();
+    if (session_.showingScores() != presented) {
+        presented ? dismiss() : present();
     }
 }
 
@@ -33,18 +58,23 @@ void SheetLayer::present() {
         sheet_->setFocusPolicy(Qt::ClickFocus);
     }
     focusBefore_ = window()->focusWidget();
+    picture_ = {};
     placeSheet();
-    show();
-    raise();
-    shade_->appear(*sheet_);
+    showSheet(true);
+    effect_ = new Garden::RiseEffect;
+    effect_->setPresence(presence_.currentValue().toDouble());
+    sheet_->setGraphicsEffect(effect_);
+    animate(QAbstractAnimation::Forward);
     sheet_->setFocus(Qt::PopupFocusReason);
 }
 
 void SheetLayer::dismiss() {
     const bool hadFocus = isAncestorOf(window()->focusWidget());
     Garden::releaseFocus(*this);
-    shade_->disappear(*sheet_);
-    hide();
+    sheet_->setGraphicsEffect(nullptr);
+    picture_ = pictureOf(*sheet_);
+    showSheet(false);
+    animate(QAbstractAnimation::Backward);
     if (hadFocus && !focusBefore_.isNull() && focusBefore_->isVisible()) {
         focusBefore_->setFocus(Qt::PopupFocusReason);
     }
@@ -58,6 +88,39 @@ void SheetLayer::placeSheet() {
     QRect place(QPoint(), sheet_->size());
     place.moveCenter(rect().center());
     sheet_->setGeometry(place);
+}
+
+void SheetLayer::showSheet(bool shown) {
+    // Hiding and showing the layer makes Qt look up anew which widget the pointer is over.
+    hide();
+    setAttribute(Qt::WA_TransparentForMouseEvents, !shown);
+    sheet_->setVisible(shown);
+    show();
+    raise();
+}
+
+void SheetLayer::animate(QAbstractAnimation::Direction direction) {
+    presence_.setDirection(direction);
+    if (window()->isVisible() && !Garden::reducedMotion()) {
+        // A running animation reverses from its current value.
+        if (presence_.state() == QAbstractAnimation::Stopped) {
+            presence_.start();
+        }
+    } else {
+        presence_.stop();
+        presence_.setCurrentTime(direction == QAbstractAnimation::Forward ? presence_.duration()
+                                                                          : 0);
+        finish();
+    }
+}
+
+void SheetLayer::finish() {
+    if (presence_.direction() == QAbstractAnimation::Forward) {
+        sheet_->setGraphicsEffect(nullptr);
+    } else {
+        picture_ = {};
+        hide();
+    }
 }
 
 bool SheetLayer::focusNextPrevChild(bool next) {
@@ -79,6 +142,21 @@ void SheetLayer::mousePressEvent(QMouseEvent* event) {
     event->accept();
 }
 
+void SheetLayer::paintEvent(QPaintEvent*) {
+    const double presence = presence_.currentValue().toDouble();
+    QPainter painter(this);
+    painter.fillRect(rect(), Garden::withOpacity(Qt::black, scrimOpacity * presence));
+    if (!picture_.isNull()) {
+        painter.setOpacity(presence);
+        painter.drawPixmap(sheet_->pos() + QPointF(0, Garden::RiseEffect::shift(presence)),
+                           picture_);
+    }
+}
+
 void SheetLayer::resizeEvent(QResizeEvent*) {
     placeSheet();
+    // The snapshot would no longer be centred.
+    if (!picture_.isNull()) {
+        presence_.setCurrentTime(0);
+    }
 }

@@ -1,14 +1,22 @@
 #pragma once
 
+#include <QPixmap>
 #include <QPointer>
+#include <QVariantAnimation>
 #include <QWidget>
 
 class HighScoresView;
 class Session;
-class SheetShade;
+
+namespace Garden {
+class RiseEffect;
+}
 
 /// Shows the high-scores sheet as a modal layer while `Session::showingScores()`: dims what is
 /// behind, keeps the pointer and the keyboard focus inside, and restores the focus on closing.
+/// Input does not wait for the animation: a sheet that appears is usable at once, and one that
+/// disappears is hidden at once while a snapshot of it fades. There is no animation under reduced
+/// motion.
 class SheetLayer : public QWidget {
     Q_OBJECT
 
@@ -18,6 +26,7 @@ public:
 protected:
     bool focusNextPrevChild(bool next) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
@@ -25,9 +34,16 @@ private:
     void present();
     void dismiss();
     void placeSheet();
+    void showSheet(bool shown);
+    void animate(QAbstractAnimation::Direction direction);
+    void finish();
 
     Session& session_;
-    SheetShade* shade_;
     HighScoresView* sheet_ = nullptr;
     QPointer<QWidget> focusBefore_;
+    // From 0 (invisible) to 1.
+    QVariantAnimation presence_;
+    QPointer<Garden::RiseEffect> effect_;
+    // The snapshot of a sheet that disappears, drawn in its place.
+    QPixmap picture_;
 };

@@ -95,7 +95,7 @@ TEST_P(MainScreenLook, alignsTheScoreLeftAndTheBestRight) {
 }
 
 TEST_P(MainScreenLook, separatesTheTilesByARuleWith12OnEachSide) {
-    const QRect rule = rectInWindow(*window.findChild<QWidget*>("rule"));
+    const QRect rule = rectOf(*window.findChild<QWidget*>("rule"));
     const QRect scoreTile = labelRect("SCORE") | numberRect("SCORE");
     const QRect bestTile = labelRect("PERSONAL BEST") | numberRect("PERSONAL BEST");
 

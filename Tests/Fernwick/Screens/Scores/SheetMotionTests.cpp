@@ -7,7 +7,7 @@
 #include "Garden/Look/Palette.hpp"
 #include "Screens/Scores/HighScoresView.hpp"
 #include "Screens/Scores/NameField.hpp"
-#include "Screens/Scores/SheetShade.hpp"
+#include "Screens/Scores/SheetLayer.hpp"
 #include "Support/Look.hpp"
 #include "Support/StillStyle.hpp"
 #include "Support/Wakeups.hpp"
@@ -18,7 +18,7 @@ namespace {
 class SheetMotion : public WindowTest {
 protected:
     [[nodiscard]] QVariantAnimation& motion() const {
-        return *child<SheetShade>().findChild<QVariantAnimation*>();
+        return *child<SheetLayer>().findChild<QVariantAnimation*>();
     }
 
     /// Pauses the animation halfway.
@@ -187,7 +187,7 @@ TEST_F(SheetMotion, endsWhenTheWindowIsResized) {
     processEvents();
 
     EXPECT_TRUE(animationsFinished());
-    EXPECT_FALSE(child<SheetShade>().isVisible());
+    EXPECT_FALSE(child<SheetLayer>().isVisible());
 }
 
 TEST_F(SheetMotion, wakesTheEventLoopOnlyWhileAnimating) {
