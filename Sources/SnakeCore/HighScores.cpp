@@ -7,8 +7,7 @@
 #include <functional>
 #include <utility>
 
-#include "SnakeCore/Detail/TableReader.hpp"
-#include "SnakeCore/Detail/TableWriter.hpp"
+#include "SnakeCore/Detail/Table.hpp"
 #include "SnakeCore/Detail/Utf8.hpp"
 #include "SnakeCore/Graphemes.hpp"
 
