@@ -95,16 +95,18 @@ void dotsOverTheBoard(benchmark::State& state) {
 void makingTheFruit(benchmark::State& state) {
     const PixelGrid grid = gridOf(state);
     for (auto _ : state) {
-        benchmark::DoNotOptimize(Painting::Fruit(grid, {9, 9}));
+        benchmark::DoNotOptimize(Painting::makeFruit(grid, {9, 9}));
     }
 }
 
 void fruitPainted(benchmark::State& state) {
     const PixelGrid grid = gridOf(state);
-    const Painting::Fruit fruit(grid, {9, 9});
+    const auto fruit = Painting::makeFruit(grid, {9, 9});
     QImage picture = blank(grid);
     for (auto _ : state) {
-        fruit.paint(picture, picture.rect());
+        for (const Painting::CoverageLayer& layer : fruit) {
+            layer.paint(picture, picture.rect());
+        }
     }
 }
 
@@ -112,7 +114,7 @@ void makingTheEyes(benchmark::State& state) {
     const PixelGrid grid = gridOf(state);
     const Game game(28, 22);
     for (auto _ : state) {
-        benchmark::DoNotOptimize(Painting::Eyes(grid, game));
+        benchmark::DoNotOptimize(Painting::makeEyes(grid, game));
     }
 }
 

@@ -8,9 +8,8 @@
 #include "Garden/Look/Palette.hpp"
 #include "Painting/Raster/PixelKernels.hpp"
 
+namespace Painting {
 namespace {
-
-using Painting::Scanline;
 
 constexpr QColor tailColour = Garden::srgb(0.23, 0.58, 0.40);
 constexpr double fixedOne = 1 << 16;
@@ -49,19 +48,17 @@ void blend(const Scanline& line, const quint32* ground, const std::uint8_t* mask
     // An antialiased edge across the row is a pixel or two wide: too short for a vector kernel.
     constexpr int few = 3;
     if (line.count > few) {
-        Painting::pixelKernels().blendMasked(line, ground, mask);
+        pixelKernels().blendMasked(line, ground, mask);
         return;
     }
-    quint32 phase = Painting::ditherPhase(line.x, line.y);
+    quint32 phase = ditherPhase(line.x, line.y);
     for (int i = 0; i < line.count; ++i) {
-        line.pixels[i] = Painting::blendMaskedPixel(ground[i], line.pixels[i], mask[i], phase);
-        phase += Painting::ditherStepX;
+        line.pixels[i] = blendMaskedPixel(ground[i], line.pixels[i], mask[i], phase);
+        phase += ditherStepX;
     }
 }
 
 }  // namespace
-
-namespace Painting {
 
 BandGradient::BandGradient(const QPointF& tail, const QPointF& head) : tail_(tail) {
     const QPointF way = head - tail;
@@ -124,18 +121,14 @@ void BandGradient::fill(const Scanline& line, const Stops& stops) const {
     const int begin = std::clamp(stops.begin, line.x, lineEnd);
     const int end = std::clamp(stops.end, begin, lineEnd);
     line.part(line.x, begin).fill(stops.before);
-    fillGradient(line.part(begin, end));
-    line.part(end, lineEnd).fill(stops.after);
-}
-
-void BandGradient::fillGradient(const Scanline& line) const {
     PixelKernels::Gradient gradient{};
     for (std::size_t i = 0; i < origin_.size(); ++i) {
         gradient.first[i] =
-            static_cast<quint32>(origin_[i] + line.x * perColumn_[i] + line.y * perRow_[i]);
+            static_cast<quint32>(origin_[i] + begin * perColumn_[i] + line.y * perRow_[i]);
         gradient.change[i] = static_cast<quint32>(perColumn_[i]);
     }
-    pixelKernels().fillGradient(line, gradient);
+    pixelKernels().fillGradient(line.part(begin, end), gradient);
+    line.part(end, lineEnd).fill(stops.after);
 }
 
 }  // namespace Painting

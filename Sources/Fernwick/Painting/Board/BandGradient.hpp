@@ -35,7 +35,6 @@ private:
 
     [[nodiscard]] Stops stopsOf(int y) const;
     void fill(const Scanline& line, const Stops& stops) const;
-    void fillGradient(const Scanline& line) const;
 
     QPointF tail_;
     // How far one pixel in x and y brings one from the tail (0) to the head (1).

@@ -6,6 +6,8 @@
 
 #include "Garden/Look/Palette.hpp"
 #include "Painting/Board/BandShape.hpp"
+#include "Painting/Board/Eyes.hpp"
+#include "Painting/Board/Fruit.hpp"
 
 namespace Painting {
 
@@ -33,7 +35,7 @@ QRegion BoardPicture::show(const SnakeCore::Game& game) {
     if (!shown_ || shown_->snake().front() != snake.front() ||
         shown_->snake().back() != snake.back() || shown_->direction() != game.direction()) {
         gradient_.emplace(grid_.centre(snake.back()), grid_.centre(snake.front()));
-        eyes_.emplace(grid_, game);
+        eyes_ = makeEyes(grid_, game);
         changed += bandRegion();
     }
     shown_ = game;
@@ -52,11 +54,14 @@ void BoardPicture::updateFruit(const SnakeCore::Cell& cell, QRegion& changed) {
     if (shown_ && shown_->food() == cell) {
         return;
     }
-    if (fruit_) {
-        changed += fruit_->bounds() & ground_.rect();
-    }
-    fruit_.emplace(grid_, cell);
-    changed += fruit_->bounds() & ground_.rect();
+    const auto addFruit = [&] {
+        for (const CoverageLayer& layer : fruit_) {
+            changed += layer.bounds() & ground_.rect();
+        }
+    };
+    addFruit();
+    fruit_ = makeFruit(grid_, cell);
+    addFruit();
 }
 
 void BoardPicture::updateBand(const SnakeCore::Game& game, QRegion& changed) {
@@ -80,13 +85,17 @@ void BoardPicture::paintGround(const QRect& area) {
         scanline(ground_, area, y).fill(Garden::soil.rgb());
     }
     dots_.paint(ground_, area);
-    fruit_->paint(ground_, area);
+    for (const CoverageLayer& layer : fruit_) {
+        layer.paint(ground_, area);
+    }
     glow_.paint(ground_, area);
 }
 
 void BoardPicture::compose(const Scanline& line) const {
     gradient_->paint(line, pixelsAt(ground_, line.x, line.y), mask_.row(line.y) + line.x);
-    eyes_->paint(line);
+    for (const CoverageLayer& eye : eyes_) {
+        eye.paint(line);
+    }
 }
 
 QRegion BoardPicture::bandRegion() const {

@@ -3,15 +3,15 @@
 #include <QImage>
 #include <QPainter>
 #include <QRegion>
+#include <array>
 #include <optional>
 
 #include "Painting/Board/BandGradient.hpp"
 #include "Painting/Board/Dots.hpp"
-#include "Painting/Board/Eyes.hpp"
-#include "Painting/Board/Fruit.hpp"
 #include "Painting/Board/GlowField.hpp"
 #include "Painting/Board/PixelGrid.hpp"
 #include "Painting/Board/SnakeLinks.hpp"
+#include "Painting/Raster/CoverageLayer.hpp"
 #include "SnakeCore/Game.hpp"
 
 namespace Painting {
@@ -52,9 +52,9 @@ private:
     // The band's coverage of each pixel, from 0 to 255.
     Plane<std::uint8_t> mask_;
     Plane<Links> links_;
-    std::optional<Fruit> fruit_;
+    std::array<CoverageLayer, 3> fruit_;
     std::optional<BandGradient> gradient_;
-    std::optional<Eyes> eyes_;
+    std::array<CoverageLayer, 2> eyes_;
     std::optional<SnakeCore::Game> shown_;
 };
 

@@ -1,7 +1,6 @@
 #include "Painting/Board/Fruit.hpp"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <limits>
 
@@ -97,7 +96,7 @@ float glowStrength(double distance) {
 }
 
 CoverageLayer makeGlow(const PixelGrid& grid, const QPointF& centre) {
-    return {Painting::discBounds(centre, glowRadius * grid.cell), [&](int x, int y) {
+    return {glowColour, Painting::discBounds(centre, glowRadius * grid.cell), [&](int x, int y) {
                 const double distance = std::sqrt(squaredLength(pixelCentre(x, y) - centre));
                 return glowStrength(distance / grid.cell) * glowOpacity;
             }};
@@ -105,7 +104,7 @@ CoverageLayer makeGlow(const PixelGrid& grid, const QPointF& centre) {
 
 CoverageLayer makeBall(const PixelGrid& grid, const QPointF& centre) {
     const double radius = ballRadius * grid.cell;
-    return {Painting::discBounds(centre, radius), [&](int x, int y) {
+    return {fruitColour, Painting::discBounds(centre, radius), [&](int x, int y) {
                 return Painting::coverageWithin(radius, squaredLength(pixelCentre(x, y) - centre));
             }};
 }
@@ -117,7 +116,7 @@ CoverageLayer makeStem(const PixelGrid& grid, const QPointF& centre) {
     const QPointF around(halfWidth, halfWidth);
     const QRectF hull(centre + QPointF(stemStart.x(), stemControl.y()) * grid.cell - around,
                       centre + QPointF(stemEnd.x(), stemStart.y()) * grid.cell + around);
-    return {hull.toAlignedRect(), [&](int x, int y) {
+    return {Garden::mint, hull.toAlignedRect(), [&](int x, int y) {
                 return Painting::coverageWithin(halfWidth,
                                                 squaredDistance(pixelCentre(x, y), line));
             }};
@@ -125,17 +124,8 @@ CoverageLayer makeStem(const PixelGrid& grid, const QPointF& centre) {
 
 }  // namespace
 
-namespace Painting {
-
-Fruit::Fruit(const PixelGrid& grid, const SnakeCore::Cell& place)
-    : glow_(makeGlow(grid, grid.centre(place))),
-      ball_(makeBall(grid, grid.centre(place))),
-      stem_(makeStem(grid, grid.centre(place))) {}
-
-void Fruit::paint(QImage& picture, const QRect& area) const {
-    glow_.paint(picture, area, Rgb::of(glowColour));
-    ball_.paint(picture, area, Rgb::of(fruitColour));
-    stem_.paint(picture, area, Rgb::of(Garden::mint));
+std::array<CoverageLayer, 3> Painting::makeFruit(const PixelGrid& grid,
+                                                 const SnakeCore::Cell& place) {
+    const QPointF centre = grid.centre(place);
+    return {makeGlow(grid, centre), makeBall(grid, centre), makeStem(grid, centre)};
 }
-
-}  // namespace Painting

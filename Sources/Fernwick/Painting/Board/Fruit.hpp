@@ -1,28 +1,15 @@
 #pragma once
 
-#include <QImage>
+#include <array>
 
 #include "Painting/Board/PixelGrid.hpp"
 #include "Painting/Raster/CoverageLayer.hpp"
-#include "SnakeCore/Cell.hpp"
 
 namespace Painting {
 
-/// The fruit with its glow and stem, in one cell.
-class Fruit {
-public:
-    Fruit(const PixelGrid& grid, const SnakeCore::Cell& place);
-
-    /// The pixels that fruit, glow and stem touch; some may lie outside of the picture.
-    [[nodiscard]] QRect bounds() const { return glow_.bounds() | stem_.bounds(); }
-
-    /// Paints the part that lies inside `area`.
-    void paint(QImage& picture, const QRect& area) const;
-
-private:
-    CoverageLayer glow_;
-    CoverageLayer ball_;
-    CoverageLayer stem_;
-};
+/// The fruit in one cell, bottom to top: its glow, the ball, which lies inside the glow, and the
+/// stem.
+[[nodiscard]] std::array<CoverageLayer, 3> makeFruit(const PixelGrid& grid,
+                                                     const SnakeCore::Cell& place);
 
 }  // namespace Painting

@@ -8,10 +8,8 @@
 #include "Painting/Board/BandShape.hpp"
 #include "Painting/Raster/PixelKernels.hpp"
 
+namespace Painting {
 namespace {
-
-using Painting::Links;
-using Painting::Plane;
 
 constexpr float glowOpacity = 0.35F;
 /// Of the blur, in cells.
@@ -42,13 +40,13 @@ std::array<double, 2 * margin + 1> gaussian() {
 // The share of the sample's square that the band covers.
 double sampleCoverage(Links links, int column, int row) {
     constexpr int subsamples = 8;
-    constexpr double edge = Painting::Band::halfWidth * Painting::Band::halfWidth;
+    constexpr double edge = Band::halfWidth * Band::halfWidth;
     int inside = 0;
     for (int y = 0; y < subsamples; ++y) {
         for (int x = 0; x < subsamples; ++x) {
             const QPointF point(column + (x + 0.5) / subsamples, row + (y + 0.5) / subsamples);
             const QPointF fromCentre = point / samplesPerCell - QPointF(0.5, 0.5);
-            inside += Painting::Band::squaredDistance(links, fromCentre) <= edge ? 1 : 0;
+            inside += Band::squaredDistance(links, fromCentre) <= edge ? 1 : 0;
         }
     }
     return static_cast<double>(inside) / (subsamples * subsamples);
@@ -86,7 +84,7 @@ Kernel makeKernel(Links links) {
 
 const Kernel& kernelOf(Links links) {
     static const auto kernels = [] {
-        std::array<Kernel, Painting::linksCount> all;
+        std::array<Kernel, linksCount> all;
         for (std::size_t i = 1; i < all.size(); ++i) {
             all[i] = makeKernel(Links::fromInt(static_cast<Links::Int>(i)));
         }
@@ -113,15 +111,12 @@ int samplesAlong(int cells) {
     return cells * samplesPerCell + 2 * margin;
 }
 
-Painting::SampleAxis axis(int pixels, int cells, double origin, double cell) {
-    const double samplesPerPixel = samplesPerCell / cell;
-    const double firstPixel = (0.5 - origin) * samplesPerPixel + margin - 0.5;
-    return {pixels, samplesAlong(cells), samplesPerPixel, firstPixel};
+SampleAxis axis(int pixels, int cells, double origin, double cell) {
+    const double pixelsPerSample = cell / samplesPerCell;
+    return {pixels, samplesAlong(cells), pixelsPerSample, origin - margin * pixelsPerSample};
 }
 
 }  // namespace
-
-namespace Painting {
 
 GlowField::GlowField(const PixelGrid& grid)
     : grid_(grid),

@@ -59,10 +59,8 @@ Planes downsample(const QImage& picture, int step) {
 
 QImage upsample(const Planes& planes, const QSize& size, int step) {
     QImage picture(size, QImage::Format_RGB32);
-    const double samplesPerPixel = 1.0 / step;
-    const double first = 0.5 * samplesPerPixel - 0.5;
-    const SampleAxis columns(size.width(), planes[0].width(), samplesPerPixel, first);
-    const SampleAxis rows(size.height(), planes[0].height(), samplesPerPixel, first);
+    const SampleAxis columns(size.width(), planes[0].width(), step);
+    const SampleAxis rows(size.height(), planes[0].height(), step);
     using Upsampled = Painting::UpsampledRows<float>;
     std::array<Upsampled, 3> upsampled{Upsampled(planes[0], columns, 0, size.width()),
                                        Upsampled(planes[1], columns, 0, size.width()),

@@ -7,9 +7,8 @@
 #include "Garden/Look/Palette.hpp"
 #include "Painting/Raster/Pixels.hpp"
 
+namespace Painting {
 namespace {
-
-using Painting::Scanline;
 
 constexpr float lightOpacity = 0.075F;
 /// In points, from the corner where the light starts.
@@ -28,64 +27,27 @@ void paintLight(const Scanline& line, int corner, double scale) {
     if (begin >= end) {
         return;
     }
-    Painting::blendColour(line.part(begin, end), Painting::Rgb::of(Garden::mint),
-                          [first = static_cast<float>(begin - corner) + 0.5F,
-                           square = static_cast<float>(below * below),
-                           perPixel = static_cast<float>(1 / radius)](int i) {
-                              const float across = first + static_cast<float>(i);
-                              const float distance = std::sqrt(across * across + square);
-                              return std::max(1 - distance * perPixel, 0.0F) * lightOpacity;
-                          });
+    blendColour(line.part(begin, end), Rgb::of(Garden::mint),
+                [first = static_cast<float>(begin - corner) + 0.5F,
+                 square = static_cast<float>(below * below),
+                 perPixel = static_cast<float>(1 / radius)](int i) {
+                    const float across = first + static_cast<float>(i);
+                    const float distance = std::sqrt(across * across + square);
+                    return std::max(1 - distance * perPixel, 0.0F) * lightOpacity;
+                });
+}
+
+// `mask` is the coverage of each pixel from 0 to 255; its first pixel lies at `corner`.
+void paintMask(const Scanline& line, const QColor& colour, const QImage& mask, const QPoint& corner,
+               float opacity) {
+    if (line.count > 0) {
+        const uchar* const coverage = mask.constScanLine(line.y - corner.y()) + line.x - corner.x();
+        blendColour(line, Rgb::of(colour),
+                    [=](int i) { return static_cast<float>(coverage[i]) * opacity / 255; });
+    }
 }
 
 }  // namespace
-
-namespace Painting {
-
-/// Composes the rows of one rectangle, from top to bottom.
-class Backdrop::Rows {
-public:
-    Rows(const Backdrop& ground, const QRect& area)
-        : ground_(ground),
-          lightCorner_(QGuiApplication::isRightToLeft() ? ground.bounds_.width() : 0) {
-        if (ground.shadow_) {
-            shadow_.emplace(*ground.shadow_, area);
-        }
-    }
-
-    void operator()(const Scanline& line) {
-        line.fill(Garden::night.rgb());
-        paintLight(line, lightCorner_, ground_.scale_);
-        if (shadow_) {
-            shadow_->paint(line);
-        }
-        for (const QRect& inside : ground_.inside_) {
-            line.clipped(inside).fill(Garden::soil.rgb());
-        }
-        for (const Edge& edge : ground_.edges_) {
-            paintEdge(line.clipped(edge.area), edge);
-        }
-    }
-
-private:
-    static void paintEdge(const Scanline& line, const Edge& edge) {
-        if (line.count == 0) {
-            return;
-        }
-        const QPoint place = QPoint(line.x, line.y) - edge.area.topLeft();
-        const auto blend = [&](const QColor& colour, const QImage& mask, float opacity) {
-            const uchar* const coverage = mask.constScanLine(place.y()) + place.x();
-            blendColour(line, Rgb::of(colour),
-                        [=](int i) { return static_cast<float>(coverage[i]) * opacity / 255; });
-        };
-        blend(Garden::soil, edge.fill, 1);
-        blend(Garden::mint, edge.stroke, static_cast<float>(FrameShape::strokeOpacity));
-    }
-
-    const Backdrop& ground_;
-    int lightCorner_;
-    std::optional<FrameShadow::Rows> shadow_;
-};
 
 void Backdrop::fit(const QSize& window, qreal devicePixelRatio, const QRectF& frame) {
     if (window == window_ && devicePixelRatio == scale_ && frame == frame_) {
@@ -110,12 +72,32 @@ QImage Backdrop::image(const QRect& area) {
     return composedImage(area, rowsOf(area));
 }
 
-Backdrop::Rows Backdrop::rowsOf(const QRect& area) {
+std::function<void(const Scanline&)> Backdrop::rowsOf(const QRect& area) {
     if (!prepared_) {
         prepareFrame();
         prepared_ = true;
     }
-    return Rows(*this, area);
+    std::optional<FrameShadow::Rows> shadow;
+    if (shadow_) {
+        shadow.emplace(*shadow_, area);
+    }
+    const int lightCorner = QGuiApplication::isRightToLeft() ? bounds_.width() : 0;
+    return [this, lightCorner, shadow](const Scanline& line) mutable {
+        line.fill(Garden::night.rgb());
+        paintLight(line, lightCorner, scale_);
+        if (shadow) {
+            shadow->paint(line);
+        }
+        for (const QRect& inside : inside_) {
+            line.clipped(inside).fill(Garden::soil.rgb());
+        }
+        for (const Edge& edge : edges_) {
+            const QPoint corner = edge.area.topLeft();
+            paintMask(line.clipped(edge.area), Garden::soil, edge.fill, corner, 1);
+            paintMask(line.clipped(edge.area), Garden::mint, edge.stroke, corner,
+                      static_cast<float>(FrameShape::strokeOpacity));
+        }
+    };
 }
 
 void Backdrop::prepareFrame() {

@@ -5,6 +5,7 @@
 #include <QRectF>
 #include <QRegion>
 #include <QSize>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -40,9 +41,8 @@ private:
         QImage stroke;
     };
 
-    class Rows;
-
-    [[nodiscard]] Rows rowsOf(const QRect& area);
+    /// A function that composes the rows of `area`, from top to bottom.
+    [[nodiscard]] std::function<void(const Scanline&)> rowsOf(const QRect& area);
     void prepareFrame();
 
     int revision_ = 0;

@@ -14,13 +14,11 @@ using Painting::FrameShape;
 // which can be drawn over any picture in place of the fill.
 quint32 withoutFill(quint32 ground, double share) {
     const auto channel = [&](int value, int fill) {
-        return static_cast<quint32>(std::clamp(value - fill * share + 0.5, 0.0, 255 * (1 - share)));
+        return static_cast<int>(std::clamp(value - fill * share + 0.5, 0.0, 255 * (1 - share)));
     };
-    const quint32 red = channel(qRed(ground), Garden::soil.red());
-    const quint32 green = channel(qGreen(ground), Garden::soil.green());
-    const quint32 blue = channel(qBlue(ground), Garden::soil.blue());
-    const auto alpha = static_cast<quint32>(255 * (1 - share) + 0.5);
-    return alpha << 24U | red << 16U | green << 8U | blue;
+    return qRgba(
+        channel(qRed(ground), Garden::soil.red()), channel(qGreen(ground), Garden::soil.green()),
+        channel(qBlue(ground), Garden::soil.blue()), static_cast<int>(255 * (1 - share) + 0.5));
 }
 
 // `ground` is the backdrop of `area`.

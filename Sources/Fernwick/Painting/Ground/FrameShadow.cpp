@@ -19,11 +19,6 @@ constexpr double samplesPerSigma = 4;
 // Beyond this many sigmas the shadow is invisible.
 constexpr double extent = 3;
 
-Painting::SampleAxis axis(int pixels, int samples, double pixelsPerSample) {
-    const double step = 1 / pixelsPerSample;
-    return {pixels, samples, step, 0.5 * step - 0.5};
-}
-
 }  // namespace
 
 namespace Painting {
@@ -34,8 +29,8 @@ FrameShadow::FrameShadow(const FrameShape& shape, const QRectF& frame, double sc
                 .toAlignedRect()),
       pixelsPerSample_(sigma * scale / samplesPerSigma),
       samples_(samplesAlong(area_.width()), samplesAlong(area_.height())),
-      columns_(axis(area_.width(), samples_.width(), pixelsPerSample_)),
-      rows_(axis(area_.height(), samples_.height(), pixelsPerSample_)) {
+      columns_(area_.width(), samples_.width(), pixelsPerSample_),
+      rows_(area_.height(), samples_.height(), pixelsPerSample_) {
     QImage mask(samples_.width(), samples_.height(), QImage::Format_Alpha8);
     mask.fill(0);
     QPainter painter(&mask);

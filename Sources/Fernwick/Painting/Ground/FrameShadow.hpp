@@ -15,9 +15,6 @@ public:
     /// `frame` is in device pixels; `scale` is device pixels per point.
     FrameShadow(const FrameShape& shape, const QRectF& frame, double scale);
 
-    /// The device pixels that it darkens.
-    [[nodiscard]] const QRect& area() const { return area_; }
-
     /// Paints the rows of one rectangle, from top to bottom.
     class Rows {
     public:
@@ -34,7 +31,7 @@ public:
 private:
     [[nodiscard]] int samplesAlong(int pixels) const;
 
-    QRect area_;
+    QRect area_;  ///< the device pixels that it darkens
     double pixelsPerSample_;
     Plane<float> samples_;
     SampleAxis columns_;

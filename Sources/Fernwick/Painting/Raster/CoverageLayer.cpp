@@ -28,8 +28,8 @@ QRect Painting::discBounds(const QPointF& centre, double radius) {
     return QRectF(centre - corner, centre + corner).toAlignedRect();
 }
 
-Painting::CoverageLayer Painting::CoverageLayer::disc(const QPointF& centre, double radius,
-                                                      double opacity) {
-    return {discBounds(centre, radius),
+Painting::CoverageLayer Painting::CoverageLayer::disc(const QColor& colour, const QPointF& centre,
+                                                      double radius, double opacity) {
+    return {colour, discBounds(centre, radius),
             [&](int x, int y) { return discCoverage(centre, radius, x, y) * opacity; }};
 }

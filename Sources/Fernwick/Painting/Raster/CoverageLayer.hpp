@@ -27,16 +27,16 @@ namespace Painting {
 /// The pixels that a disc touches.
 [[nodiscard]] QRect discBounds(const QPointF& centre, double radius);
 
-/// An antialiased shape: the coverage of each pixel of a small rectangle. It is computed once and
-/// painted often, in any colour.
+/// An antialiased shape in one colour: the coverage of each pixel of a small rectangle. It is
+/// computed once and painted often.
 class CoverageLayer {
 public:
     CoverageLayer() = default;
 
     /// `coverage(x, y)`, from 0 to 1, is called for every pixel of `bounds`.
     template <typename Function>
-    CoverageLayer(const QRect& bounds, Function coverage)
-        : bounds_(bounds), values_(bounds.width(), bounds.height()) {
+    CoverageLayer(const QColor& colour, const QRect& bounds, Function coverage)
+        : colour_(Rgb::of(colour)), bounds_(bounds), values_(bounds.width(), bounds.height()) {
         for (int y = 0; y < values_.height(); ++y) {
             for (int x = 0; x < values_.width(); ++x) {
                 values_.at(x, y) =
@@ -46,28 +46,30 @@ public:
     }
 
     /// A disc of one opacity, from 0 to 1. Exact to about a thousandth.
-    [[nodiscard]] static CoverageLayer disc(const QPointF& centre, double radius, double opacity);
+    [[nodiscard]] static CoverageLayer disc(const QColor& colour, const QPointF& centre,
+                                            double radius, double opacity);
 
     [[nodiscard]] const QRect& bounds() const { return bounds_; }
 
-    /// Blends `colour` over the part of the layer that lies inside `area` of `picture`.
-    void paint(QImage& picture, const QRect& area, const Rgb& colour) const {
+    /// Paints the part of the layer that lies inside `area` of `picture`.
+    void paint(QImage& picture, const QRect& area) const {
         const QRect part = bounds_ & area;
         for (int y = part.top(); y <= part.bottom(); ++y) {
-            paint(scanline(picture, part, y), colour);
+            paint(scanline(picture, part, y));
         }
     }
-    /// Blends `colour` over the part of the layer that lies on `line`.
-    void paint(const Scanline& line, const Rgb& colour) const {
+    /// Paints the part of the layer that lies on `line`.
+    void paint(const Scanline& line) const {
         const Scanline part = line.clipped(bounds_);
         if (part.count > 0) {
             const float* const values =
                 values_.row(part.y - bounds_.top()) + (part.x - bounds_.left());
-            blendColour(part, colour, [values](int i) { return values[i]; });
+            blendColour(part, colour_, [values](int i) { return values[i]; });
         }
     }
 
 private:
+    Rgb colour_;
     QRect bounds_;
     Plane<float> values_;
 };

@@ -1,5 +1,6 @@
 #include "Painting/Raster/GaussianBlur.hpp"
 
+#include <QPoint>
 #include <cmath>
 #include <numeric>
 
@@ -30,26 +31,20 @@ void addScaled(float* to, const float* from, float weight, int count) {
     }
 }
 
-// Adds whole rows, which vectorizes; summing up column by column would not.
-void blurVertically(const FloatPlane& from, FloatPlane& to, const std::vector<float>& weights) {
+// Blurs along one axis: (1, 0) or (0, 1). Adds whole rows, which vectorizes; summing up column by
+// column would not.
+void blurAlong(const QPoint& axis, const FloatPlane& from, FloatPlane& to,
+               const std::vector<float>& weights) {
     const int radius = static_cast<int>(weights.size()) - 1;
     for (int y = 0; y < to.height(); ++y) {
-        const int last = std::min(y + radius, to.height() - 1);
-        for (int other = std::max(y - radius, 0); other <= last; ++other) {
-            addScaled(to.row(y), from.row(other),
-                      weights[static_cast<std::size_t>(std::abs(other - y))], to.width());
-        }
-    }
-}
-
-void blurHorizontally(const FloatPlane& from, FloatPlane& to, const std::vector<float>& weights) {
-    const int radius = static_cast<int>(weights.size()) - 1;
-    for (int y = 0; y < to.height(); ++y) {
-        for (int shift = -radius; shift <= radius; ++shift) {
-            const int first = std::max(-shift, 0);
-            addScaled(to.row(y) + first, from.row(y) + first + shift,
-                      weights[static_cast<std::size_t>(std::abs(shift))],
-                      to.width() - std::abs(shift));
+        for (int distance = -radius; distance <= radius; ++distance) {
+            const QPoint shift = axis * distance;
+            if (y + shift.y() >= 0 && y + shift.y() < to.height()) {
+                const int first = std::max(-shift.x(), 0);
+                addScaled(to.row(y) + first, from.row(y + shift.y()) + first + shift.x(),
+                          weights[static_cast<std::size_t>(std::abs(distance))],
+                          to.width() - std::abs(shift.x()));
+            }
         }
     }
 }
@@ -59,7 +54,7 @@ void blurHorizontally(const FloatPlane& from, FloatPlane& to, const std::vector<
 void Painting::gaussianBlur(Plane<float>& plane, double sigma) {
     const std::vector<float> weights = halfKernel(sigma);
     FloatPlane blurred(plane.width(), plane.height());
-    blurHorizontally(plane, blurred, weights);
+    blurAlong({1, 0}, plane, blurred, weights);
     plane.fill(0);
-    blurVertically(blurred, plane, weights);
+    blurAlong({0, 1}, blurred, plane, weights);
 }

@@ -6,11 +6,11 @@ using Painting::PixelKernels;
 using Painting::Rgb;
 using Painting::Scanline;
 
-// Each loop is written once and inlined into one function per instruction set. No set may include
+// Each loop is written once and also inlined into a function for AVX2. No set may include
 // FMA: a fused multiply-add rounds differently, and the pixels would depend on the processor.
 
-[[gnu::always_inline]] inline void blendBilinearLoop(
-    const Scanline& line, const Rgb& colour, const PixelKernels::BilinearCoverage& coverage) {
+[[gnu::always_inline]] inline void blendBilinear(const Scanline& line, const Rgb& colour,
+                                                 const PixelKernels::BilinearCoverage& coverage) {
     const auto [pixels, x, y, count] = line;
     const auto [upper, lower, upperWeight, lowerWeight] = coverage;
     const quint32 phase = Painting::ditherPhase(x, y);
@@ -23,9 +23,9 @@ using Painting::Scanline;
     }
 }
 
-[[gnu::always_inline]] inline void blendMaskedLoop(const Scanline& line,
-                                                   const quint32* __restrict under,
-                                                   const std::uint8_t* __restrict mask) {
+[[gnu::always_inline]] inline void blendMasked(const Scanline& line,
+                                               const quint32* __restrict under,
+                                               const std::uint8_t* __restrict mask) {
     quint32* const __restrict pixels = line.pixels;
     const int count = line.count;
     const quint32 phase = Painting::ditherPhase(line.x, line.y);
@@ -35,8 +35,8 @@ using Painting::Scanline;
     }
 }
 
-[[gnu::always_inline]] inline void fillGradientLoop(const Scanline& line,
-                                                    const PixelKernels::Gradient& gradient) {
+[[gnu::always_inline]] inline void fillGradient(const Scanline& line,
+                                                const PixelKernels::Gradient& gradient) {
     constexpr int fractionBits = 16;
     const auto [pixels, x, y, count] = line;
     const auto [red, green, blue] = gradient.first;
@@ -51,49 +51,26 @@ using Painting::Scanline;
     }
 }
 
-void blendBilinear(const Scanline& line, const Rgb& colour,
-                   const PixelKernels::BilinearCoverage& coverage) {
-    blendBilinearLoop(line, colour, coverage);
-}
-
-void blendMasked(const Scanline& line, const quint32* under, const std::uint8_t* mask) {
-    blendMaskedLoop(line, under, mask);
-}
-
-void fillGradient(const Scanline& line, const PixelKernels::Gradient& gradient) {
-    fillGradientLoop(line, gradient);
-}
-
 constexpr PixelKernels generic{blendBilinear, blendMasked, fillGradient};
 
 #if defined(__x86_64__)
 
 [[gnu::target("avx2")]] void blendBilinearAvx2(const Scanline& line, const Rgb& colour,
                                                const PixelKernels::BilinearCoverage& coverage) {
-    blendBilinearLoop(line, colour, coverage);
+    blendBilinear(line, colour, coverage);
 }
 
 [[gnu::target("avx2")]] void blendMaskedAvx2(const Scanline& line, const quint32* under,
                                              const std::uint8_t* mask) {
-    blendMaskedLoop(line, under, mask);
+    blendMasked(line, under, mask);
 }
 
 [[gnu::target("avx2")]] void fillGradientAvx2(const Scanline& line,
                                               const PixelKernels::Gradient& gradient) {
-    fillGradientLoop(line, gradient);
+    fillGradient(line, gradient);
 }
 
 constexpr PixelKernels avx2{blendBilinearAvx2, blendMaskedAvx2, fillGradientAvx2};
-
-const PixelKernels& fastest() {
-    return __builtin_cpu_supports("avx2") != 0 ? avx2 : generic;
-}
-
-#else
-
-const PixelKernels& fastest() {
-    return generic;
-}
 
 #endif
 
@@ -104,6 +81,10 @@ const Painting::PixelKernels& Painting::genericPixelKernels() {
 }
 
 const Painting::PixelKernels& Painting::pixelKernels() {
-    static const PixelKernels& kernels = fastest();
-    return kernels;
+#if defined(__x86_64__)
+    static const bool hasAvx2 = __builtin_cpu_supports("avx2") != 0;
+    return hasAvx2 ? avx2 : generic;
+#else
+    return generic;
+#endif
 }

@@ -39,6 +39,16 @@ struct Scanline {
     return {pixels + area.left(), area.left(), y, area.width()};
 }
 
+/// Calls `compose(scanline)` for each row of `area`; the pixels are those of `image` from its top
+/// left corner on. The image has 32 bits a pixel.
+template <typename Compose>
+void composeRows(QImage& image, const QRect& area, Compose& compose) {
+    for (int row = 0; row < area.height(); ++row) {
+        auto* const pixels = reinterpret_cast<quint32*>(image.scanLine(row));
+        compose(Scanline{pixels, area.left(), area.top() + row, area.width()});
+    }
+}
+
 /// The rows that are composed before they are drawn: few enough to stay in the processor's cache.
 inline constexpr int rowsPerBatch = 16;
 
@@ -47,14 +57,10 @@ inline constexpr int rowsPerBatch = 16;
 /// drawn at once.
 template <typename Compose>
 void drawComposed(QPainter& painter, const QRect& area, QImage& buffer, Compose compose) {
-    const int batch = buffer.height();
-    for (int top = area.top(); top <= area.bottom(); top += batch) {
-        const QRect rows(0, 0, area.width(), std::min(batch, area.bottom() + 1 - top));
-        for (int row = 0; row < rows.height(); ++row) {
-            const Scanline line = scanline(buffer, rows, row);
-            compose(Scanline{line.pixels, area.left(), top + row, line.count});
-        }
-        painter.drawImage(QPoint(area.left(), top), buffer, rows);
+    for (int top = area.top(); top <= area.bottom(); top += buffer.height()) {
+        const QRect rows = area & QRect(area.left(), top, area.width(), buffer.height());
+        composeRows(buffer, rows, compose);
+        painter.drawImage(rows.topLeft(), buffer, QRect(QPoint(), rows.size()));
     }
 }
 
@@ -62,10 +68,7 @@ void drawComposed(QPainter& painter, const QRect& area, QImage& buffer, Compose 
 template <typename Compose>
 [[nodiscard]] QImage composedImage(const QRect& area, Compose compose) {
     QImage image(area.size(), QImage::Format_RGB32);
-    for (int row = 0; row < area.height(); ++row) {
-        const Scanline line = scanline(image, image.rect(), row);
-        compose(Scanline{line.pixels, area.left(), area.top() + row, line.count});
-    }
+    composeRows(image, area, compose);
     return image;
 }
 

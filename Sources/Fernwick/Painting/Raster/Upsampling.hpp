@@ -17,12 +17,13 @@ public:
         float weight;  ///< of the next sample, from 0 to 1
     };
 
-    /// `firstPixel` is the position of the first pixel's centre, in samples. There are at least two
-    /// samples; pixels outside of them take the value of the nearest one.
-    SampleAxis(int pixels, int samples, double samplesPerPixel, double firstPixel) {
+    /// The first sample begins at `origin`, in pixels. There are at least two samples; pixels
+    /// outside of them take the value of the nearest one.
+    SampleAxis(int pixels, int samples, double pixelsPerSample, double origin = 0) {
         positions_.reserve(static_cast<std::size_t>(pixels));
         for (int pixel = 0; pixel < pixels; ++pixel) {
-            const double at = std::clamp(firstPixel + pixel * samplesPerPixel, 0.0, samples - 1.0);
+            const double at =
+                std::clamp((pixel + 0.5 - origin) / pixelsPerSample - 0.5, 0.0, samples - 1.0);
             const int sample = std::min(static_cast<int>(std::floor(at)), samples - 2);
             positions_.push_back({sample, static_cast<float>(at - sample)});
         }
