@@ -6,26 +6,17 @@
 
 namespace Desktop {
 
-namespace {
-
-void requestName(const QDBusConnection& bus, const QString& name) {
-    constexpr uint doNotQueue = 4;  // DBUS_NAME_FLAG_DO_NOT_QUEUE
-    QDBusMessage request = QDBusMessage::createMethodCall(
-        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
-        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("RequestName"));
-    request << name << doNotQueue;
-    bus.send(request);
-}
-
-}  // namespace
-
 DBusActivation::DBusActivation(QDBusConnection bus, const QString& applicationID,
                                QObject* application, Activated activated)
     : QDBusAbstractAdaptor(application), activated_(std::move(activated)) {
     const QString path = u'/' + QString(applicationID).replace(u'.', u'/');
     // Register the object before the name: clients may call as soon as they see the name.
     if (bus.isConnected() && bus.registerObject(path, application)) {
-        requestName(bus, applicationID);
+        constexpr uint doNotQueue = 4;  // DBUS_NAME_FLAG_DO_NOT_QUEUE
+        QDBusMessage request = QDBusMessage::createMethodCall(
+            QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+            QStringLiteral("org.freedesktop.DBus"), QStringLiteral("RequestName"));
+        bus.send(request << applicationID << doNotQueue);
     }
 }
 

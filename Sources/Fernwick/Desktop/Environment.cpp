@@ -1,23 +1,16 @@
 #include "Desktop/Environment.hpp"
 
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QSysInfo>
 #include <algorithm>
 
 #include "Desktop/ActivationToken.hpp"
-#include "Desktop/SessionBus.hpp"
 #include "Posix/LocalSocket.hpp"
 
 namespace Desktop {
 
 namespace {
-
-/// Without a session bus, libdbus starts one that outlives the program.
-void disableMissingSessionBus() {
-    if (!sessionBusExists()) {
-        qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
-    }
-}
 
 /// Whether a process on this machine listens at an ICE address such as
 /// "local/hostname:@/tmp/.ICE-unix/1234", where @ marks an abstract socket name.
@@ -68,21 +61,26 @@ void replaceInvalidFontLanguage() {
     }
 }
 
-/// libpulse prints warnings when the home or runtime folder belongs to another user.
-void sendPulseMessagesToSyslog() {
-    if (!qEnvironmentVariableIsSet("PULSE_LOG")) {
-        qputenv("PULSE_LOG_SYSLOG", "1");
-    }
-}
-
 }  // namespace
 
 void prepareEnvironment() {
-    disableMissingSessionBus();
+    if (!sessionBusExists()) {
+        // Otherwise libdbus starts a bus that outlives the program.
+        qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
+    }
     removeStaleSessionManager();
     replaceInvalidFontLanguage();
-    sendPulseMessagesToSyslog();
+    if (!qEnvironmentVariableIsSet("PULSE_LOG")) {
+        // libpulse prints warnings when the home or runtime folder belongs to another user.
+        qputenv("PULSE_LOG_SYSLOG", "1");
+    }
     reserveActivationToken();
+}
+
+bool sessionBusExists() {
+    const QString folder = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    return !qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS") ||
+           (!folder.isEmpty() && QFileInfo::exists(folder + QStringLiteral("/bus")));
 }
 
 }  // namespace Desktop

@@ -7,4 +7,7 @@ namespace Desktop {
 /// later change is `setActivationToken`.
 void prepareEnvironment();
 
+/// Whether there is a D-Bus session bus. Connecting without one makes libdbus start a bus.
+[[nodiscard]] bool sessionBusExists();
+
 }  // namespace Desktop

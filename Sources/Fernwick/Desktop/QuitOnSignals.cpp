@@ -1,10 +1,8 @@
 #include "Desktop/QuitOnSignals.hpp"
 
-#include <fcntl.h>
 #include <unistd.h>
 
 #include <QCoreApplication>
-#include <QSocketNotifier>
 #include <array>
 #include <cerrno>
 #include <csignal>
@@ -50,14 +48,12 @@ void exitOnSignals() {
 }
 
 QuitOnSignals::QuitOnSignals() {
-    std::array<int, 2> ends{};
-    if (::pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK) != 0) {
+    if (!pipe_.reader.valid()) {
         return;
     }
-    readEnd_ = ends[0];
-    writeEnd = ends[1];
-    notifier_ = new QSocketNotifier(readEnd_, QSocketNotifier::Read, this);
-    connect(notifier_, &QSocketNotifier::activated, QCoreApplication::instance(),
+    writeEnd = pipe_.writer.number();
+    notifier_ = std::make_unique<QSocketNotifier>(pipe_.reader.number(), QSocketNotifier::Read);
+    connect(notifier_.get(), &QSocketNotifier::activated, QCoreApplication::instance(),
             &QCoreApplication::quit);
     install(wakeEventLoop);
 }
@@ -66,12 +62,7 @@ QuitOnSignals::~QuitOnSignals() {
     for (const int number : terminationSignals) {
         std::signal(number, SIG_IGN);
     }
-    if (readEnd_ >= 0) {
-        delete notifier_;
-        ::close(readEnd_);
-        ::close(writeEnd);
-        writeEnd = -1;
-    }
+    writeEnd = -1;
 }
 
 }  // namespace Desktop

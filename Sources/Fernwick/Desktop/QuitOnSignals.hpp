@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QObject>
+#include <QSocketNotifier>
+#include <memory>
 
-class QSocketNotifier;
+#include "Posix/FileDescriptor.hpp"
 
 namespace Desktop {
 
@@ -20,8 +22,8 @@ public:
     ~QuitOnSignals() override;
 
 private:
-    int readEnd_ = -1;
-    QSocketNotifier* notifier_ = nullptr;
+    Posix::Pipe pipe_ = Posix::Pipe::open();
+    std::unique_ptr<QSocketNotifier> notifier_;
 };
 
 }  // namespace Desktop

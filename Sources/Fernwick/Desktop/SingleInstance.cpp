@@ -4,7 +4,6 @@
 
 #include <QCryptographicHash>
 #include <QLoggingCategory>
-#include <QSocketNotifier>
 #include <array>
 #include <chrono>
 #include <cstring>
@@ -125,19 +124,16 @@ SingleInstance::SingleInstance(const fs::path& settings) {
     qCWarning(instanceLog, "unknown: the socket is taken but refuses connections");
 }
 
-SingleInstance::~SingleInstance() = default;
-
 void SingleInstance::listen() {
     if (role_ != Role::first || notifier_ != nullptr) {
         return;
     }
-    notifier_ = new QSocketNotifier(listener_.number(), QSocketNotifier::Read, this);
-    connect(notifier_, &QSocketNotifier::activated, this, &SingleInstance::acceptRequest);
+    notifier_ = std::make_unique<QSocketNotifier>(listener_.number(), QSocketNotifier::Read);
+    connect(notifier_.get(), &QSocketNotifier::activated, this, &SingleInstance::acceptRequest);
 }
 
 void SingleInstance::release() {
-    delete notifier_;
-    notifier_ = nullptr;
+    notifier_.reset();
     listener_.close();
     role_ = Role::unknown;
 }

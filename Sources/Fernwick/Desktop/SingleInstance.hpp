@@ -2,11 +2,11 @@
 
 #include <QByteArray>
 #include <QObject>
+#include <QSocketNotifier>
 #include <filesystem>
+#include <memory>
 
 #include "Posix/FileDescriptor.hpp"
-
-class QSocketNotifier;
 
 namespace Desktop {
 
@@ -27,7 +27,6 @@ public:
     /// `settings` is the path of the settings file, which need not exist. Waits at most a second
     /// for the other instance. Needs no QCoreApplication.
     explicit SingleInstance(const std::filesystem::path& settings);
-    ~SingleInstance() override;
 
     [[nodiscard]] Role role() const { return role_; }
 
@@ -47,7 +46,7 @@ private:
 
     Role role_ = Role::unknown;
     Posix::FileDescriptor listener_{-1};
-    QSocketNotifier* notifier_ = nullptr;
+    std::unique_ptr<QSocketNotifier> notifier_;
 };
 
 }  // namespace Desktop

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <fcntl.h>
 #include <unistd.h>
 
+#include <array>
 #include <cerrno>
 #include <utility>
 
@@ -32,6 +34,18 @@ private:
     int number_;
 };
 
+/// A pipe whose ends do not block. Both are invalid when it could not be created.
+struct Pipe {
+    FileDescriptor reader;
+    FileDescriptor writer;
+
+    [[nodiscard]] static Pipe open() {
+        std::array<int, 2> ends{-1, -1};
+        static_cast<void>(::pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK));
+        return {FileDescriptor(ends[0]), FileDescriptor(ends[1])};
+    }
+};
+
 /// Whether retrying an open() that failed with `error` is pointless: permission denied, a symbolic
 /// link loop, or a socket or device that cannot be opened.
 [[nodiscard]] inline bool isPermanentOpenError(int error) {
@@ -46,6 +60,12 @@ template <typename Call>
         result = call();
     }
     return result;
+}
+
+/// open(2) that repeats on EINTR and never blocks on a named pipe or a device in the file's place.
+[[nodiscard]] inline FileDescriptor openFile(const char* path, int flags, mode_t mode = 0) {
+    constexpr int always = O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+    return FileDescriptor(retryOnInterrupt([&] { return ::open(path, flags | always, mode); }));
 }
 
 }  // namespace Posix

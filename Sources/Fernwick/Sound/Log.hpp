@@ -5,6 +5,6 @@
 namespace Sound {
 
 /// The category "fernwick.sound". Prints only when QT_LOGGING_RULES enables it.
-Q_DECLARE_LOGGING_CATEGORY(soundLog)
+inline Q_LOGGING_CATEGORY(soundLog, "fernwick.sound", QtFatalMsg)
 
 }  // namespace Sound

@@ -1,6 +1,7 @@
 #include "Sound/PulsePlayer.hpp"
 
 #include <QByteArray>
+#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -17,17 +18,13 @@ using Proplist = std::unique_ptr<pa_proplist, decltype(PulseLibrary::proplist_fr
 /// With a longer delay, sound and picture no longer seem to belong together.
 constexpr std::chrono::milliseconds maximumDelay{150};
 
-bool isLate(PulsePlayer::Clock::time_point since) {
-    return PulsePlayer::Clock::now() - since > maximumDelay;
-}
-
 const char* titleOf(SoundEffect effect) {
     return effect == SoundEffect::pop ? "Pop" : "Tink";
 }
 
-/// `isLate`, and logs that the effect is dropped.
+/// Whether it is too late to play an effect requested at `since`; logs that it is dropped.
 bool dropIfLate(SoundEffect effect, PulsePlayer::Clock::time_point since) {
-    const bool late = isLate(since);
+    const bool late = PulsePlayer::Clock::now() - since > maximumDelay;
     if (late) {
         qCDebug(soundLog, "dropped %s: too late", titleOf(effect));
     }
@@ -44,18 +41,11 @@ const char* nameOf(SoundEffect effect) {
 }
 
 /// What volume mixers show.
-Proplist clientProperties(const QByteArray& id) {
+Proplist properties(std::initializer_list<std::pair<const char*, const char*>> values) {
     Proplist list(pulse().proplist_new(), pulse().proplist_free);
-    pulse().proplist_sets(list.get(), PA_PROP_APPLICATION_NAME, "Fernwick");
-    pulse().proplist_sets(list.get(), PA_PROP_APPLICATION_ID, id.constData());
-    pulse().proplist_sets(list.get(), PA_PROP_APPLICATION_ICON_NAME, id.constData());
-    return list;
-}
-
-Proplist sampleProperties(SoundEffect effect) {
-    Proplist list(pulse().proplist_new(), pulse().proplist_free);
-    pulse().proplist_sets(list.get(), PA_PROP_MEDIA_NAME, titleOf(effect));
-    pulse().proplist_sets(list.get(), PA_PROP_MEDIA_ROLE, "game");
+    for (const auto& [key, value] : values) {
+        pulse().proplist_sets(list.get(), key, value);
+    }
     return list;
 }
 
@@ -85,8 +75,10 @@ void PulsePlayer::play(SoundEffect effect, Clock::time_point requested) {
 }
 
 void PulsePlayer::connect() {
-    context_ =
-        pulse().context_new_with_proplist(&loop_, nullptr, clientProperties(applicationID_).get());
+    const Proplist list = properties({{PA_PROP_APPLICATION_NAME, "Fernwick"},
+                                      {PA_PROP_APPLICATION_ID, applicationID_.constData()},
+                                      {PA_PROP_APPLICATION_ICON_NAME, applicationID_.constData()}});
+    context_ = pulse().context_new_with_proplist(&loop_, nullptr, list.get());
     if (context_ == nullptr) {
         qCWarning(soundLog, "could not create a libpulse context");
         return;
@@ -140,8 +132,10 @@ void PulsePlayer::uploadMissing() {
 void PulsePlayer::upload(Sample& sample) {
     constexpr pa_sample_spec format{.format = PA_SAMPLE_S16NE, .rate = sampleRate, .channels = 1};
     sample.wave = soundWave(sample.effect);
-    sample.upload = pulse().stream_new_with_proplist(
-        context_, nameOf(sample.effect), &format, nullptr, sampleProperties(sample.effect).get());
+    const Proplist list =
+        properties({{PA_PROP_MEDIA_NAME, titleOf(sample.effect)}, {PA_PROP_MEDIA_ROLE, "game"}});
+    sample.upload = pulse().stream_new_with_proplist(context_, nameOf(sample.effect), &format,
+                                                     nullptr, list.get());
     if (sample.upload == nullptr) {
         return;
     }
@@ -184,7 +178,7 @@ void PulsePlayer::startWaiting() {
         if (dropIfLate(waiting.effect, waiting.requested)) {
             continue;
         }
-        if (sampleOf(waiting.effect).ready) {
+        if (std::ranges::find(samples_, waiting.effect, &Sample::effect)->ready) {
             start(waiting.effect);
         } else {
             waiting_.push_back(waiting);
@@ -225,10 +219,6 @@ void PulsePlayer::playConfirmed(pa_context* context, int success, void* player) 
     for (Sample& sample : self.samples_) {
         sample.ready = false;
     }
-}
-
-PulsePlayer::Sample& PulsePlayer::sampleOf(SoundEffect effect) {
-    return samples_[effect == SoundEffect::pop ? 0 : 1];
 }
 
 }  // namespace Sound

@@ -61,7 +61,6 @@ private:
     void releaseUpload(Sample& sample);
     void startWaiting();
     void start(SoundEffect effect);
-    [[nodiscard]] Sample& sampleOf(SoundEffect effect);
 
     pa_mainloop_api& loop_;
     QByteArray applicationID_;

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <memory>
+#include <optional>
 
 #include "Session/SoundEffects.hpp"
 
@@ -20,15 +21,15 @@ public:
 
     /// Connects and uploads both effects in the background. Call it after the first frame;
     /// otherwise the first `play` does it.
-    void prepare();
+    void prepare() { send(std::nullopt); }
 
-    void play(SoundEffect effect) override;
+    void play(SoundEffect effect) override { send(effect); }
 
 private:
     class Thread;
 
-    /// Starts the thread if necessary. False when libpulse or the thread is not available.
-    [[nodiscard]] bool start();
+    /// Starts the thread if necessary. Does nothing without libpulse.
+    void send(std::optional<SoundEffect> effect);
 
     QByteArray applicationID_;
     std::unique_ptr<Thread> thread_;

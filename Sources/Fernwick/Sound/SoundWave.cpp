@@ -82,13 +82,13 @@ void shapeEnds(std::span<float> wave, float attack) {
     constexpr float release = 0.25F;  // fraction of the duration, when the partials have decayed
     const auto attackSamples = static_cast<std::size_t>(attack / secondsPerSample);
     const auto releaseSamples = wave.size() / static_cast<std::size_t>(1 / release);
-    for (std::size_t i = 0; i < attackSamples; ++i) {
-        wave[i] *= fade(static_cast<float>(i) / static_cast<float>(attackSamples));
-    }
-    for (std::size_t i = 0; i < releaseSamples; ++i) {
-        wave[wave.size() - 1 - i] *=
-            fade(static_cast<float>(i) / static_cast<float>(releaseSamples));
-    }
+    const auto fadeIn = [](auto sample, std::size_t count) {
+        for (std::size_t i = 0; i < count; ++i) {
+            *sample++ *= fade(static_cast<float>(i) / static_cast<float>(count));
+        }
+    };
+    fadeIn(wave.begin(), attackSamples);
+    fadeIn(wave.rbegin(), releaseSamples);
 }
 
 }  // namespace
@@ -101,10 +101,8 @@ std::vector<std::int16_t> soundWave(SoundEffect effect) {
     }
     shapeEnds(wave, recipe.attack);
 
-    float loudest = 0;
-    for (const float sample : wave) {
-        loudest = std::max(loudest, std::abs(sample));
-    }
+    const auto [lowest, highest] = std::ranges::minmax(wave);
+    const float loudest = std::max(-lowest, highest);
     const float scale = recipe.peak * std::numeric_limits<std::int16_t>::max() / loudest;
     std::vector<std::int16_t> samples(wave.size());
     std::transform(wave.begin(), wave.end(), samples.begin(), [scale](float sample) {

@@ -10,7 +10,6 @@
 #include <string>
 #include <string_view>
 #include <system_error>
-#include <vector>
 
 #include "Posix/FileDescriptor.hpp"
 #include "Storage/Log.hpp"
@@ -79,8 +78,7 @@ bool syncFile(int file) {
 }
 
 bool syncFolder(const fs::path& folder) {
-    constexpr int flags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
-    FileDescriptor opened(retryOnInterrupt([&] { return ::open(folder.c_str(), flags); }));
+    FileDescriptor opened = Posix::openFile(folder.c_str(), O_RDONLY | O_DIRECTORY);
     // EINVAL: the file system does not support fsync() on folders.
     const bool synced = opened.valid() && (syncFile(opened.number()) || errno == EINVAL);
     return logFailure(synced && opened.close(), "fsync of the folder");
@@ -114,33 +112,12 @@ bool sameFile(const fs::path& one, const fs::path& other) {
            first.st_dev == second.st_dev && first.st_ino == second.st_ino;
 }
 
-/// The temporary files of `file` in `folder`.
-std::vector<fs::path> orphansOf(const fs::path& file, const fs::path& folder) {
-    std::string prefix = file.filename().native();
-    prefix.append(temporaryInfix);
-    std::vector<fs::path> orphans;
-    std::error_code error;
-    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
-         entry.increment(error)) {
-        const std::string name = entry->path().filename().native();
-        std::error_code typeError;
-        if (name.starts_with(prefix) &&
-            name.size() == prefix.size() + temporaryPlaceholder.size() &&
-            fs::is_regular_file(entry->symlink_status(typeError))) {
-            orphans.push_back(entry->path());
-        }
-    }
-    return orphans;
-}
-
 }  // namespace
 
 DurableFile::DurableFile(const fs::path& path) : path_(followLinks(path)) {}
 
 DurableFile::Reading DurableFile::read(qsizetype maximumSize) const {
-    // O_NONBLOCK: opening a named pipe in the file's place must not block.
-    constexpr int flags = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
-    const FileDescriptor file(retryOnInterrupt([&] { return ::open(path_.c_str(), flags); }));
+    const FileDescriptor file = Posix::openFile(path_.c_str(), O_RDONLY);
     if (!file.valid()) {
         const State state = stateAfterOpenError(errno);
         logFailure(state == State::absent, "open");
@@ -199,8 +176,7 @@ bool DurableFile::replace(const QByteArray& bytes) const {
 }
 
 bool DurableFile::sync() const {
-    constexpr int flags = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
-    FileDescriptor file(retryOnInterrupt([&] { return ::open(path_.c_str(), flags); }));
+    FileDescriptor file = Posix::openFile(path_.c_str(), O_RDONLY);
     return logFailure(file.valid() && syncFile(file.number()) && file.close(), "fsync") &&
            syncFolder(folder());
 }
@@ -231,14 +207,22 @@ bool DurableFile::setAside() const {
     return false;
 }
 
-bool DurableFile::hasOrphans() const {
-    return !orphansOf(path_, folder()).empty();
-}
-
-void DurableFile::removeOrphans() const {
-    for (const fs::path& orphan : orphansOf(path_, folder())) {
-        ::unlink(orphan.c_str());
+std::vector<fs::path> DurableFile::orphans() const {
+    std::string prefix = path_.filename().native();
+    prefix.append(temporaryInfix);
+    std::vector<fs::path> found;
+    std::error_code error;
+    for (fs::directory_iterator entry(folder(), error), end; !error && entry != end;
+         entry.increment(error)) {
+        const std::string name = entry->path().filename().native();
+        std::error_code typeError;
+        if (name.starts_with(prefix) &&
+            name.size() == prefix.size() + temporaryPlaceholder.size() &&
+            fs::is_regular_file(entry->symlink_status(typeError))) {
+            found.push_back(entry->path());
+        }
     }
+    return found;
 }
 
 fs::path DurableFile::folder() const {

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <filesystem>
+#include <vector>
 
 namespace Storage {
 
@@ -46,8 +47,7 @@ public:
 
     /// Temporary files left by a process that was killed in `replace`. Remove them only while no
     /// other process can be in `replace`.
-    [[nodiscard]] bool hasOrphans() const;
-    void removeOrphans() const;
+    [[nodiscard]] std::vector<std::filesystem::path> orphans() const;
 
 private:
     [[nodiscard]] std::filesystem::path folder() const;

@@ -1,6 +1,5 @@
 #include "Storage/FileLock.hpp"
 
-#include <fcntl.h>
 #include <sys/file.h>
 
 #include <thread>
@@ -11,16 +10,10 @@ namespace Storage {
 
 std::optional<FileLock> FileLock::acquire(const std::filesystem::path& path,
                                           std::chrono::milliseconds timeout) {
-    // O_NONBLOCK: opening a named pipe in the file's place must not block.
-    constexpr int flags = O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
-    const auto open = [&](int mode) {
-        return Posix::FileDescriptor(
-            Posix::retryOnInterrupt([&] { return ::open(path.c_str(), mode | flags, 0600); }));
-    };
-    Posix::FileDescriptor file = open(O_RDWR | O_CREAT);
+    Posix::FileDescriptor file = Posix::openFile(path.c_str(), O_RDWR | O_CREAT, 0600);
     if (!file.valid()) {
         // flock() works on another user's file or on a folder, too, if it can be read.
-        file = open(O_RDONLY);
+        file = Posix::openFile(path.c_str(), O_RDONLY);
     }
     if (!logFailure(file.valid(), "opening the lock file")) {
         return Posix::isPermanentOpenError(errno) ? std::optional(FileLock(std::move(file), false))
@@ -31,13 +24,11 @@ std::optional<FileLock> FileLock::acquire(const std::filesystem::path& path,
     const auto deadline = std::chrono::steady_clock::now() + timeout;
     const auto lock = [&] { return ::flock(file.number(), LOCK_EX | LOCK_NB); };
     while (Posix::retryOnInterrupt(lock) != 0) {
-        if (errno == ENOLCK || errno == ENOSYS || errno == EOPNOTSUPP || errno == EBADF) {
-            logFailure(false, "locking");
-            return FileLock(std::move(file), false);
-        }
         if (errno != EWOULDBLOCK || std::chrono::steady_clock::now() >= deadline) {
             logFailure(false, "locking");
-            return std::nullopt;
+            const bool unsupported =
+                errno == ENOLCK || errno == ENOSYS || errno == EOPNOTSUPP || errno == EBADF;
+            return unsupported ? std::optional(FileLock(std::move(file), false)) : std::nullopt;
         }
         std::this_thread::sleep_for(pause);
     }

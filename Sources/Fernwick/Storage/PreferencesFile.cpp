@@ -46,13 +46,15 @@ std::optional<PreferencesDocument> documentOf(const DurableFile::Reading& readin
 }
 
 void removeOrphansOf(const DurableFile& file) {
-    if (!file.hasOrphans()) {
+    if (file.orphans().empty()) {
         return;
     }
     // If another process is writing right now, leave it to the next start.
     const auto lock = lockOf(file, std::chrono::milliseconds(0));
     if (lock && lock->excludesOthers()) {
-        file.removeOrphans();
+        for (const fs::path& orphan : file.orphans()) {
+            ::unlink(orphan.c_str());
+        }
     }
 }
 
@@ -107,10 +109,6 @@ bool PreferencesFile::store(const QString& key, const QCborValue& value) {
     }
     unsaved_ = {};
     return true;
-}
-
-QCborValue PreferencesFile::value(const QString& key) const {
-    return known_.value(key);
 }
 
 bool PreferencesFile::writeUnsaved() {

@@ -27,7 +27,7 @@ public:
     bool store(const QString& key, const QCborValue& value) override;
 
 protected:
-    [[nodiscard]] QCborValue value(const QString& key) const override;
+    [[nodiscard]] QCborValue value(const QString& key) const override { return known_.value(key); }
 
 private:
     [[nodiscard]] bool writeUnsaved();

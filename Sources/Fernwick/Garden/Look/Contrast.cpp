@@ -5,8 +5,8 @@
 #include <QWidget>
 #include <array>
 
+#include "Desktop/Environment.hpp"
 #include "Desktop/PortalSwitch.hpp"
-#include "Desktop/SessionBus.hpp"
 
 namespace Garden {
 
