@@ -116,7 +116,8 @@ TEST_P(OverlayLook, hasItsFontsAndColours) {
 }
 
 TEST_P(OverlayLook, padsItsButtonBy25And15) {
-    const QAbstractButton& overlayButton = *Screen::find<Garden::GardenButton>(window, "Let's grow");
+    const QAbstractButton& overlayButton =
+        *Screen::find<Garden::GardenButton>(window, "Let's grow");
     const QFontMetricsF metrics(overlayButton.font());
 
     Look::expectType(overlayButton, {Look::sans, 13, QFont::DemiBold});
