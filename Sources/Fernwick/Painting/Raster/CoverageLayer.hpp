@@ -37,10 +37,10 @@ public:
     template <typename Function>
     CoverageLayer(const QColor& colour, const QRect& bounds, Function coverage)
         : colour_(Rgb::of(colour)), bounds_(bounds), values_(bounds.width(), bounds.height()) {
-        for (int y = 0; y < values_.height(); ++y) {
-            for (int x = 0; x < values_.width(); ++x) {
-                values_.at(x, y) =
-                    static_cast<float>(coverage(bounds.left() + x, bounds.top() + y));
+        for (int y = bounds.top(); y <= bounds.bottom(); ++y) {
+            float* value = values_.row(y - bounds.top());
+            for (int x = bounds.left(); x <= bounds.right(); ++x) {
+                *value++ = static_cast<float>(coverage(x, y));
             }
         }
     }
