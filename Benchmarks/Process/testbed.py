@@ -1,4 +1,4 @@
-"""The private desktop and the programs that are measured on it."""
+"""A private desktop and the programs to measure on it."""
 
 import contextlib
 import pathlib
@@ -15,7 +15,7 @@ from desktop import Desktop
 # The window manager handles a click before it passes it on, but not a key press: a key pressed
 # right after a click could reach the window first.
 CLICK_SECONDS = 0.5
-# Positions of the pace buttons in pixels.
+# Screen positions of the pace buttons, in pixels.
 PACE_BUTTONS = {"Gentle": (78, 152), "Classic": (152, 152), "Swift": (222, 152)}
 
 
@@ -37,7 +37,7 @@ class Testbed:
 
     @contextlib.contextmanager
     def game_at(self, pace):
-        """The running game with a pace chosen and no run started."""
+        """Starts the game and selects a pace, without starting a run."""
         with Program(self.desktop, self.game) as program:
             time.sleep(STARTUP_SECONDS)
             self.input.click(*PACE_BUTTONS[pace])
@@ -45,5 +45,5 @@ class Testbed:
             yield program
 
     def shows_play(self):
-        """Whether a run is going; otherwise the board is blurred and dimmed."""
+        """Whether a run is in progress; otherwise the board is blurred and dimmed."""
         return Board.is_moving(self.pixels.picture())

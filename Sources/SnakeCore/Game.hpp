@@ -23,15 +23,15 @@ public:
     /// `std::length_error` if that cannot be allocated.
     Game(std::int64_t width, std::int64_t height);
 
-    /// Queues a turn; each step makes one. Ignored if two turns are already queued, or if it
-    /// repeats or reverses the direction that the snake will have by then.
+    /// Queues a turn; each step takes one from the queue. Ignored if two turns are already queued,
+    /// or if it repeats or reverses the direction that the snake will have by then.
     void turn(Direction direction);
 
     /// Advances the snake by one cell; no effect once the run has ended. A new fruit is placed
     /// with `std::random_device`.
     void step();
 
-    /// The same with the caller's generator, for tests and simulations.
+    /// The same, but places the fruit with the caller's generator, for tests and simulations.
     template <std::uniform_random_bit_generator Generator>
     void step(Generator& generator) {
         if (advance()) {
@@ -46,9 +46,9 @@ public:
     [[nodiscard]] std::int64_t height() const { return height_; }
     /// The cells of the snake, head first; valid until the game changes.
     [[nodiscard]] const std::deque<Cell>& snake() const { return snake_; }
-    /// The direction of the last step, or of the first step before there was one.
+    /// The direction of the last step; right before the first step.
     [[nodiscard]] Direction direction() const { return direction_; }
-    /// The fruit. In a won run it stays where the head ate it.
+    /// The fruit. After a win, the cell where the last fruit was eaten.
     [[nodiscard]] Cell food() const { return food_; }
     /// Ten points per fruit.
     [[nodiscard]] std::int64_t score() const { return score_; }
@@ -72,7 +72,7 @@ private:
     std::deque<Cell> snake_;
     Cell food_;
     std::int64_t score_ = 0;
-    /// Oldest first. Two, so that a quick double press between two steps is kept.
+    /// Oldest first. Two, so that two quick key presses between steps both count.
     std::vector<Direction> turns_;
     Direction direction_ = Direction::right;
     bool ended_ = false;

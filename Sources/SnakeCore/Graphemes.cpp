@@ -22,7 +22,7 @@ void require(UErrorCode status) {
     }
 }
 
-/// One per thread: creating it takes a thousand times as long as cleaning a name.
+/// One iterator per thread: creating one takes a thousand times as long as cleaning a name.
 UBreakIterator* characterIterator() {
     thread_local const auto iterator = [] {
         constexpr const char* rootLocale = "";

@@ -16,7 +16,7 @@ NO_BUS = {"DBUS_SESSION_BUS_ADDRESS": "unix:path=/nonexistent/bus"}
 
 @pytest.fixture
 def start_again(desktop, home):
-    """Starts the program again in the same home. Returns the process."""
+    """Starts another instance with the same home folder and returns its process."""
     started = []
 
     def start_again(**environment):
@@ -89,7 +89,7 @@ def test_a_second_start_exits_even_if_the_first_is_stopped(game, other_window, s
         assert exits_normally(start_again())
     finally:
         game.process.send_signal(signal.SIGCONT)
-    eventually(game.is_active, "the first window is active once it continues")
+    eventually(game.is_active, "the first window is active after SIGCONT")
 
 
 def test_of_two_simultaneous_starts_exactly_one_keeps_running(start_again):
@@ -98,7 +98,7 @@ def test_of_two_simultaneous_starts_exactly_one_keeps_running(start_again):
     exited, = (each for each in starts if each.poll() is not None)
     running, = (each for each in starts if each is not exited)
     assert exited.returncode == 0
-    # Long enough for the other to exit as well if it were going to.
+    # Give the other time to exit too, if it wrongly does.
     time.sleep(2)
     assert running.poll() is None
     running.terminate()

@@ -17,7 +17,7 @@ class LocalAddress {
 public:
     static constexpr qsizetype maximumSize = sizeof(sockaddr_un::sun_path) - 1;
 
-    /// Truncates a name of more than `maximumSize` bytes.
+    /// Names longer than `maximumSize` bytes are truncated.
     explicit LocalAddress(const QByteArray& name) {
         const qsizetype count = std::min(name.size(), maximumSize);
         value_.sun_family = AF_UNIX;
@@ -34,13 +34,13 @@ private:
     socklen_t size_ = 0;
 };
 
-/// Opens an AF_UNIX socket; `type` is that of socket(2), including flags.
+/// Opens an AF_UNIX socket. `type` is passed to socket(2) and may include SOCK_NONBLOCK.
 [[nodiscard]] inline FileDescriptor localSocket(int type) {
     return FileDescriptor(::socket(AF_UNIX, type | SOCK_CLOEXEC, 0));
 }
 
-/// Lets blocking calls fail with EAGAIN after `timeout`. `option` is SO_RCVTIMEO, or SO_SNDTIMEO,
-/// which covers connect() as well.
+/// Makes blocking calls fail with EAGAIN after `timeout`. `option` is SO_RCVTIMEO or SO_SNDTIMEO;
+/// the latter also applies to connect().
 inline void setTimeout(const FileDescriptor& socket, int option, timeval timeout) {
     ::setsockopt(socket.number(), SOL_SOCKET, option, &timeout, sizeof timeout);
 }

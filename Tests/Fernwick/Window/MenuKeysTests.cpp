@@ -13,7 +13,7 @@ namespace {
 constexpr Qt::Key firstMenu = Qt::Key_F10;
 const QStringList fileItems{"New Game", "Quit"};
 
-/// The commands through their shortcuts and through the menus, in and out of full screen.
+/// Commands given by shortcut and through the menus, in full screen and in a window.
 class MenuKeys : public WindowTest, public ::testing::WithParamInterface<bool> {
 protected:
     MenuKeys() {
@@ -30,8 +30,8 @@ protected:
         return qobject_cast<QMenu*>(QApplication::activePopupWidget());
     }
 
-    /// Moves through the menus with the arrow keys to the item called `title`. False if they do not
-    /// reach it, because it is disabled.
+    /// Moves to the item called `title` with the arrow keys. Returns false if they cannot reach
+    /// it, because it is disabled.
     bool moveTo(const QString& title) {
         press(firstMenu);
         if (!fileItems.contains(title)) {
@@ -91,7 +91,7 @@ INSTANTIATE_TEST_SUITE_P(In, MenuKeys, ::testing::Bool(), [](const auto& fullScr
 
 }  // namespace
 
-TEST_P(MenuKeys, ctrlNStartsARunUnlessANameIsAwaited) {
+TEST_P(MenuKeys, ctrlNStartsARunUnlessAwaitingAName) {
     inEveryPhase([this](Session::Phase phase) {
         const SnakeCore::UUID before = session.runID();
         pressCtrl(Qt::Key_N);
@@ -190,7 +190,7 @@ TEST_P(MenuKeys, altAloneActivatesTheMenuBar) {
     closeMenus();
 }
 
-TEST_P(MenuKeys, anOpenMenuKeepsKeysFromTheGame) {
+TEST_P(MenuKeys, keysPressedInAnOpenMenuDoNotReachTheGame) {
     startRun();
     const SnakeCore::UUID run = session.runID();
     press(firstMenu);
@@ -237,7 +237,7 @@ TEST_P(MenuKeys, everyItemCanBeClicked) {
     EXPECT_TRUE(session.showingScores());
 }
 
-TEST_P(MenuKeys, newGameIsDisabledWhileANameIsAwaited) {
+TEST_P(MenuKeys, newGameIsDisabledWhileAwaitingAName) {
     enterPhase(Session::Phase::awaitingName);
     const SnakeCore::UUID run = session.runID();
 

@@ -12,7 +12,7 @@ namespace Garden {
 
 namespace {
 
-// GNOME's, KDE's and the standard one.
+// The settings of GNOME and of KDE, and the cross-desktop one.
 constexpr std::array<Desktop::PortalSwitch::Setting, 3> settings{{
     {"org.gnome.desktop.interface", "enable-animations",
      [](const QVariant& value) { return value.userType() == QMetaType::Bool && !value.toBool(); }},

@@ -14,11 +14,11 @@ struct Scanline {
     int y;
     int count;
 
-    /// The part from column `begin` up to, not including, column `end`; both lie in the run.
+    /// The pixels of columns `begin` (inclusive) to `end` (exclusive), which must lie in the run.
     [[nodiscard]] Scanline part(int begin, int end) const {
         return {pixels + (begin - x), begin, y, end - begin};
     }
-    /// The part inside `area`; its count is 0 when there is none.
+    /// The pixels inside `area`; `count` is 0 if there are none.
     [[nodiscard]] Scanline clipped(const QRect& area) const {
         const int begin = std::max(x, area.left());
         const int end = std::min(x + count, area.left() + area.width());
@@ -28,12 +28,12 @@ struct Scanline {
     void fill(quint32 pixel) const { std::fill_n(pixels, count, pixel); }
 };
 
-/// The pixels of `image` from (x, y) to the end of the row. The image has 32 bits a pixel.
+/// The pixels of `image` from (x, y) to the end of the row. The image has 32 bits per pixel.
 [[nodiscard]] inline const quint32* pixelsAt(const QImage& image, int x, int y) {
     return reinterpret_cast<const quint32*>(image.constScanLine(y)) + x;
 }
 
-/// Row `y` of `area`, which lies in `image`. The image has 32 bits a pixel.
+/// Row `y` of `area`, which lies in `image`. The image has 32 bits per pixel.
 [[nodiscard]] inline Scanline scanline(QImage& image, const QRect& area, int y) {
     auto* const pixels = reinterpret_cast<quint32*>(image.scanLine(y));
     return {pixels + area.left(), area.left(), y, area.width()};
@@ -49,12 +49,12 @@ void composeRows(QImage& image, const QRect& area, Compose& compose) {
     }
 }
 
-/// The rows that are composed before they are drawn: few enough to stay in the processor's cache.
+/// Rows per `drawImage` call: few enough for the buffer to stay in the CPU cache.
 inline constexpr int rowsPerBatch = 16;
 
-/// Draws `area` at its place in the painter's coordinates. `compose(scanline)` writes the pixels of
-/// one row of it. `buffer` is at least as wide as `area`; its height is the number of rows that are
-/// drawn at once.
+/// Draws `area`, which is in the painter's coordinates. `compose(scanline)` writes the pixels of
+/// one of its rows. `buffer` is at least as wide as `area`; its height is the number of rows drawn
+/// at once.
 template <typename Compose>
 void drawComposed(QPainter& painter, const QRect& area, QImage& buffer, Compose compose) {
     for (int top = area.top(); top <= area.bottom(); top += buffer.height()) {
@@ -64,7 +64,7 @@ void drawComposed(QPainter& painter, const QRect& area, QImage& buffer, Compose 
     }
 }
 
-/// The picture of `area`, composed in the same way. Its top left pixel is that of `area`.
+/// Returns what `drawComposed` would draw, as an image of the size of `area`.
 template <typename Compose>
 [[nodiscard]] QImage composedImage(const QRect& area, Compose compose) {
     QImage image(area.size(), QImage::Format_RGB32);

@@ -9,7 +9,7 @@ QRect WidgetPixels::inWindow(const QRect& place, qreal scale) {
 WidgetPixels::WidgetPixels(QPainter& painter, const QRect& place, qreal scale) {
     const QRect pixels = inWindow(place, scale);
     const QTransform toDevice = painter.deviceTransform();
-    // The first pixel on the device, which is the window or an image of the widget alone.
+    // The widget's top left pixel on the device: the window, or an image of just the widget.
     const QPointF first =
         toDevice.map(QPointF()) - QPointF(place.topLeft()) * scale + pixels.topLeft();
     painter.setTransform(QTransform::fromTranslate(std::round(first.x()), std::round(first.y())) *

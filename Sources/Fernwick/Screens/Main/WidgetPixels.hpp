@@ -4,18 +4,19 @@
 #include <QRect>
 #include <QTransform>
 
-/// Paints a widget in device pixels, at any scale of the screen. Pixels are counted from the top
-/// left one that the widget touches. `place` is the widget in its window, in points; `scale` is
-/// device pixels per point.
+/// Paints a widget in device pixels at any device pixel ratio. The origin is the top left pixel
+/// that the widget touches. `place` is the widget's rectangle in its window, in points; `scale` is
+/// the number of device pixels per point.
 class WidgetPixels {
 public:
-    /// The widget's pixels among those of the window.
+    /// The widget's rectangle in the window, in device pixels.
     [[nodiscard]] static QRect inWindow(const QRect& place, qreal scale);
 
-    /// Sets up `painter`, at the start of a paint event, so that its units are the widget's pixels.
+    /// Sets the transform of `painter` to the widget's pixels. Call it at the start of a paint
+    /// event.
     WidgetPixels(QPainter& painter, const QRect& place, qreal scale);
 
-    /// The pixels that a rectangle of the widget, in points, touches.
+    /// The pixels that `points`, a rectangle in the widget's points, touches.
     [[nodiscard]] QRect of(const QRect& points) const;
 
 private:

@@ -24,7 +24,7 @@ constexpr int spacing = 20;
 constexpr double emblemSize = 28;
 constexpr double titleSize = 30;
 constexpr double subtitleSize = 12;
-constexpr int boardHeight = 330;
+constexpr int listHeight = 330;
 constexpr double cornerRadius = 22;
 constexpr double edgeOpacity = 0.16;
 
@@ -39,7 +39,7 @@ HighScoresView::HighScoresView(Session& session, QWidget* parent)
     Garden::setAccessibleRole(*this, QAccessible::Dialog);
     setFixedWidth(sheetWidth);
     setAccessibleName(tr("The high scores."));
-    rows_->setFixedHeight(boardHeight);
+    rows_->setFixedHeight(listHeight);
     auto* done = new Garden::GardenButton(tr("Done"));
 
     auto* column = Garden::layOut<QVBoxLayout>(this, spacing, padding);

@@ -72,11 +72,11 @@ protected:
         return QTest::qWaitFor([this] { return portal.reads == 3; });
     }
 
-    std::unique_ptr<Desktop::PortalSwitch> settingOn(const QDBusConnection& bus) {
+    std::unique_ptr<Desktop::PortalSwitch> createSetting(const QDBusConnection& bus) {
         return std::unique_ptr<Desktop::PortalSwitch>(Garden::reducedMotionSetting(bus, nullptr));
     }
 
-    // Sends the change until it arrives: the subscription to the signal may not exist yet.
+    // Repeats the signal until it arrives, because the setting may not have subscribed yet.
     bool follows(const Desktop::PortalSwitch& setting, bool animations) {
         return QTest::qWaitFor([&] {
             Q_EMIT portal.SettingChanged(gnome, gnomeKey, QDBusVariant(animations));
@@ -91,7 +91,7 @@ protected:
 
 }  // namespace
 
-TEST_F(ReducedMotionSetting, isOnByTheSettingOfAnyDesktop) {
+TEST_F(ReducedMotionSetting, isOnWhenTheSettingOfAnyDesktopIsOn) {
     const QHash<QString, QVariant> values{
         {gnome + u'/' + gnomeKey, false},
         {QStringLiteral("org.kde.kdeglobals.KDE/AnimationDurationFactor"), QStringLiteral("0")},
@@ -99,19 +99,19 @@ TEST_F(ReducedMotionSetting, isOnByTheSettingOfAnyDesktop) {
     openPortal();
     for (auto value = values.begin(); value != values.end(); ++value) {
         portal.values = {{value.key(), value.value()}};
-        const auto setting = settingOn(programBus());
+        const auto setting = createSetting(programBus());
         EXPECT_FALSE(setting->isOn());
         EXPECT_TRUE(QTest::qWaitFor([&] { return setting->isOn(); })) << value.key().toStdString();
     }
 }
 
-TEST_F(ReducedMotionSetting, isOffWhereTheDesktopAnimates) {
+TEST_F(ReducedMotionSetting, isOffWhenTheDesktopAnimates) {
     portal.values = {
         {gnome + u'/' + gnomeKey, true},
         {QStringLiteral("org.kde.kdeglobals.KDE/AnimationDurationFactor"), QStringLiteral("0.5")},
         {QStringLiteral("org.freedesktop.appearance/reduced-motion"), 0U}};
     openPortal();
-    const auto setting = settingOn(programBus());
+    const auto setting = createSetting(programBus());
 
     ASSERT_TRUE(allSettingsRead());
     QTest::qWait(50);
@@ -119,22 +119,22 @@ TEST_F(ReducedMotionSetting, isOffWhereTheDesktopAnimates) {
     EXPECT_FALSE(setting->isOn());
 }
 
-TEST_F(ReducedMotionSetting, doesNotWaitForAHangingBus) {
+TEST_F(ReducedMotionSetting, doesNotBlockOnAHangingBus) {
     const QDBusConnection bus = programBus();
     const auto process = static_cast<pid_t>(daemon.processId());
     ASSERT_EQ(::kill(process, SIGSTOP), 0);
     const auto start = std::chrono::steady_clock::now();
 
-    const auto setting = settingOn(bus);
+    const auto setting = createSetting(bus);
 
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
     EXPECT_FALSE(setting->isOn());
     ::kill(process, SIGCONT);
 }
 
-TEST_F(ReducedMotionSetting, followsALaterChange) {
+TEST_F(ReducedMotionSetting, followsLaterChanges) {
     openPortal();
-    const auto setting = settingOn(programBus());
+    const auto setting = createSetting(programBus());
     ASSERT_TRUE(allSettingsRead());
 
     EXPECT_TRUE(follows(*setting, false));
@@ -143,7 +143,7 @@ TEST_F(ReducedMotionSetting, followsALaterChange) {
 
 TEST_F(ReducedMotionSetting, ignoresOtherSettings) {
     openPortal();
-    const auto setting = settingOn(programBus());
+    const auto setting = createSetting(programBus());
     ASSERT_TRUE(follows(*setting, false));
 
     Q_EMIT portal.SettingChanged(gnome, QStringLiteral("cursor-blink"), QDBusVariant(true));
@@ -153,7 +153,7 @@ TEST_F(ReducedMotionSetting, ignoresOtherSettings) {
 }
 
 TEST_F(ReducedMotionSetting, isOffWithoutAPortal) {
-    const auto setting = settingOn(programBus());
+    const auto setting = createSetting(programBus());
     QTest::qWait(50);
 
     EXPECT_FALSE(setting->isOn());

@@ -14,7 +14,7 @@
 
 namespace {
 
-/// Records the accessibility events of `object` during its own lifetime.
+/// Records the accessibility events that `object` sends while the recorder exists.
 class EventRecorder {
 public:
     explicit EventRecorder(const QObject* object) {
@@ -52,7 +52,7 @@ protected:
 
 }  // namespace
 
-TEST_F(AccessibilityEvents, reportALabelsNewName) {
+TEST_F(AccessibilityEvents, reportTheNewNameOfALabel) {
     Garden::TrackedLabel label(QStringLiteral("No rush."), Garden::serif(35, QFont::Normal),
                                Garden::primaryText);
     const EventRecorder events(&label);
@@ -62,7 +62,7 @@ TEST_F(AccessibilityEvents, reportALabelsNewName) {
     EXPECT_TRUE(events.include(QAccessible::NameChanged));
 }
 
-TEST_F(AccessibilityEvents, reportTheStatesOfBothChoicesThatChange) {
+TEST_F(AccessibilityEvents, reportTheStateChangesOfBothChoices) {
     Garden::ChoiceGroup group({QStringLiteral("Gentle"), QStringLiteral("Classic")},
                               QStringLiteral("Speed"));
     group.setCurrent(0);
@@ -73,7 +73,7 @@ TEST_F(AccessibilityEvents, reportTheStatesOfBothChoicesThatChange) {
     }
 }
 
-TEST_F(AccessibilityEvents, reportANewNumberOnce) {
+TEST_F(AccessibilityEvents, reportANewValueOnce) {
     Garden::RollingDigits digits(Qt::AlignLeft);
     digits.setValue(70);
     {

@@ -73,7 +73,7 @@ TEST(RollingDigits, staysAlignedWhenWiderThanNeeded) {
     EXPECT_GT(inkOf(picture(right)).right(), 300 - 6);
 }
 
-TEST(RollingDigits, alignsToTheOtherSideInRightToLeftLayouts) {
+TEST(RollingDigits, mirrorsTheAlignmentInRightToLeftLayouts) {
     Garden::RollingDigits digits(Qt::AlignLeft);
     digits.setLayoutDirection(Qt::RightToLeft);
     digits.setValue(888);
@@ -112,7 +112,7 @@ TEST_F(VisibleRollingDigits, endsTheAnimationOnTheNewValue) {
     EXPECT_EQ(picture(digits), still(250));
 }
 
-TEST_F(VisibleRollingDigits, endsTheAnimationOnTheLastOfManyValues) {
+TEST_F(VisibleRollingDigits, endsTheAnimationOnTheLastOfSeveralValues) {
     for (const qint64 value : {250, 260, 270}) {
         digits.setValue(value);
         QTest::qWait(20);
@@ -142,7 +142,7 @@ TEST_F(VisibleRollingDigits, changesInPlaceWithReducedMotion) {
     EXPECT_LE(wakeups(200), idleWakeups);
 }
 
-TEST_F(VisibleRollingDigits, doesNotAnimateWhenTheValueIsTheSame) {
+TEST_F(VisibleRollingDigits, doesNotAnimateWhenTheValueIsUnchanged) {
     digits.setValue(240);
 
     EXPECT_LE(wakeups(200), idleWakeups);
