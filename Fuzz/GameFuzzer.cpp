@@ -93,7 +93,7 @@ void checkStep(const Snapshot& before, const Game& after) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     constexpr std::size_t header = 3;
     constexpr std::uint8_t firstCycleByte = 0xF0;
-    constexpr int mostSteps = 1000;
+    constexpr int maximumSteps = 1000;
     if (size < header) {
         return 0;
     }
@@ -111,7 +111,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                 game.turn(static_cast<Direction>(byte & 3U));
                 game.turn(static_cast<Direction>(byte >> 2U & 3U));
             }
-            if (game.ended() || stepsMade++ == mostSteps) {
+            if (game.ended() || stepsMade++ == maximumSteps) {
                 const Game last = game;
                 game.step(generator);
                 require(!last.ended() || game == last, "nothing changes after the end");

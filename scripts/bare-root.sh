@@ -13,7 +13,7 @@ export_proxy() {
     [ -z "$http_proxy_setting" ] || export http_proxy=$http_proxy_setting
 }
 
-# in_root COMMAND...: runs a command in the minimal Debian, in mount and PID namespaces of its own,
+# in_root COMMAND...: runs a command in the minimal Debian, in new mount and PID namespaces,
 # so that its mounts and processes end with it.
 in_root() {
     unshare --mount --pid --fork --kill-child bash -c '

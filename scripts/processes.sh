@@ -1,6 +1,6 @@
 # Background processes that must not outlive the script. Sourced.
 
-# start COMMAND...: runs a command in the background, in a process group of its own: Ctrl-C then
+# start COMMAND...: runs a command in the background, in a separate process group: Ctrl-C then
 # reaches only the script, which can end the whole group. Its id is in $!.
 start() {
     set -m

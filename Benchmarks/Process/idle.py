@@ -20,7 +20,7 @@ def wakeups_per_second(program):
 
 
 def measure(testbed):
-    """Wakeups per second of the hello program, and of the game while no run is going."""
+    """Wakeups per second of the hello program, and of the game while no run is in progress."""
     measured = {}
     with Program(testbed.desktop, testbed.hello) as program:
         time.sleep(STARTUP_SECONDS + ANIMATION_SECONDS)

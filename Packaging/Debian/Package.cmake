@@ -16,11 +16,11 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_HOMEPAGE ${FERNWICK_HOMEPAGE})
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
 "You steer a snake through a dark garden, gather the fruit and grow a little
-longer. Three speeds, each with a personal best and a top ten of its own.
+longer. Three speeds, each with its own personal best and top ten.
 .
-The game opens in full screen and is played by keyboard alone, on X11 or
-Wayland, on any keyboard layout. It reads itself out to screen readers, keeps
-still where the desktop asks for it, and uses no network.")
+The game opens in full screen and is playable with just the keyboard, on X11
+or Wayland, on any keyboard layout. It supports screen readers, reduced motion
+and high contrast, and uses no network.")
 # dpkg-shlibdeps finds the linked libraries; libpulse is loaded with dlopen(). Recommended: Qt's
 # Wayland plugin and a sound server. Suggested: the screen readers' bus, and fonts for scripts that
 # the embedded fonts lack.

@@ -7,18 +7,18 @@
 namespace SnakeCore {
 namespace {
 
-constexpr std::int64_t leastWidth = 6;
-constexpr std::int64_t leastHeight = 4;
+constexpr std::int64_t minimumWidth = 6;
+constexpr std::int64_t minimumHeight = 4;
 constexpr std::int64_t startingLength = 4;
 constexpr std::int64_t firstFruitDistance = 4;
 constexpr std::int64_t pointsPerFruit = 10;
-constexpr std::size_t mostQueuedTurns = 2;
+constexpr std::size_t maximumQueuedTurns = 2;
 
 }  // namespace
 
 Game::Game(std::int64_t width, std::int64_t height)
-    : width_(Detail::requireAtLeast(width, leastWidth)),
-      height_(Detail::requireAtLeast(height, leastHeight)),
+    : width_(Detail::requireAtLeast(width, minimumWidth)),
+      height_(Detail::requireAtLeast(height, minimumHeight)),
       taken_(width, height),
       food_{std::min(width / 2 + firstFruitDistance, width - 1), height / 2} {
     for (std::int64_t i = 0; i < startingLength; ++i) {
@@ -27,7 +27,7 @@ Game::Game(std::int64_t width, std::int64_t height)
 }
 
 void Game::turn(Direction direction) {
-    if (turns_.size() == mostQueuedTurns) {
+    if (turns_.size() == maximumQueuedTurns) {
         return;
     }
     const Direction reference = turns_.empty() ? direction_ : turns_.back();
@@ -37,7 +37,7 @@ void Game::turn(Direction direction) {
 }
 
 void Game::step() {
-    // Opening the device takes longer than a hundred steps, so open it once per thread.
+    // Constructing one takes longer than a hundred steps, so keep one per thread.
     thread_local std::random_device source;
     step(source);
 }
@@ -77,8 +77,8 @@ bool Game::onBoard(Cell cell) const {
 }
 
 bool Game::hitsBody(Cell head) const {
-    // The tail moves away in the same step. It stays only when the snake eats, and then the head is
-    // on the fruit, which is never on the tail.
+    // The tail's cell becomes free in the same step, so the head may enter it. The tail stays only
+    // when the snake eats, and the fruit is never on the tail.
     return taken_.taken(head) && head != snake_.back();
 }
 

@@ -1,4 +1,4 @@
-"""Reads the board from the pixels of the screen."""
+"""Recognises the board in a screenshot."""
 
 from dataclasses import dataclass
 
@@ -7,11 +7,11 @@ ROWS = 22
 
 FRUIT = (255, 133, 99)
 TAIL = (59, 148, 102)
-# The snake's gradient is greener than this, everything else on the board less green.
-SNAKE_GREEN_FROM = 140
-SNAKE_RED_UP_TO = 200
-# The eyes are black with 75 % opacity on the bright head.
-EYE_GREEN_UP_TO = 100
+# Only the snake's gradient has this much green and this little red.
+SNAKE_MINIMUM_GREEN = 140
+SNAKE_MAXIMUM_RED = 200
+# The eyes are painted on the bright head in black at 75 % opacity.
+EYE_MAXIMUM_GREEN = 100
 
 # The eyes' offsets from the centre of the head, in cells, by direction.
 EYES = {
@@ -30,7 +30,7 @@ class Snake:
 
 
 class Board:
-    """The board at `place`: left, top, width and height in pixels of the screen."""
+    """The board at `place`: left, top, width and height in screen pixels."""
 
     def __init__(self, place):
         self._left, self._top, width, height = place
@@ -54,7 +54,7 @@ class Board:
         return picture.shows(TAIL) or picture.shows(FRUIT)
 
     def _has_eyes(self, picture, cell, direction):
-        return all(self._colour(picture, *cell, *eye)[1] <= EYE_GREEN_UP_TO
+        return all(self._colour(picture, *cell, *eye)[1] <= EYE_MAXIMUM_GREEN
                    for eye in EYES[direction])
 
     def _colour(self, picture, x, y, dx=0, dy=0):
@@ -64,4 +64,4 @@ class Board:
     @staticmethod
     def _is_snake(colour):
         red, green, blue = colour
-        return green >= SNAKE_GREEN_FROM and red <= SNAKE_RED_UP_TO and green > blue
+        return green >= SNAKE_MINIMUM_GREEN and red <= SNAKE_MAXIMUM_RED and green > blue

@@ -53,7 +53,7 @@ class Compositor:
         return all(picture.colour(x, y) == BACKGROUND for x, y in edges)
 
     def _synchronise_pointer(self):
-        """Makes weston's pointer agree with the one of the X server.
+        """Moves weston's pointer to the position of the X server's.
 
         weston tracks relative motion from where it first saw the pointer, which was before its
         window was placed. Moving to opposite corners removes the offset."""

@@ -9,7 +9,7 @@ from gi.repository import GLib
 
 from accessibility import application
 from board import Board
-from waiting import PATIENCE, eventually
+from waiting import TIMEOUT, eventually
 
 PROGRAM = os.environ.get(
     "FERNWICK", str(pathlib.Path(__file__).resolve().parents[2] / "build/release/fernwick"))
@@ -148,7 +148,7 @@ class Game:
 
     def exit_status(self):
         """Waits for the program to exit."""
-        return self.process.wait(PATIENCE)
+        return self.process.wait(TIMEOUT)
 
     def quit(self):
         self.process.send_signal(signal.SIGTERM)

@@ -45,7 +45,7 @@ class RandomPlayer:
             if self._random.random() < 0.2:
                 self.check()
 
-    def see_everything(self):
+    def visit_every_screen(self):
         """Shows every screen once, as some are created when first shown."""
         for finish in (self._save, self._skip):
             self._game.press("space", "Up")

@@ -14,7 +14,7 @@ import subprocess
 import sys
 from ctypes import CFUNCTYPE, POINTER, byref, c_char_p, c_int, c_ulong, c_void_p
 
-from waiting import PATIENCE
+from waiting import TIMEOUT
 
 SAVE_BOTH = 2
 SAVE_LOCAL = 1
@@ -173,8 +173,8 @@ class SessionManagerProcess:
         """Sends a command and waits until it is done."""
         self._process.stdin.write(command + "\n")
         self._process.stdin.flush()
-        done, _, _ = select.select([self._process.stdout], [], [], PATIENCE)
-        assert done, f"{command}: not done within {PATIENCE} s"
+        done, _, _ = select.select([self._process.stdout], [], [], TIMEOUT)
+        assert done, f"{command}: not done within {TIMEOUT} s"
         assert self._process.stdout.readline() == f"{command} done\n"
 
     def stop(self):

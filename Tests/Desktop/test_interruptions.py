@@ -6,7 +6,7 @@ import time
 import pytest
 from accessible_desktop import accessible_desktop
 from game import FRESH, PAUSED, Game
-from waiting import PATIENCE, eventually
+from waiting import TIMEOUT, eventually
 
 ACCESSIBLE = {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
 STOPPED_SECONDS = 4
@@ -15,7 +15,7 @@ START_COLUMN = 14
 
 @pytest.fixture
 def short_lived_desktop():
-    """A desktop of its own, whose X server the test kills."""
+    """A separate desktop, whose X server the test kills."""
     with accessible_desktop() as desktop:
         yield desktop
 
@@ -24,7 +24,7 @@ def lose_display(game, end_display):
     """Ends the display server and waits for the end of the game."""
     try:
         end_display()
-        game.process.wait(PATIENCE)
+        game.process.wait(TIMEOUT)
     finally:
         game.kill()
 

@@ -4,7 +4,7 @@ import signal
 import socket
 
 import pytest
-from waiting import PATIENCE, eventually
+from waiting import TIMEOUT, eventually
 
 
 def close_by_window_manager(game):
@@ -56,7 +56,7 @@ def silent_bus(home):
     with socket.socket(socket.AF_UNIX) as listener:
         listener.bind(f"{home.environment['HOME']}/bus")
         listener.listen()
-        listener.settimeout(PATIENCE)
+        listener.settimeout(TIMEOUT)
         yield listener
 
 

@@ -8,7 +8,7 @@ import pytest
 from accessibility import call, connect
 from game import PAUSED, PROGRAM
 from gi.repository import GLib
-from waiting import PATIENCE, eventually
+from waiting import TIMEOUT, eventually
 
 BUS_NAME = "org.fernwick.fernwick"
 NO_BUS = {"DBUS_SESSION_BUS_ADDRESS": "unix:path=/nonexistent/bus"}
@@ -32,7 +32,7 @@ def start_again(desktop, home):
 
 
 def exits_normally(process):
-    return process.wait(PATIENCE) == 0
+    return process.wait(TIMEOUT) == 0
 
 
 @pytest.mark.parametrize("environment", [{}, NO_BUS], ids=["session bus", "no session bus"])
@@ -102,7 +102,7 @@ def test_of_two_simultaneous_starts_exactly_one_keeps_running(start_again):
     time.sleep(2)
     assert running.poll() is None
     running.terminate()
-    assert running.wait(PATIENCE) == 0
+    assert running.wait(TIMEOUT) == 0
 
 
 @pytest.fixture

@@ -1,4 +1,4 @@
-"""A soak test: random play must not leak memory, print anything or show contradictions.
+"""A soak test: random play must not leak memory, print anything or lead to an inconsistent state.
 
 Runs for FERNWICK_SOAK_SECONDS, one minute by default, with the seed FERNWICK_SOAK_SEED.
 """
@@ -17,7 +17,7 @@ MAXIMUM_GROWTH_MEGABYTES = 1
 def test_random_play_leaks_no_memory_and_prints_nothing(game, home, other_window):
     player = RandomPlayer(game, other_window, random.Random(SEED))
     print(f"seed {SEED}")
-    player.see_everything()
+    player.visit_every_screen()
     player.play(WARM_UP_SECONDS)
     before = player.memory()
     player.play(SECONDS - WARM_UP_SECONDS)

@@ -2,16 +2,16 @@
 
 import time
 
-PATIENCE = 15  # seconds
+TIMEOUT = 15  # seconds
 POLL_INTERVAL = 0.02  # seconds
 
 
-def eventually(condition, what, patience=PATIENCE):
+def eventually(condition, what, timeout=TIMEOUT):
     """Polls `condition` until it is true and returns its value; fails with `what` on a timeout."""
-    deadline = time.monotonic() + patience
+    deadline = time.monotonic() + timeout
     while True:
         value = condition()
         if value:
             return value
-        assert time.monotonic() < deadline, f"{what}: not within {patience} s"
+        assert time.monotonic() < deadline, f"{what}: not within {timeout} s"
         time.sleep(POLL_INTERVAL)

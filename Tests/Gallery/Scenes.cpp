@@ -131,7 +131,7 @@ Game endedGame() {
     return endedAt(260);
 }
 
-// Starts a run and fires one tick, which replaces the game by the one of the scene.
+// Starts a run and fires one tick, which replaces the game with the scene's.
 void run(Session& session) {
     session.start();
     QMetaObject::invokeMethod(session.findChild<QTimer*>(), "timeout");

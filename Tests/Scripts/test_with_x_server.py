@@ -1,4 +1,4 @@
-"""scripts/with-x-server: the private X server lives as long as its command, and no longer."""
+"""scripts/with-x-server: the private X server runs exactly as long as its command."""
 
 import pathlib
 import signal
@@ -8,7 +8,7 @@ import time
 import pytest
 
 WITH_X_SERVER = pathlib.Path(__file__).resolve().parents[2] / "scripts/with-x-server"
-PATIENCE = 15
+TIMEOUT = 15
 
 # Prints the ids of the X server and of the command itself.
 REPORT_AND_WAIT = "echo $X_SERVER_PID $$; exec sleep 1000"
@@ -40,7 +40,7 @@ def is_running(process):
 
 
 def wait_for_end(process):
-    deadline = time.monotonic() + PATIENCE
+    deadline = time.monotonic() + TIMEOUT
     while is_running(process):
         assert time.monotonic() < deadline, f"process {process} is still running"
         time.sleep(0.02)
@@ -48,29 +48,29 @@ def wait_for_end(process):
 
 def test_returns_the_status_of_the_command(launch):
     launcher = launch("sh", "-c", "exit 7")
-    assert launcher.wait(PATIENCE) == 7
+    assert launcher.wait(TIMEOUT) == 7
 
 
 def test_the_window_manager_is_up_before_the_command_starts(launch):
     launcher = launch("xprop", "-root", "_NET_SUPPORTING_WM_CHECK")
-    printed, _ = launcher.communicate(timeout=PATIENCE)
+    printed, _ = launcher.communicate(timeout=TIMEOUT)
     assert "window id # 0x" in printed
 
 
 def test_the_command_reads_standard_input(launch):
-    printed, _ = launch("cat").communicate("hello", timeout=PATIENCE)
+    printed, _ = launch("cat").communicate("hello", timeout=TIMEOUT)
     assert printed == "hello"
 
 
 def test_keeps_the_pixels_in_the_folder_given(launch, tmp_path):
     launcher = launch("--framebuffer", tmp_path, "test", "-s", tmp_path / "Xvfb_screen0")
-    assert launcher.wait(PATIENCE) == 0
+    assert launcher.wait(TIMEOUT) == 0
 
 
 def test_the_x_server_ends_with_the_command(launch):
     launcher = launch("sh", "-c", "echo $X_SERVER_PID")
     server = launcher.stdout.readline().strip()
-    launcher.wait(PATIENCE)
+    launcher.wait(TIMEOUT)
     assert not is_running(server)
 
 
@@ -79,7 +79,7 @@ def test_a_signal_ends_the_command_and_the_x_server(launch, number, status):
     launcher = launch("sh", "-c", REPORT_AND_WAIT)
     processes = launcher.stdout.readline().split()
     launcher.send_signal(number)
-    assert launcher.wait(PATIENCE) == status
+    assert launcher.wait(TIMEOUT) == status
     assert [process for process in processes if is_running(process)] == []
 
 

@@ -53,7 +53,7 @@ Direction towardsFood(const ReferenceGame& game) {
 /// Plays one run on a board of random size, with a random share of random turns. Returns the number
 /// of fruits eaten.
 std::int64_t compareOneRun(std::uint64_t seed) {
-    constexpr int mostSteps = 400;
+    constexpr int maximumSteps = 400;
     std::mt19937_64 dice(seed);
     std::mt19937_64 generator(seed + 1);
     std::mt19937_64 referenceGenerator(seed + 1);
@@ -62,7 +62,7 @@ std::int64_t compareOneRun(std::uint64_t seed) {
     const std::uint64_t randomShare = 1 + dice() % 60;
     Game game(width, height);
     ReferenceGame reference(width, height);
-    for (int i = 0; i < mostSteps && !reference.ended; ++i) {
+    for (int i = 0; i < maximumSteps && !reference.ended; ++i) {
         const bool playsAtRandom = dice() % 60 < randomShare;
         const int turns = playsAtRandom ? static_cast<int>(dice() % 4) : 1;
         for (int turn = 0; turn < turns; ++turn) {

@@ -5,8 +5,8 @@
 #include <QString>
 #include <QStringList>
 
-/// While it lives, enables a logging category and records all Qt messages, of any thread, instead
-/// of printing them. Only one may exist at a time.
+/// While this object exists, enables a logging category and records all Qt messages, of any thread,
+/// instead of printing them. Only one may exist at a time.
 class LogCapture {
 public:
     explicit LogCapture(const QString& category) {

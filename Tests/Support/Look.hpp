@@ -48,7 +48,7 @@ inline void expectType(const QWidget& widget, const Type& type) {
     layout.endLayout();
     const QList<QGlyphRun> runs = layout.glyphRuns();
     return std::ranges::none_of(runs, [](const QGlyphRun& run) {
-        // Glyph 0 stands for a missing glyph.
+        // Glyph 0 means a missing glyph.
         return run.glyphIndexes().contains(0);
     });
 }

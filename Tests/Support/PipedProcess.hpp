@@ -10,7 +10,7 @@
 #include <stdexcept>
 #include <utility>
 
-/// A child process with a pipe to the test. Killed on destruction and when the test process dies.
+/// A child process with a pipe to the test. Killed on destruction and when the test process exits.
 class PipedProcess {
 public:
     PipedProcess(const PipedProcess&) = delete;

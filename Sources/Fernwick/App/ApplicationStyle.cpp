@@ -54,7 +54,7 @@ void applyGardenStyle() {
     const QPalette colours = gardenPalette();
     QApplication::setPalette(colours);
     QApplication::setFont(Garden::sans(fontSize, QFont::Normal));
-    // No blinking caret: it would wake the processor for as long as the name field is up.
+    // No blinking caret: it would wake the CPU as long as the name field is shown.
     QApplication::setCursorFlashTime(0);
     QToolTip::setPalette(colours);
     QToolTip::setFont(Garden::sans(toolTipFontSize, QFont::Normal));

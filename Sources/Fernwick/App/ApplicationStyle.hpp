@@ -1,5 +1,5 @@
 #pragma once
 
-/// Sets the dark style, palette and font of whatever the garden's own widgets do not paint: menus,
-/// tool tips, text selection.
+/// Sets a dark style, palette and font for the parts that Qt paints itself: menus, tool tips and
+/// text selection.
 void applyGardenStyle();

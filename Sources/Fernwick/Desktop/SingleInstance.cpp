@@ -85,11 +85,11 @@ Reply requestActivation(const LocalAddress& address) {
 }  // namespace
 
 SingleInstance::SingleInstance(const fs::path& settings) {
-    constexpr auto patience = std::chrono::seconds(1);
+    constexpr auto timeout = std::chrono::seconds(1);
     constexpr auto pause = std::chrono::milliseconds(2);
     constexpr int backlog = 16;
     const LocalAddress address(socketName(settings));
-    const auto deadline = std::chrono::steady_clock::now() + patience;
+    const auto deadline = std::chrono::steady_clock::now() + timeout;
     do {
         FileDescriptor socket = Posix::localSocket(SOCK_SEQPACKET | SOCK_NONBLOCK);
         if (::bind(socket.number(), address.get(), address.size()) == 0) {

@@ -37,7 +37,7 @@ public:
     void release();
 
 Q_SIGNALS:
-    /// Another start has asked for the window. `activationToken` is the one its launcher gave it,
+    /// A later start asks for the window. `activationToken` is the one that its launcher passed,
     /// often empty.
     void activationRequested(const QByteArray& activationToken);
 

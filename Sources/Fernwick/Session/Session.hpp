@@ -95,7 +95,7 @@ public:
     void chooseScorePace(Pace pace);
     /// Sets and stores the sound switch.
     void setSound(bool on);
-    /// Handles a key press. True when it is to be consumed.
+    /// Handles a key press. Returns true if the caller should consume the event.
     bool key(GameKey key);
 
 Q_SIGNALS:

@@ -16,7 +16,7 @@
 namespace {
 
 constexpr QSize defaultSize(940, 860);
-constexpr QSize smallestSize(820, 760);
+constexpr QSize minimumWindowSize(820, 760);
 
 }  // namespace
 
@@ -29,7 +29,7 @@ GameWindow::GameWindow(Session& session)
     setObjectName(QStringLiteral("main"));
     //: The name of the game. Stays as it is in every language.
     setWindowTitle(tr("Fernwick"));
-    setMinimumSize(smallestSize);
+    setMinimumSize(minimumWindowSize);
     resize(defaultSize);
     // The content paints every pixel.
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -69,7 +69,7 @@ void GameWindow::resizeEvent(QResizeEvent* event) {
     qCDebug(windowLog) << "resized from" << event->oldSize() << "to" << event->size();
     // Not in changeEvent: the window still has the screen's size there.
     if (!coversScreen()) {
-        setMinimumSize(smallestSize);
+        setMinimumSize(minimumWindowSize);
     }
     content_->setGeometry(rect());
     band_->setGeometry(0, 0, event->size().width(), TitleBand::height);

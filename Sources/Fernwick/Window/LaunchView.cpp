@@ -11,14 +11,14 @@
 
 namespace {
 
-/// Holds back painting until the window has its full-screen size, or until a timeout: a frame at
-/// the first size would be thrown away and delay the first one that is seen.
+/// Suspends painting until the window has its full-screen size, or until a timeout: a frame in the
+/// initial size would be discarded and would delay the first visible one.
 class PaintAfterResize : public QObject {
 public:
     explicit PaintAfterResize(QWidget& window) : QObject(&window), window_(window) {
         window.setUpdatesEnabled(false);
         window.installEventFilter(this);
-        QTimer::singleShot(patience, this, &PaintAfterResize::giveUp);
+        QTimer::singleShot(timeout, this, &PaintAfterResize::paintAfterTimeout);
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
@@ -29,10 +29,10 @@ public:
     }
 
 private:
-    static constexpr std::chrono::milliseconds patience{100};
+    static constexpr std::chrono::milliseconds timeout{100};
 
-    void giveUp() {
-        qCDebug(windowLog) << "no full-screen size after" << patience.count() << "ms";
+    void paintAfterTimeout() {
+        qCDebug(windowLog) << "no full-screen size after" << timeout.count() << "ms";
         paint();
         // The pending update was dropped while updates were disabled.
         window_.repaint();

@@ -2,11 +2,11 @@
 
 class QMenuBar;
 
-/// Padding at both sides of a title in the menu bar, in points.
+/// Padding on both sides of a title in the menu bar, in points.
 inline constexpr int menuItemPadding = 10;
 
-/// Space before each title's padding, also before the first, in points.
+/// Space before each title, including the first, in addition to its padding, in points.
 inline constexpr int menuItemSpacing = 6;
 
-/// Gives the menu bar and its menus the garden's fonts and colours.
+/// Applies the game's fonts and colours to the menu bar and its menus.
 void styleMenuBar(QMenuBar& bar);

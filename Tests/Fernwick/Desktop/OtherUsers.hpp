@@ -1,7 +1,7 @@
 #pragma once
 
-/// While it lives, SO_PEERCRED reports another user for every connection of this process. Only root
-/// could start a real process of another user.
+/// While this object exists, SO_PEERCRED reports another user for every connection of this process.
+/// Only root could start a real process of another user.
 class OtherUsers {
 public:
     OtherUsers();

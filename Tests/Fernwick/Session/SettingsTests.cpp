@@ -4,7 +4,7 @@ namespace {
 
 class Settings : public SessionTest {
 protected:
-    /// A second session over the same settings file, as after a restart of the program.
+    /// Another session that reads the same settings file, as after a restart of the game.
     struct NextLaunch {
         explicit NextLaunch(const std::filesystem::path& path) : preferences(path) {}
 
@@ -51,20 +51,20 @@ TEST_F(Settings, includeABestForEachPace) {
     EXPECT_EQ(next.session.best(), 0);
 }
 
-TEST_F(Settings, readABestThatIsNotANumberAsZero) {
+TEST_F(Settings, treatANonNumericBestAsZero) {
     preferences.store("best-Classic", QStringLiteral("250"));
 
     EXPECT_EQ(launchAgain().session.best(), 0);
 }
 
-TEST_F(Settings, restoreASoundThatWasSwitchedOff) {
+TEST_F(Settings, restoreSoundThatWasSwitchedOff) {
     session.setSound(false);
 
     EXPECT_FALSE(session.sound());
     EXPECT_FALSE(launchAgain().session.sound());
 }
 
-TEST_F(Settings, restoreASoundThatWasSwitchedBackOn) {
+TEST_F(Settings, restoreSoundThatWasSwitchedBackOn) {
     session.setSound(false);
     session.setSound(true);
 
@@ -72,13 +72,13 @@ TEST_F(Settings, restoreASoundThatWasSwitchedBackOn) {
     EXPECT_EQ(storedPreferences().boolean("sound"), true);
 }
 
-TEST_F(Settings, areNotWrittenWhenTheSoundDoesNotChange) {
+TEST_F(Settings, areNotWrittenWhenTheSoundSettingIsUnchanged) {
     session.setSound(true);
 
     EXPECT_FALSE(std::filesystem::exists(settingsPath()));
 }
 
-TEST_F(Settings, ignoreASoundThatIsNotABool) {
+TEST_F(Settings, ignoreASoundSettingThatIsNotABool) {
     for (const QCborValue& stored :
          {QCborValue(QStringLiteral("false")), QCborValue(0), QCborValue(0.0),
           QCborValue(QByteArray("\0", 1)), QCborValue(QCborValue::Null)}) {
@@ -100,7 +100,7 @@ TEST_F(Settings, ignoreANameThatIsNotText) {
     EXPECT_EQ(launchAgain().session.playerName(), "");
 }
 
-TEST_F(Settings, readInvalidScoreDataAsAnEmptyTable) {
+TEST_F(Settings, treatInvalidScoreDataAsAnEmptyTable) {
     for (const QCborValue& stored : {QCborValue(QByteArray("[{\"id\":")), QCborValue(QByteArray()),
                                      QCborValue(QStringLiteral("[]")), QCborValue(7)}) {
         preferences.store("high-scores-v1", stored);

@@ -14,9 +14,9 @@
 /// Polls `condition` until it is true, for at most ten seconds. Returns its last value.
 template <typename Condition>
 [[nodiscard]] bool eventually(Condition condition) {
-    constexpr std::chrono::seconds patience{10};
+    constexpr std::chrono::seconds timeout{10};
     constexpr std::chrono::milliseconds pause{10};
-    const auto deadline = std::chrono::steady_clock::now() + patience;
+    const auto deadline = std::chrono::steady_clock::now() + timeout;
     while (!condition()) {
         if (std::chrono::steady_clock::now() > deadline) {
             return condition();
@@ -26,8 +26,8 @@ template <typename Condition>
     return true;
 }
 
-/// A private PulseAudio server with a null sink that can be recorded. While it lives, this process
-/// finds no other sound server, and none before `start`.
+/// A private PulseAudio server with a null sink that can be recorded. While this object exists, the
+/// process can connect to no other sound server, and before `start` to none at all.
 class SoundServer {
 public:
     SoundServer()
@@ -37,7 +37,7 @@ public:
 
     /// False when the server does not start.
     [[nodiscard]] bool start() {
-        // norewinds: otherwise the server may rewrite samples that have been recorded.
+        // Without norewinds the server may rewrite samples that have already been recorded.
         process_ = std::make_unique<ChildProcess>(std::vector<std::string>{
             "pulseaudio", "-n", "--daemonize=no", "--use-pid-file=no", "--exit-idle-time=-1",
             "--disable-shm=yes", "-L",

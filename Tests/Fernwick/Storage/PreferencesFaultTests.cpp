@@ -28,7 +28,7 @@ private:
 
 const Settings soundOff = settingsOf({{u"sound"_s, false}});
 
-/// While it lives, writing past `size` bytes of a file fails, as on a full disk.
+/// While this object exists, writing past `size` bytes of a file fails, as on a full disk.
 class FileSizeLimit {
 public:
     explicit FileSizeLimit(rlim_t size) {

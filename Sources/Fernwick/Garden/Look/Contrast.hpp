@@ -10,7 +10,7 @@ class Contrast : public QObject {
     Q_OBJECT
 
 public:
-    /// Created by the first call; lives as long as the application.
+    /// Created by the first call; destroyed with the application.
     [[nodiscard]] static Contrast& shared();
 
     /// False until the portal has replied, and where there is none.

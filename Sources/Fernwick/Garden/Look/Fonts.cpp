@@ -78,7 +78,7 @@ bool isComplex(QChar::Script script) {
 }
 
 // The smallest legible size of complex glyphs, in points.
-constexpr int smallestComplexSize = 11;
+constexpr int minimumComplexSize = 11;
 
 }  // namespace
 
@@ -119,7 +119,7 @@ QFont fittedTo(const QString& text, const QFont& font) {
         fitted.setLetterSpacing(QFont::AbsoluteSpacing, 0);
     }
     if (anyOf(isComplex)) {
-        fitted.setPixelSize(std::max(font.pixelSize(), smallestComplexSize));
+        fitted.setPixelSize(std::max(font.pixelSize(), minimumComplexSize));
     }
     return fitted;
 }

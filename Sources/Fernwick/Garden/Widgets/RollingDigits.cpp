@@ -17,12 +17,12 @@ namespace {
 
 constexpr double fontSize = 33;
 constexpr QFont::Weight fontWeight = QFont::Light;
-constexpr int fewestDigits = 3;
+constexpr int minimumDigits = 3;
 // How far digits roll, in points. They fade in and out meanwhile.
 constexpr double rollDistance = 30;
 
 QString digits(qint64 value) {
-    return QString::asprintf("%0*lld", fewestDigits, value);
+    return QString::asprintf("%0*lld", minimumDigits, value);
 }
 
 QChar digitAt(const QString& text, int fromRight) {
@@ -74,7 +74,7 @@ void RollingDigits::announce() {
 
 QSize RollingDigits::sizeHint() const {
     const QFontMetricsF metrics(font());
-    const auto count = std::max<qsizetype>(shown_.size(), fewestDigits);
+    const auto count = std::max<qsizetype>(shown_.size(), minimumDigits);
     return {
         static_cast<int>(std::ceil(metrics.horizontalAdvance(u'0') * static_cast<double>(count))),
         static_cast<int>(std::ceil(metrics.height()))};

@@ -8,7 +8,7 @@
 
 namespace Painting {
 
-/// A side of a cell on which the snake goes on into the next cell.
+/// A side of a cell through which the snake continues into the next cell.
 enum class Link : std::uint8_t { up = 1, down = 2, left = 4, right = 8 };
 
 /// The links of one cell. They determine the shape of the snake inside the cell; a cell without

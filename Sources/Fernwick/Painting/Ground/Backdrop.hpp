@@ -50,7 +50,7 @@ private:
     qreal scale_ = 0;
     QRectF frame_;
     QRect bounds_;
-    // Whether the members below are those of frame_ and scale_.
+    // Whether the members below are up to date with frame_ and scale_.
     bool prepared_ = true;
     std::optional<FrameShadow> shadow_;
     std::vector<Edge> edges_;

@@ -10,7 +10,7 @@
 namespace Painting {
 
 /// The antialiased coverage, from 0 to 1, of a pixel by everything within `halfWidth` of a line or
-/// point. `squaredDistance` is that of the pixel's centre from it. Exact for a straight line along
+/// point, given the squared distance of the pixel's centre from it. Exact for a straight line along
 /// the pixel grid. Lengths are in pixels.
 [[nodiscard]] inline double coverageWithin(double halfWidth, double squaredDistance) {
     const double inner = halfWidth - 0.5;

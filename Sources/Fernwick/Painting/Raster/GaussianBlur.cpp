@@ -11,7 +11,7 @@ using FloatPlane = Painting::Plane<float>;
 // The kernel is cut off at this many sigmas.
 constexpr double extent = 3;
 
-// The right half of the kernel, its middle first. The whole kernel sums to 1.
+// The right half of the kernel, starting with its centre. The whole kernel sums to 1.
 std::vector<float> halfKernel(double sigma) {
     std::vector<float> weights(static_cast<std::size_t>(std::ceil(extent * sigma)) + 1);
     for (std::size_t i = 0; i < weights.size(); ++i) {

@@ -31,7 +31,7 @@ HintRow::HintRow(Session& session, QWidget* parent)
       pause_(new Garden::IconButton(Garden::Icon::play, tr("Pause or resume"))) {
     auto* row = Garden::layOut<QHBoxLayout>(this, hintSpacing);
     auto* arrows = hint(QStringLiteral("↑ ↓ ← →"), arrowsSize);
-    // Not mirrored: the arrows stand in their own order.
+    // Not mirrored in right-to-left layouts: the arrows keep their order.
     arrows->setLayoutDirection(Qt::LeftToRight);
     row->addWidget(arrows);
     //: Follows the four arrows. W A S D are places on the keyboard: name the letters that the

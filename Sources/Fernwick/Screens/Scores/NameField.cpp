@@ -12,7 +12,7 @@ namespace {
 
 constexpr double fontSize = 18;
 constexpr int padding = 14;
-// QLineEdit adds two points of its own at both sides of the text.
+// QLineEdit itself adds two points on both sides of the text.
 constexpr int lineEditMargin = 2;
 constexpr double cornerRadius = 10;
 constexpr double plateOpacity = 0.07;
@@ -41,7 +41,7 @@ NameField::NameField(QWidget* parent) : QLineEdit(parent) {
 
 void NameField::setPlaceholderColour() {
     QPalette colours = palette();
-    // Quieter than a typed name, also at high contrast.
+    // Dimmer than a typed name, even in high contrast.
     colours.setColor(QPalette::PlaceholderText,
                      Garden::Contrast::shared().isHigh()
                          ? Garden::legible(Garden::muted)

@@ -9,8 +9,8 @@ namespace Garden {
 class TrackedLabel;
 }
 
-/// The game-over card once the name is settled: the ten best of the run's pace, the new entry
-/// picked out after a save, and "Play again".
+/// The game-over card after the name was saved or skipped: the top ten of the run's pace, with the
+/// new entry highlighted after a save, and "Play again".
 class SavedBoard : public QWidget {
     Q_OBJECT
 
@@ -19,7 +19,7 @@ public:
 
     void refresh();
 
-    /// Takes the title away, so that the next one is news again.
+    /// Clears the title, so that the next one is announced to screen readers as a change.
     void clear();
 
 private:

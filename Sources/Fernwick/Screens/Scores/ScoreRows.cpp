@@ -21,7 +21,7 @@ constexpr int rowSpacing = 4;
 constexpr int scrollBarWidth = 10;
 constexpr int scrollHandleWidth = 4;
 constexpr int scrollHandleMargin = (scrollBarWidth - scrollHandleWidth) / 2;
-constexpr int shortestScrollHandle = 24;
+constexpr int minimumScrollHandleHeight = 24;
 constexpr double scrollHandleOpacity = 0.4;
 constexpr double ringRadius = 9;
 
@@ -36,7 +36,7 @@ QString scrollBarStyle() {
         .arg(Garden::css(Garden::withOpacity(Garden::muted, scrollHandleOpacity)))
         .arg(scrollHandleWidth / 2)
         .arg(scrollHandleMargin)
-        .arg(shortestScrollHandle);
+        .arg(minimumScrollHandleHeight);
 }
 
 }  // namespace
@@ -80,12 +80,12 @@ void ScoreRows::showIndicator() {
     followRange(scrolling->minimum(), scrolling->maximum());
 }
 
-void ScoreRows::followRange(int lowest, int highest) {
-    const bool scrolls = highest > lowest;
-    indicator_->setRange(lowest, highest);
+void ScoreRows::followRange(int minimum, int maximum) {
+    const bool scrolls = maximum > minimum;
+    indicator_->setRange(minimum, maximum);
     indicator_->setPageStep(scrollArea_->viewport()->height());
     indicator_->setVisible(scrolls);
-    // A tab stop only while there is something to scroll.
+    // Focusable only while there is something to scroll.
     scrollArea_->setFocusPolicy(scrolls ? Qt::TabFocus : Qt::NoFocus);
 }
 
@@ -101,8 +101,8 @@ bool ScoreRows::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void ScoreRows::resizeEvent(QResizeEvent*) {
-    const QRect atTheEnd(width() - scrollBarWidth, 0, scrollBarWidth, height());
-    indicator_->setGeometry(QStyle::visualRect(layoutDirection(), rect(), atTheEnd));
+    const QRect trailingEdge(width() - scrollBarWidth, 0, scrollBarWidth, height());
+    indicator_->setGeometry(QStyle::visualRect(layoutDirection(), rect(), trailingEdge));
 }
 
 void ScoreRows::paintEvent(QPaintEvent*) {
@@ -118,7 +118,7 @@ void ScoreRows::setRowCount(std::size_t count) {
     }
     while (rows_.size() < wanted) {
         auto* row = new ScoreRow;
-        // Before the stretch at the end, which keeps a short list at the top.
+        // Insert before the final stretch, which aligns a short list to the top.
         column_->insertWidget(column_->count() - 1, row);
         rows_.append(row);
     }
@@ -129,17 +129,18 @@ void ScoreRows::setEntries(const std::vector<SnakeCore::HighScore>& entries,
     empty_->setVisible(entries.empty());
     scrollArea_->setVisible(!entries.empty());
     setRowCount(entries.size());
-    ScoreRow* pickedOut = nullptr;
+    ScoreRow* highlightedRow = nullptr;
     for (std::size_t index = 0; index < entries.size(); ++index) {
-        const bool isPickedOut = highlighted == entries[index].id;
+        const bool isHighlighted = highlighted == entries[index].id;
         ScoreRow* row = rows_[static_cast<qsizetype>(index)];
-        row->show(static_cast<std::int64_t>(index) + 1, entries[index], isPickedOut);
-        pickedOut = isPickedOut ? row : pickedOut;
+        row->show(static_cast<std::int64_t>(index) + 1, entries[index], isHighlighted);
+        highlightedRow = isHighlighted ? row : highlightedRow;
     }
-    if (pickedOut != nullptr) {
+    if (highlightedRow != nullptr) {
         // Queued: the new rows have no geometry before the layout has run.
         QMetaObject::invokeMethod(
-            pickedOut, [this, pickedOut] { scrollArea_->ensureWidgetVisible(pickedOut, 0, 0); },
+            highlightedRow,
+            [this, highlightedRow] { scrollArea_->ensureWidgetVisible(highlightedRow, 0, 0); },
             Qt::QueuedConnection);
     }
 }
