@@ -19,7 +19,7 @@ using namespace std::chrono_literals;
 using SnakeCore::Direction;
 
 constexpr std::size_t cells = 60;
-/// Until the window is up, and until the first second of play is over.
+/// Time for the window to appear, and then the part of the run that is not measured.
 constexpr auto untilPlay = 1500ms;
 constexpr auto untilMeasured = 1000ms;
 
@@ -32,7 +32,7 @@ std::chrono::duration<double> cpuTime() {
     return seconds(usage.ru_utime) + seconds(usage.ru_stime);
 }
 
-/// Steers the game round the board and prints the CPU time that it took as JSON.
+/// Steers the snake around the board and prints the CPU time that the program used, as JSON.
 class Player : public QObject {
 public:
     Player(Session& session, Pace pace, std::chrono::seconds duration)

@@ -19,7 +19,7 @@ def shows_background(testbed):
 
 
 def seconds_to_first_frame(testbed, path):
-    # The X server removes the window of the previous program a little after its process has ended.
+    # The X server removes the previous program's window shortly after the process has exited.
     eventually(lambda: shows_background(testbed), "only the root window is visible")
     with Program(testbed.desktop, path) as program:
         while not testbed.pixels.shows_nowhere(BACKGROUND):
@@ -29,8 +29,8 @@ def seconds_to_first_frame(testbed, path):
 
 
 def measure(testbed):
-    """Medians in seconds. The programs alternate, and the first run of each, with cold caches, does
-    not count."""
+    """Returns medians in seconds. The programs alternate; the first run of each is discarded, as its
+    caches are cold."""
     times = {testbed.hello: [], testbed.game: []}
     for run in range(RUNS + 1):
         for path, measured in times.items():

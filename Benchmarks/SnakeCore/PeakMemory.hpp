@@ -5,7 +5,7 @@
 /// Peak heap usage, measured by replacing operator new and delete.
 namespace PeakMemory {
 
-/// Makes the present usage the starting point.
+/// Starts a new measurement, with the current usage as its baseline.
 void reset();
 
 /// The peak since `reset()`, in bytes above the usage at that time.

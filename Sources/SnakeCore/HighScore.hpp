@@ -13,7 +13,7 @@ namespace Detail {
 class TableReader;
 }
 
-/// One entry of `HighScores`, which alone creates them: by recording a run or reading its JSON.
+/// One entry of `HighScores`. Only that class creates entries, by recording a run or reading JSON.
 struct HighScore {
     /// Identifies the run.
     UUID id;

@@ -25,7 +25,7 @@ public:
     HighScores() = default;
 
     /// Reads what `encoded()` wrote. The table is empty if there is no data or if any part of it is
-    /// invalid; it is never read in part.
+    /// invalid; it is never read partially.
     explicit HighScores(std::optional<std::string_view> data);
 
     /// The table as JSON. Throws `std::invalid_argument` if a date is not finite or a pace is not
@@ -34,7 +34,7 @@ public:
 
     /// The name as `record()` stores it: white space trimmed, white space between words reduced to
     /// one space, then cut to `longestName` characters. Ill-formed UTF-8 is replaced by U+FFFD. The
-    /// result may be empty, and ends in a space if the cut falls just behind one.
+    /// result may be empty, and ends in a space if the cut falls right after one.
     [[nodiscard]] static std::string cleanName(std::string_view name);
 
     /// Adds a run under its cleaned name. Returns false and changes nothing if the cleaned name is

@@ -10,7 +10,7 @@ from desktop import Desktop
 
 @contextlib.contextmanager
 def accessible_desktop():
-    """A context manager; `accessibility` is the connection to the accessibility bus."""
+    """Starts a private desktop. `accessibility` is its connection to the accessibility bus."""
     # Not under tmp_path: the paths of sockets are limited to 107 bytes.
     desktop = Desktop(pathlib.Path(tempfile.mkdtemp(prefix="fernwick-")))
     try:

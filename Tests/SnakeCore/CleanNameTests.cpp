@@ -99,7 +99,7 @@ TEST(CleanName, treatsASpaceWithACombiningMarkAsWhiteSpace) {
     EXPECT_EQ(cleaned("Pip \u0301Green"), "Pip Green");
 }
 
-TEST(CleanName, countsASpaceAndTheCombiningMarkBehindItAsOneCharacter) {
+TEST(CleanName, countsASpaceAndItsCombiningMarkAsOneCharacter) {
     EXPECT_EQ(cleaned("a\n\u0301" + repeated("x", 30)), "a \u0301" + repeated("x", 22));
 }
 

@@ -8,12 +8,12 @@
 
 namespace Desktop {
 
-/// Lets SIGTERM, SIGINT and SIGHUP end the process at once with status 0. For the time before
-/// there is an event loop to quit and anything to store.
+/// Makes SIGTERM, SIGINT and SIGHUP exit the process immediately with status 0. For start-up, when
+/// there is no event loop to quit yet and nothing to save.
 void exitOnSignals();
 
-/// Turns SIGTERM, SIGINT and SIGHUP into QCoreApplication::quit(). One per process. Destroying it
-/// means the program is ending, and these signals are ignored from then on.
+/// Turns SIGTERM, SIGINT and SIGHUP into QCoreApplication::quit(). One per process. Destroy it
+/// when the program is exiting: the signals are ignored from then on.
 class QuitOnSignals : public QObject {
     Q_OBJECT
 

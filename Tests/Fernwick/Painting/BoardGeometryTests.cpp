@@ -24,14 +24,14 @@ TEST(BoardGeometry, fillsTheHeightOfAWideSpaceAndIsCentredHorizontally) {
     EXPECT_EQ(geometry.frame, QRectF(290, 0, 420, 330));
 }
 
-TEST(BoardGeometry, fillsASpaceOfItsOwnProportions) {
+TEST(BoardGeometry, fillsASpaceOfTheSameAspectRatio) {
     const BoardGeometry geometry = fitted({0, 0, 56, 44});
 
     EXPECT_DOUBLE_EQ(geometry.cell, 2);
     EXPECT_EQ(geometry.frame, QRectF(0, 0, 56, 44));
 }
 
-TEST(BoardGeometry, keepsFractionsOfPoints) {
+TEST(BoardGeometry, isNotRoundedToWholePoints) {
     const BoardGeometry geometry = fitted({0, 0, 1000, 600});
 
     EXPECT_DOUBLE_EQ(geometry.cell, 600.0 / 22);
