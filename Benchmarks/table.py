@@ -1,4 +1,4 @@
-"""table.py RESULTS [--document]: prints a table of the goals, and every single figure behind it.
+"""table.py RESULTS [--document]: prints a table of the goals, and every measurement.
 
 With --document the table of goals also replaces the one in Docs/performance.md.
 """

@@ -14,8 +14,8 @@ using Storage::PreferencesDocument;
 
 namespace {
 
-/// The bytes as parsed by QCborValue; nothing if they are not exactly one map. QCborValue recurses,
-/// so pass only bytes that PreferencesDocument accepted, whose nesting is limited.
+/// The bytes as parsed by QCborValue; std::nullopt if they are not exactly one map. QCborValue
+/// recurses, so pass only bytes that PreferencesDocument accepted, whose nesting is limited.
 std::optional<QCborMap> qtMap(const QByteArray& bytes) {
     QCborParserError error;
     const QCborValue value = QCborValue::fromCbor(bytes, &error);

@@ -70,29 +70,29 @@ bool staysOneSyllable(UGraphemeClusterBreak left, UGraphemeClusterBreak right) {
 }
 
 /// Rule GB11: an emoji joined to the one before it by a zero-width joiner.
-bool joinsPictographs(const std::vector<char32_t>& codePoints, std::size_t here) {
-    if (!isPictograph(codePoints[here]) || classOf(codePoints[here - 1]) != U_GCB_ZWJ) {
+bool joinsPictographs(const std::vector<char32_t>& codePoints, std::size_t index) {
+    if (!isPictograph(codePoints[index]) || classOf(codePoints[index - 1]) != U_GCB_ZWJ) {
         return false;
     }
-    std::size_t place = here - 1;
-    while (place > 0 && classOf(codePoints[place - 1]) == U_GCB_EXTEND) {
-        --place;
+    std::size_t previous = index - 1;
+    while (previous > 0 && classOf(codePoints[previous - 1]) == U_GCB_EXTEND) {
+        --previous;
     }
-    return place > 0 && isPictograph(codePoints[place - 1]);
+    return previous > 0 && isPictograph(codePoints[previous - 1]);
 }
 
 /// Rules GB12 and GB13: flags are pairs of regional indicators.
-bool completesFlag(const std::vector<char32_t>& codePoints, std::size_t here) {
+bool completesFlag(const std::vector<char32_t>& codePoints, std::size_t index) {
     std::size_t before = 0;
-    while (before < here && classOf(codePoints[here - 1 - before]) == U_GCB_REGIONAL_INDICATOR) {
+    while (before < index && classOf(codePoints[index - 1 - before]) == U_GCB_REGIONAL_INDICATOR) {
         ++before;
     }
-    return classOf(codePoints[here]) == U_GCB_REGIONAL_INDICATOR && before % 2 == 1;
+    return classOf(codePoints[index]) == U_GCB_REGIONAL_INDICATOR && before % 2 == 1;
 }
 
-bool breaksBefore(const std::vector<char32_t>& codePoints, std::size_t here) {
-    const auto left = classOf(codePoints[here - 1]);
-    const auto right = classOf(codePoints[here]);
+bool breaksBefore(const std::vector<char32_t>& codePoints, std::size_t index) {
+    const auto left = classOf(codePoints[index - 1]);
+    const auto right = classOf(codePoints[index]);
     if (left == U_GCB_CR && right == U_GCB_LF) {
         return false;
     }
@@ -101,8 +101,8 @@ bool breaksBefore(const std::vector<char32_t>& codePoints, std::size_t here) {
     }
     const bool staysTogether = staysOneSyllable(left, right) || right == U_GCB_EXTEND ||
                                right == U_GCB_ZWJ || right == U_GCB_SPACING_MARK ||
-                               left == U_GCB_PREPEND || joinsPictographs(codePoints, here) ||
-                               completesFlag(codePoints, here);
+                               left == U_GCB_PREPEND || joinsPictographs(codePoints, index) ||
+                               completesFlag(codePoints, index);
     return !staysTogether;
 }
 

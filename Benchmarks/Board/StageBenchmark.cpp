@@ -123,14 +123,14 @@ void backdropAndEdge(benchmark::State& state) {
     const auto scale = static_cast<double>(state.range(0));
     const QRectF frame =
         Painting::fitBoard(Screens::space, Screens::cells).frame.translated(38, 195);
-    const QRect place = QRectF(frame.topLeft() * scale, frame.size() * scale).toAlignedRect();
-    const QRectF here(frame.topLeft() * scale - place.topLeft(), frame.size() * scale);
+    const QRect boardRect = QRectF(frame.topLeft() * scale, frame.size() * scale).toAlignedRect();
+    const QRectF frameInBoard(frame.topLeft() * scale - boardRect.topLeft(), frame.size() * scale);
     for (auto _ : state) {
         Painting::Backdrop backdrop;
         backdrop.fit({1920, 1080}, scale, frame);
         benchmark::DoNotOptimize(backdrop.image(backdrop.bounds()));
         benchmark::DoNotOptimize(
-            Painting::FrameEdge(backdrop, place, Painting::FrameShape(here, scale)));
+            Painting::FrameEdge(backdrop, boardRect, Painting::FrameShape(frameInBoard, scale)));
     }
 }
 

@@ -8,7 +8,7 @@ import subprocess
 import time
 
 from paces import TICKS
-from pixels import beside
+from pixels import neighbour
 from program import STARTUP_SECONDS, Program
 from xtest import DIRECTION_KEYS, SPACE
 
@@ -69,9 +69,9 @@ class Player:
             if turned:
                 head = corner
                 for _ in range(MISSED_STEPS):
-                    head = beside(head, turned)
+                    head = neighbour(head, turned)
                     yield head, turned
-            corner = beside(corner, self._direction)
+            corner = neighbour(corner, self._direction)
             yield corner, self._direction
 
 

@@ -24,11 +24,11 @@ class Pixels(Screen):
 
     def shows_nowhere(self, colour):
         """Whether no sampled pixel has this colour."""
-        return all(self.colour(*place) != colour for place in self.GRID)
+        return all(self.colour(*point) != colour for point in self.GRID)
 
     def shows_everywhere(self, colour):
         """Whether every sampled pixel has this colour."""
-        return all(self.colour(*place) == colour for place in self.GRID)
+        return all(self.colour(*point) == colour for point in self.GRID)
 
     def shows_head(self, cell, direction):
         """Whether the snake's head is in this cell and looks in this direction."""
@@ -40,6 +40,6 @@ class Pixels(Screen):
                            FIRST_Y + (cell[1] + 0.5 + offset[1]) * CELL)
 
 
-def beside(cell, direction):
+def neighbour(cell, direction):
     """The neighbour of a cell in a direction."""
     return cell[0] + VECTORS[direction][0], cell[1] + VECTORS[direction][1]

@@ -12,7 +12,7 @@ namespace SnakeCore {
 namespace {
 
 // The snake circles in the upper 28 x 22 cells of a higher board. The rows below hold its starting
-// position and a fruit that it never reaches, so that its length stays as it is.
+// position and a fruit that it never reaches, so that its length does not change.
 constexpr std::int64_t columns = 28;
 constexpr std::int64_t rows = 48;
 constexpr std::int64_t cycleRows = 22;

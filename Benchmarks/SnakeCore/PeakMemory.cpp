@@ -28,20 +28,20 @@ std::size_t bytes() {
 }  // namespace PeakMemory
 
 void* operator new(std::size_t size) {
-    void* const place = std::malloc(size);
-    if (place == nullptr) {
+    void* const block = std::malloc(size);
+    if (block == nullptr) {
         throw std::bad_alloc();
     }
-    inUse += malloc_usable_size(place);
+    inUse += malloc_usable_size(block);
     peak = std::max(peak, inUse);
-    return place;
+    return block;
 }
 
-void operator delete(void* place) noexcept {
-    inUse -= malloc_usable_size(place);
-    std::free(place);
+void operator delete(void* block) noexcept {
+    inUse -= malloc_usable_size(block);
+    std::free(block);
 }
 
-void operator delete(void* place, std::size_t) noexcept {
-    operator delete(place);
+void operator delete(void* block, std::size_t) noexcept {
+    operator delete(block);
 }

@@ -37,11 +37,11 @@ std::string tableJson(std::int64_t entries) {
 /// Built once per size.
 const std::string& cachedTable(std::int64_t entries) {
     static std::map<std::int64_t, std::string> tables;
-    const auto [place, isNew] = tables.try_emplace(entries);
+    const auto [position, isNew] = tables.try_emplace(entries);
     if (isNew) {
-        place->second = tableJson(entries);
+        position->second = tableJson(entries);
     }
-    return place->second;
+    return position->second;
 }
 
 HighScores tableOf(std::int64_t entries) {

@@ -23,10 +23,10 @@ enum class Direction { up, down, left, right };
 }
 
 /// Whether the two directions are 180 degrees apart.
-[[nodiscard]] constexpr bool opposite(Direction self, Direction other) {
-    const Cell mine = stepVector(self);
-    const Cell theirs = stepVector(other);
-    return mine.x == -theirs.x && mine.y == -theirs.y;
+[[nodiscard]] constexpr bool opposite(Direction first, Direction second) {
+    const Cell a = stepVector(first);
+    const Cell b = stepVector(second);
+    return a.x == -b.x && a.y == -b.y;
 }
 
 }  // namespace SnakeCore

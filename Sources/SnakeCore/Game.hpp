@@ -61,7 +61,8 @@ public:
     friend bool operator==(const Game& left, const Game& right) = default;
 
 private:
-    /// Makes one step. True if the snake ate the fruit and a new one has to be placed.
+    /// Advances by one step. Returns true if the snake ate the fruit and a new one has to be
+    /// placed.
     [[nodiscard]] bool advance();
     [[nodiscard]] bool onBoard(Cell cell) const;
     [[nodiscard]] bool hitsBody(Cell head) const;

@@ -6,7 +6,8 @@
 
 /// Splitting UTF-8 text into user-perceived characters (extended grapheme clusters, UAX #29). Each
 /// ill-formed sequence counts as one character. All functions throw `std::length_error` if the text
-/// is 2 GiB or longer, and `std::runtime_error` if ICU fails, such as for want of its data.
+/// is 2 GiB or longer, and `std::runtime_error` if ICU fails, for example because its data is
+/// missing.
 namespace SnakeCore {
 
 /// Calls `visit` for each character in order until it returns false. Not reentrant: `visit` must

@@ -16,7 +16,7 @@ namespace {
 
 constexpr std::size_t leaderCount = 10;
 
-/// A character is white space if its first code point is, even with combining marks behind it.
+/// A character is white space if its first code point is, even if combining marks follow it.
 bool isWhiteSpace(std::string_view character) {
     return u_isUWhiteSpace(static_cast<UChar32>(Detail::firstCodePoint(character))) != 0;
 }
@@ -77,7 +77,7 @@ bool HighScores::record(UUID id, std::string_view name, std::int64_t score, std:
 
 std::vector<HighScore> HighScores::leaders(std::string_view pace) const {
     // One pass over the table, inserting into the sorted best ten so far. Equal entries keep the
-    // table's order because upper_bound() inserts behind them.
+    // table's order because upper_bound() inserts after them.
     std::vector<std::reference_wrapper<const HighScore>> best;
     best.reserve(leaderCount + 1);
     for (const HighScore& entry : entries_) {

@@ -15,7 +15,7 @@ public:
     [[nodiscard]] static UUID random();
 
     /// Parses exactly the 36-character form in upper or lower case, such as
-    /// "0E9A3D52-6C1B-4E8F-9A57-2F4D1B6C8E30". Returns nothing for any other text.
+    /// "0E9A3D52-6C1B-4E8F-9A57-2F4D1B6C8E30". Returns std::nullopt for any other text.
     [[nodiscard]] static std::optional<UUID> parse(std::string_view text);
 
     /// The 36-character form in upper case.

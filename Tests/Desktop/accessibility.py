@@ -30,9 +30,9 @@ def connect(address):
     return Gio.DBusConnection.new_for_address_sync(address, flags, None, None)
 
 
-def call(bus, place, interface, method, signature="()", *arguments):
+def call(bus, address, interface, method, signature="()", *arguments):
     """Calls a D-Bus method of an object and returns its unpacked reply."""
-    owner, path = place
+    owner, path = address
     reply = bus.call_sync(owner, path, interface, method, GLib.Variant(signature, arguments),
                            None, Gio.DBusCallFlags.NONE, TIMEOUT_MS, None)
     return reply.unpack()
@@ -49,7 +49,7 @@ def application(bus, process):
     """The root element of a process; None while it is not on the bus."""
     for child in Element(bus, REGISTRY).children():
         owner, = call(bus, ("org.freedesktop.DBus", "/"), "org.freedesktop.DBus",
-                      "GetConnectionUnixProcessID", "(s)", child.place[0])
+                      "GetConnectionUnixProcessID", "(s)", child.address[0])
         if owner == process:
             return child
     return None
@@ -58,12 +58,12 @@ def application(bus, process):
 class Element:
     """One accessible object. Nothing is cached: each property is a call to the program."""
 
-    def __init__(self, bus, place):
+    def __init__(self, bus, address):
         self._bus = bus
-        self.place = place
+        self.address = address
 
     def children(self):
-        return [Element(self._bus, place) for place in self._ask(ACCESSIBLE, "GetChildren")[0]]
+        return [Element(self._bus, address) for address in self._ask(ACCESSIBLE, "GetChildren")[0]]
 
     def everything(self):
         """This element and all its descendants, depth first."""
@@ -138,7 +138,7 @@ class Element:
     def is_showing(self):
         return self._has(SHOWING)
 
-    def place_on_screen(self):
+    def extents_on_screen(self):
         """Left, top, width and height in pixels of the screen."""
         return self._ask(COMPONENT, "GetExtents", "(u)", ON_SCREEN)[0]
 
@@ -147,7 +147,7 @@ class Element:
         return bool(words[state // 32] >> state % 32 & 1)
 
     def _ask(self, interface, method, signature="()", *arguments):
-        return call(self._bus, self.place, interface, method, signature, *arguments)
+        return call(self._bus, self.address, interface, method, signature, *arguments)
 
 
 class Listener:

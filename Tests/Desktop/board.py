@@ -30,10 +30,10 @@ class Snake:
 
 
 class Board:
-    """The board at `place`: left, top, width and height in screen pixels."""
+    """The board at `geometry`: left, top, width and height in screen pixels."""
 
-    def __init__(self, place):
-        self._left, self._top, width, height = place
+    def __init__(self, geometry):
+        self._left, self._top, width, height = geometry
         self._cell = min(width / COLUMNS, height / ROWS)
 
     def snake(self, picture):

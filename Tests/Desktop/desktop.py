@@ -20,14 +20,14 @@ class Desktop:
         self.processes = []
         # Not os.environ: variables of the developer's own desktop would change the tests.
         self.environment = {"PATH": os.environ["PATH"], "LANG": "C.UTF-8"}
-        for name, place in {
+        for name, subfolder in {
             "HOME": "home",
             "XDG_CONFIG_HOME": "home/.config",
             "XDG_CACHE_HOME": "home/.cache",
             "XDG_DATA_HOME": "home/.local/share",
             "XDG_RUNTIME_DIR": "run",
         }.items():
-            path = folder / place
+            path = folder / subfolder
             path.mkdir(mode=0o700, parents=True, exist_ok=True)
             self.environment[name] = str(path)
 

@@ -57,14 +57,14 @@ class Game:
     def click(self, element):
         """Clicks in the middle of a control."""
         eventually(self._geometry_is_current, "AT-SPI reports the geometry of the window")
-        left, top, width, height = element.place_on_screen()
+        left, top, width, height = element.extents_on_screen()
         self.point_at(left + width // 2, top + height // 2)
         self.desktop.run("xdotool", "click", "1")
 
     def point_at(self, x, y):
         self.desktop.run("xdotool", "mousemove", str(x), str(y))
 
-    # What is shown.
+    # Texts on the screen.
 
     def wait_for(self, *texts):
         """Waits until all these texts are shown at the same time."""
@@ -99,7 +99,7 @@ class Game:
     def board(self):
         named = next(element for element in self.top().everything_showing()
                      if element.name.startswith("Snake board."))
-        return Board(named.place_on_screen())
+        return Board(named.extents_on_screen())
 
     # The window.
 
@@ -133,7 +133,7 @@ class Game:
 
     def _geometry_is_current(self):
         window = self.top().children()[0]
-        return tuple(window.place_on_screen()) == self.geometry()
+        return tuple(window.extents_on_screen()) == self.geometry()
 
     def _has_window(self):
         assert self.process.poll() is None, f"exited: {self.printed()}"

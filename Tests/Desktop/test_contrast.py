@@ -43,9 +43,9 @@ def ratio(one, other):
     return (brighter + 0.05) / (darker + 0.05)
 
 
-def contrast(picture, place):
+def contrast(picture, area):
     """The highest contrast with the most common colour, which is the background."""
-    left, top, width, height = place
+    left, top, width, height = area
     colours = Counter(picture.colour(x, y) for x in range(left, left + width)
                       for y in range(top, top + height))
     background, _ = colours.most_common(1)[0]
@@ -67,15 +67,15 @@ def contrasts(game):
     # Elements in front come last and overwrite those behind the sheet.
     for element in showing:
         if is_text(element) and (not on_sheet or element.name in ON_SHEET):
-            left, top, width, height = element.place_on_screen()
+            left, top, width, height = element.extents_on_screen()
             name = element.name
             if name == "Player name":
                 # Measure the placeholder without the blinking cursor.
                 name = "Your name"
-                place = left + INSET, top + INSET, PLACEHOLDER_WIDTH, height - 2 * INSET
+                area = left + INSET, top + INSET, PLACEHOLDER_WIDTH, height - 2 * INSET
             else:
-                place = left, top, width, height
-            measured[name] = contrast(picture, place)
+                area = left, top, width, height
+            measured[name] = contrast(picture, area)
             if name.startswith("01 "):
                 measured["rank"] = contrast(picture, (left, top, RANK_WIDTH, height))
     return measured

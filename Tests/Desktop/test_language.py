@@ -39,7 +39,7 @@ def test_falls_back_to_english(launch, environment):
 def test_a_run_in_arabic_can_be_played_and_saved(launch, home):
     game = launched(launch, LANGUAGE="ar")
     game.wait_for(IN_ARABIC)
-    left, _, width, _ = game.find("FERNWICK").place_on_screen()
+    left, _, width, _ = game.find("FERNWICK").extents_on_screen()
     assert left + width // 2 > game.geometry()[2] // 2
     game.press("space")
     game.wait_for("في انسياب")

@@ -141,30 +141,30 @@ def focus_within(elements):
 @pytest.mark.parametrize("reach", [stay_at_start, end_run, save])
 def test_tab_follows_the_reading_order(game, reach):
     reach(game)
-    places = []
+    visited = []
     stops = [element for element in game.top().everything_showing()
              if element.is_focusable() and element.can_be_used()]
     # A radio group is a single tab stop.
     for _ in stops:
         game.press("Tab")
-        place = eventually(lambda: focused_place(stops, places), "the focus has moved on")
-        if places and place == places[0]:
+        extents = eventually(lambda: focused_extents(stops, visited), "the focus has moved on")
+        if visited and extents == visited[0]:
             break
-        places.append(place)
+        visited.append(extents)
     # The focus may have started in the middle: rotate the list to start at the top.
-    first = places.index(min(places, key=row_and_column))
-    in_order = places[first:] + places[:first]
-    assert in_order == sorted(places, key=row_and_column)
-    assert len(places) >= 4
+    first = visited.index(min(visited, key=row_and_column))
+    in_order = visited[first:] + visited[:first]
+    assert in_order == sorted(visited, key=row_and_column)
+    assert len(visited) >= 4
 
 
-def focused_place(stops, places):
-    place = next((tuple(stop.place_on_screen()) for stop in stops if stop.is_focused()), None)
-    return place if not places or place != places[-1] else None
+def focused_extents(stops, visited):
+    extents = next((tuple(stop.extents_on_screen()) for stop in stops if stop.is_focused()), None)
+    return extents if not visited or extents != visited[-1] else None
 
 
-def row_and_column(place):
-    left, top, _, height = place
+def row_and_column(extents):
+    left, top, _, height = extents
     return top + height // 2, left
 
 

@@ -60,7 +60,7 @@ def game(launch):
 
 def window_size(game):
     window, = game.top().children()
-    return tuple(window.place_on_screen()[2:])
+    return tuple(window.extents_on_screen()[2:])
 
 
 def bounds_of_game(game):
@@ -119,5 +119,5 @@ def test_a_signal_quits_with_status_0(game, number):
 
 
 def middle(element):
-    left, top, width, height = element.place_on_screen()
+    left, top, width, height = element.extents_on_screen()
     return left + width // 2, top + height // 2

@@ -42,9 +42,9 @@ QImage render(const Scene& scene, const QSize& size, bool fullScreen) {
 }
 
 void addToSheet(QPainter& sheet, const QImage& picture, int index, const QSize& thumbnail) {
-    const QPoint place(index % sheetColumns * thumbnail.width(),
-                       index / sheetColumns * thumbnail.height());
-    sheet.drawImage(QRect(place, thumbnail),
+    const QPoint position(index % sheetColumns * thumbnail.width(),
+                          index / sheetColumns * thumbnail.height());
+    sheet.drawImage(QRect(position, thumbnail),
                     picture.scaled(thumbnail, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
 }
 

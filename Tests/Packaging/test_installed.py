@@ -1,4 +1,4 @@
-"""The files that `cmake --install` puts beside the program."""
+"""The files that `cmake --install` installs in addition to the program."""
 
 import configparser
 import os

@@ -31,10 +31,10 @@ TEST(Direction, isOppositeInFourOfSixteenPairs) {
         {Direction::right, Direction::left},
     };
 
-    for (const Direction self : everyDirection) {
-        for (const Direction other : everyDirection) {
-            EXPECT_EQ(opposite(self, other), opposites.contains({self, other}))
-                << static_cast<int>(self) << " and " << static_cast<int>(other);
+    for (const Direction first : everyDirection) {
+        for (const Direction second : everyDirection) {
+            EXPECT_EQ(opposite(first, second), opposites.contains({first, second}))
+                << static_cast<int>(first) << " and " << static_cast<int>(second);
         }
     }
 }

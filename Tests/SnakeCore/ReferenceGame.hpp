@@ -98,8 +98,8 @@ struct ReferenceGame {
             ended = won = true;
             return;
         }
-        std::uniform_int_distribution<std::size_t> place(0, free.size() - 1);
-        food = free[place(generator)];
+        std::uniform_int_distribution<std::size_t> index(0, free.size() - 1);
+        food = free[index(generator)];
     }
 };
 

@@ -76,12 +76,12 @@ inline void expectType(const QWidget& widget, const Type& type) {
                               static_cast<int>(std::floor(pixel.y())));
 }
 
-/// The smallest distance from `colour` of all pixels inside `place`.
+/// The smallest distance from `colour` of all pixels inside `area`.
 [[nodiscard]] inline int nearestTo(const QColor& colour, const QImage& picture,
-                                   const QRectF& place) {
+                                   const QRectF& area) {
     const double scale = picture.devicePixelRatio();
     const QRect pixels =
-        QRectF(place.topLeft() * scale, place.size() * scale).toRect() & picture.rect();
+        QRectF(area.topLeft() * scale, area.size() * scale).toRect() & picture.rect();
     int nearest = 255;
     for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
         for (int x = pixels.left(); x <= pixels.right(); ++x) {
@@ -92,13 +92,13 @@ inline void expectType(const QWidget& widget, const Type& type) {
 }
 
 /// The x coordinate just past the right edge, `QRect::right()` + 1.
-[[nodiscard]] inline int rightOf(const QRect& place) {
-    return place.x() + place.width();
+[[nodiscard]] inline int rightOf(const QRect& rect) {
+    return rect.x() + rect.width();
 }
 
 /// The y coordinate just past the bottom edge, `QRect::bottom()` + 1.
-[[nodiscard]] inline int bottomOf(const QRect& place) {
-    return place.y() + place.height();
+[[nodiscard]] inline int bottomOf(const QRect& rect) {
+    return rect.y() + rect.height();
 }
 
 inline void expectColour(const QColor& seen, const QColor& wanted, int tolerance) {

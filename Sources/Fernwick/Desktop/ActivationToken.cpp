@@ -44,12 +44,12 @@ void setActivationToken(const QByteArray& token) {
     }
     // Including the null terminator.
     std::copy_n(token.constData(), token.size() + 1, entry + valueOffset);
-    char** place = environ;
-    while (*place != nullptr && *place != entry) {
-        ++place;
+    char** slot = environ;
+    while (*slot != nullptr && *slot != entry) {
+        ++slot;
     }
     if (environ == variables.data()) {
-        std::atomic_ref(*place).store(entry);
+        std::atomic_ref(*slot).store(entry);
     } else {
         // setenv() has moved the environment to an array without room for one more.
         ::putenv(entry);

@@ -10,7 +10,7 @@
 namespace Desktop {
 
 /// A yes-or-no setting from the XDG settings portal (org.freedesktop.portal.Settings) that desktops
-/// store under different keys: on when any of the keys says so. Reads are asynchronous and never
+/// store under different keys: on if any of the keys is on. Reads are asynchronous and never
 /// start the portal; it is off until a reply arrives, and without a portal.
 class PortalSwitch : public QObject {
     Q_OBJECT

@@ -24,7 +24,7 @@ public:
     [[nodiscard]] bool valid() const { return number_ >= 0; }
     [[nodiscard]] int number() const { return number_; }
 
-    /// Closes it now. False when close() reports that earlier writes were lost; see errno.
+    /// Closes it now. Returns false if close() reports that earlier writes were lost; see errno.
     bool close() {
         // Linux releases the descriptor even when close() fails with EINTR: never retry.
         return !valid() || ::close(std::exchange(number_, -1)) == 0 || errno == EINTR;

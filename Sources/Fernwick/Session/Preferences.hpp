@@ -18,9 +18,9 @@ public:
     [[nodiscard]] std::optional<QString> text(const QString& key) const;
     [[nodiscard]] std::optional<QByteArray> bytes(const QString& key) const;
 
-    /// Stores `value` under `key` and leaves every other key alone. True when the value is durable.
-    /// False when it could not be stored: the file keeps the old value, and this process reads the
-    /// new one.
+    /// Stores `value` under `key` and leaves every other key alone. Returns true once the value is
+    /// durable, and false if it could not be stored: the file keeps the old value, and this process
+    /// reads the new one.
     virtual bool store(const QString& key, const QCborValue& value) = 0;
 
 protected:

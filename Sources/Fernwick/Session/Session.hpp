@@ -93,13 +93,13 @@ public:
     void openScores();
     void closeScores();
     void chooseScorePace(Pace pace);
-    /// Sets and stores the sound switch.
+    /// Turns the sound on or off and stores the setting.
     void setSound(bool on);
     /// Handles a key press. Returns true if the caller should consume the event.
     bool key(GameKey key);
 
 Q_SIGNALS:
-    /// What a getter returns has changed; emitted once, at the end of the operation.
+    /// The value of some getter has changed. Emitted once per operation, at its end.
     void changed();
 
 private:

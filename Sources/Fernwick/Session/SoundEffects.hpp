@@ -8,7 +8,7 @@ class SoundEffects {
 public:
     virtual ~SoundEffects() = default;
 
-    /// Starts `effect` and returns at once; effects may overlap. Does nothing where no sound can be
-    /// played.
+    /// Starts `effect` and returns immediately; effects may overlap. Does nothing if sound is
+    /// unavailable.
     virtual void play(SoundEffect effect) = 0;
 };

@@ -10,8 +10,8 @@ namespace Sound {
 
 /// Plays the effects through PulseAudio, or PipeWire's replacement for it. A separate thread
 /// talks to the server, so a missing, slow or hung server never blocks the caller; between effects
-/// the thread sleeps. Reconnects with the next effect after the server has gone, and drops effects
-/// that would be late. Logs to "fernwick.sound".
+/// the thread sleeps. Reconnects with the next effect after the connection was lost, and drops
+/// effects that would be late. Logs to "fernwick.sound".
 class PulseSoundEffects final : public SoundEffects {
 public:
     /// Starts neither the thread nor a connection. `applicationID` names the icon that volume

@@ -41,7 +41,7 @@ fs::path followLinks(fs::path path) {
 }
 
 DurableFile::State stateAfterOpenError(int error) {
-    // ENOTDIR: there is a file in the folder's place.
+    // ENOTDIR: the path of the folder is a file.
     if (error == ENOENT || error == ENOTDIR) {
         return DurableFile::State::absent;
     }

@@ -30,7 +30,8 @@ public:
     /// Reads up to `maximumSize` bytes. Never blocks on a named pipe or a device.
     [[nodiscard]] Reading read(qsizetype maximumSize) const;
 
-    /// Creates the folder and its parents with mode 0700. True when the folder exists afterwards.
+    /// Creates the folder and its parents with mode 0700. Returns true if the folder exists
+    /// afterwards.
     [[nodiscard]] bool createFolder() const;
 
     /// Replaces the content durably: temporary file, fsync, rename, fsync of the folder. When

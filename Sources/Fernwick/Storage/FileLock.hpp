@@ -12,12 +12,13 @@ namespace Storage {
 /// it when the process ends, even by SIGKILL. The empty file stays: removing it would be a race.
 class FileLock {
 public:
-    /// Nothing when another process holds the lock for all of `timeout`, or when `path` cannot be
-    /// opened this time. A lock that excludes nobody when locking can never work there.
+    /// Returns std::nullopt if another process holds the lock for all of `timeout`, or if `path`
+    /// cannot be opened this time. If locking can never work there, returns a lock that excludes
+    /// nobody.
     [[nodiscard]] static std::optional<FileLock> acquire(const std::filesystem::path& path,
                                                          std::chrono::milliseconds timeout);
 
-    /// False when the file system does not support locks, or `path` can never be opened.
+    /// False if the file system does not support locks, or `path` can never be opened.
     [[nodiscard]] bool excludesOthers() const { return excludesOthers_; }
 
 private:

@@ -10,7 +10,8 @@ namespace {
 constexpr std::size_t maximumKeys = 4096;
 constexpr int maximumDepth = 512;
 
-/// Skips one data item and returns its bytes; nothing when it is malformed or too deeply nested.
+/// Skips one data item and returns its bytes, or std::nullopt if it is malformed or nested too
+/// deeply.
 std::optional<QByteArray> takeItem(QCborStreamReader& reader, const QByteArray& bytes) {
     const qint64 start = reader.currentOffset();
     while (reader.isTag()) {

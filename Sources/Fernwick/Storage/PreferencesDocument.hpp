@@ -15,8 +15,8 @@ public:
     /// The largest file that is read or written, in bytes: about 400,000 scores.
     static constexpr qsizetype maximumSize = 64 * 1024 * 1024;
 
-    /// Nothing unless `bytes` are exactly one map with unique keys, within limits (`maximumSize`,
-    /// 4096 keys, 512 nested containers).
+    /// Returns std::nullopt unless `bytes` are exactly one map with unique keys, within limits
+    /// (`maximumSize`, 4096 keys, 512 nested containers).
     [[nodiscard]] static std::optional<PreferencesDocument> read(const QByteArray& bytes);
 
     /// Deterministic: equal documents give equal bytes. Does not check the limits of `read`.

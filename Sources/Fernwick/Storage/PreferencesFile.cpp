@@ -33,7 +33,7 @@ fs::path homeFromPasswd() {
     return home.is_absolute() ? home : fs::path();
 }
 
-/// Locks a file beside the settings, whose own inode changes with every store.
+/// Locks a file next to the settings file, as each store replaces that file by a new inode.
 std::optional<FileLock> lockOf(const DurableFile& file, std::chrono::milliseconds timeout) {
     fs::path path = file.path();
     path += ".lock";

@@ -34,6 +34,6 @@ private:
     QPointer<QWindow> handle_;
     int bandHeight_;
     Qt::Edges hovered_;
-    // Where the band or an edge was pressed, in points.
+    // The position of a mouse press on the band or an edge, in points.
     std::optional<QPoint> held_;
 };

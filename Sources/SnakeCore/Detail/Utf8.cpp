@@ -7,7 +7,7 @@
 namespace SnakeCore::Detail {
 namespace {
 
-/// Decodes the code point at `index` and advances behind it; negative if it is ill-formed.
+/// Decodes the code point at `index` and advances past it; negative if it is ill-formed.
 UChar32 nextCodePoint(std::string_view bytes, std::size_t& index) {
     UChar32 codePoint = 0;
     // ICU's macro contains implicit narrowing conversions.

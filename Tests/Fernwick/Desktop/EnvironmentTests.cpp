@@ -15,7 +15,7 @@ namespace {
 
 class EnvironmentTest : public testing::Test {
 protected:
-    /// The variable after `prepareEnvironment`; nothing when it is unset.
+    /// The variable after `prepareEnvironment`; std::nullopt if it is unset.
     [[nodiscard]] static std::optional<std::string> prepared(const char* name) {
         Desktop::prepareEnvironment();
         const char* value = std::getenv(name);

@@ -11,7 +11,7 @@ class QtMessagesTest : public testing::Test {
 protected:
     ~QtMessagesTest() override { QLoggingCategory::setFilterRules(QString()); }
 
-    /// What reaches stderr when Qt prints `message`.
+    /// Returns everything written to stderr when Qt prints `message`.
     static std::string printed(const char* message, const char* categoryName = "default") {
         Desktop::filterQtMessages();
         const QLoggingCategory category(categoryName);

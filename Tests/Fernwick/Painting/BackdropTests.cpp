@@ -50,10 +50,10 @@ TEST(Backdrop, isDarkWithMintLightFadingFromTheCorner) {
     for (const double scale : {1.0, 2.0}) {
         const QImage picture = groundOf(window, scale, frame);
 
-        for (const QPoint& place : {QPoint(8, 8), QPoint(100, 300), QPoint(350, 40),
+        for (const QPoint& point : {QPoint(8, 8), QPoint(100, 300), QPoint(350, 40),
                                     QPoint(300, 700), QPoint(790, 60), QPoint(1380, 30)}) {
-            expectLitNight(picture, static_cast<int>(place.x() * scale),
-                           static_cast<int>(place.y() * scale), scale);
+            expectLitNight(picture, static_cast<int>(point.x() * scale),
+                           static_cast<int>(point.y() * scale), scale);
         }
     }
 }
@@ -74,8 +74,8 @@ TEST(Backdrop, dithersSlowGradientsSoThatTheyShowNoBands) {
 TEST(Backdrop, fillsTheFrameWithThePlainBoardColour) {
     const QImage picture = groundOf(window, 1, frame);
 
-    for (const QPoint& place : {QPoint(510, 240), QPoint(780, 420), QPoint(1050, 620)}) {
-        EXPECT_EQ(picture.pixel(place), qRgb(14, 24, 19));
+    for (const QPoint& point : {QPoint(510, 240), QPoint(780, 420), QPoint(1050, 620)}) {
+        EXPECT_EQ(picture.pixel(point), qRgb(14, 24, 19));
     }
 }
 

@@ -11,11 +11,11 @@ struct PictureDifference {
     /// The largest difference of a channel, and where it is. Two antialiasing algorithms may
     /// differ on a pixel by up to half of the contrast around it; such differences do not count.
     int largest = 0;
-    QPoint place;
+    QPoint position;
 
     friend std::ostream& operator<<(std::ostream& out, const PictureDifference& difference) {
         return out << "mean " << difference.mean << ", largest " << difference.largest << " at ("
-                   << difference.place.x() << ", " << difference.place.y() << ")";
+                   << difference.position.x() << ", " << difference.position.y() << ")";
     }
 };
 
@@ -48,7 +48,7 @@ struct PictureDifference {
                 found.mean += apart;
                 if (apart > found.largest && apart > localContrast(expected, x, y, shift) / 2) {
                     found.largest = apart;
-                    found.place = {x, y};
+                    found.position = {x, y};
                 }
             }
         }

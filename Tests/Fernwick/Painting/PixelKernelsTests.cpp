@@ -28,7 +28,7 @@ protected:
     std::vector<float> samples() {
         return filled<float>([this] { return static_cast<float>(generator_() % 32769); });
     }
-    QPoint place() { return {number(), number()}; }
+    QPoint point() { return {number(), number()}; }
     int number() { return static_cast<int>(generator_() % 4096); }
 
 private:
@@ -42,8 +42,8 @@ private:
     std::mt19937 generator_{11};
 };
 
-Scanline scanlineOf(Row& row, const QPoint& place, int count) {
-    return {row.data(), place.x(), place.y(), count};
+Scanline scanlineOf(Row& row, const QPoint& point, int count) {
+    return {row.data(), point.x(), point.y(), count};
 }
 
 TEST_F(PixelKernelsOfThisProcessor, blendBilinearCoverageLikeTheGenericOnes) {
@@ -53,7 +53,7 @@ TEST_F(PixelKernelsOfThisProcessor, blendBilinearCoverageLikeTheGenericOnes) {
         const PixelKernels::BilinearCoverage coverage{upper.data(), lower.data(), 0.2F / 32768,
                                                       0.15F / 32768};
         const Painting::Rgb colour{166, 240, 163};
-        const QPoint at = place();
+        const QPoint at = point();
         Row expected = pixels();
         Row actual = expected;
 
@@ -68,7 +68,7 @@ TEST_F(PixelKernelsOfThisProcessor, blendMaskedPixelsLikeTheGenericOnes) {
     for (int count = 0; count <= longest; ++count) {
         const Row under = pixels();
         const std::vector<std::uint8_t> coverage = mask();
-        const QPoint at = place();
+        const QPoint at = point();
         Row expected = pixels();
         Row actual = expected;
 
@@ -84,7 +84,7 @@ TEST_F(PixelKernelsOfThisProcessor, fillGradientsLikeTheGenericOnes) {
     for (int count = 0; count <= longest; ++count) {
         const PixelKernels::Gradient gradient{{150U << 16U, 3U << 16U, 90U << 16U},
                                               {static_cast<quint32>(number()), 0, 77}};
-        const QPoint at = place();
+        const QPoint at = point();
         Row expected = pixels();
         Row actual = expected;
 

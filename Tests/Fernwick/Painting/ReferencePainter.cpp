@@ -22,9 +22,9 @@ QColor withOpacity(QColor colour, double opacity) {
     return colour;
 }
 
-QPointF centre(const Cell& place, double cell) {
-    return {(static_cast<double>(place.x) + 0.5) * cell,
-            (static_cast<double>(place.y) + 0.5) * cell};
+QPointF centre(const Cell& position, double cell) {
+    return {(static_cast<double>(position.x) + 0.5) * cell,
+            (static_cast<double>(position.y) + 0.5) * cell};
 }
 
 QRectF disc(const QPointF& centre, double diameter) {
@@ -38,11 +38,11 @@ void boxLine(quint32* line, qsizetype stride, int count, int radius, std::vector
         copy[static_cast<std::size_t>(i)] = line[i * stride];
     }
     std::array<int, 4> sum{};
-    const auto add = [&](int place, int sign) {
-        if (place < 0 || place >= count) {
+    const auto add = [&](int index, int sign) {
+        if (index < 0 || index >= count) {
             return;
         }
-        const quint32 pixel = copy[static_cast<std::size_t>(place)];
+        const quint32 pixel = copy[static_cast<std::size_t>(index)];
         for (std::size_t channel = 0; channel < 4; ++channel) {
             sum[channel] += sign * static_cast<int>((pixel >> (8 * channel)) & 0xFFU);
         }
@@ -98,14 +98,14 @@ void paintDots(QPainter& painter, const SnakeCore::Game& game, double cell) {
     }
 }
 
-void paintFruit(QPainter& painter, const QPointF& place, double cell) {
+void paintFruit(QPainter& painter, const QPointF& position, double cell) {
     painter.setBrush(fruitColour);
-    painter.drawEllipse(disc(place, 0.56 * cell));
+    painter.drawEllipse(disc(position, 0.56 * cell));
 }
 
-void paintStem(QPainter& painter, const QPointF& place, double cell) {
-    QPainterPath stem(place - QPointF(0, 0.3 * cell));
-    stem.quadTo(place - QPointF(0, 0.55 * cell), place + QPointF(0.22, -0.48) * cell);
+void paintStem(QPainter& painter, const QPointF& position, double cell) {
+    QPainterPath stem(position - QPointF(0, 0.3 * cell));
+    stem.quadTo(position - QPointF(0, 0.55 * cell), position + QPointF(0.22, -0.48) * cell);
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(mint, 2, Qt::SolidLine, Qt::RoundCap, Qt::MiterJoin));
     painter.drawPath(stem);

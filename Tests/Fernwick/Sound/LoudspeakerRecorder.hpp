@@ -40,7 +40,7 @@ public:
         pa_simple_free(stream_);
     }
 
-    /// What was recorded, without leading and trailing silence.
+    /// The recording without leading and trailing silence.
     [[nodiscard]] std::vector<std::int16_t> sound() {
         const std::scoped_lock lock(guard_);
         const auto loud = [](std::int16_t sample) { return sample != 0; };

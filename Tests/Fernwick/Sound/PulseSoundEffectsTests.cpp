@@ -64,7 +64,7 @@ Wave recordedBy(LoudspeakerRecorder& recorder) {
     return recorder.sound();
 }
 
-/// Voluntary context switches of the sound thread; nothing when it is not running.
+/// Voluntary context switches of the sound thread; std::nullopt if it is not running.
 std::optional<long> contextSwitches() {
     for (const auto& task : fs::directory_iterator("/proc/self/task")) {
         std::string name;

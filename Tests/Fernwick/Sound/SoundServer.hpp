@@ -35,7 +35,7 @@ public:
           home_("HOME", folder_.path().c_str()),
           address_("PULSE_SERVER", ("unix:" + socket().native()).c_str()) {}
 
-    /// False when the server does not start.
+    /// Returns false if the server does not start.
     [[nodiscard]] bool start() {
         // Without norewinds the server may rewrite samples that have already been recorded.
         process_ = std::make_unique<ChildProcess>(std::vector<std::string>{

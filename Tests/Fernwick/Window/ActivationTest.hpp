@@ -11,8 +11,8 @@ enum class Activation { click, returnKey };
 /// Activates controls with a mouse click or with Tab and Return.
 class ActivationTest : public WindowTest, public ::testing::WithParamInterface<Activation> {
 protected:
-    /// Activates the control called `name` in `root`. False if there is none to click, or if Tab
-    /// does not reach it.
+    /// Activates the control called `name` in `root`. Returns false if there is none to click, or
+    /// if Tab does not reach it.
     bool activate(const QWidget& root, const QString& name) {
         if (GetParam() == Activation::click) {
             const QAbstractButton* control = Screen::button(root, name);

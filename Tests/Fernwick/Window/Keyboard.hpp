@@ -38,7 +38,8 @@ inline void press(QWidget& window, Qt::Key key, Qt::KeyboardModifiers held = {})
     return names;
 }
 
-/// Presses Tab until the control called `name` has the focus. False if Tab does not reach it.
+/// Presses Tab until the control called `name` has the focus. Returns false if Tab does not reach
+/// it.
 inline bool tabTo(QWidget& window, const QString& name) {
     const qsizetype stops = tabStops(window).size();
     for (qsizetype step = 0; step < stops; ++step) {

@@ -47,10 +47,10 @@ TEST_P(WindowButtons, areHiddenInFullScreen) {
 TEST_P(WindowButtons, areOrderedAtTheRightOfTheTitleBand) {
     int right = 0;
     for (const QString& name : buttonNames) {
-        const QRect place = rectOf(*iconButton(name));
-        EXPECT_GT(place.left(), std::max(right, window.width() / 2));
-        EXPECT_LT(place.bottom(), 46);
-        right = place.right();
+        const QRect buttonRect = rectOf(*iconButton(name));
+        EXPECT_GT(buttonRect.left(), std::max(right, window.width() / 2));
+        EXPECT_LT(buttonRect.bottom(), 46);
+        right = buttonRect.right();
     }
     EXPECT_EQ(right + 1, window.width() - 38);
 }

@@ -13,7 +13,7 @@ public:
     /// Created by the first call; destroyed with the application.
     [[nodiscard]] static Contrast& shared();
 
-    /// False until the portal has replied, and where there is none.
+    /// False until the portal has replied, and if there is none.
     [[nodiscard]] bool isHigh() const { return high_; }
 
 Q_SIGNALS:

@@ -78,8 +78,8 @@ void paintIcon(QPainter& painter, Icon icon, const QRectF& rect, const QColor& c
     const double half = pixels / 2.0;
     const QPointF corner(std::round(device.center().x() - half),
                          std::round(device.center().y() - half));
-    const QRectF place = toDevice.inverted().mapRect(QRectF(corner, QSizeF(pixels, pixels)));
-    painter.drawPixmap(place, tinted(name, pixels, colour), QRectF(0, 0, pixels, pixels));
+    const QRectF target = toDevice.inverted().mapRect(QRectF(corner, QSizeF(pixels, pixels)));
+    painter.drawPixmap(target, tinted(name, pixels, colour), QRectF(0, 0, pixels, pixels));
 }
 
 QIcon applicationIcon() {

@@ -14,10 +14,10 @@ QRectF RiseEffect::boundingRectFor(const QRectF& source) const {
 }
 
 void RiseEffect::draw(QPainter* painter) {
-    QPoint place;
-    const QPixmap source = sourcePixmap(Qt::LogicalCoordinates, &place, NoPad);
+    QPoint offset;
+    const QPixmap source = sourcePixmap(Qt::LogicalCoordinates, &offset, NoPad);
     painter->setOpacity(presence_);
-    painter->drawPixmap(place + QPointF(0, shift(presence_)), source);
+    painter->drawPixmap(offset + QPointF(0, shift(presence_)), source);
 }
 
 }  // namespace Garden

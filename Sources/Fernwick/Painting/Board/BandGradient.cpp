@@ -102,15 +102,15 @@ BandGradient::Stops BandGradient::stopsOf(int y) const {
     constexpr int far = std::numeric_limits<int>::max() / 2;
     const quint32 tail = tailColour.rgb();
     const quint32 head = Garden::mint.rgb();
-    // Where the row's left end is between the tail (0) and the head (1).
+    // The position of the row's left end on the gradient, from the tail (0) to the head (1).
     const double start = QPointF::dotProduct(QPointF(0.5, y + 0.5) - tail_, slope_);
     if (slope_.x() == 0) {
         const bool between = start >= 0 && start <= 1;
         return {between ? -far : far, far, start < 0 ? tail : head, head};
     }
-    const auto columnOf = [&](double place) {
+    const auto columnOf = [&](double position) {
         return static_cast<int>(
-            std::ceil(std::clamp((place - start) / slope_.x(), -double{far}, double{far})));
+            std::ceil(std::clamp((position - start) / slope_.x(), -double{far}, double{far})));
     };
     return slope_.x() > 0 ? Stops{columnOf(0), columnOf(1), tail, head}
                           : Stops{columnOf(1), columnOf(0), head, tail};

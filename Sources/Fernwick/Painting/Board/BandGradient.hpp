@@ -9,8 +9,8 @@
 namespace Painting {
 
 /// The colour of the band: a linear gradient from deep green at the tail's centre to mint at the
-/// head's, regardless of the snake's way between them. A pixel depends on its place alone, not on
-/// the scanline that it is painted with.
+/// head's, regardless of the snake's path between them. A pixel depends only on its position, not
+/// on the scanline that it is painted with.
 class BandGradient {
 public:
     /// The centres of the tail's and the head's cell, in pixels; they differ.

@@ -28,7 +28,7 @@ public:
     /// some that did not.
     QRegion show(const SnakeCore::Game& game);
 
-    /// Paints the pixels of `area` at their place in the painter's coordinates. Call show() first.
+    /// Paints the pixels of `area` at the same coordinates of the painter. Call show() first.
     void paint(QPainter& painter, const QRect& area);
     /// The whole picture. Call show() first.
     [[nodiscard]] QImage image() const;

@@ -20,9 +20,10 @@ int tileEdge(int index, int count, double origin, double cell, int length) {
 
 namespace Painting {
 
-QPointF PixelGrid::centre(const SnakeCore::Cell& place) const {
+QPointF PixelGrid::centre(const SnakeCore::Cell& position) const {
     return origin +
-           QPointF(static_cast<double>(place.x) + 0.5, static_cast<double>(place.y) + 0.5) * cell;
+           QPointF(static_cast<double>(position.x) + 0.5, static_cast<double>(position.y) + 0.5) *
+               cell;
 }
 
 QRect PixelGrid::tiles(const QRect& cells) const {

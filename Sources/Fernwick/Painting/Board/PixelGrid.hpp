@@ -20,7 +20,7 @@ struct PixelGrid {
     int columns = 0;
     int rows = 0;
 
-    [[nodiscard]] QPointF centre(const SnakeCore::Cell& place) const;
+    [[nodiscard]] QPointF centre(const SnakeCore::Cell& position) const;
 
     /// The pixels assigned to a rectangle of cells. The tiles of cells are disjoint and cover the
     /// picture: tiles at the border extend to its edge.

@@ -104,12 +104,12 @@ void Backdrop::prepareFrame() {
     shadow_.reset();
     edges_.clear();
     inside_ = {};
-    const QRectF place(frame_.topLeft() * scale_, frame_.size() * scale_);
-    if (place.isEmpty()) {
+    const QRectF frameRect(frame_.topLeft() * scale_, frame_.size() * scale_);
+    if (frameRect.isEmpty()) {
         return;
     }
-    const FrameShape shape(place, scale_);
-    shadow_.emplace(shape, place, scale_);
+    const FrameShape shape(frameRect, scale_);
+    shadow_.emplace(shape, frameRect, scale_);
     inside_ = shape.bounds();
     for (const QRect& area : shape.edges()) {
         inside_ -= area;

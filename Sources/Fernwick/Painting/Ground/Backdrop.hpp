@@ -19,8 +19,8 @@ namespace Painting {
 /// they are painted: a cached image of the window would be the largest allocation in the game.
 class Backdrop {
 public:
-    /// Sets the window's size and the board's frame in it, both in points. Cheap: what depends on
-    /// them is computed when it is painted next.
+    /// Sets the window's size and the board's frame in it, both in points. Cheap: everything that
+    /// depends on them is computed at the next paint.
     void fit(const QSize& window, qreal devicePixelRatio, const QRectF& frame);
 
     /// Changes whenever fit() changes the picture.
@@ -28,8 +28,8 @@ public:
     /// The window in device pixels.
     [[nodiscard]] const QRect& bounds() const { return bounds_; }
 
-    /// Paints the device pixels of `area`, inside `bounds()`, at their place in the painter's
-    /// coordinates.
+    /// Paints the device pixels of `area`, inside `bounds()`, at the same coordinates of the
+    /// painter.
     void paint(QPainter& painter, const QRect& area);
     /// The picture of `area`, inside `bounds()`.
     [[nodiscard]] QImage image(const QRect& area);

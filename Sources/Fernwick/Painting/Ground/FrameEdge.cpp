@@ -40,12 +40,12 @@ QImage stripImage(const QImage& ground, const QRect& area, const FrameShape& sha
 
 }  // namespace
 
-Painting::FrameEdge::FrameEdge(Backdrop& ground, const QRect& place, const FrameShape& shape) {
-    const QRect visible = (place & ground.bounds()).translated(-place.topLeft());
+Painting::FrameEdge::FrameEdge(Backdrop& ground, const QRect& boardRect, const FrameShape& shape) {
+    const QRect visible = (boardRect & ground.bounds()).translated(-boardRect.topLeft());
     for (const QRect& edge : shape.edges()) {
         const QRect area = edge & visible;
         if (!area.isEmpty()) {
-            const QImage behind = ground.image(area.translated(place.topLeft()));
+            const QImage behind = ground.image(area.translated(boardRect.topLeft()));
             strips_.push_back({area.topLeft(), stripImage(behind, area, shape)});
         }
     }

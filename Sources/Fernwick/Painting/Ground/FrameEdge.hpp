@@ -16,9 +16,9 @@ class FrameEdge {
 public:
     FrameEdge() = default;
 
-    /// `place` is the board among the backdrop's device pixels; `shape` is the frame in device
-    /// pixels relative to the corner of `place`.
-    FrameEdge(Backdrop& ground, const QRect& place, const FrameShape& shape);
+    /// `boardRect` is the board among the backdrop's device pixels; `shape` is the frame in device
+    /// pixels relative to the corner of `boardRect`.
+    FrameEdge(Backdrop& ground, const QRect& boardRect, const FrameShape& shape);
 
     /// Draws what lies inside `area`, in pixels of the board's picture.
     void paint(QPainter& painter, const QRect& area) const;

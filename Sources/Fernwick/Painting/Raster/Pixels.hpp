@@ -32,7 +32,7 @@ inline constexpr quint32 ditherStepY = 2447445414U;
     return static_cast<quint32>(x) * ditherStepX + static_cast<quint32>(y) * ditherStepY;
 }
 
-/// What to add to a channel before rounding down: at least 0 and less than 1.
+/// The dither value to add to a channel before rounding down: at least 0 and less than 1.
 [[nodiscard]] inline float ditherThreshold(quint32 phase) {
     // Eight bits only, so that 255 plus the largest threshold is below 256 as a float.
     constexpr float scale = 1.0F / 256.0F;

@@ -52,7 +52,7 @@ void composeRows(QImage& image, const QRect& area, Compose& compose) {
 /// Rows per `drawImage` call: few enough for the buffer to stay in the CPU cache.
 inline constexpr int rowsPerBatch = 16;
 
-/// Draws `area`, which is in the painter's coordinates. `compose(scanline)` writes the pixels of
+/// Draws `area` of the painter. `compose(scanline)` writes the pixels of
 /// one of its rows. `buffer` is at least as wide as `area`; its height is the number of rows drawn
 /// at once.
 template <typename Compose>

@@ -9,7 +9,7 @@
 
 namespace Painting {
 
-/// Where the pixels of one axis lie between the samples of a coarser grid.
+/// Maps the pixels of one axis to positions between the samples of a coarser grid.
 class SampleAxis {
 public:
     struct Position {

@@ -30,11 +30,11 @@ BoardArea::BoardArea(Session& session, Painting::Backdrop& backdrop, QWidget* pa
 void BoardArea::placeBoard(const Painting::BoardGeometry& inArea, const QPoint& origin,
                            qreal devicePixelRatio) {
     frame_ = inArea.frame.translated(origin);
-    const QRect place = inArea.frame.toAlignedRect();
-    board_->place({inArea.cell, frame_}, place.translated(origin), devicePixelRatio);
-    board_->setGeometry(place);
-    overlay_->setGeometry(place);
-    gameOver_->setGeometry(place);
+    const QRect boardRect = inArea.frame.toAlignedRect();
+    board_->place({inArea.cell, frame_}, boardRect.translated(origin), devicePixelRatio);
+    board_->setGeometry(boardRect);
+    overlay_->setGeometry(boardRect);
+    gameOver_->setGeometry(boardRect);
 }
 
 void BoardArea::refresh() {

@@ -21,8 +21,8 @@ class BoardArea : public QWidget {
 public:
     BoardArea(Session& session, Painting::Backdrop& backdrop, QWidget* parent = nullptr);
 
-    /// Places the board; `inArea` is in points of this widget. `origin` is this widget's place in
-    /// the window, in points; `devicePixelRatio` is device pixels per point.
+    /// Places the board; `inArea` is in points of this widget. `origin` is this widget's position
+    /// in the window, in points; `devicePixelRatio` is device pixels per point.
     void placeBoard(const Painting::BoardGeometry& inArea, const QPoint& origin,
                     qreal devicePixelRatio);
     /// The board's frame in points of the window.

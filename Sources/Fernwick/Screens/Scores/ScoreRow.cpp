@@ -37,10 +37,10 @@ double digitCell(const QFontMetricsF& metrics) {
 
 void drawDigits(QPainter& painter, const QRectF& line, const QString& digits) {
     const double cell = digitCell(QFontMetricsF(painter.font()));
-    QRectF place(line.left(), line.top(), cell, line.height());
+    QRectF digitRect(line.left(), line.top(), cell, line.height());
     for (const QChar digit : digits) {
-        painter.drawText(place, Qt::AlignCenter | Qt::TextDontClip, QString(digit));
-        place.translate(cell, 0);
+        painter.drawText(digitRect, Qt::AlignCenter | Qt::TextDontClip, QString(digit));
+        digitRect.translate(cell, 0);
     }
 }
 
@@ -71,10 +71,10 @@ QSize ScoreRow::sizeHint() const {
     return {static_cast<int>(2 * horizontalPadding + rankWidth), height};
 }
 
-QRectF ScoreRow::asRead(const QRectF& place) const {
-    QRectF mirrored = place;
-    mirrored.moveRight(width() - place.left());
-    return isRightToLeft() ? mirrored : place;
+QRectF ScoreRow::asRead(const QRectF& area) const {
+    QRectF mirrored = area;
+    mirrored.moveRight(width() - area.left());
+    return isRightToLeft() ? mirrored : area;
 }
 
 void ScoreRow::paintEvent(QPaintEvent*) {

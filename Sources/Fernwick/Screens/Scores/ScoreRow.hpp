@@ -12,7 +12,7 @@ class ScoreRow : public QWidget {
 public:
     explicit ScoreRow(QWidget* parent = nullptr);
 
-    /// `rank` counts from 1. Does nothing when all three are as before.
+    /// `rank` counts from 1. Does nothing if all three are unchanged.
     void show(std::int64_t rank, const SnakeCore::HighScore& entry, bool highlighted);
 
     [[nodiscard]] QSize sizeHint() const override;
@@ -22,8 +22,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    /// `place`, mirrored in a right-to-left layout.
-    [[nodiscard]] QRectF asRead(const QRectF& place) const;
+    /// `area`, mirrored in a right-to-left layout.
+    [[nodiscard]] QRectF asRead(const QRectF& area) const;
 
     QString rank_;
     QString name_;

@@ -51,10 +51,10 @@ void SheetLayer::refresh() {
 }
 
 void SheetLayer::present() {
-    // Made on first use, so that it does not delay the first frame.
+    // Created on first use, so that it does not delay the first frame.
     if (sheet_ == nullptr) {
         sheet_ = new HighScoresView(session_, this);
-        // A click beside its controls keeps the focus inside the sheet.
+        // Keeps the focus inside the sheet after a click between its controls.
         sheet_->setFocusPolicy(Qt::ClickFocus);
     }
     focusBefore_ = window()->focusWidget();
@@ -85,9 +85,9 @@ void SheetLayer::placeSheet() {
         return;
     }
     sheet_->adjustSize();
-    QRect place(QPoint(), sheet_->size());
-    place.moveCenter(rect().center());
-    sheet_->setGeometry(place);
+    QRect sheetRect(QPoint(), sheet_->size());
+    sheetRect.moveCenter(rect().center());
+    sheet_->setGeometry(sheetRect);
 }
 
 void SheetLayer::showSheet(bool shown) {

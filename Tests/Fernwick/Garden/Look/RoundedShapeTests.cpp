@@ -10,7 +10,7 @@ namespace {
 constexpr QRectF rectangle(0, 0, 200, 100);
 constexpr double radius = 22;
 
-// Where the shape crosses the diagonal of its top left corner: the x and y of that point.
+// The coordinate, both x and y, at which the shape crosses the diagonal of its top left corner.
 double diagonalGap(const QPainterPath& shape) {
     double outside = 0;
     double inside = 50;

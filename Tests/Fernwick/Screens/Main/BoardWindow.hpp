@@ -48,7 +48,7 @@ public:
         return grab().toImage().convertToFormat(QImage::Format_RGB32);
     }
 
-    /// What the screen shows now.
+    /// A screenshot of the window.
     [[nodiscard]] QImage onScreen() {
         return screen()->grabWindow(winId()).toImage().convertToFormat(QImage::Format_RGB32);
     }
@@ -74,9 +74,9 @@ protected:
 
     void resizeEvent(QResizeEvent*) override {
         backdrop_.fit(size(), devicePixelRatioF(), frame());
-        const QRect place = frame().toAlignedRect();
-        board_->place(fitted(), place, devicePixelRatioF());
-        board_->setGeometry(place);
+        const QRect boardRect = frame().toAlignedRect();
+        board_->place(fitted(), boardRect, devicePixelRatioF());
+        board_->setGeometry(boardRect);
     }
 
 private:

@@ -53,16 +53,16 @@ protected:
     }
 
     [[nodiscard]] QPointF fillOf(const QString& buttonName) const {
-        const QRectF place = rectOf(*button(buttonName));
-        return {place.left() + 20, place.center().y()};
+        const QRectF area = rectOf(*button(buttonName));
+        return {area.left() + 20, area.center().y()};
     }
 
     void expectText(const QString& text, int tolerance) {
         SCOPED_TRACE(text.toStdString());
-        const QRect place = labelRect(text);
+        const QRect area = labelRect(text);
         const QImage seen = picture();
-        const QColor ground = colourAt(seen, place.topLeft());
-        EXPECT_LE(Look::nearestTo(over(label(text).colour(), ground), seen, place), tolerance);
+        const QColor ground = colourAt(seen, area.topLeft());
+        EXPECT_LE(Look::nearestTo(over(label(text).colour(), ground), seen, area), tolerance);
     }
 };
 

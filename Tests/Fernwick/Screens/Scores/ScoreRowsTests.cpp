@@ -88,8 +88,8 @@ TEST_F(ScoreRowsTest, highlightsOnlyTheGivenEntry) {
 
     const QList<ScoreRow*> shown = rows.findChildren<ScoreRow*>();
     for (qsizetype index = 0; index < shown.size(); ++index) {
-        const QPoint place = shown[index]->mapTo(&rows, QPoint(listWidth / 2, 4));
-        const bool differs = plain.pixel(place) != highlighted.pixel(place);
+        const QPoint point = shown[index]->mapTo(&rows, QPoint(listWidth / 2, 4));
+        const bool differs = plain.pixel(point) != highlighted.pixel(point);
         EXPECT_EQ(differs, index == 1) << index;
     }
 }

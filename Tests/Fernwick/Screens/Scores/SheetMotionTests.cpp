@@ -107,9 +107,9 @@ TEST_F(SheetMotion, startsFadingOutAtFullOpacity) {
     motion().setCurrentTime(motion().duration());
     const QImage leaving = grab();
 
-    const QRect place(sheet().mapTo(&window, QPoint()), sheet().size());
-    for (int y = place.top() - 2; y < place.bottom() + 2; ++y) {
-        for (int x = place.left() - 2; x < place.right() + 2; ++x) {
+    const QRect sheetRect(sheet().mapTo(&window, QPoint()), sheet().size());
+    for (int y = sheetRect.top() - 2; y < sheetRect.bottom() + 2; ++y) {
+        for (int x = sheetRect.left() - 2; x < sheetRect.right() + 2; ++x) {
             ASSERT_LE(Look::distance(leaving.pixelColor(x, y), up.pixelColor(x, y)), 2)
                 << x << ", " << y;
         }
