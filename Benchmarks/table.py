@@ -13,7 +13,7 @@ import goals
 
 DOCUMENT = pathlib.Path(__file__).resolve().parents[1] / "Docs/performance.md"
 BEGIN = "<!-- measured: written by Benchmarks/run -->"
-END = "<!-- end of what was measured -->"
+END = "<!-- end of measured -->"
 
 SECONDS = {"ns": 1e-9, "us": 1e-6, "ms": 1e-3, "s": 1}
 

@@ -39,8 +39,8 @@ Characters referenceCleaned(std::string_view name) {
     return characters;
 }
 
-/// Whether a space carries a combining mark. Cleaning such a name again removes the mark, so it is
-/// the exception to the rule that cleaning is idempotent.
+/// Whether any space is followed by a combining mark. Cleaning such a name again removes the mark,
+/// so it is the exception to the rule that cleaning is idempotent.
 bool hasMarkedSpace(const Characters& characters) {
     return std::ranges::any_of(characters, [](const auto& character) {
         return character.size() > 1 && isWhiteSpace(character[0]);
@@ -55,7 +55,7 @@ std::string textOf(const Characters& characters) {
     return text;
 }
 
-/// Removes a space that is the last character. A space that is part of the last character stays.
+/// Removes the last character if it is a space. A space that is only part of it stays.
 Characters withoutTrailingSpace(Characters characters) {
     if (!characters.empty() && characters.back() == std::vector<char32_t>{U' '}) {
         characters.pop_back();
@@ -69,7 +69,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string_view name(reinterpret_cast<const char*>(data), size);
     const std::string cleaned = HighScores::cleanName(name);
     const Characters expected = referenceCleaned(name);
-    require(cleaned == textOf(expected), "the name is cleaned as by the reference");
+    require(cleaned == textOf(expected), "the cleaned name equals the reference's");
     require(charactersOf(codePointsOf(cleaned)).size() <= longestName,
             "a clean name has at most 24 characters");
     if (!hasMarkedSpace(expected)) {

@@ -1,5 +1,5 @@
 """tally.py REPORT: prints how many tests passed and how many failed in a JUnit report by ctest or
-pytest. A test that did not run has failed; a report that cannot be read contains no test."""
+pytest. A test that did not run counts as failed; an unreadable report counts as no tests."""
 
 import sys
 import xml.etree.ElementTree as ElementTree

@@ -11,13 +11,13 @@
 namespace SnakeCore {
 namespace {
 
-// The snake circles in the upper 28 x 22 cells of a higher board. The rows below hold its starting
+// The snake circles in the upper 28 x 22 cells of a taller board. The rows below hold its starting
 // position and a fruit that it never reaches, so that its length does not change.
 constexpr std::int64_t columns = 28;
 constexpr std::int64_t rows = 48;
 constexpr std::int64_t cycleRows = 22;
 
-/// Up from the start to the cycle, then round it for ever.
+/// Up from the start to the cycle, then around it endlessly.
 Direction nextDirection(Cell head) {
     return head.y >= cycleRows ? Direction::up : alongCycle(head, columns, cycleRows);
 }

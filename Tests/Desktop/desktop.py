@@ -79,7 +79,7 @@ class Desktop:
         return process
 
     def _start_x_server(self):
-        # `cat` ends when its standard input is closed: also if this process is killed.
+        # `cat` exits when its standard input is closed, even if this process is killed.
         launcher = self._spawn(
             str(WITH_X_SERVER), "--framebuffer", str(self.folder),
             "sh", "-c", "echo $DISPLAY $X_SERVER_PID; exec cat",

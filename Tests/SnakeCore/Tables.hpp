@@ -7,7 +7,7 @@
 
 namespace SnakeCore {
 
-/// The JSON of an entry. Each member is JSON too and can be replaced, also by something invalid.
+/// The JSON of an entry. Each member is JSON too and can be replaced, even with invalid text.
 struct EntryText {
     std::string id = R"("0E9A3D52-6C1B-4E8F-9A57-2F4D1B6C8E30")";
     std::string name = R"("Pip")";

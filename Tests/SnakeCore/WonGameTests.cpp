@@ -31,7 +31,7 @@ TEST(WonGame, fillsA28By22BoardWithAScoreOf6120) {
     EXPECT_EQ(std::unordered_set<Cell>(game.snake().begin(), game.snake().end()).size(), 616U);
 }
 
-TEST(WonGame, isWonWithRandomDevice) {
+TEST(WonGame, canBeWonWithARandomDevice) {
     Game game(28, 22);
     while (!game.ended()) {
         game.turn(alongCycle(game));
@@ -56,7 +56,7 @@ TEST(WonGame, scoresTheLastFruitOnTheSmallestBoard) {
     EXPECT_EQ(game.food(), game.snake().front());
 }
 
-TEST(WonGame, doesNotChangeAnyMore) {
+TEST(WonGame, doesNotChangeAfterTheWin) {
     Game game = wonGame(6, 4);
     const Game before = game;
 
@@ -65,7 +65,7 @@ TEST(WonGame, doesNotChangeAnyMore) {
     EXPECT_EQ(game, before);
 }
 
-TEST(WonGame, followsTheRulesAtEveryStepOnTheWay) {
+TEST(WonGame, followsTheRulesAtEveryStep) {
     std::mt19937_64 generator(11);
     Game game(12, 10);
     while (!game.ended()) {

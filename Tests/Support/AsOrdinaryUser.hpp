@@ -5,8 +5,8 @@
 #include <filesystem>
 #include <stdexcept>
 
-/// If the test runs as root, which ignores file permissions: changes the effective user to "nobody"
-/// until destroyed, and gives it the folder with its contents.
+/// Root ignores file permissions, so if the test runs as root, this object changes the effective
+/// user to "nobody" until it is destroyed, and makes that user the owner of `folder`.
 class AsOrdinaryUser {
 public:
     explicit AsOrdinaryUser(const std::filesystem::path& folder) {

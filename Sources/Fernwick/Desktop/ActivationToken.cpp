@@ -27,7 +27,7 @@ std::vector<char*> variables;
 void reserveActivationToken() {
     const QByteArray inherited = qgetenv(variable);
     qunsetenv(variable);
-    // An array of our own, because setenv() may reallocate one that it has allocated itself.
+    // Use our own array, because setenv() may reallocate one that it has allocated.
     std::vector<char*> copy;
     for (char** other = environ; *other != nullptr; ++other) {
         copy.push_back(*other);

@@ -76,18 +76,20 @@ public:
     /// `pace()` has changed since.
     [[nodiscard]] Pace runPace() const { return runPace_; }
 
-    /// Begins a new run, also in the middle of one. Refused while a name is awaited or the sheet
-    /// is up.
+    /// Begins a new run, even during another one. Does nothing while waiting for a name or while
+    /// the sheet is open.
     void start();
-    /// Toggles between running and paused. Refused outside of a run and while the sheet is up.
+    /// Toggles between running and paused. Does nothing outside of a run or while the
+    /// sheet is open.
     void pause();
     /// Sets `pace()` and loads its best. A running timer keeps its interval until the next resume.
     void choosePace(Pace pace);
     void editName(const QString& name);
-    /// Records the finished run under `playerName()` and stores the table and the name. Refused
-    /// unless a name is awaited and is more than white space.
+    /// Records the finished run under `playerName()` and stores the table and the name. Does
+    /// nothing unless waiting for a name, or if the name is only white space.
     void saveScore();
-    /// Leaves the finished run out of the table. Refused unless a name is awaited.
+    /// Ends the name entry without recording the run. Does nothing unless waiting for a
+    /// name.
     void skipSaving();
     /// Pauses a running run and shows the sheet on the table of `pace()`.
     void openScores();

@@ -11,11 +11,11 @@ namespace {
 using SnakeCore::Direction;
 using SnakeCore::Game;
 
-// Cells of 40 pixels at whole pixels, two pixels per point.
-constexpr Painting::PixelGrid roomy{QSize(28 * 40, 22 * 40), QPointF(0, 0), 40, 2, 28, 22};
+// Cells of 40 pixels, aligned to whole pixels, at two pixels per point.
+constexpr Painting::PixelGrid largeGrid{QSize(28 * 40, 22 * 40), QPointF(0, 0), 40, 2, 28, 22};
 
 QImage painted(const Game& game) {
-    Painting::BoardPicture picture(roomy);
+    Painting::BoardPicture picture(largeGrid);
     picture.show(game);
     return picture.image();
 }
@@ -27,7 +27,7 @@ void expectColour(const QImage& picture, int x, int y, double red, double green,
     EXPECT_NEAR(channelOf(picture, x, y, 0), blue * 255, 1.1) << x << ", " << y;
 }
 
-// The mint inside a square of plain fill, in fully covered pixels. Measured in the green channel.
+// The area that is painted mint on plain fill, in pixels, measured in the green channel.
 double mintIn(const QImage& picture, const QRect& area) {
     double sum = 0;
     for (int y = area.top(); y <= area.bottom(); ++y) {
@@ -38,7 +38,7 @@ double mintIn(const QImage& picture, const QRect& area) {
     return sum / (240 - 24);
 }
 
-TEST(BoardColours, areThePlainFillBetweenTheDots) {
+TEST(BoardColours, areThoseOfTheFillBetweenTheDots) {
     const QImage picture = painted(Game(28, 22));
 
     expectColour(picture, 0, 0, 0.055, 0.095, 0.076);
@@ -63,7 +63,7 @@ TEST(BoardColours, haveADotOf1Point6PointsInTheCentreOfEveryFreeCell) {
 }
 
 TEST(BoardColours, haveDotsOfTheSameSizeOnASmallerBoard) {
-    Painting::PixelGrid small = roomy;
+    Painting::PixelGrid small = largeGrid;
     small.size /= 2;
     small.cell /= 2;
     Painting::BoardPicture picture(small);
@@ -150,7 +150,7 @@ TEST(BoardColours, leaveAGapBetweenParallelRunsOfTheSnake) {
     EXPECT_GT(channelOf(picture, x, y + 20, 8), 140);
 }
 
-TEST(BoardColours, haveEyesAheadOfTheHeadsCentreSideBySideAcrossTheDirection) {
+TEST(BoardColours, haveTwoEyesSideBySideInFrontOfTheHeadsCentre) {
     struct Look {
         Direction direction;
         QPointF first;
@@ -161,9 +161,9 @@ TEST(BoardColours, haveEyesAheadOfTheHeadsCentreSideBySideAcrossTheDirection) {
                           {Direction::left, {-0.15, -0.16}, {-0.15, 0.16}},
                           {Direction::right, {0.15, -0.16}, {0.15, 0.16}}};
     for (const Look& look : looks) {
-        const Game game = Games::going(look.direction);
+        const Game game = Games::heading(look.direction);
         const QImage picture = painted(game);
-        const QPointF head = roomy.centre(game.snake().front());
+        const QPointF head = largeGrid.centre(game.snake().front());
         for (const QPointF& eye : {look.first, look.second}) {
             const QPoint dark = (head + eye * 40 - QPointF(0.5, 0.5)).toPoint();
             EXPECT_LT(channelOf(picture, dark.x(), dark.y(), 8), 0.3 * 240);

@@ -57,7 +57,7 @@ INSTANTIATE_TEST_SUITE_P(LengthsAndScales, BoardPictureOf,
 TEST(BoardPicture, equalsTheReferencePainterInEveryDirection) {
     for (const Direction direction :
          {Direction::up, Direction::down, Direction::left, Direction::right}) {
-        const Game game = Games::going(direction);
+        const Game game = Games::heading(direction);
         const Painting::PixelGrid grid = Grids::usual(20, 1);
 
         expectLikeReference(paintedAnew(game, grid), ReferencePainter::paint(game, grid));

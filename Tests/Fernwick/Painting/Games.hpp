@@ -22,7 +22,7 @@ namespace Games {
 }
 
 /// A game whose last step was in `direction`.
-[[nodiscard]] inline SnakeCore::Game going(SnakeCore::Direction direction) {
+[[nodiscard]] inline SnakeCore::Game heading(SnakeCore::Direction direction) {
     SnakeCore::Game game(28, 22);
     if (direction == SnakeCore::Direction::left) {
         game.turn(SnakeCore::Direction::up);

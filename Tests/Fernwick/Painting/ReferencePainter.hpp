@@ -12,7 +12,7 @@ namespace ReferencePainter {
 /// `game` over the board's plain fill.
 [[nodiscard]] QImage paint(const SnakeCore::Game& game, const Painting::PixelGrid& grid);
 
-/// The same while no run is moving: blurred, at opacity 0.4 over the plain fill.
+/// The same while the snake does not move: blurred, at opacity 0.4 over the plain fill.
 [[nodiscard]] QImage paintIdle(const SnakeCore::Game& game, const Painting::PixelGrid& grid);
 
 }  // namespace ReferencePainter

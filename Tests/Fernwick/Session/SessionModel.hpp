@@ -28,7 +28,7 @@ struct SessionModel {
     [[nodiscard]] bool inRun() const {
         return phase == Session::Phase::running || phase == Session::Phase::paused;
     }
-    /// The speed buttons are disabled during a run and while a name is awaited.
+    /// The speed buttons are disabled during a run and while waiting for a name.
     [[nodiscard]] bool canChoosePace() const {
         return !inRun() && phase != Session::Phase::awaitingName;
     }

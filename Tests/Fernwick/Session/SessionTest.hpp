@@ -74,7 +74,7 @@ protected:
         }
     }
 
-    /// Plays a run to its end, where it awaits a name.
+    /// Plays a run to its end, after which the session waits for a name.
     void startAndEndRun() {
         session.start();
         endRun();

@@ -132,7 +132,7 @@ TEST_F(PreferencesFileTest, findsAndReplacesAKeyInANonCanonicalEncoding) {
     EXPECT_EQ(settingsIn(path()), settingsOf({{u"sound"_s, true}}));
 }
 
-TEST_F(PreferencesFileTest, keepsWhatAnotherProcessHasStoredSince) {
+TEST_F(PreferencesFileTest, keepsValuesThatAnotherProcessStoredMeanwhile) {
     PreferencesFile one(path());
     PreferencesFile other(path());
     EXPECT_TRUE(one.store(u"best-Swift"_s, 40));

@@ -148,8 +148,8 @@ protected:
         processEvents();
     }
 
-    /// Brings the session into `phase`. Fresh cannot be entered again, and a run that awaits a name
-    /// must be saved or skipped before the next one.
+    /// Brings the session into `phase`. `fresh` cannot be entered again, and a run that waits for a
+    /// name must be saved or skipped before the next one.
     void enterPhase(Session::Phase phase) {
         switch (phase) {
             case Session::Phase::running:

@@ -18,8 +18,8 @@ namespace Painting {
 
 /// The picture of a game at one size, on the board's plain fill. Dots, fruit and glow are cached in
 /// an image and updated where they change. The snake's band and eyes change colour on nearly every
-/// step and are composed over that image when they are painted. Every pixel depends on the current
-/// game alone: neither on earlier games nor on the areas that are painted.
+/// step and are composed over that image when they are painted. Every pixel depends only on the
+/// current game, neither on earlier games nor on the areas that are painted.
 class BoardPicture {
 public:
     explicit BoardPicture(const PixelGrid& grid);

@@ -10,7 +10,7 @@
 namespace Painting {
 
 /// The glow around the snake: its band, blurred. Blurring is linear, and the band inside a cell
-/// depends on that cell's links alone. So the glow is the sum of one blurred kernel per cell, added
+/// depends only on that cell's links. So the glow is the sum of one blurred kernel per cell, added
 /// into a coarse grid of eight samples per cell at any size of the board. A step of the snake adds
 /// and subtracts a few kernels, in integers so that no rounding error builds up.
 class GlowField {

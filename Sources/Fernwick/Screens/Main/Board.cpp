@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Of the blur while no run is moving, in points.
+/// Sigma of the blur while the snake does not move, in points.
 constexpr double idleSigma = 5;
 
 }  // namespace

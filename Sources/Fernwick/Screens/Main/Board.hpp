@@ -26,7 +26,7 @@ public:
 
     /// Shows `game`. Repaints only what differs from the game shown before.
     void setGame(const SnakeCore::Game& game);
-    /// Blurs and dims the picture: no run is moving.
+    /// Blurs and dims the picture, for the time when the snake does not move.
     void setIdle(bool idle);
     /// Draws black of this opacity, from 0 to 1, over the picture inside the rounded frame.
     void setScrim(double opacity);

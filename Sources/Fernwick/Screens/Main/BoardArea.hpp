@@ -13,8 +13,8 @@ namespace Painting {
 class Backdrop;
 }
 
-/// The space that the main screen leaves to the board, with the board in its middle and, while no
-/// run is moving, a card over it.
+/// The main screen's space for the board, with the board in its centre and, while the snake does
+/// not move, a card over it.
 class BoardArea : public QWidget {
     Q_OBJECT
 
