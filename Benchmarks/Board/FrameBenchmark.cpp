@@ -20,7 +20,7 @@ double scaleOf(const benchmark::State& state) {
 }
 
 // A run and the same run one step later. The step eats no fruit, unless it fills the board.
-std::pair<Game, Game> neighbours(std::size_t length) {
+std::pair<Game, Game> consecutiveGames(std::size_t length) {
     const std::size_t before = std::min(length, wholeBoard - 1);
     Game game = before > 4 ? Games::ofLength(before) : Game(28, 22);
     Game next = game;
@@ -41,7 +41,7 @@ void present(QImage& screen, Painting::BoardPicture& picture, const QRegion& reg
 
 // One tick: updates the picture and draws what changed.
 void frame(benchmark::State& state) {
-    const auto [before, after] = neighbours(static_cast<std::size_t>(state.range(1)));
+    const auto [before, after] = consecutiveGames(static_cast<std::size_t>(state.range(1)));
     Painting::BoardPicture picture(Screens::grid(scaleOf(state)));
     picture.show(before);
     QImage screen = picture.image();
@@ -64,7 +64,7 @@ void copyingTheFrame(benchmark::State& state) {
 }
 
 void straightforwardFrame(benchmark::State& state) {
-    const auto [before, after] = neighbours(static_cast<std::size_t>(state.range(1)));
+    const auto [before, after] = consecutiveGames(static_cast<std::size_t>(state.range(1)));
     const Painting::PixelGrid grid = Screens::grid(scaleOf(state));
     for (auto _ : state) {
         benchmark::DoNotOptimize(ReferencePainter::paint(after, grid));

@@ -1,4 +1,4 @@
-"""The game in play: its CPU time, its memory, and the latency of key presses."""
+"""CPU time, memory and key-press latency of the game during a run."""
 
 import itertools
 import json
@@ -18,13 +18,13 @@ PRESSES = 100
 POLL_SECONDS = 0.0002
 # A turn that is not visible after so many ticks counts as lost.
 TIMEOUT_TICKS = 4
-# How many steps the snake may have made since the last look.
+# How many steps the snake may make between two polls.
 MISSED_STEPS = 3
 CIRCLE = "down", "left", "up", "right"
 
 
 def cpu_share(testbed, pace):
-    """CPU time as a share of one core, while a snake of 60 cells tours the board."""
+    """CPU time as a share of one core, while a snake of 60 cells circles the board."""
     done = subprocess.run([testbed.play, pace, str(PLAY_SECONDS)], check=True, text=True,
                           env=testbed.desktop.environment, stdout=subprocess.PIPE)
     seen = json.loads(done.stdout)
@@ -77,14 +77,14 @@ class Player:
 
 def key_presses(testbed, pace):
     """Seconds from each key press until the turn is visible; None for a lost one."""
-    chance = random.Random(1)
+    generator = random.Random(1)
     tick = TICKS[pace]
     with testbed.game_at(pace):
         player = Player(testbed)
         seen = []
         for direction in itertools.islice(itertools.cycle(CIRCLE), PRESSES):
             # Spread the key presses evenly over the tick.
-            time.sleep(chance.uniform(0, tick))
+            time.sleep(generator.uniform(0, tick))
             seen.append(player.turn(direction, TIMEOUT_TICKS * tick))
             if seen[-1] is None:
                 break

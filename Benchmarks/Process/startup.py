@@ -29,7 +29,7 @@ def seconds_to_first_frame(testbed, path):
 
 
 def measure(testbed):
-    """Returns medians in seconds. The programs alternate; the first run of each is discarded, as its
+    """Returns medians in seconds. The programs alternate. The first run of each is discarded: its
     caches are cold."""
     times = {testbed.hello: [], testbed.game: []}
     for run in range(RUNS + 1):

@@ -20,16 +20,16 @@ constexpr std::array<std::string_view, 3> paces{"Gentle", "Classic", "Swift"};
 /// entries.
 std::string tableJson(std::int64_t entries) {
     constexpr std::array<std::string_view, 4> names{"Pip", "Pip Green", "Zoë", "a gardener 🌱"};
-    std::mt19937 dice(1);
+    std::mt19937 generator(1);
     std::string json = "[";
     for (std::int64_t i = 0; i < entries; ++i) {
         json += i == 0 ? "" : ",";
         json += "{\"id\":\"" + UUID::random().string() + "\",\"name\":\"";
-        json += names[dice() % names.size()];
-        json += "\",\"score\":" + std::to_string(10 * (dice() % 613)) + ",\"pace\":\"";
-        json += paces[dice() % paces.size()];
+        json += names[generator() % names.size()];
+        json += "\",\"score\":" + std::to_string(10 * (generator() % 613)) + ",\"pace\":\"";
+        json += paces[generator() % paces.size()];
         json += "\",\"date\":" + std::to_string(784598400 + 40 * i) + "." +
-                std::to_string(100000 + dice() % 900000) + "}";
+                std::to_string(100000 + generator() % 900000) + "}";
     }
     return json + "]";
 }

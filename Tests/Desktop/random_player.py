@@ -77,7 +77,7 @@ class RandomPlayer:
         return int(peak.group(1)) / KILOBYTES_PER_MEGABYTE
 
     def check(self):
-        """Pauses and checks that what is shown is consistent."""
+        """Pauses and checks that the accessible texts are consistent."""
         self._come_to_rest()
         texts = self._texts()
         state, = [text for text in texts if text in STATES]

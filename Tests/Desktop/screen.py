@@ -49,7 +49,7 @@ class Picture:
         return bytes((blue, green, red)) in self._pixels
 
     def bounds_without(self, background):
-        """Left, top, width and height of what is not background on the middle row and column.
+        """Left, top, width and height of the foreground in the middle row and column.
 
         None when there is only background. Ignores small things elsewhere, such as the pointer."""
         columns = [x for x in range(Screen.WIDTH)

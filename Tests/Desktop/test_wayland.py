@@ -64,7 +64,7 @@ def window_size(game):
 
 
 def bounds_of_game(game):
-    """Left, top, width and height of what is not the compositor's background."""
+    """Left, top, width and height of everything but the compositor's background."""
     return game.desktop.screen.picture().bounds_without(BACKGROUND)
 
 

@@ -27,8 +27,8 @@ namespace {
                       << ", " << reference.food.y << ")";
 }
 
-Direction randomDirection(std::mt19937_64& dice) {
-    return everyDirection[dice() % everyDirection.size()];
+Direction randomDirection(std::mt19937_64& generator) {
+    return everyDirection[generator() % everyDirection.size()];
 }
 
 /// The free neighbour nearest to the fruit: a player that survives long enough to grow.
@@ -54,19 +54,20 @@ Direction towardsFood(const ReferenceGame& game) {
 /// of fruits eaten.
 std::int64_t compareOneRun(std::uint64_t seed) {
     constexpr int maximumSteps = 400;
-    std::mt19937_64 dice(seed);
+    std::mt19937_64 playerGenerator(seed);
     std::mt19937_64 generator(seed + 1);
     std::mt19937_64 referenceGenerator(seed + 1);
-    const auto width = static_cast<std::int64_t>(6 + dice() % 35);
-    const auto height = static_cast<std::int64_t>(4 + dice() % 27);
-    const std::uint64_t randomShare = 1 + dice() % 60;
+    const auto width = static_cast<std::int64_t>(6 + playerGenerator() % 35);
+    const auto height = static_cast<std::int64_t>(4 + playerGenerator() % 27);
+    const std::uint64_t randomShare = 1 + playerGenerator() % 60;
     Game game(width, height);
     ReferenceGame reference(width, height);
     for (int i = 0; i < maximumSteps && !reference.ended; ++i) {
-        const bool playsAtRandom = dice() % 60 < randomShare;
-        const int turns = playsAtRandom ? static_cast<int>(dice() % 4) : 1;
+        const bool playsAtRandom = playerGenerator() % 60 < randomShare;
+        const int turns = playsAtRandom ? static_cast<int>(playerGenerator() % 4) : 1;
         for (int turn = 0; turn < turns; ++turn) {
-            const Direction wanted = playsAtRandom ? randomDirection(dice) : towardsFood(reference);
+            const Direction wanted =
+                playsAtRandom ? randomDirection(playerGenerator) : towardsFood(reference);
             game.turn(wanted);
             reference.turn(wanted);
         }

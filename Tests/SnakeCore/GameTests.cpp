@@ -43,7 +43,7 @@ TEST(Game, startsFourCellsFromTheFruitOnA28By22Board) {
     EXPECT_EQ(game.food(), (Cell{18, 11}));
 }
 
-TEST(Game, alwaysStartsTheSame) {
+TEST(Game, alwaysStartsInTheSameState) {
     EXPECT_EQ(Game(28, 22), Game(28, 22));
 }
 

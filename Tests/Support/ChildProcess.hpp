@@ -12,7 +12,7 @@ public:
     explicit ChildProcess(std::vector<std::string> command)
         : PipedProcess([&command](int output) { execute(command, output); }) {}
 
-    /// Waits for its end and returns what it has written since the last call.
+    /// Waits until the process exits and returns its output since the last call.
     [[nodiscard]] std::string output() const {
         std::string text;
         std::array<char, 4096> piece{};

@@ -79,8 +79,8 @@ public:
     /// Begins a new run, even during another one. Does nothing while waiting for a name or while
     /// the sheet is open.
     void start();
-    /// Toggles between running and paused. Does nothing outside of a run or while the
-    /// sheet is open.
+    /// Toggles between running and paused. Does nothing outside of a run or while the sheet is
+    /// open.
     void pause();
     /// Sets `pace()` and loads its best. A running timer keeps its interval until the next resume.
     void choosePace(Pace pace);
@@ -88,8 +88,7 @@ public:
     /// Records the finished run under `playerName()` and stores the table and the name. Does
     /// nothing unless waiting for a name, or if the name is only white space.
     void saveScore();
-    /// Ends the name entry without recording the run. Does nothing unless waiting for a
-    /// name.
+    /// Ends the name entry without recording the run. Does nothing unless waiting for a name.
     void skipSaving();
     /// Pauses a running run and shows the sheet on the table of `pace()`.
     void openScores();

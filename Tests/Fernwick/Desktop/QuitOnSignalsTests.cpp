@@ -42,7 +42,7 @@ TEST_P(QuitOnSignalsTest, quitsTheEventLoopWithStatus0) {
     EXPECT_EQ(QCoreApplication::exec(), 0);
 }
 
-TEST_P(QuitOnSignalsTest, exitsAtOnceBeforeThereIsAnEventLoop) {
+TEST_P(QuitOnSignalsTest, exitsImmediatelyBeforeThereIsAnEventLoop) {
     EXPECT_EXIT(
         {
             Desktop::exitOnSignals();

@@ -9,7 +9,7 @@ using Sounds = std::vector<SoundEffect>;
 
 }  // namespace
 
-TEST_F(BestAndSound, eatingAFruitPlaysPopAndStoresTheNewBestAtOnce) {
+TEST_F(BestAndSound, eatingAFruitPlaysPopAndStoresTheNewBestImmediately) {
     session.start();
 
     eatFirstFruit();

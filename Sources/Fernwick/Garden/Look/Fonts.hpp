@@ -3,8 +3,8 @@
 #include <QFont>
 
 /// The three typefaces, embedded in the program so that it looks the same on every desktop.
-/// Characters they lack come from similar fonts of the system. Sizes are in points, rounded to
-/// whole ones.
+/// Characters that they lack come from similar system fonts. Sizes are in points, rounded to
+/// integers.
 namespace Garden {
 
 /// Inter, in Normal, Medium or DemiBold; other weights use the nearest of these. `tracking` is the

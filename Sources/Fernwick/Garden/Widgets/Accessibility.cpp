@@ -27,7 +27,7 @@ public:
     }
 };
 
-// Qt's own interface for buttons presses them with animateClick(), 100 ms late.
+// Qt's own interface for buttons uses animateClick(), which delays the click by 100 ms.
 class AccessibleButton : public AccessibleWidget {
 public:
     explicit AccessibleButton(QuietButton* button) : AccessibleWidget(button), button_(button) {}

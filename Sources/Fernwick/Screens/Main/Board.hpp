@@ -24,7 +24,7 @@ public:
     void place(const Painting::BoardGeometry& inWindow, const QRect& widget,
                qreal devicePixelRatio);
 
-    /// Shows `game`. Repaints only what differs from the game shown before.
+    /// Shows `game`. Repaints only the differences from the game shown before.
     void setGame(const SnakeCore::Game& game);
     /// Blurs and dims the picture, for the time when the snake does not move.
     void setIdle(bool idle);

@@ -28,7 +28,7 @@ protected:
         return image;
     }
 
-    /// The left and right edge of what is drawn between `left` and `right`, in points.
+    /// The left and right edge of the drawing between `left` and `right`, in points.
     [[nodiscard]] static std::pair<double, double> inkBetween(const QImage& image, int left,
                                                               int right) {
         const double scale = image.devicePixelRatio();
