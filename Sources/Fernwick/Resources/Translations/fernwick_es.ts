@@ -129,22 +129,6 @@
     </message>
 </context>
 <context>
-    <name>TitleBand</name>
-    <message>
-        <source>Maximise</source>
-        <extracomment>Help for the marks of the window, as the desktops of the language say it.</extracomment>
-        <translation>Maximizar</translation>
-    </message>
-    <message>
-        <source>Minimise</source>
-        <translation>Minimizar</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Cerrar</translation>
-    </message>
-</context>
-<context>
     <name>MenuCommands</name>
     <message>
         <source>File</source>
@@ -372,6 +356,22 @@
         <source>Scores</source>
         <extracomment>Read aloud for the list of scores.</extracomment>
         <translation>Puntuaciones</translation>
+    </message>
+</context>
+<context>
+    <name>TitleBand</name>
+    <message>
+        <source>Maximise</source>
+        <extracomment>Help for the marks of the window, as the desktops of the language say it.</extracomment>
+        <translation>Maximizar</translation>
+    </message>
+    <message>
+        <source>Minimise</source>
+        <translation>Minimizar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
     </message>
 </context>
 </TS>

@@ -129,22 +129,6 @@
     </message>
 </context>
 <context>
-    <name>TitleBand</name>
-    <message>
-        <source>Maximise</source>
-        <extracomment>Help for the marks of the window, as the desktops of the language say it.</extracomment>
-        <translation>Agrandir</translation>
-    </message>
-    <message>
-        <source>Minimise</source>
-        <translation>Réduire</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Fermer</translation>
-    </message>
-</context>
-<context>
     <name>MenuCommands</name>
     <message>
         <source>File</source>
@@ -372,6 +356,22 @@
         <source>Scores</source>
         <extracomment>Read aloud for the list of scores.</extracomment>
         <translation>Scores</translation>
+    </message>
+</context>
+<context>
+    <name>TitleBand</name>
+    <message>
+        <source>Maximise</source>
+        <extracomment>Help for the marks of the window, as the desktops of the language say it.</extracomment>
+        <translation>Agrandir</translation>
+    </message>
+    <message>
+        <source>Minimise</source>
+        <translation>Réduire</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
     </message>
 </context>
 </TS>
