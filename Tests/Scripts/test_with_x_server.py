@@ -14,6 +14,11 @@ TIMEOUT = 15
 REPORT_AND_WAIT = "echo $X_SERVER_PID $$; exec sleep 1000"
 
 
+def restore_interrupt():
+    """Undoes a shell's `command &`, whose processes inherit SIGINT as ignored."""
+    signal.signal(signal.SIGINT, signal.SIG_DFL)
+
+
 @pytest.fixture
 def launch():
     launchers = []
@@ -21,7 +26,8 @@ def launch():
     def launch(*arguments):
         launchers.append(subprocess.Popen([WITH_X_SERVER, *arguments], text=True,
                                           stdin=subprocess.PIPE, stdout=subprocess.PIPE,
-                                          start_new_session=True))
+                                          start_new_session=True,
+                                          preexec_fn=restore_interrupt))
         return launchers[-1]
 
     yield launch
