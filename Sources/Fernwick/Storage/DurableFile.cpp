@@ -20,6 +20,8 @@ using Posix::retryOnInterrupt;
 
 namespace Storage {
 
+Q_LOGGING_CATEGORY(storageLog, "fernwick.storage", QtFatalMsg)
+
 namespace {
 
 constexpr std::string_view temporaryInfix = ".new-";

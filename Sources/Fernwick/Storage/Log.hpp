@@ -7,11 +7,10 @@
 namespace Storage {
 
 /// The category "fernwick.storage". Prints only when QT_LOGGING_RULES enables it.
-inline Q_LOGGING_CATEGORY(storageLog, "fernwick.storage", QtFatalMsg)
+Q_DECLARE_LOGGING_CATEGORY(storageLog)
 
-    /// Returns `succeeded`. When false, logs `step` with the error text of errno, which it
-    /// preserves.
-    inline bool logFailure(bool succeeded, const char* step) {
+/// Returns `succeeded`. When false, logs `step` with the error text of errno, which it preserves.
+inline bool logFailure(bool succeeded, const char* step) {
     if (!succeeded) {
         const int error = errno;
         qCWarning(storageLog, "%s failed: %s", step,

@@ -15,7 +15,7 @@ namespace {
 
 constexpr int leftMargin = 38;
 constexpr int rightMargin = 38;
-constexpr int markSpacing = 8;
+constexpr int buttonSpacing = 8;
 
 }  // namespace
 
@@ -28,21 +28,21 @@ TitleBand::TitleBand(QWidget* window) : QWidget(window), menuBar_(new QMenuBar(t
         margins = {margins.right(), 0, margins.left(), 0};
     }
     row->setContentsMargins(margins);
-    row->setSpacing(markSpacing);
+    row->setSpacing(buttonSpacing);
     row->addWidget(menuBar_, 0, Qt::AlignVCenter);
     row->addStretch();
-    const auto addMark = [&](Garden::IconButton* mark, auto action) {
-        row->addWidget(mark, 0, Qt::AlignVCenter);
-        marks_.append(mark);
-        connect(mark, &QAbstractButton::clicked, window, action);
+    const auto addButton = [&](Garden::IconButton* button, auto action) {
+        row->addWidget(button, 0, Qt::AlignVCenter);
+        buttons_.append(button);
+        connect(button, &QAbstractButton::clicked, window, action);
     };
-    //: Help for the marks of the window, as the desktops of the language say it.
+    //: Tooltips of the window buttons, in the words that desktops use in the language.
     maximize_ = new Garden::IconButton(Garden::Icon::windowMaximize, tr("Maximise"));
-    addMark(new Garden::IconButton(Garden::Icon::windowMinimize, tr("Minimise")),
-            &QWidget::showMinimized);
-    addMark(maximize_,
-            [window] { window->setWindowState(window->windowState() ^ Qt::WindowMaximized); });
-    addMark(new Garden::IconButton(Garden::Icon::windowClose, tr("Close")), &QWidget::close);
+    addButton(new Garden::IconButton(Garden::Icon::windowMinimize, tr("Minimise")),
+              &QWidget::showMinimized);
+    addButton(maximize_,
+              [window] { window->setWindowState(window->windowState() ^ Qt::WindowMaximized); });
+    addButton(new Garden::IconButton(Garden::Icon::windowClose, tr("Close")), &QWidget::close);
 }
 
 void TitleBand::watchWindow() {
@@ -82,8 +82,8 @@ bool TitleBand::eventFilter(QObject* watched, QEvent* event) {
 
 void TitleBand::followWindowState() {
     const bool fullScreen = window()->isFullScreen();
-    for (Garden::IconButton* mark : marks_) {
-        mark->setVisible(!fullScreen);
+    for (Garden::IconButton* button : buttons_) {
+        button->setVisible(!fullScreen);
     }
     maximize_->setIcon(window()->isMaximized() ? Garden::Icon::windowRestore
                                                : Garden::Icon::windowMaximize);

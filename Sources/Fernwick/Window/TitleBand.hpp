@@ -37,7 +37,7 @@ private:
     void openFirstMenu();
 
     QMenuBar* menuBar_;
-    QList<Garden::IconButton*> marks_;
+    QList<Garden::IconButton*> buttons_;
     Garden::IconButton* maximize_ = nullptr;
     // Alt is down and nothing else has been pressed since.
     bool altAlone_ = false;

@@ -362,7 +362,7 @@
     <name>TitleBand</name>
     <message>
         <source>Maximise</source>
-        <extracomment>Help for the marks of the window, as the desktops of the language say it.</extracomment>
+        <extracomment>Tooltips of the window buttons, in the words that desktops use in the language.</extracomment>
         <translation>Büyüt</translation>
     </message>
     <message>

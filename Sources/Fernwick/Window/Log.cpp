@@ -1,3 +1,0 @@
-#include "Window/Log.hpp"
-
-Q_LOGGING_CATEGORY(windowLog, "fernwick.window", QtFatalMsg)
