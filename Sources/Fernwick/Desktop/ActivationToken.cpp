@@ -20,7 +20,8 @@ constexpr qsizetype maximumSize = 1023;
 
 // Both are part of the environment until the process ends.
 char entry[valueOffset + maximumSize + 1] = "XDG_ACTIVATION_TOKEN=";
-std::vector<char*> variables;
+// Never destroyed: destructors of other globals may still call getenv().
+std::vector<char*>& variables = *new std::vector<char*>;
 
 }  // namespace
 
