@@ -20,10 +20,11 @@ public:
     /// The first sample begins at `origin`, in pixels. There are at least two samples; pixels
     /// outside of them take the value of the nearest one.
     SampleAxis(int pixels, int samples, double pixelsPerSample, double origin = 0) {
+        const double samplesPerPixel = 1 / pixelsPerSample;
+        const double first = (0.5 - origin) * samplesPerPixel - 0.5;
         positions_.reserve(static_cast<std::size_t>(pixels));
         for (int pixel = 0; pixel < pixels; ++pixel) {
-            const double at =
-                std::clamp((pixel + 0.5 - origin) / pixelsPerSample - 0.5, 0.0, samples - 1.0);
+            const double at = std::clamp(first + pixel * samplesPerPixel, 0.0, samples - 1.0);
             const int sample = std::min(static_cast<int>(std::floor(at)), samples - 2);
             positions_.push_back({sample, static_cast<float>(at - sample)});
         }
