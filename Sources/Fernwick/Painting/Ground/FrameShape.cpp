@@ -1,6 +1,7 @@
 #include "Painting/Ground/FrameShape.hpp"
 
 #include <QPainter>
+#include <algorithm>
 #include <cmath>
 
 #include "Garden/Look/RoundedShape.hpp"
@@ -33,11 +34,34 @@ FrameShape::FrameShape(const QRectF& frame, double scale)
       scale_(scale),
       path_(Garden::continuousRoundedRect(frame, cornerRadius * scale)) {}
 
-QRegion FrameShape::edges() const {
+std::vector<QRect> FrameShape::edges() const {
+    const QRect all = bounds();
     const int corner = static_cast<int>(std::ceil(cornerReach * cornerRadius * scale_));
-    const int edge = static_cast<int>(std::ceil(strokeWidth * scale_)) + 2;
-    return QRegion(bounds()) - bounds().marginsRemoved({corner, edge, corner, edge}) -
-           bounds().marginsRemoved({edge, corner, edge, corner});
+    const int thickness = static_cast<int>(std::ceil(strokeWidth * scale_)) + 2;
+    const QSize size(std::min(corner, all.width() / 2), std::min(corner, all.height() / 2));
+    // The three by three pieces begin at these columns and rows; the last number is the end.
+    const int columns[] = {all.left(), all.left() + size.width(),
+                           all.left() + all.width() - size.width(), all.left() + all.width()};
+    const int rows[] = {all.top(), all.top() + size.height(),
+                        all.top() + all.height() - size.height(), all.top() + all.height()};
+    std::vector<QRect> pieces;
+    for (int row = 0; row < 3; ++row) {
+        for (int column = 0; column < 3; ++column) {
+            QRect piece(QPoint(columns[column], rows[row]),
+                        QPoint(columns[column + 1] - 1, rows[row + 1] - 1));
+            if (row == 1 && column != 1) {
+                piece.setWidth(std::min(piece.width(), thickness));
+                piece.moveLeft(column == 0 ? all.left() : columns[3] - piece.width());
+            } else if (column == 1 && row != 1) {
+                piece.setHeight(std::min(piece.height(), thickness));
+                piece.moveTop(row == 0 ? all.top() : rows[3] - piece.height());
+            }
+            if ((row != 1 || column != 1) && !piece.isEmpty()) {
+                pieces.push_back(piece);
+            }
+        }
+    }
+    return pieces;
 }
 
 QRect FrameShape::bounds() const {

@@ -3,7 +3,7 @@
 #include <QImage>
 #include <QPainterPath>
 #include <QRectF>
-#include <QRegion>
+#include <vector>
 
 namespace Painting {
 
@@ -15,9 +15,9 @@ public:
     /// `frame` is in device pixels; `scale` is device pixels per point.
     FrameShape(const QRectF& frame, double scale);
 
-    /// The four corners and the edges between them, with every pixel that the fill covers partly or
-    /// the stroke touches.
-    [[nodiscard]] QRegion edges() const;
+    /// Disjoint rectangles with every pixel that the fill covers partly or the stroke touches: the
+    /// four corners and the four edges between them.
+    [[nodiscard]] std::vector<QRect> edges() const;
     /// All pixels that the frame touches, including its stroke.
     [[nodiscard]] QRect bounds() const;
 
