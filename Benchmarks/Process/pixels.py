@@ -1,6 +1,6 @@
 """Single pixels of the screen, read from the X server's framebuffer file."""
 
-from board import COLUMNS, EYE_GREEN_UP_TO, EYES, ROWS
+from board import COLUMNS, EYE_MAXIMUM_GREEN, EYES, ROWS
 from screen import BYTES_PER_PIXEL, Screen
 
 # The area of the board on the main screen of 1920 x 1080 points.
@@ -32,8 +32,8 @@ class Pixels(Screen):
 
     def shows_head(self, cell, direction):
         """Whether the snake's head is in this cell and looks in this direction."""
-        return all(self._in_cell(cell, eye)[1] <= EYE_GREEN_UP_TO for eye in EYES[direction]) and \
-            self._in_cell(cell, (0, 0))[1] > EYE_GREEN_UP_TO
+        return all(self._in_cell(cell, eye)[1] <= EYE_MAXIMUM_GREEN for eye in EYES[direction]) and \
+            self._in_cell(cell, (0, 0))[1] > EYE_MAXIMUM_GREEN
 
     def _in_cell(self, cell, offset):
         return self.colour(FIRST_X + (cell[0] + 0.5 + offset[0]) * CELL,
