@@ -1,6 +1,7 @@
 #include "SnakeCore/Game.hpp"
 
 #include <algorithm>
+#include <utility>
 
 #include "SnakeCore/Detail/Checked.hpp"
 
@@ -12,7 +13,6 @@ constexpr std::int64_t minimumHeight = 4;
 constexpr std::int64_t startingLength = 4;
 constexpr std::int64_t firstFruitDistance = 4;
 constexpr std::int64_t pointsPerFruit = 10;
-constexpr std::size_t maximumQueuedTurns = 2;
 
 }  // namespace
 
@@ -27,12 +27,10 @@ Game::Game(std::int64_t width, std::int64_t height)
 }
 
 void Game::turn(Direction direction) {
-    if (turns_.size() == maximumQueuedTurns) {
-        return;
-    }
-    const Direction reference = turns_.empty() ? direction_ : turns_.back();
-    if (direction != reference && !opposite(direction, reference)) {
-        turns_.push_back(direction);
+    auto& [next, afterNext] = turns_;
+    const Direction reference = next.value_or(direction_);
+    if (!afterNext && direction != reference && !opposite(direction, reference)) {
+        (next ? afterNext : next) = direction;
     }
 }
 
@@ -46,10 +44,9 @@ bool Game::advance() {
     if (ended_) {
         return false;
     }
-    if (!turns_.empty()) {
-        direction_ = turns_.front();
-        turns_.erase(turns_.begin());
-    }
+    auto& [next, afterNext] = turns_;
+    direction_ = next.value_or(direction_);
+    next = std::exchange(afterNext, std::nullopt);
     const Cell offset = stepVector(direction_);
     const Cell head{Detail::checkedSum(snake_.front().x, offset.x),
                     Detail::checkedSum(snake_.front().y, offset.y)};

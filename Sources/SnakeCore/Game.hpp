@@ -1,9 +1,10 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <deque>
+#include <optional>
 #include <random>
-#include <vector>
 
 #include "SnakeCore/Cell.hpp"
 #include "SnakeCore/Detail/Occupancy.hpp"
@@ -73,8 +74,8 @@ private:
     std::deque<Cell> snake_;
     Cell food_;
     std::int64_t score_ = 0;
-    /// Oldest first. Two, so that two quick key presses between steps both count.
-    std::vector<Direction> turns_;
+    /// The turns of the next two steps, so that two quick key presses between steps both count.
+    std::array<std::optional<Direction>, 2> turns_;
     Direction direction_ = Direction::right;
     bool ended_ = false;
     bool won_ = false;

@@ -7,7 +7,8 @@
 #include <functional>
 #include <utility>
 
-#include "SnakeCore/Detail/Table.hpp"
+#include "SnakeCore/Detail/TableReader.hpp"
+#include "SnakeCore/Detail/TableWriter.hpp"
 #include "SnakeCore/Detail/Utf8.hpp"
 #include "SnakeCore/Graphemes.hpp"
 
