@@ -6,6 +6,7 @@
 #include <iterator>
 #include <string>
 
+#include "Fernwick/Storage/StoreNow.hpp"
 #include "Require.hpp"
 #include "Storage/PreferencesFile.hpp"
 #include "Support/TemporaryFolder.hpp"
@@ -68,7 +69,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     PreferencesFile preferences(path);
     readEverySetting(preferences);
     require(contentOf(path) == content, "reading does not change the file");
-    if (!preferences.store(u"player-name"_s, u"Pip"_s)) {
+    if (!storeNow(preferences, u"player-name"_s, u"Pip"_s)) {
         require(contentOf(path) == content, "a failed store does not change the file");
         return 0;
     }

@@ -34,7 +34,10 @@ void trimHeap() {
 int main(int, char* argv[]) {
     Desktop::exitOnSignals();
     const std::filesystem::path settings = Storage::PreferencesFile::defaultPath();
-    Desktop::SingleInstance singleInstance(settings);
+    // Static objects are destroyed by exit() too, which Qt calls when the X server has crashed. The
+    // preferences are destroyed first and wait for the disk, so that a later start reads what this
+    // one has written.
+    static Desktop::SingleInstance singleInstance(settings);
     if (singleInstance.role() == Desktop::SingleInstance::Role::second) {
         return 0;
     }
@@ -51,7 +54,7 @@ int main(int, char* argv[]) {
     applyGardenStyle();
 
     const Desktop::QuitOnSignals quitOnSignals;
-    Storage::PreferencesFile preferences(settings);
+    static Storage::PreferencesFile preferences(settings);
     Sound::PulseSoundEffects soundEffects(applicationID.toUtf8());
     FernwickApp fernwick(preferences, soundEffects);
     QObject::connect(&fernwick.window(), &GameWindow::appeared, &fernwick, [&] {
@@ -64,7 +67,7 @@ int main(int, char* argv[]) {
     QObject::connect(&singleInstance, &Desktop::SingleInstance::activationRequested, &fernwick,
                      &FernwickApp::bringForward);
     QObject::connect(&application, &QApplication::aboutToQuit, &singleInstance,
-                     &Desktop::SingleInstance::release);
+                     &Desktop::SingleInstance::stopListening);
     singleInstance.listen();
     fernwick.show();
     return QApplication::exec();

@@ -57,6 +57,11 @@ QByteArray inheritedActivationToken() {
     return token.isEmpty() ? qgetenv("DESKTOP_STARTUP_ID") : token;
 }
 
+FileDescriptor acceptConnection(const FileDescriptor& listener) {
+    return FileDescriptor(Posix::retryOnInterrupt(
+        [&] { return ::accept4(listener.number(), nullptr, nullptr, SOCK_CLOEXEC); }));
+}
+
 enum class Reply { acknowledged, timedOut, closed, otherUser };
 
 /// Sends the instance that has bound `address` an activation request.
@@ -85,7 +90,8 @@ Reply requestActivation(const LocalAddress& address) {
 }  // namespace
 
 SingleInstance::SingleInstance(const fs::path& settings) {
-    constexpr auto timeout = std::chrono::seconds(1);
+    // An instance that is about to end may wait five seconds for the disk.
+    constexpr auto timeout = std::chrono::seconds(6);
     constexpr auto pause = std::chrono::milliseconds(2);
     constexpr int backlog = 16;
     const LocalAddress address(socketName(settings));
@@ -117,7 +123,7 @@ SingleInstance::SingleInstance(const fs::path& settings) {
                 qCWarning(instanceLog, "unknown: another user has bound the socket");
                 return;
             case Reply::closed:
-                // The other process is between bind() and listen(), or has just ended.
+                // The other process is between bind() and listen(), or about to end.
                 std::this_thread::sleep_for(pause);
         }
     } while (std::chrono::steady_clock::now() < deadline);
@@ -132,15 +138,16 @@ void SingleInstance::listen() {
     connect(notifier_.get(), &QSocketNotifier::activated, this, &SingleInstance::acceptRequest);
 }
 
-void SingleInstance::release() {
+void SingleInstance::stopListening() {
     notifier_.reset();
-    listener_.close();
-    role_ = Role::unknown;
+    ::shutdown(listener_.number(), SHUT_RDWR);
+    while (acceptConnection(listener_).valid()) {
+        // Closed at once: the other process tries again.
+    }
 }
 
 void SingleInstance::acceptRequest() {
-    const FileDescriptor connection(Posix::retryOnInterrupt(
-        [&] { return ::accept4(listener_.number(), nullptr, nullptr, SOCK_CLOEXEC); }));
+    const FileDescriptor connection = acceptConnection(listener_);
     if (!connection.valid() || !isSameUser(connection)) {
         return;
     }

@@ -21,11 +21,12 @@ public:
     enum class Role {
         first,   ///< this process has bound the socket
         second,  ///< another instance has, and has been sent an activation request
-        unknown  ///< neither: the socket failed, another user has bound it, or it was released
+        unknown  ///< neither: the socket failed, or another user has bound it
     };
 
     /// `settings` is the path of the settings file, which need not exist. Waits at most a second
-    /// for the other instance. Needs no QCoreApplication.
+    /// for the other instance to respond, and six seconds for one that is about to end. Needs no
+    /// QCoreApplication.
     explicit SingleInstance(const std::filesystem::path& settings);
 
     [[nodiscard]] Role role() const { return role_; }
@@ -33,8 +34,9 @@ public:
     /// Starts to handle activation requests, including those received so far. Needs the
     /// QCoreApplication.
     void listen();
-    /// Closes the socket, so that the next start becomes the first instance.
-    void release();
+    /// Refuses requests from now on, as this process is about to end. A later start waits until the
+    /// destructor or the end of the process frees the name, and becomes the first instance.
+    void stopListening();
 
 Q_SIGNALS:
     /// A later start asks for the window. `activationToken` is the one that its launcher passed,

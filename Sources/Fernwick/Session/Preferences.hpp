@@ -18,10 +18,16 @@ public:
     [[nodiscard]] std::optional<QString> text(const QString& key) const;
     [[nodiscard]] std::optional<QByteArray> bytes(const QString& key) const;
 
-    /// Stores `value` under `key` and leaves every other key alone. Returns true once the value is
-    /// durable, and false if it could not be stored: the file keeps the old value, and this process
-    /// reads the new one.
-    virtual bool store(const QString& key, const QCborValue& value) = 0;
+    /// Whether anything is stored under `key`, of whatever type.
+    [[nodiscard]] virtual bool contains(const QString& key) const = 0;
+
+    /// Stores `value` under `key` and leaves every other key alone. Returns at once: this process
+    /// reads the new value from now on, and it becomes durable as soon as the disk allows.
+    virtual void store(const QString& key, const QCborValue& value) = 0;
+
+    /// Makes the next `store` keep a copy of all that is stored now. For a value that cannot be
+    /// understood and is about to be replaced.
+    virtual void keepCopy() = 0;
 
 protected:
     /// The value under `key`; an undefined value when absent.

@@ -22,6 +22,12 @@ SnakeCore::HighScores storedScores(const Preferences& preferences) {
                  : SnakeCore::HighScores();
 }
 
+/// Whether there is a stored table that was read as an empty one but is not.
+bool isDamaged(const Preferences& preferences, const SnakeCore::HighScores& read) {
+    return preferences.contains(highScoresKey) && read.entries().empty() &&
+           preferences.bytes(highScoresKey) != QByteArray::fromStdString(read.encoded());
+}
+
 }  // namespace
 
 Session::Session(Preferences& preferences, SoundEffects& soundEffects, Step step)
@@ -32,6 +38,7 @@ Session::Session(Preferences& preferences, SoundEffects& soundEffects, Step step
       best_(preferences.integer(bestKey(pace_))),
       sound_(preferences.boolean(soundKey).value_or(true)),
       scores_(storedScores(preferences)),
+      storedScoresAreDamaged_(isDamaged(preferences, scores_)),
       playerName_(preferences.text(playerNameKey).value_or(QString())),
       runID_(SnakeCore::UUID::random()) {}
 
@@ -86,7 +93,11 @@ void Session::saveScore() {
         return;
     }
     try {
-        preferences_.store(highScoresKey, QByteArray::fromStdString(scores_.encoded()));
+        const std::string encoded = scores_.encoded();
+        if (std::exchange(storedScoresAreDamaged_, false)) {
+            preferences_.keepCopy();
+        }
+        preferences_.store(highScoresKey, QByteArray::fromStdString(encoded));
     } catch (const std::exception&) {
         // The next save that succeeds stores this entry, too.
     }

@@ -85,8 +85,9 @@ public:
     /// Sets `pace()` and loads its best. A running timer keeps its interval until the next resume.
     void choosePace(Pace pace);
     void editName(const QString& name);
-    /// Records the finished run under `playerName()` and stores the table and the name. Does
-    /// nothing unless waiting for a name, or if the name is only white space.
+    /// Records the finished run under `playerName()` and stores the table and the name. A stored
+    /// table that could not be read is copied first. Does nothing unless waiting for a name, or if
+    /// the name is only white space.
     void saveScore();
     /// Ends the name entry without recording the run. Does nothing unless waiting for a name.
     void skipSaving();
@@ -119,6 +120,7 @@ private:
     std::int64_t best_;
     bool sound_;
     SnakeCore::HighScores scores_;
+    bool storedScoresAreDamaged_;
     QString playerName_;
     bool showingScores_ = false;
     Pace scorePace_ = Pace::classic;

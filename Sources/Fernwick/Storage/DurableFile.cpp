@@ -28,18 +28,22 @@ constexpr std::string_view temporaryInfix = ".new-";
 constexpr std::string_view temporaryPlaceholder = "XXXXXX";
 constexpr std::string_view asideInfix = ".unreadable-";
 
-/// Stops after 40 links, like the kernel.
-fs::path followLinks(fs::path path) {
+/// The file that `link` leads to, which need not exist. `link` itself if that is not a regular
+/// file, because replacing a device, a socket or a folder would do harm, or after 40 links, which
+/// is the kernel's limit.
+fs::path followLinks(const fs::path& link) {
     constexpr int maximumLinks = 40;
+    fs::path path = link;
     std::error_code error;
-    for (int link = 0; link < maximumLinks && fs::is_symlink(path, error); ++link) {
+    for (int count = 0; count < maximumLinks && fs::is_symlink(path, error); ++count) {
         const fs::path target = fs::read_symlink(path, error);
         if (error) {
             break;
         }
         path = path.parent_path() / target;
     }
-    return path;
+    const fs::file_type type = fs::symlink_status(path, error).type();
+    return type == fs::file_type::regular || type == fs::file_type::not_found ? path : link;
 }
 
 DurableFile::State stateAfterOpenError(int error) {
@@ -119,7 +123,7 @@ bool sameFile(const fs::path& one, const fs::path& other) {
 DurableFile::DurableFile(const fs::path& path) : path_(followLinks(path)) {}
 
 DurableFile::Reading DurableFile::read(qsizetype maximumSize) const {
-    const FileDescriptor file = Posix::openFile(path_.c_str(), O_RDONLY);
+    const FileDescriptor file = Posix::openFile(path_.c_str(), O_RDONLY | O_NOFOLLOW);
     if (!file.valid()) {
         const State state = stateAfterOpenError(errno);
         logFailure(state == State::absent, "open");

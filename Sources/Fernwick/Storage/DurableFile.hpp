@@ -7,8 +7,8 @@
 namespace Storage {
 
 /// A small file that is replaced atomically: a reader, also after a crash or power failure, finds
-/// either the old content or the new. A symbolic link is followed, so that the link survives and
-/// its target is replaced. Failing steps are logged with their errno.
+/// either the old content or the new. A symbolic link to a regular file is followed, so that the
+/// link survives and its target is replaced. Failing steps are logged with their errno.
 class DurableFile {
 public:
     enum class State {
@@ -24,7 +24,7 @@ public:
 
     explicit DurableFile(const std::filesystem::path& path);
 
-    /// The path given, with symbolic links resolved.
+    /// The path given, with symbolic links to a regular file resolved.
     [[nodiscard]] const std::filesystem::path& path() const { return path_; }
 
     /// Reads up to `maximumSize` bytes. Never blocks on a named pipe or a device.

@@ -64,6 +64,10 @@ QByteArray PreferencesDocument::encoded() const {
     return bytes;
 }
 
+bool PreferencesDocument::contains(const QString& key) const {
+    return entries_.contains(encodedKey(key));
+}
+
 QCborValue PreferencesDocument::value(const QString& key) const {
     const auto entry = entries_.find(encodedKey(key));
     if (entry == entries_.end()) {

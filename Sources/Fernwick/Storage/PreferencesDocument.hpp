@@ -22,6 +22,8 @@ public:
     /// Deterministic: equal documents give equal bytes. Does not check the limits of `read`.
     [[nodiscard]] QByteArray encoded() const;
 
+    /// Whether there is a value under `key`, of whatever type.
+    [[nodiscard]] bool contains(const QString& key) const;
     /// The value under `key`; undefined when absent, and for an array, map or tagged value.
     [[nodiscard]] QCborValue value(const QString& key) const;
 

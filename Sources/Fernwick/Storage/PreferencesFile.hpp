@@ -1,21 +1,25 @@
 #pragma once
 
+#include <chrono>
 #include <filesystem>
+#include <memory>
 
 #include "Session/Preferences.hpp"
 #include "Storage/PreferencesDocument.hpp"
 
 namespace Storage {
 
-/// Preferences in one small file, replaced atomically and durably by every `store`. Several
-/// processes may share it: `store` re-reads the file under a lock and changes one key. A value that
-/// could not be written is kept in memory and written by the next `store`, or on destruction. Waits
-/// at most 200 ms for another process. Logs to "fernwick.storage".
+class PreferencesWriter;
+
+/// Preferences in one small file, which a thread replaces atomically and durably after each
+/// `store`. Values that could not be written are tried again every few seconds, after the next
+/// `store` and on destruction, which waits for the disk for at most five seconds.
 class PreferencesFile final : public Preferences {
 public:
     /// Reads the file at `path`, which need not exist. With an empty path the settings are
     /// kept in memory only.
-    explicit PreferencesFile(std::filesystem::path path);
+    explicit PreferencesFile(const std::filesystem::path& path,
+                             std::chrono::milliseconds retryInterval = std::chrono::seconds(3));
     PreferencesFile(const PreferencesFile&) = delete;
     PreferencesFile& operator=(const PreferencesFile&) = delete;
     ~PreferencesFile() override;
@@ -24,18 +28,21 @@ public:
     /// ~/.config. Empty if the user has no home folder.
     [[nodiscard]] static std::filesystem::path defaultPath();
 
-    bool store(const QString& key, const QCborValue& value) override;
+    [[nodiscard]] bool contains(const QString& key) const override { return known_.contains(key); }
+    void store(const QString& key, const QCborValue& value) override;
+    void keepCopy() override { keepCopy_ = true; }
+
+    /// Waits until every value stored so far is durable, and returns true. Returns false once an
+    /// attempt to write them has failed, after `timeout`, and without a file.
+    [[nodiscard]] bool flush(std::chrono::milliseconds timeout) const;
 
 protected:
     [[nodiscard]] QCborValue value(const QString& key) const override { return known_.value(key); }
 
 private:
-    [[nodiscard]] bool writeUnsaved();
-
-    std::filesystem::path path_;
-    PreferencesDocument known_;    ///< as last read or stored, including unsaved values
-    PreferencesDocument unsaved_;  ///< values that may not be in the file yet
-    bool loaded_ = true;  ///< false while the file is one that the constructor could not read
+    PreferencesDocument known_;  ///< as read at the start and changed by this process
+    bool keepCopy_ = false;      ///< of the file that the next store replaces
+    std::unique_ptr<PreferencesWriter> writer_;
 };
 
 }  // namespace Storage

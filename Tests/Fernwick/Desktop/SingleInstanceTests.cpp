@@ -117,24 +117,33 @@ TEST_F(SingleInstanceTest, aStartAfterAKillIsTheFirst) {
     }
 }
 
-TEST_F(SingleInstanceTest, aStartAfterReleaseIsTheFirst) {
-    SingleInstance leaving(settings());
-    leaving.release();
+TEST_F(SingleInstanceTest, aStartWaitsForAnInstanceThatIsAboutToEnd) {
+    std::optional<SingleInstance> leaving(settings());
+    leaving->stopListening();
+    ForkedProcess waiting([&](const auto& report) {
+        leaving.reset();
+        start()(report);
+    });
 
-    EXPECT_EQ(SingleInstance(settings()).role(), Role::first);
+    std::this_thread::sleep_for(std::chrono::milliseconds(1500));
+    EXPECT_FALSE(waiting.hasReported());
+    leaving.reset();
+
+    EXPECT_EQ(roleOf(waiting), Role::first);
 }
 
-TEST_F(SingleInstanceTest, aStartWhoseRequestWasNotAcceptedBeforeReleaseIsTheFirst) {
+TEST_F(SingleInstanceTest, aStartWhoseRequestWasNotAcceptedBecomesTheFirstAfterTheEnd) {
     constexpr auto untilTheFirstHasStarted = std::chrono::milliseconds(50);
     // Forked before the first instance binds, or it would inherit the socket.
     const ForkedProcess waiting([&](const auto& report) {
         std::this_thread::sleep_for(untilTheFirstHasStarted);
         start()(report);
     });
-    SingleInstance leaving(settings());
-    std::this_thread::sleep_for(3 * untilTheFirstHasStarted);
-
-    leaving.release();
+    {
+        SingleInstance leaving(settings());
+        std::this_thread::sleep_for(3 * untilTheFirstHasStarted);
+        leaving.stopListening();
+    }
 
     EXPECT_EQ(roleOf(waiting), Role::first);
 }

@@ -47,13 +47,13 @@ TEST_F(BestAndSound, aHigherBestIsKept) {
 TEST_F(BestAndSound, aBestEqualToTheScoreIsNotStoredAgain) {
     preferences.store("best-Classic", 10);
     session.choosePace(session.pace());
-    const auto written = std::filesystem::last_write_time(settingsPath());
+    const auto written = std::filesystem::last_write_time(writtenSettings());
     session.start();
 
     eatFirstFruit();
 
     EXPECT_EQ(session.best(), 10);
-    EXPECT_EQ(std::filesystem::last_write_time(settingsPath()), written);
+    EXPECT_EQ(std::filesystem::last_write_time(writtenSettings()), written);
 }
 
 TEST_F(BestAndSound, theBestIsStoredUnderThePaceChosenDuringTheRun) {

@@ -217,7 +217,7 @@ TEST_F(RunLoop, aRunWithAScoreOfZeroAwaitsANameToo) {
 
     EXPECT_EQ(session.game().score(), 0);
     EXPECT_EQ(session.phase(), Session::Phase::awaitingName);
-    EXPECT_FALSE(std::filesystem::exists(settingsPath()));
+    EXPECT_FALSE(std::filesystem::exists(writtenSettings()));
 }
 
 TEST_F(RunLoop, openScoresSelectsTheChosenPaceInAnyPhase) {

@@ -17,7 +17,7 @@ TEST_F(SaveScore, doesNothingBeforeTheFirstRun) {
 
     EXPECT_FALSE(session.savedRun());
     EXPECT_TRUE(session.scores().entries().empty());
-    EXPECT_FALSE(std::filesystem::exists(settingsPath()));
+    EXPECT_FALSE(std::filesystem::exists(writtenSettings()));
 }
 
 TEST_F(SaveScore, doesNothingDuringARun) {

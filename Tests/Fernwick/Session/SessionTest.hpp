@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QTimer>
+#include <chrono>
 #include <optional>
 #include <ostream>
 #include <utility>
@@ -49,9 +50,15 @@ protected:
         return folder_.path() / "preferences.cbor";
     }
 
+    /// The path of the settings file, with everything stored so far in it.
+    [[nodiscard]] std::filesystem::path writtenSettings() const {
+        EXPECT_TRUE(preferences.flush(std::chrono::minutes(1)));
+        return settingsPath();
+    }
+
     /// The settings file, read anew.
     [[nodiscard]] Storage::PreferencesFile storedPreferences() const {
-        return Storage::PreferencesFile(settingsPath());
+        return Storage::PreferencesFile(writtenSettings());
     }
 
     [[nodiscard]] QTimer* timer() const { return session.findChild<QTimer*>(); }

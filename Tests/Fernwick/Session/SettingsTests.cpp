@@ -13,7 +13,7 @@ protected:
         Session session{preferences, sounds};
     };
 
-    [[nodiscard]] NextLaunch launchAgain() const { return NextLaunch(settingsPath()); }
+    [[nodiscard]] NextLaunch launchAgain() const { return NextLaunch(writtenSettings()); }
 };
 
 }  // namespace
@@ -36,7 +36,7 @@ TEST_F(Settings, haveDefaultsOnTheFirstLaunch) {
 }
 
 TEST_F(Settings, areNotWrittenOnTheFirstLaunch) {
-    EXPECT_FALSE(std::filesystem::exists(settingsPath()));
+    EXPECT_FALSE(std::filesystem::exists(writtenSettings()));
 }
 
 TEST_F(Settings, includeABestForEachPace) {
@@ -75,7 +75,7 @@ TEST_F(Settings, restoreSoundThatWasSwitchedBackOn) {
 TEST_F(Settings, areNotWrittenWhenTheSoundSettingIsUnchanged) {
     session.setSound(true);
 
-    EXPECT_FALSE(std::filesystem::exists(settingsPath()));
+    EXPECT_FALSE(std::filesystem::exists(writtenSettings()));
 }
 
 TEST_F(Settings, ignoreASoundSettingThatIsNotABool) {

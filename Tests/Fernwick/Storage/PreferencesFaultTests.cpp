@@ -2,6 +2,7 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 
+#include "Fernwick/Storage/StoreNow.hpp"
 #include "Storage/PreferencesFile.hpp"
 #include "Support/AsOrdinaryUser.hpp"
 #include "Support/FileContent.hpp"
@@ -55,7 +56,7 @@ TEST_P(UnreadableContent, readsAsNoSettingsAndIsSetAsideByTheNextStore) {
     EXPECT_EQ(preferences.boolean(u"sound"_s), std::nullopt);
     EXPECT_EQ(readFile(path()), GetParam());
 
-    EXPECT_TRUE(preferences.store(u"sound"_s, false));
+    EXPECT_TRUE(storeNow(preferences, u"sound"_s, false));
 
     EXPECT_EQ(settingsIn(path()), soundOff);
     EXPECT_EQ(readFile(aside()), GetParam());
@@ -77,7 +78,7 @@ TEST_F(PreferencesFault, setsAFileAsideThatIsTooLarge) {
     writeFile(path(), "");
     fs::resize_file(path(), 10'000'000'000);
 
-    EXPECT_TRUE(PreferencesFile(path()).store(u"sound"_s, false));
+    EXPECT_TRUE(storeNow(PreferencesFile(path()), u"sound"_s, false));
 
     EXPECT_EQ(settingsIn(path()), soundOff);
     EXPECT_EQ(fs::file_size(aside()), 10'000'000'000u);
@@ -86,7 +87,7 @@ TEST_F(PreferencesFault, setsAFileAsideThatIsTooLarge) {
 TEST_F(PreferencesFault, neverOverwritesAFileThatWasSetAside) {
     for (const char* content : {"first", "second", "third"}) {
         writeFile(path(), content);
-        EXPECT_TRUE(PreferencesFile(path()).store(u"sound"_s, false));
+        EXPECT_TRUE(storeNow(PreferencesFile(path()), u"sound"_s, false));
     }
 
     EXPECT_EQ(readFile(aside()), "first");
@@ -97,7 +98,7 @@ TEST_F(PreferencesFault, neverOverwritesAFileThatWasSetAside) {
 TEST_F(PreferencesFault, setsAFolderAsideThatIsInTheFilesPlace) {
     writeFile(path() / "inside", "kept");
 
-    EXPECT_TRUE(PreferencesFile(path()).store(u"sound"_s, false));
+    EXPECT_TRUE(storeNow(PreferencesFile(path()), u"sound"_s, false));
 
     EXPECT_EQ(settingsIn(path()), soundOff);
     EXPECT_EQ(readFile(aside() / "inside"), "kept");
@@ -106,7 +107,7 @@ TEST_F(PreferencesFault, setsAFolderAsideThatIsInTheFilesPlace) {
 TEST_F(PreferencesFault, doesNotBlockOnANamedPipeInTheFilesPlace) {
     ASSERT_EQ(::mkfifo(path().c_str(), 0600), 0);
 
-    EXPECT_TRUE(PreferencesFile(path()).store(u"sound"_s, false));
+    EXPECT_TRUE(storeNow(PreferencesFile(path()), u"sound"_s, false));
 
     EXPECT_EQ(settingsIn(path()), soundOff);
     EXPECT_TRUE(fs::is_fifo(aside()));
@@ -117,7 +118,7 @@ TEST_F(PreferencesFault, setsAFileAsideThatItHasNoPermissionToRead) {
     const AsOrdinaryUser ordinary(folder().parent_path());
     fs::permissions(path(), fs::perms::none);
 
-    EXPECT_TRUE(PreferencesFile(path()).store(u"sound"_s, false));
+    EXPECT_TRUE(storeNow(PreferencesFile(path()), u"sound"_s, false));
 
     EXPECT_EQ(settingsIn(path()), soundOff);
     fs::permissions(aside(), fs::perms::owner_read);
@@ -132,25 +133,25 @@ TEST_F(PreferencesFault, setsAFileAsideThatBecameReadableOnlyAfterTheStart) {
     PreferencesFile preferences(path());
     fs::permissions(path(), fs::perms::owner_read);
 
-    EXPECT_TRUE(preferences.store(u"best-Swift"_s, 10));
+    EXPECT_TRUE(storeNow(preferences, u"best-Swift"_s, 10));
 
     EXPECT_EQ(preferences.integer(u"best-Swift"_s), 10);
     EXPECT_EQ(readFile(aside()), old);
 }
 
 TEST_F(PreferencesFault, keepsTheOldFileInAFolderWithoutWritePermission) {
-    ASSERT_TRUE(PreferencesFile(path()).store(u"sound"_s, true));
+    ASSERT_TRUE(storeNow(PreferencesFile(path()), u"sound"_s, true));
     const QByteArray before = readFile(path());
     const AsOrdinaryUser ordinary(folder().parent_path());
     fs::permissions(folder(), fs::perms::owner_read | fs::perms::owner_exec);
-    PreferencesFile preferences(path());
+    PreferencesFile preferences(path(), noRetry);
 
-    EXPECT_FALSE(preferences.store(u"sound"_s, false));
+    EXPECT_FALSE(storeNow(preferences, u"sound"_s, false));
 
     EXPECT_EQ(preferences.boolean(u"sound"_s), false);
     EXPECT_EQ(readFile(path()), before);
     fs::permissions(folder(), fs::perms::owner_all);
-    EXPECT_TRUE(preferences.store(u"best-Swift"_s, 10));
+    EXPECT_TRUE(storeNow(preferences, u"best-Swift"_s, 10));
     EXPECT_EQ(settingsIn(path()), settingsOf({{u"sound"_s, false}, {u"best-Swift"_s, 10}}));
 }
 
@@ -159,7 +160,7 @@ TEST_F(PreferencesFault, storesWithALockFileThatIsReadOnly) {
     const AsOrdinaryUser ordinary(folder().parent_path());
     fs::permissions(path().native() + ".lock", fs::perms::owner_read);
 
-    EXPECT_TRUE(PreferencesFile(path()).store(u"sound"_s, false));
+    EXPECT_TRUE(storeNow(PreferencesFile(path()), u"sound"_s, false));
 }
 
 TEST_F(PreferencesFault, storesWithALockFileThatItHasNoPermissionToOpen) {
@@ -167,29 +168,29 @@ TEST_F(PreferencesFault, storesWithALockFileThatItHasNoPermissionToOpen) {
     const AsOrdinaryUser ordinary(folder().parent_path());
     fs::permissions(path().native() + ".lock", fs::perms::none);
 
-    EXPECT_TRUE(PreferencesFile(path()).store(u"sound"_s, false));
+    EXPECT_TRUE(storeNow(PreferencesFile(path()), u"sound"_s, false));
 }
 
 TEST_F(PreferencesFault, storesWithASymbolicLinkLoopInTheLockFilesPlace) {
     fs::create_symlink("preferences.cbor.lock", path().native() + ".lock");
 
-    EXPECT_TRUE(PreferencesFile(path()).store(u"sound"_s, false));
+    EXPECT_TRUE(storeNow(PreferencesFile(path()), u"sound"_s, false));
 }
 
 TEST_F(PreferencesFault, keepsTheOldFileOnAFullDiskAndWritesEverythingWithTheNextStore) {
-    PreferencesFile preferences(path());
-    ASSERT_TRUE(preferences.store(u"best-Swift"_s, 10));
+    PreferencesFile preferences(path(), noRetry);
+    ASSERT_TRUE(storeNow(preferences, u"best-Swift"_s, 10));
     const QByteArray before = readFile(path());
     {
         const FileSizeLimit full(static_cast<rlim_t>(before.size() - 1));
-        EXPECT_FALSE(preferences.store(u"best-Swift"_s, 20));
-        EXPECT_FALSE(preferences.store(u"player-name"_s, u"Ada"_s));
+        EXPECT_FALSE(storeNow(preferences, u"best-Swift"_s, 20));
+        EXPECT_FALSE(storeNow(preferences, u"player-name"_s, u"Ada"_s));
     }
     EXPECT_EQ(preferences.text(u"player-name"_s), u"Ada"_s);
     EXPECT_EQ(readFile(path()), before);
     EXPECT_EQ(namesIn(folder(), "preferences.cbor.new-").size(), 0u);
 
-    EXPECT_TRUE(preferences.store(u"sound"_s, false));
+    EXPECT_TRUE(storeNow(preferences, u"sound"_s, false));
 
     EXPECT_EQ(
         settingsIn(path()),
@@ -198,12 +199,12 @@ TEST_F(PreferencesFault, keepsTheOldFileOnAFullDiskAndWritesEverythingWithTheNex
 
 TEST_F(PreferencesFault, writesUnsavedValuesOnDestruction) {
     {
-        PreferencesFile preferences(path());
-        ASSERT_TRUE(preferences.store(u"best-Swift"_s, 10));
+        PreferencesFile preferences(path(), noRetry);
+        ASSERT_TRUE(storeNow(preferences, u"best-Swift"_s, 10));
         {
             const FileSizeLimit full(0);
-            EXPECT_FALSE(preferences.store(u"best-Swift"_s, 20));
-            EXPECT_FALSE(preferences.store(u"sound"_s, false));
+            EXPECT_FALSE(storeNow(preferences, u"best-Swift"_s, 20));
+            EXPECT_FALSE(storeNow(preferences, u"sound"_s, false));
         }
         EXPECT_EQ(settingsIn(path()), settingsOf({{u"best-Swift"_s, 10}}));
     }
@@ -224,15 +225,15 @@ TEST_F(PreferencesFault, failsToStoreInAFolderWithTooLongAPath) {
         deep += "/x";
     }
 
-    EXPECT_FALSE(PreferencesFile(deep + "/preferences.cbor").store(u"sound"_s, false));
+    EXPECT_FALSE(storeNow(PreferencesFile(deep + "/preferences.cbor"), u"sound"_s, false));
 }
 
 TEST_F(PreferencesFault, createsMissingFoldersAndFailsToStoreWhereItCannot) {
-    EXPECT_TRUE(PreferencesFile(folder() / "a/b/c/preferences.cbor").store(u"sound"_s, false));
+    EXPECT_TRUE(storeNow(PreferencesFile(folder() / "a/b/c/preferences.cbor"), u"sound"_s, false));
     writeFile(folder() / "plain", "a file");
     PreferencesFile preferences(folder() / "plain/fernwick/preferences.cbor");
 
-    EXPECT_FALSE(preferences.store(u"sound"_s, false));
+    EXPECT_FALSE(storeNow(preferences, u"sound"_s, false));
 
     EXPECT_EQ(preferences.boolean(u"sound"_s), false);
     EXPECT_EQ(settingsIn(folder() / "a/b/c/preferences.cbor"), soundOff);
@@ -241,10 +242,10 @@ TEST_F(PreferencesFault, createsMissingFoldersAndFailsToStoreWhereItCannot) {
 
 TEST_F(PreferencesFault, rewritesADeletedFileWithAllKnownSettings) {
     PreferencesFile preferences(path());
-    ASSERT_TRUE(preferences.store(u"best-Swift"_s, 10));
+    ASSERT_TRUE(storeNow(preferences, u"best-Swift"_s, 10));
     fs::remove_all(folder());
 
-    EXPECT_TRUE(preferences.store(u"sound"_s, false));
+    EXPECT_TRUE(storeNow(preferences, u"sound"_s, false));
 
     EXPECT_EQ(settingsIn(path()), settingsOf({{u"best-Swift"_s, 10}, {u"sound"_s, false}}));
 }
@@ -256,12 +257,12 @@ TEST_F(PreferencesFault, logsWhatItReadAndWhereFrom) {
     const PreferencesFile absent(path());
     EXPECT_TRUE(log.contains(expected + u"absent"_s)) << log.all().toStdString();
 
-    EXPECT_TRUE(PreferencesFile(path()).store(u"sound"_s, false));
+    EXPECT_TRUE(storeNow(PreferencesFile(path()), u"sound"_s, false));
     const PreferencesFile loaded(path());
     EXPECT_TRUE(log.contains(expected + u"loaded"_s)) << log.all().toStdString();
 
     writeFile(path(), "unreadable");
-    EXPECT_TRUE(PreferencesFile(path()).store(u"sound"_s, false));
+    EXPECT_TRUE(storeNow(PreferencesFile(path()), u"sound"_s, false));
     EXPECT_TRUE(log.contains(expected + u"unreadable"_s)) << log.all().toStdString();
     EXPECT_TRUE(log.contains(u"aside as "_s + QString::fromStdString(aside())));
 }
@@ -271,11 +272,11 @@ TEST_F(PreferencesFault, logsWhyAStoreFailed) {
     const LogCapture log(u"fernwick.storage"_s);
     {
         const FileSizeLimit full(0);
-        EXPECT_FALSE(preferences.store(u"best-Swift"_s, 20));
+        EXPECT_FALSE(storeNow(preferences, u"best-Swift"_s, 20));
     }
 
     EXPECT_TRUE(log.contains(u"write failed: File too large"_s)) << log.all().toStdString();
-    EXPECT_TRUE(log.contains(u"could not store \"best-Swift\""_s)) << log.all().toStdString();
+    EXPECT_TRUE(log.contains(u"could not store settings"_s)) << log.all().toStdString();
 }
 
 TEST_F(PreferencesFault, printsNothingUnlessTheLogIsEnabled) {
@@ -283,7 +284,7 @@ TEST_F(PreferencesFault, printsNothingUnlessTheLogIsEnabled) {
     {
         PreferencesFile preferences(path());
         const FileSizeLimit full(0);
-        EXPECT_FALSE(preferences.store(u"best-Swift"_s, 20));
+        EXPECT_FALSE(storeNow(preferences, u"best-Swift"_s, 20));
     }
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }

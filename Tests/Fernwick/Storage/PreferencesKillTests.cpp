@@ -5,6 +5,7 @@
 #include <random>
 #include <thread>
 
+#include "Fernwick/Storage/StoreNow.hpp"
 #include "Storage/PreferencesFile.hpp"
 #include "Support/EnvironmentNumber.hpp"
 #include "Support/FileContent.hpp"
@@ -46,8 +47,8 @@ protected:
 
     /// Two stores, so that a process can also be killed between them.
     [[nodiscard]] static bool save(PreferencesFile& preferences, std::int64_t count) {
-        return preferences.store(u"table"_s, tableOf(count)) &&
-               preferences.store(u"count"_s, static_cast<qint64>(count));
+        return storeNow(preferences, u"table"_s, tableOf(count)) &&
+               storeNow(preferences, u"count"_s, static_cast<qint64>(count));
     }
 
     /// The time of a save on this machine at its current load.
@@ -123,7 +124,7 @@ TEST_F(PreferencesKill, concurrentProcessesKeepEachOthersSettings) {
         return [this, key](const auto&) {
             PreferencesFile preferences(path());
             for (qint64 count = 1; count <= saves; ++count) {
-                while (!preferences.store(key, count)) {
+                while (!storeNow(preferences, key, count)) {
                 }
             }
         };
@@ -138,11 +139,11 @@ TEST_F(PreferencesKill, concurrentProcessesKeepEachOthersSettings) {
 }
 
 TEST_F(PreferencesKill, aReaderNeverSeesAPartOfASave) {
-    ASSERT_TRUE(PreferencesFile(path()).store(u"table"_s, tableOf(1)));
+    ASSERT_TRUE(storeNow(PreferencesFile(path()), u"table"_s, tableOf(1)));
     const ForkedProcess process([this](const auto&) {
         PreferencesFile preferences(path());
         for (std::int64_t count = 1;; count = count % 9 + 1) {
-            static_cast<void>(preferences.store(u"table"_s, tableOf(count)));
+            static_cast<void>(storeNow(preferences, u"table"_s, tableOf(count)));
         }
     });
     for (int time = 0; time < 300; ++time) {

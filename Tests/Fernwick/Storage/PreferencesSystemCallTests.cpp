@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <cstring>
 
+#include "Fernwick/Storage/StoreNow.hpp"
 #include "Fernwick/Storage/SystemCalls.hpp"
 #include "Storage/PreferencesFile.hpp"
 #include "Support/FileContent.hpp"
@@ -25,7 +26,7 @@ const QByteArray newTable(90000, 'n');
 /// A temporary folder in which the old table is stored.
 class Disk {
 public:
-    Disk() { EXPECT_TRUE(PreferencesFile(path()).store(table, oldTable)); }
+    Disk() { EXPECT_TRUE(storeNow(PreferencesFile(path()), table, oldTable)); }
 
     [[nodiscard]] fs::path folder() const { return folder_.path() / "fernwick"; }
     [[nodiscard]] fs::path path() const { return folder() / "preferences.cbor"; }
@@ -45,13 +46,13 @@ struct Result {
 
 Result storeNew(PreferencesFile& preferences, const SystemCalls::Plan& plan) {
     SystemCalls::watch(plan);
-    const bool stored = preferences.store(table, newTable);
+    const bool stored = storeNow(preferences, table, newTable);
     return {stored, SystemCalls::unwatch()};
 }
 
 std::vector<std::string> callsOfAStore() {
     const Disk disk;
-    PreferencesFile preferences(disk.path());
+    PreferencesFile preferences(disk.path(), noRetry);
     return storeNew(preferences, {}).calls;
 }
 
@@ -73,7 +74,7 @@ TEST_P(PreferencesSystemCall, failingOnceLeavesTheOldContentOrTheNew) {
     ASSERT_GT(count, 10u);
     for (std::size_t call = 0; call < count; ++call) {
         const Disk disk;
-        PreferencesFile preferences(disk.path());
+        PreferencesFile preferences(disk.path(), noRetry);
 
         const auto [stored, calls] =
             storeNew(preferences, {.call = call, .outcome = Outcome::fails, .error = GetParam()});
@@ -82,7 +83,7 @@ TEST_P(PreferencesSystemCall, failingOnceLeavesTheOldContentOrTheNew) {
         EXPECT_EQ(preferences.bytes(table), newTable);
         EXPECT_TRUE(disk.stored() == newTable || (!stored && disk.stored() == oldTable));
         EXPECT_TRUE(disk.isTidy());
-        EXPECT_TRUE(preferences.store(u"sound"_s, false));
+        EXPECT_TRUE(storeNow(preferences, u"sound"_s, false));
         EXPECT_EQ(disk.stored(), newTable);
         EXPECT_TRUE(disk.isTidy());
     }
@@ -92,7 +93,7 @@ TEST_P(PreferencesSystemCall, failingRepeatedlyLeavesTheOldContentOrTheNew) {
     const std::size_t count = callsOfAStore().size();
     for (std::size_t call = 0; call < count; ++call) {
         const Disk disk;
-        PreferencesFile preferences(disk.path());
+        PreferencesFile preferences(disk.path(), noRetry);
 
         const auto [stored, calls] = storeNew(
             preferences,
@@ -100,7 +101,7 @@ TEST_P(PreferencesSystemCall, failingRepeatedlyLeavesTheOldContentOrTheNew) {
 
         SCOPED_TRACE(calls[call] + ", call " + std::to_string(call));
         EXPECT_TRUE(disk.stored() == newTable || (!stored && disk.stored() == oldTable));
-        EXPECT_TRUE(preferences.store(u"sound"_s, false));
+        EXPECT_TRUE(storeNow(preferences, u"sound"_s, false));
         EXPECT_EQ(disk.stored(), newTable);
     }
 }
@@ -111,7 +112,7 @@ TEST_P(PreferencesSystemCall, isLoggedWithItsErrorWhenTheStoreFails) {
     int failures = 0;
     for (std::size_t call = 0; call < count; ++call) {
         const Disk disk;
-        PreferencesFile preferences(disk.path());
+        PreferencesFile preferences(disk.path(), noRetry);
         const LogCapture log(u"fernwick.storage"_s);
 
         const auto [stored, calls] = storeNew(
@@ -134,7 +135,7 @@ TEST(PreferencesSystemCalls, retriesInterruptedCalls) {
     const std::size_t count = callsOfAStore().size();
     for (std::size_t call = 0; call < count; ++call) {
         const Disk disk;
-        PreferencesFile preferences(disk.path());
+        PreferencesFile preferences(disk.path(), noRetry);
 
         const auto [stored, calls] =
             storeNew(preferences, {.call = call, .outcome = Outcome::fails, .error = EINTR});
@@ -146,7 +147,7 @@ TEST(PreferencesSystemCalls, retriesInterruptedCalls) {
 
 TEST(PreferencesSystemCalls, continuesAfterAShortWrite) {
     const Disk disk;
-    PreferencesFile preferences(disk.path());
+    PreferencesFile preferences(disk.path(), noRetry);
     const std::vector<std::string> calls = callsOfAStore();
     const auto write = std::find(calls.begin(), calls.end(), "write") - calls.begin();
 
@@ -164,7 +165,7 @@ TEST(PreferencesSystemCalls, storesOnAFileSystemWithoutLocks) {
     const auto flock = std::find(calls.begin(), calls.end(), "flock") - calls.begin();
     for (const int error : {ENOLCK, ENOSYS, EOPNOTSUPP}) {
         const Disk disk;
-        PreferencesFile preferences(disk.path());
+        PreferencesFile preferences(disk.path(), noRetry);
 
         EXPECT_TRUE(storeNew(preferences, {.call = static_cast<std::size_t>(flock),
                                            .outcome = Outcome::fails,
@@ -181,7 +182,7 @@ TEST(PreferencesSystemCalls, exitingAtAnyCallLeavesTheOldContentOrTheNew) {
         for (const Outcome outcome : {Outcome::exitsBefore, Outcome::exitsAfter}) {
             const Disk disk;
             ForkedProcess process([&](const auto&) {
-                PreferencesFile preferences(disk.path());
+                PreferencesFile preferences(disk.path(), noRetry);
                 static_cast<void>(storeNew(preferences, {.call = call, .outcome = outcome}));
             });
             EXPECT_EQ(process.wait(), 1);
@@ -200,7 +201,7 @@ TEST(PreferencesSystemCalls, keepsAnUnreadableFileWhicheverCallFails) {
     for (std::size_t call = 0;; ++call) {
         const Disk disk;
         writeFile(disk.path(), "unreadable");
-        PreferencesFile preferences(disk.path());
+        PreferencesFile preferences(disk.path(), noRetry);
 
         const auto [stored, calls] =
             storeNew(preferences, {.call = call, .outcome = Outcome::fails, .error = ENOSPC});
@@ -209,7 +210,7 @@ TEST(PreferencesSystemCalls, keepsAnUnreadableFileWhicheverCallFails) {
             break;
         }
         SCOPED_TRACE(calls[call] + ", call " + std::to_string(call));
-        EXPECT_TRUE(preferences.store(table, newTable));
+        EXPECT_TRUE(storeNow(preferences, table, newTable));
         EXPECT_EQ(disk.stored(), newTable);
         EXPECT_EQ(readFile(disk.path().native() + ".unreadable-1"), "unreadable");
         EXPECT_EQ(namesIn(disk.folder(), "preferences.cbor.unreadable").size(), 1u);
