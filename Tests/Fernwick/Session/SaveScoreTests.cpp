@@ -1,4 +1,7 @@
+#include <QCborArray>
+
 #include "Fernwick/Session/SessionTest.hpp"
+#include "Support/FileContent.hpp"
 
 namespace {
 
@@ -126,6 +129,43 @@ TEST_F(SaveScore, keepsEarlierEntries) {
                   .entries()
                   .size(),
               3U);
+}
+
+TEST_F(SaveScore, copiesAStoredTableThatCannotBeReadBeforeItIsReplaced) {
+    const std::vector<QCborValue> damaged{QByteArray("[{\"id\":"), QByteArray(),
+                                          QStringLiteral("[]"), QCborArray{1}};
+    for (std::size_t i = 0; i < damaged.size(); ++i) {
+        preferences.store("high-scores-v1", damaged[i]);
+        Session next(preferences, sounds);
+        next.start();
+        while (next.running()) {
+            QMetaObject::invokeMethod(next.findChild<QTimer*>(), "timeout");
+        }
+        const QByteArray before = readFile(writtenSettings());
+
+        next.editName(QStringLiteral("Ada"));
+        next.saveScore();
+
+        EXPECT_EQ(storedPreferences().bytes("high-scores-v1"),
+                  QByteArray::fromStdString(next.scores().encoded()));
+        EXPECT_EQ(readFile(writtenSettings().native() + ".unreadable-" + std::to_string(i + 1)),
+                  before);
+    }
+}
+
+TEST_F(SaveScore, copiesNothingIfTheStoredTableIsValid) {
+    preferences.store("high-scores-v1", QByteArray("[]"));
+    for (int launch = 0; launch < 2; ++launch) {
+        Session next(preferences, sounds);
+        next.start();
+        while (next.running()) {
+            QMetaObject::invokeMethod(next.findChild<QTimer*>(), "timeout");
+        }
+        next.editName(QStringLiteral("Ada"));
+        next.saveScore();
+    }
+
+    EXPECT_FALSE(std::filesystem::exists(writtenSettings().native() + ".unreadable-1"));
 }
 
 TEST_F(SaveScore, doesNothingAfterSkipping) {

@@ -113,6 +113,37 @@ TEST_F(PreferencesFault, doesNotBlockOnANamedPipeInTheFilesPlace) {
     EXPECT_TRUE(fs::is_fifo(aside()));
 }
 
+/// What a symbolic link in the file's place may lead to.
+using MakeTarget = void (*)(const fs::path&);
+
+class LinkToNoRegularFile : public PreferencesFault,
+                            public testing::WithParamInterface<MakeTarget> {};
+
+TEST_P(LinkToNoRegularFile, isSetAsideAndItsTargetStays) {
+    const fs::path target = folder() / "target";
+    GetParam()(target);
+    const fs::file_type type = fs::symlink_status(target).type();
+    fs::create_symlink("hop", path());
+    fs::create_symlink("target", folder() / "hop");
+
+    EXPECT_TRUE(storeNow(PreferencesFile(path()), u"sound"_s, false));
+
+    EXPECT_EQ(settingsIn(path()), soundOff);
+    EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(path())));
+    EXPECT_EQ(fs::read_symlink(aside()), "hop");
+    EXPECT_EQ(fs::symlink_status(target).type(), type);
+    EXPECT_EQ(namesIn(folder(), "target"), std::vector<std::string>{"target"});
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    PreferencesFault, LinkToNoRegularFile,
+    testing::Values([](const fs::path& target) { EXPECT_EQ(::mkfifo(target.c_str(), 0600), 0); },
+                    [](const fs::path& target) { fs::create_directory(target); },
+                    [](const fs::path& target) {
+                        EXPECT_EQ(::mknod(target.c_str(), S_IFSOCK | 0600, 0), 0);
+                    },
+                    [](const fs::path& target) { fs::create_symlink("target", target); }));
+
 TEST_F(PreferencesFault, setsAFileAsideThatItHasNoPermissionToRead) {
     writeFile(path(), "secret");
     const AsOrdinaryUser ordinary(folder().parent_path());
