@@ -4,6 +4,8 @@ import json
 
 import cbor2
 
+from waiting import eventually
+
 
 class Home:
     def __init__(self, folder):
@@ -21,6 +23,11 @@ class Home:
             return cbor2.loads((self._settings / "fernwick/preferences.cbor").read_bytes())
         except FileNotFoundError:
             return {}
+
+    def saved(self):
+        """All stored settings, once a score has been saved. Its name is stored last."""
+        eventually(lambda: "player-name" in self.preferences(), "the score is on disk")
+        return self.preferences()
 
     def high_scores(self):
         """The stored entries, oldest first."""

@@ -1,5 +1,7 @@
 """Saving a score under a name."""
 
+import resource
+
 from game import FRESH, MOVING, OVER, PAUSED
 from waiting import eventually
 
@@ -27,16 +29,10 @@ def save(game, name):
     game.wait_for("Score saved · Top 10")
 
 
-def written(home):
-    """The settings, once a saved score is on disk. The name is stored last."""
-    eventually(lambda: "player-name" in home.preferences(), "the score is on disk")
-    return home.preferences()
-
-
 def test_return_saves_the_table_the_name_and_the_best(game, home):
     score = end_run_over_fruit(game)
     save(game, "  Pip   of the Garden ")
-    preferences = written(home)
+    preferences = home.saved()
     assert preferences["player-name"] == "Pip of the Garden"
     assert preferences["best-Classic"] == score
     assert isinstance(preferences["high-scores-v1"], bytes)
@@ -67,10 +63,22 @@ def test_the_next_start_finds_the_best_the_name_and_the_score(launch):
     assert second.find("Player name").text == "Pip"
 
 
+def test_a_score_saved_on_a_full_disk_is_stored_once_there_is_room(game, home):
+    end_run(game)
+    resource.prlimit(game.process.pid, resource.RLIMIT_FSIZE, (0, resource.RLIM_INFINITY))
+    save(game, "Pip")
+    assert home.preferences() == {}
+    resource.prlimit(game.process.pid, resource.RLIMIT_FSIZE,
+                     (resource.RLIM_INFINITY, resource.RLIM_INFINITY))
+    home.saved()
+    game.kill()
+    assert [entry["name"] for entry in home.high_scores()] == ["Pip"]
+
+
 def test_a_run_that_ends_without_fruit_stores_no_best(game, home):
     end_run(game)
     save(game, "Pip")
-    assert "best-Classic" not in written(home)
+    assert "best-Classic" not in home.saved()
 
 
 def test_space_and_letters_are_typed_into_the_name(game):

@@ -184,6 +184,7 @@ def test_a_whole_run_can_be_played_with_actions_and_keys(game, home, listener):
     save_score.do("Press")
     wait_for_name(listener, SAVED)
     game.wait_for("01 Pip 0")
+    home.saved()
     entry, = home.high_scores()
     assert (entry["name"], entry["pace"]) == ("Pip", "Swift")
     game.find("Play again").do("Press")
