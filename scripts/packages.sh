@@ -61,6 +61,7 @@ clang-format         checks the formatting of the code
 clang-tidy           static analysis
 libgtest-dev         GoogleTest, for the unit tests
 librapidcheck-dev    property-based tests
+locales              sources of the locales that the tests of the score table run in
 strace               traces system calls and makes them fail, for tests
 devscripts           hardening-check, which inspects the released binary
 xvfb                 X server without a screen

@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <locale.h>
 
 #include <limits>
 #include <string>
@@ -92,6 +93,14 @@ TEST(TableReading, acceptsAnIntegralScoreInAnyNotation) {
     EXPECT_EQ(scoreWritten("1200e-1"), 120);
     EXPECT_EQ(scoreWritten("-0"), 0);
     EXPECT_EQ(scoreWritten("-10"), -10);
+}
+
+TEST(TableReading, leavesTheLocaleOfTheThreadAsItWas) {
+    ::uselocale(LC_GLOBAL_LOCALE);
+
+    EXPECT_EQ(dateWritten("0.5"), 0.5);
+
+    EXPECT_EQ(::uselocale(nullptr), LC_GLOBAL_LOCALE);
 }
 
 TEST(TableReading, acceptsScoresUpToTheLimits) {

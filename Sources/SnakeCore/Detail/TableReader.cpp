@@ -1,11 +1,37 @@
 #include "SnakeCore/Detail/TableReader.hpp"
 
+#include <locale.h>
+#if __has_include(<xlocale.h>)
+#include <xlocale.h>  // uselocale() on macOS
+#endif
+
 #include <cmath>
 #include <cstddef>
 #include <nlohmann/json.hpp>
 #include <utility>
 
 namespace SnakeCore::Detail {
+namespace {
+
+/// Switches the calling thread to the "C" locale until destroyed. nlohmann/json 3.11 reads numbers
+/// with strtod(), so that the locale of the process would decide about the decimal point.
+class CLocale {
+public:
+    CLocale() : before_(::uselocale(locale())) {}
+    CLocale(const CLocale&) = delete;
+    CLocale& operator=(const CLocale&) = delete;
+    ~CLocale() { ::uselocale(before_); }
+
+private:
+    static locale_t locale() {
+        static const locale_t c = ::newlocale(LC_ALL_MASK, "C", nullptr);
+        return c;
+    }
+
+    locale_t before_;
+};
+
+}  // namespace
 
 /// SAX handler that builds entries without a DOM, which would take twice as long. Returning false
 /// from a callback aborts the parse. Nesting level 1 is the table and 2 an entry; deeper levels are
@@ -146,6 +172,7 @@ std::optional<std::vector<HighScore>> readTable(std::string_view json) {
     if (json.find('\0') != std::string_view::npos) {
         return std::nullopt;
     }
+    const CLocale cLocale;
     TableReader reader;
     if (!nlohmann::json::sax_parse(json, &reader)) {
         return std::nullopt;
