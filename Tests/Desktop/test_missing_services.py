@@ -76,6 +76,13 @@ def test_prints_nothing_when_the_runtime_folder_belongs_to_another_user(launch, 
     assert game.printed() == ""
 
 
+def test_prints_nothing_with_a_stale_wayland_display_and_no_runtime_folder(launch):
+    game = launch(XDG_RUNTIME_DIR=None, WAYLAND_DISPLAY="stale-wayland-display")
+    game.start_run()
+    game.quit()
+    assert game.printed() == ""
+
+
 @pytest.mark.parametrize("missing", [
     ["sound server"],
     ["session bus"],
@@ -104,17 +111,48 @@ def test_a_whole_session_works_and_prints_nothing_without(launch, home, missing)
     assert game.printed() == ""
 
 
-@pytest.mark.parametrize("environment, message", [
-    ({"DISPLAY": ":4711"}, "could not connect to display :4711"),
-    ({"DISPLAY": ""}, "could not connect to display"),
-    ({"QT_QPA_PLATFORM": "wayland", "WAYLAND_DISPLAY": "nothing"}, "Failed to create wl_display"),
-], ids=["X server", "no X server", "Wayland"])
-def test_prints_why_it_cannot_start_without_a_display(
-        desktop, home, tmp_path, environment, message):
-    game = Game(desktop, tmp_path, desktop.environment | home.environment | environment)
+NO_DISPLAY = "cannot open a display: "
+NO_PLUGIN = "cannot find the Qt platform plugin: "
+
+
+@pytest.mark.parametrize("environment, line", [
+    ({}, NO_DISPLAY + 'DISPLAY is not set, WAYLAND_DISPLAY is not set'),
+    ({"XDG_RUNTIME_DIR": None}, NO_DISPLAY + 'DISPLAY is not set, WAYLAND_DISPLAY is not set'),
+    ({"XDG_SESSION_TYPE": "wayland"},
+     NO_DISPLAY + 'DISPLAY is not set, WAYLAND_DISPLAY is not set'),
+    ({"XDG_RUNTIME_DIR": None, "XDG_SESSION_TYPE": "wayland"},
+     NO_DISPLAY + 'DISPLAY is not set, WAYLAND_DISPLAY is not set'),
+    ({"XDG_RUNTIME_DIR": None, "WAYLAND_DISPLAY": "nothing"},
+     NO_DISPLAY + 'DISPLAY is not set, WAYLAND_DISPLAY="nothing"'),
+    ({"DISPLAY": ""}, NO_DISPLAY + 'DISPLAY="", WAYLAND_DISPLAY is not set'),
+    ({"DISPLAY": ":4711"}, NO_DISPLAY + 'DISPLAY=":4711", WAYLAND_DISPLAY is not set'),
+    ({"WAYLAND_DISPLAY": "nothing"}, NO_DISPLAY + 'DISPLAY is not set, WAYLAND_DISPLAY="nothing"'),
+    ({"DISPLAY": ":4711", "WAYLAND_DISPLAY": "nothing"},
+     NO_DISPLAY + 'DISPLAY=":4711", WAYLAND_DISPLAY="nothing"'),
+    ({"QT_QPA_PLATFORM": "wayland", "WAYLAND_DISPLAY": "nothing"},
+     NO_DISPLAY + 'QT_QPA_PLATFORM="wayland", DISPLAY is not set, WAYLAND_DISPLAY="nothing"'),
+    ({"QT_QPA_PLATFORM": "nothing"},
+     NO_PLUGIN + 'QT_QPA_PLATFORM="nothing", DISPLAY is not set, WAYLAND_DISPLAY is not set'),
+], ids=str)
+def test_without_a_display_it_prints_one_line_and_exits_with_status_1(
+        desktop, home, tmp_path, environment, line):
+    environment = desktop.environment | home.environment | {"DISPLAY": None} | environment
+    game = Game(desktop, tmp_path,
+                {name: value for name, value in environment.items() if value is not None})
     try:
-        assert game.exit_status() != 0
-        assert message in game.printed()
+        assert game.exit_status() == 1
+        assert game.printed() == f"fernwick: {line}\n"
+    finally:
+        game.kill()
+
+
+def test_names_a_display_that_cannot_be_opened_when_it_uses_another_one(desktop, home, tmp_path):
+    game = Game(desktop, tmp_path, desktop.environment | home.environment | {
+        "DISPLAY": ":4711", "QT_QPA_PLATFORM": "xcb;offscreen"})
+    try:
+        eventually(lambda: "could not connect to display :4711" in game.printed(), "it is named")
+        game.quit()
+        assert game.printed().count("could not connect to display") == 1
     finally:
         game.kill()
 

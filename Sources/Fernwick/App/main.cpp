@@ -41,11 +41,12 @@ int main(int, char* argv[]) {
     if (singleInstance.role() == Desktop::SingleInstance::Role::second) {
         return 0;
     }
-    Desktop::prepareEnvironment();
     Desktop::filterQtMessages();
+    Desktop::prepareEnvironment();
     // There is no command line: Qt gets the program's name only.
     int count = 1;
     QApplication application(count, argv);
+    Desktop::showHeldQtMessages();
     QApplication::setApplicationName(QStringLiteral("fernwick"));
     QApplication::setApplicationDisplayName(QStringLiteral("Fernwick"));
     QGuiApplication::setDesktopFileName(applicationID);

@@ -61,6 +61,19 @@ void replaceInvalidFontLanguage() {
     }
 }
 
+/// libwayland prints an error if it has no folder to look for the compositor's socket in. Qt would
+/// then try the X server.
+void avoidWaylandWithoutFolder() {
+    const bool isTried =
+        qEnvironmentVariableIsSet("WAYLAND_DISPLAY") || qgetenv("XDG_SESSION_TYPE") == "wayland";
+    const bool canConnect = qgetenv("XDG_RUNTIME_DIR").startsWith('/') ||
+                            qgetenv("WAYLAND_DISPLAY").startsWith('/') ||
+                            qEnvironmentVariableIsSet("WAYLAND_SOCKET");
+    if (isTried && !canConnect && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "xcb");
+    }
+}
+
 }  // namespace
 
 void prepareEnvironment() {
@@ -70,6 +83,7 @@ void prepareEnvironment() {
     }
     removeStaleSessionManager();
     replaceInvalidFontLanguage();
+    avoidWaylandWithoutFolder();
     if (!qEnvironmentVariableIsSet("PULSE_LOG")) {
         // libpulse prints warnings when the home or runtime folder belongs to another user.
         qputenv("PULSE_LOG_SYSLOG", "1");

@@ -1,9 +1,14 @@
 #include "Desktop/QtMessages.hpp"
 
+#include <QByteArray>
 #include <QLoggingCategory>
 #include <QString>
 #include <algorithm>
 #include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <utility>
+#include <vector>
 
 namespace Desktop {
 
@@ -22,22 +27,69 @@ constexpr std::array harmlessPrefixes{
     QLatin1String("  OpenType support missing for "),
 };
 
-/// Harmless if Qt then connects to the X server, and otherwise the reason why the program ends.
-constexpr QLatin1String waylandFailurePrefix("Failed to create wl_display");
+/// Messages about one of the displays that Qt tries.
+constexpr QLatin1String waylandFailure("Failed to create wl_display");
+constexpr QLatin1String xServerFailure("could not connect to display");
+constexpr QLatin1String missingPlugin("Could not find the Qt platform plugin");
+constexpr std::array displayFailures{waylandFailure, xServerFailure, missingPlugin};
+
+/// Part of Qt's last message when it has tried all of them.
+constexpr QLatin1String noDisplay("no Qt platform plugin could be initialized");
+
+struct Message {
+    QtMsgType type;
+    QByteArray category;
+    QString text;
+};
 
 QtMessageHandler defaultHandler = nullptr;
-QString waylandFailure;
+bool showsEverything = false;
+bool isOpeningDisplay = false;
+std::vector<Message> held;
+/// The variables that choose the display, with their values.
+QByteArray displays;
+
+bool startsWithOneOf(const auto& prefixes, const QString& message) {
+    return std::ranges::any_of(prefixes,
+                               [&](QLatin1String prefix) { return message.startsWith(prefix); });
+}
+
+void show(const Message& message) {
+    const QMessageLogContext context(nullptr, 0, nullptr, message.category.constData());
+    defaultHandler(message.type, context, message.text);
+}
+
+QByteArray withValue(const char* variable) {
+    const QByteArray value = qgetenv(variable);
+    return variable + (value.isNull() ? QByteArray(" is not set") : "=\"" + value + '"');
+}
+
+QByteArray displayVariables() {
+    const QByteArray platform =
+        qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ? withValue("QT_QPA_PLATFORM") + ", " : "";
+    return platform + withValue("DISPLAY") + ", " + withValue("WAYLAND_DISPLAY");
+}
+
+[[noreturn]] void exitWithoutDisplay() {
+    const bool hasTriedOne = std::ranges::any_of(
+        held, [](const Message& message) { return !message.text.startsWith(missingPlugin); });
+    std::fprintf(stderr, "fernwick: cannot %s: %s\n",
+                 held.empty() || hasTriedOne ? "open a display" : "find the Qt platform plugin",
+                 displays.constData());
+    // Not exit(): Qt is in the middle of making the QApplication.
+    std::_Exit(EXIT_FAILURE);
+}
 
 void filter(QtMsgType type, const QMessageLogContext& context, const QString& message) {
-    if (message.startsWith(waylandFailurePrefix)) {
-        waylandFailure = message;
-        return;
+    if (type == QtFatalMsg) {
+        if (message.contains(noDisplay)) {
+            exitWithoutDisplay();
+        }
+        std::ranges::for_each(std::exchange(held, {}), show);
     }
-    if (type == QtFatalMsg && !waylandFailure.isEmpty()) {
-        defaultHandler(QtWarningMsg, context, waylandFailure);
-    }
-    if (std::ranges::none_of(harmlessPrefixes,
-                             [&](QLatin1String prefix) { return message.startsWith(prefix); })) {
+    if (!showsEverything && isOpeningDisplay && startsWithOneOf(displayFailures, message)) {
+        held.push_back({type, context.category, message});
+    } else if (showsEverything || !startsWithOneOf(harmlessPrefixes, message)) {
         defaultHandler(type, context, message);
     }
 }
@@ -46,8 +98,18 @@ void filter(QtMsgType type, const QMessageLogContext& context, const QString& me
 
 void filterQtMessages() {
     QLoggingCategory::setFilterRules(QString::fromLatin1(rules));
-    if (!qEnvironmentVariableIsSet("QT_LOGGING_RULES")) {
-        defaultHandler = qInstallMessageHandler(filter);
+    showsEverything = qEnvironmentVariableIsSet("QT_LOGGING_RULES");
+    isOpeningDisplay = true;
+    displays = displayVariables();
+    defaultHandler = qInstallMessageHandler(filter);
+}
+
+void showHeldQtMessages() {
+    isOpeningDisplay = false;
+    for (const Message& message : std::exchange(held, {})) {
+        if (!message.text.startsWith(waylandFailure)) {
+            show(message);
+        }
     }
 }
 

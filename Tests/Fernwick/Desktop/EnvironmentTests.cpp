@@ -36,6 +36,10 @@ private:
     EnvironmentVariable pulseLog_{"PULSE_LOG", nullptr};
     EnvironmentVariable pulseLogSyslog_{"PULSE_LOG_SYSLOG", nullptr};
     EnvironmentVariable token_{"XDG_ACTIVATION_TOKEN", nullptr};
+    EnvironmentVariable platform_{"QT_QPA_PLATFORM", nullptr};
+    EnvironmentVariable sessionType_{"XDG_SESSION_TYPE", nullptr};
+    EnvironmentVariable waylandDisplay_{"WAYLAND_DISPLAY", nullptr};
+    EnvironmentVariable waylandSocket_{"WAYLAND_SOCKET", nullptr};
 };
 
 /// A socket on which a session manager could listen.
@@ -147,6 +151,39 @@ TEST_F(EnvironmentTest, takesTheLocaleInTheOrderOfFontconfig) {
     const EnvironmentVariable locale("LC_ALL", "de_DE.UTF-8");
 
     EXPECT_EQ(prepared("FC_LANG"), std::nullopt);
+}
+
+TEST_F(EnvironmentTest, choosesTheXServerIfLibwaylandHasNoFolderForItsSocket) {
+    for (const char* folder : {static_cast<const char*>(nullptr), "", "run"}) {
+        const EnvironmentVariable runtimeFolder("XDG_RUNTIME_DIR", folder);
+        const EnvironmentVariable platform("QT_QPA_PLATFORM", nullptr);
+        EXPECT_EQ(prepared("QT_QPA_PLATFORM"), std::nullopt);
+        const EnvironmentVariable display("WAYLAND_DISPLAY", "wayland-0");
+
+        EXPECT_EQ(prepared("QT_QPA_PLATFORM"), "xcb");
+    }
+    const EnvironmentVariable runtimeFolder("XDG_RUNTIME_DIR", nullptr);
+    const EnvironmentVariable sessionType("XDG_SESSION_TYPE", "wayland");
+    const EnvironmentVariable platform("QT_QPA_PLATFORM", nullptr);
+
+    EXPECT_EQ(prepared("QT_QPA_PLATFORM"), "xcb");
+}
+
+TEST_F(EnvironmentTest, leavesTheChoiceOfThePlatformToQtIfWaylandMayBeThere) {
+    const EnvironmentVariable sessionType("XDG_SESSION_TYPE", "wayland");
+    EXPECT_EQ(prepared("QT_QPA_PLATFORM"), std::nullopt);
+
+    const EnvironmentVariable runtimeFolder("XDG_RUNTIME_DIR", nullptr);
+    {
+        const EnvironmentVariable display("WAYLAND_DISPLAY", "/run/wayland-0");
+        EXPECT_EQ(prepared("QT_QPA_PLATFORM"), std::nullopt);
+    }
+    {
+        const EnvironmentVariable socket("WAYLAND_SOCKET", "3");
+        EXPECT_EQ(prepared("QT_QPA_PLATFORM"), std::nullopt);
+    }
+    const EnvironmentVariable platform("QT_QPA_PLATFORM", "offscreen");
+    EXPECT_EQ(prepared("QT_QPA_PLATFORM"), "offscreen");
 }
 
 TEST_F(EnvironmentTest, sendsMessagesOfLibpulseToSyslog) {
