@@ -4,11 +4,13 @@ As a program it prints its address for SESSION_MANAGER, then reads commands from
 and prints a line when each is done:
 
     join     waits until a client has registered
+    save     sends SaveYourself without shutdown; prints the client's RestartCommand as JSON
     logout   sends SaveYourself with shutdown, then Die
     cancel   sends SaveYourself with shutdown, then ShutdownCancelled
 """
 
 import ctypes
+import json
 import select
 import subprocess
 import sys
@@ -29,7 +31,7 @@ Callback = CFUNCTYPE(None, c_void_p, c_void_p, c_void_p, c_void_p)
 SaveRequest = CFUNCTYPE(None, c_void_p, c_void_p, c_int, c_int, c_int, c_int, c_int)
 Done = CFUNCTYPE(None, c_void_p, c_void_p, c_int)
 Close = CFUNCTYPE(None, c_void_p, c_void_p, c_int, c_void_p)
-Properties = CFUNCTYPE(None, c_void_p, c_void_p, c_int, c_void_p)
+Properties = CFUNCTYPE(None, c_void_p, c_void_p, c_int, POINTER(c_void_p))
 HostAuthentication = CFUNCTYPE(c_int, c_char_p)
 
 
@@ -41,6 +43,17 @@ class Callbacks(ctypes.Structure):
         ("close", Close), ("set_properties", Properties), ("delete_properties", Properties),
         ("get_properties", Callback),
     ) for field in ((name, kind), (f"{name}_data", c_void_p))]
+
+
+class PropertyValue(ctypes.Structure):
+    """SmPropValue of SMlib.h."""
+    _fields_ = [("length", c_int), ("value", c_void_p)]
+
+
+class Property(ctypes.Structure):
+    """SmProp of SMlib.h."""
+    _fields_ = [("name", c_char_p), ("type", c_char_p), ("count", c_int),
+                ("values", POINTER(PropertyValue))]
 
 
 ALL_CALLBACKS = (1 << 10) - 1
@@ -57,13 +70,14 @@ class SessionManager:
         self._ice.IceComposeNetworkIdList.restype = c_char_p
         self.client = None
         self.saved = self.gone = False
+        self._restart_command = None
         self._connections = []
         self._commands = []
         self._callbacks = Callbacks(
             register=RegisterClient(self._register), interact_request=Callback(lambda *_: None),
             interact_done=Callback(lambda *_: None), save_request=SaveRequest(lambda *_: None),
             phase_2_request=Callback(self._phase_2), save_done=Done(self._save_done),
-            close=Close(self._close), set_properties=Properties(lambda *_: None),
+            close=Close(self._close), set_properties=Properties(self._set_properties),
             delete_properties=Properties(lambda *_: None), get_properties=Callback(lambda *_: None))
         self._new_client = NewClient(self._accept_client)
         self._allow_all = HostAuthentication(lambda _: 1)
@@ -103,6 +117,14 @@ class SessionManager:
 
     def _save_done(self, client, _, success):
         self.saved = bool(success)
+
+    def _set_properties(self, client, _, count, addresses):
+        for number in range(count):
+            each = Property.from_address(addresses[number])
+            if each.name == b"RestartCommand":
+                self._restart_command = [
+                    ctypes.string_at(value.value, value.length).decode()
+                    for value in each.values[:each.count]]
 
     def _close(self, client, *_):
         self.gone = True
@@ -148,6 +170,11 @@ class SessionManager:
     def join(self):
         self.serve_until(lambda: self.client is not None and self.saved)
 
+    def save(self):
+        self._ask_to_save(SAVE_BOTH, False, INTERACT_NONE)
+        self.serve_until(lambda: self.saved)
+        return json.dumps(self._restart_command)
+
     def logout(self):
         self._ask_to_save(SAVE_BOTH, True, INTERACT_ANY)
         self.serve_until(lambda: self.saved)
@@ -170,12 +197,14 @@ class SessionManagerProcess:
         self.address = self._process.stdout.readline().strip()
 
     def run(self, command):
-        """Sends a command and waits until it is done."""
+        """Sends a command and waits until it is done; returns what it printed."""
         self._process.stdin.write(command + "\n")
         self._process.stdin.flush()
         done, _, _ = select.select([self._process.stdout], [], [], TIMEOUT)
         assert done, f"{command}: not done within {TIMEOUT} s"
-        assert self._process.stdout.readline() == f"{command} done\n"
+        done, _, printed = self._process.stdout.readline().strip().partition(" ")
+        assert done == command
+        return printed
 
     def stop(self):
         self._process.kill()
@@ -186,8 +215,7 @@ def main():
     manager = SessionManager()
     print(manager.address, flush=True)
     while command := manager.next_command():
-        getattr(manager, command)()
-        print(command, "done", flush=True)
+        print(command, getattr(manager, command)() or "", flush=True)
 
 
 if __name__ == "__main__":

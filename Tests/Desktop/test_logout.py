@@ -1,7 +1,9 @@
 """Logout through an XSMP session manager."""
 
+import json
+
 import pytest
-from game import OVER
+from game import OVER, PROGRAM
 from session_manager import SessionManagerProcess
 from waiting import eventually
 
@@ -62,3 +64,7 @@ def test_a_cancelled_logout_changes_nothing(game, manager):
     game.type("p")
     eventually(lambda: game.find("Player name").text == "Pip", "typing continues")
     assert game.shows(OVER)
+
+
+def test_the_session_manager_starts_the_program_again_without_arguments(manager, game):
+    assert json.loads(manager.run("save")) == [PROGRAM]

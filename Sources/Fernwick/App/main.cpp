@@ -1,14 +1,17 @@
 #include <QApplication>
 #include <QLocale>
 #include <cstdlib>
+#include <optional>
 
 #include "App/ApplicationStyle.hpp"
+#include "App/CommandLine.hpp"
 #include "App/FernwickApp.hpp"
 #include "App/Language.hpp"
 #include "Desktop/DBusActivation.hpp"
 #include "Desktop/Environment.hpp"
 #include "Desktop/QtMessages.hpp"
 #include "Desktop/QuitOnSignals.hpp"
+#include "Desktop/SessionRestart.hpp"
 #include "Desktop/SingleInstance.hpp"
 #include "Sound/PulseSoundEffects.hpp"
 #include "Storage/PreferencesFile.hpp"
@@ -31,7 +34,10 @@ void trimHeap() {
 
 }  // namespace
 
-int main(int, char* argv[]) {
+int main(int argc, char* argv[]) {
+    if (const std::optional<int> status = handleCommandLine(argc, argv)) {
+        return *status;
+    }
     Desktop::exitOnSignals();
     const std::filesystem::path settings = Storage::PreferencesFile::defaultPath();
     // Static objects are destroyed by exit() too, which Qt calls when the X server has crashed. The
@@ -43,13 +49,14 @@ int main(int, char* argv[]) {
     }
     Desktop::filterQtMessages();
     Desktop::prepareEnvironment();
-    // There is no command line: Qt gets the program's name only.
-    int count = 1;
-    QApplication application(count, argv);
+    int programNameOnly = 1;
+    QApplication application(programNameOnly, argv);
     Desktop::showHeldQtMessages();
     QApplication::setApplicationName(QStringLiteral("fernwick"));
     QApplication::setApplicationDisplayName(QStringLiteral("Fernwick"));
+    QApplication::setApplicationVersion(QString::fromLatin1(programVersion()));
     QGuiApplication::setDesktopFileName(applicationID);
+    Desktop::restartWithoutArguments();
 
     const Language language(Language::bestFor(QLocale::system().uiLanguages()));
     applyGardenStyle();
