@@ -12,7 +12,15 @@ namespace {
 
 // Shift, Caps Lock and the keypad flag are left out on purpose: Shift+W still turns the snake.
 constexpr Qt::KeyboardModifiers commandModifiers =
-    Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier | Qt::GroupSwitchModifier;
+
+// AltGr is GroupSwitchModifier on X11. On Wayland, Qt 6.4 has no flag for it, but passes on the
+// compositor's modifiers, in which AltGr is Mod5 on every common layout.
+constexpr quint32 mod5 = 1U << 7;
+
+bool holdsCommandModifier(const QKeyEvent& event) {
+    return (event.modifiers() & commandModifiers) != 0 || (event.nativeModifiers() & mod5) != 0;
+}
 
 bool menuIsOpen() {
     const QWindow* focus = QGuiApplication::focusWindow();
@@ -31,15 +39,32 @@ KeyMonitor::KeyMonitor(Session& session) : session_(session) {
 }
 
 bool KeyMonitor::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::KeyPress && handles(static_cast<const QKeyEvent&>(*event))) {
-        return true;
+    const bool isPress = event->type() == QEvent::KeyPress;
+    if (isPress || event->type() == QEvent::KeyRelease) {
+        const auto& keyEvent = static_cast<const QKeyEvent&>(*event);
+        // A window gets each event first. Its widgets get the same one again, possibly after one of
+        // them has handled it.
+        if (watched->isWindowType() && isOutdated(keyEvent)) {
+            return true;
+        }
+        if (isPress && handles(keyEvent)) {
+            return true;
+        }
     }
     return QObject::eventFilter(watched, event);
 }
 
+bool KeyMonitor::isOutdated(const QKeyEvent& event) {
+    if (event.type() == QEvent::KeyRelease) {
+        heldKeys_.release(event);
+        return false;
+    }
+    return heldKeys_.isOutdated(event, session_);
+}
+
 bool KeyMonitor::handles(const QKeyEvent& event) const {
     assertMainThread();
-    if ((event.modifiers() & commandModifiers) != 0 || menuIsOpen()) {
+    if (holdsCommandModifier(event) || menuIsOpen()) {
         return false;
     }
     const std::optional<GameKey> pressed = gameKey(event);

@@ -1,0 +1,50 @@
+#include "Session/HeldKeys.hpp"
+
+#include <QKeyEvent>
+
+#include "Session/Session.hpp"
+
+namespace {
+
+/// The physical key if the event tells it: Shift changes Qt's key while a key is held.
+quint64 identity(const QKeyEvent& event) {
+    constexpr quint64 noScanCode = quint64{1} << 32;
+    return event.nativeScanCode() != 0 ? event.nativeScanCode()
+                                       : noScanCode | static_cast<quint32>(event.key());
+}
+
+}  // namespace
+
+bool HeldKeys::isOutdated(const QKeyEvent& press, const Session& session) {
+    const Stage stage{session.runID(), session.awaitingName()};
+    const auto known = keys_.find(identity(press));
+    bool repeats = press.isAutoRepeat();
+    if (known != keys_.end() && known->second.releaseTime == press.timestamp()) {
+        // For an auto-repeat the X server sends a release and a press of the same time. Qt
+        // recognises them only if both have arrived when it handles the release.
+        repeats = true;
+        known->second.releaseTime.reset();
+    }
+    if (repeats && known != keys_.end() && !known->second.releaseTime) {
+        return known->second.pressedAt != stage;
+    }
+    if (repeats && stage.awaitingName) {
+        // Pressed in another window, so not meant for the name field.
+        return true;
+    }
+    keys_.insert_or_assign(identity(press), Key{stage, std::nullopt});
+    return false;
+}
+
+void HeldKeys::release(const QKeyEvent& release) {
+    const auto known = keys_.find(identity(release));
+    if (known == keys_.end() || release.isAutoRepeat()) {
+        return;
+    }
+    if (release.timestamp() == 0) {
+        // Sent by a program without a time.
+        keys_.erase(known);
+    } else {
+        known->second.releaseTime = release.timestamp();
+    }
+}
