@@ -1,6 +1,6 @@
 #include "Screens/Scores/NameEntry.hpp"
 
-#include <algorithm>
+#include <QShowEvent>
 
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/Palette.hpp"
@@ -10,7 +10,6 @@
 #include "Garden/Widgets/TrackedLabel.hpp"
 #include "Screens/Scores/NameField.hpp"
 #include "Session/Session.hpp"
-#include "SnakeCore/Graphemes.hpp"
 #include "SnakeCore/HighScores.hpp"
 
 namespace {
@@ -19,15 +18,6 @@ constexpr int spacing = 14;
 constexpr double promptSize = 14;
 constexpr double hintSize = 10;
 constexpr double skipSize = 12;
-
-QString firstCharacters(const QString& text) {
-    const std::string utf8 = text.toStdString();
-    const std::string_view kept =
-        SnakeCore::firstCharacters(utf8, SnakeCore::HighScores::longestName);
-    return kept.size() == utf8.size()
-               ? text
-               : QString::fromUtf8(kept.data(), static_cast<qsizetype>(kept.size()));
-}
 
 }  // namespace
 
@@ -55,27 +45,16 @@ NameEntry::NameEntry(Session& session, QWidget* parent)
     column->addWidget(save_, 0, Qt::AlignHCenter);
     column->addWidget(skip, 0, Qt::AlignHCenter);
 
-    connect(field_, &QLineEdit::textChanged, this, &NameEntry::nameEdited);
+    connect(field_, &QLineEdit::textChanged, &session_, &Session::editName);
     connect(field_, &QLineEdit::returnPressed, &session_, &Session::saveScore);
     connect(save_, &QAbstractButton::clicked, &session_, &Session::saveScore);
     connect(skip, &QAbstractButton::clicked, &session_, &Session::skipSaving);
     refresh();
 }
 
-void NameEntry::nameEdited(const QString& text) {
-    const QString kept = firstCharacters(text);
-    if (kept != text) {
-        const int cursor = field_->cursorPosition();
-        const QSignalBlocker quiet(field_);
-        field_->setText(kept);
-        field_->setCursorPosition(std::min(cursor, static_cast<int>(kept.size())));
-    }
-    session_.editName(kept);
-}
-
 void NameEntry::refresh() {
     if (field_->text() != session_.playerName()) {
-        const QSignalBlocker quiet(field_);
+        // If the field shortens the name, it signals that, and the session gets the short name.
         field_->setText(session_.playerName());
     }
     const std::string name = session_.playerName().toStdString();
@@ -85,4 +64,8 @@ void NameEntry::refresh() {
 void NameEntry::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     field_->setFocus(Qt::OtherFocusReason);
+    // Spontaneous: the window was minimised, and the player may have typed before.
+    if (!event->spontaneous()) {
+        field_->selectAll();
+    }
 }

@@ -10,7 +10,8 @@ class GardenButton;
 }
 
 /// The part of the game-over card that asks for a name: the name field, "Save score" and "Skip
-/// saving". The field takes the keyboard focus whenever it is shown.
+/// saving". When it is shown, the field takes the keyboard focus and offers the last name selected,
+/// so that typing replaces it.
 class NameEntry : public QWidget {
     Q_OBJECT
 
@@ -24,8 +25,6 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    void nameEdited(const QString& text);
-
     Session& session_;
     NameField* field_;
     Garden::GardenButton* save_;

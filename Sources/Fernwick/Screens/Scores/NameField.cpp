@@ -2,11 +2,16 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <QValidator>
+#include <algorithm>
 
 #include "Garden/Look/Contrast.hpp"
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/Palette.hpp"
 #include "Garden/Look/RoundedShape.hpp"
+#include "Screens/Scores/NameText.hpp"
+#include "SnakeCore/Graphemes.hpp"
+#include "SnakeCore/HighScores.hpp"
 
 namespace {
 
@@ -21,9 +26,34 @@ constexpr double edgeWidth = 1;
 constexpr double placeholderOpacity = 0.25;
 constexpr double selectionOpacity = 0.3;
 
+QString firstCharacters(const QString& text) {
+    const std::string utf8 = text.toStdString();
+    const std::string_view kept =
+        SnakeCore::firstCharacters(utf8, SnakeCore::HighScores::longestName);
+    return kept.size() == utf8.size()
+               ? text
+               : QString::fromUtf8(kept.data(), static_cast<qsizetype>(kept.size()));
+}
+
+/// Shortens the text to the longest name. QLineEdit asks its validator before it lays out a text.
+class LongestName : public QValidator {
+public:
+    using QValidator::QValidator;
+
+    State validate(QString& text, int& cursor) const override {
+        text = firstCharacters(boundedNameText(text));
+        cursor = std::min(cursor, static_cast<int>(text.size()));
+        return Acceptable;
+    }
+};
+
 }  // namespace
 
 NameField::NameField(QWidget* parent) : QLineEdit(parent) {
+    setValidator(new LongestName(this));
+    // For text of an input method, which QLineEdit lays out before it asks the validator. It may
+    // cut that text within a surrogate pair, but never in the part that the validator keeps.
+    setMaxLength(2 * longestNameText);
     setFrame(false);
     setFont(Garden::sans(fontSize, QFont::Normal));
     setTextMargins(padding - lineEditMargin, 0, padding - lineEditMargin, 0);

@@ -2,8 +2,9 @@
 
 #include <QLineEdit>
 
-/// The text field for the player's name: a faint plate with a mint edge. Its height follows the
-/// font; the layout sets its width.
+/// The text field for the player's name: a faint plate with a mint edge. It keeps the beginning of
+/// a text that is longer than a name, however it is entered. Its height follows the font; the
+/// layout sets its width.
 class NameField : public QLineEdit {
     Q_OBJECT
 

@@ -10,6 +10,7 @@
 #include "Garden/Look/Palette.hpp"
 #include "Garden/Look/RoundedShape.hpp"
 #include "Garden/Widgets/Accessibility.hpp"
+#include "Screens/Scores/NameText.hpp"
 
 namespace {
 
@@ -53,7 +54,7 @@ ScoreRow::ScoreRow(QWidget* parent) : QWidget(parent) {
 
 void ScoreRow::show(std::int64_t rank, const SnakeCore::HighScore& entry, bool highlighted) {
     const QString rankText = QStringLiteral("%1").arg(rank, 2, 10, QLatin1Char('0'));
-    const QString name = QString::fromStdString(entry.name);
+    const QString name = listedNameText(QString::fromStdString(entry.name));
     const QString score = QString::number(entry.score);
     if (rankText == rank_ && name == name_ && score == score_ && highlighted == highlighted_) {
         return;

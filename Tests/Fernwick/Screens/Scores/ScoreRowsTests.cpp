@@ -4,6 +4,7 @@
 #include <QScrollArea>
 
 #include "Fernwick/Session/SavedScores.hpp"
+#include "Screens/Scores/NameText.hpp"
 #include "Screens/Scores/ScoreRow.hpp"
 #include "Screens/Scores/ScoreRows.hpp"
 #include "Support/Screen.hpp"
@@ -127,4 +128,34 @@ TEST_F(ScoreRowsTest, elidesALongNameAndKeepsTheScoreWhole) {
                       QSize(40, row->height()));
     EXPECT_EQ(withShortName.copy(score), withLongName.copy(score));
     EXPECT_EQ(row->height(), row->sizeHint().height());
+}
+
+TEST_F(ScoreRowsTest, cutsAnEndlessNameBeforeItIsLaidOut) {
+    // Joined emoji are one character, so a valid table may have such a name.
+    const QString endless = QStringLiteral("🌿\u200D").repeated(250'000);
+    rows.setEntries(entries({{endless.toStdString(), 10}}));
+
+    EXPECT_TRUE(
+        Screen::shows(rows, QStringLiteral("01 %1… 10").arg(endless.left(longestNameText))));
+}
+
+TEST_F(ScoreRowsTest, cutsNoNameWithinASurrogatePair) {
+    for (const QString& start :
+         {QStringLiteral("x"), QStringLiteral("xy"), QStringLiteral("xyz")}) {
+        const QString endless = start + QStringLiteral("🌿\u200D").repeated(1000);
+        rows.setEntries(entries({{endless.toStdString(), 10}}));
+
+        const QString shown = Screen::nameOf(rows.findChild<ScoreRow*>());
+        EXPECT_TRUE(shown.isValidUtf16());
+        EXPECT_LE(shown.size(), longestNameText + 7);
+        EXPECT_GE(shown.size(), longestNameText + 6);
+    }
+}
+
+TEST_F(ScoreRowsTest, keepsALongNameThatTheFieldAccepts) {
+    const QString name = QStringLiteral("🌿\u200D").repeated(longestNameText / 3);
+    ASSERT_EQ(name.size(), longestNameText);
+    rows.setEntries(entries({{name.toStdString(), 10}}));
+
+    EXPECT_TRUE(Screen::shows(rows, QStringLiteral("01 %1 10").arg(name)));
 }
