@@ -13,38 +13,40 @@ quint64 identity(const QKeyEvent& event) {
                                        : noScanCode | static_cast<quint32>(event.key());
 }
 
+// Keyboards repeat later, even with the shortest delay that desktops offer. Programs release a key
+// at once and may press it again in the same millisecond.
+constexpr quint64 shortestRepeatDelay = 100;
+
 }  // namespace
+
+// For an auto-repeat the X server sends a release and a press of the same time. Under load, Qt
+// often handles the release before the press has arrived and then takes both for real ones.
+bool HeldKeys::Key::repeatsAt(quint64 time) const {
+    return releaseTime == time && time - pressTime >= shortestRepeatDelay;
+}
 
 bool HeldKeys::isOutdated(const QKeyEvent& press, const Session& session) {
     const Stage stage{session.runID(), session.awaitingName()};
     const auto known = keys_.find(identity(press));
     bool repeats = press.isAutoRepeat();
-    if (known != keys_.end() && known->second.releaseTime == press.timestamp()) {
-        // For an auto-repeat the X server sends a release and a press of the same time. Qt
-        // recognises them only if both have arrived when it handles the release.
+    if (known != keys_.end() && known->second.repeatsAt(press.timestamp())) {
         repeats = true;
         known->second.releaseTime.reset();
     }
     if (repeats && known != keys_.end() && !known->second.releaseTime) {
-        return known->second.pressedAt != stage;
+        return known->second.stage != stage;
     }
     if (repeats && stage.awaitingName) {
         // Pressed in another window, so not meant for the name field.
         return true;
     }
-    keys_.insert_or_assign(identity(press), Key{stage, std::nullopt});
+    keys_.insert_or_assign(identity(press), Key{stage, press.timestamp(), std::nullopt});
     return false;
 }
 
 void HeldKeys::release(const QKeyEvent& release) {
     const auto known = keys_.find(identity(release));
-    if (known == keys_.end() || release.isAutoRepeat()) {
-        return;
-    }
-    if (release.timestamp() == 0) {
-        // Sent by a program without a time.
-        keys_.erase(known);
-    } else {
+    if (known != keys_.end() && !release.isAutoRepeat()) {
         known->second.releaseTime = release.timestamp();
     }
 }

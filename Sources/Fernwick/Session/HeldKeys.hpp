@@ -28,9 +28,13 @@ private:
 
         friend bool operator==(const Stage&, const Stage&) = default;
     };
+    // Times are Qt's, in milliseconds; 0 if a program sent the event without one.
     struct Key {
-        Stage pressedAt;
-        std::optional<quint64> releaseTime;  ///< In Qt's milliseconds; none while it is held.
+        Stage stage;
+        quint64 pressTime;
+        std::optional<quint64> releaseTime;
+
+        [[nodiscard]] bool repeatsAt(quint64 time) const;
     };
 
     std::unordered_map<quint64, Key> keys_;
