@@ -1,8 +1,7 @@
 #include "Session/KeyMonitor.hpp"
 
-#include <QGuiApplication>
+#include <QCoreApplication>
 #include <QKeyEvent>
-#include <QWindow>
 
 #include "Session/GameKey.hpp"
 #include "Session/MainThread.hpp"
@@ -20,16 +19,6 @@ constexpr quint32 mod5 = 1U << 7;
 
 bool holdsCommandModifier(const QKeyEvent& event) {
     return (event.modifiers() & commandModifiers) != 0 || (event.nativeModifiers() & mod5) != 0;
-}
-
-bool menuIsOpen() {
-    const QWindow* focus = QGuiApplication::focusWindow();
-    for (const QWindow* window : QGuiApplication::topLevelWindows()) {
-        if (window->isVisible() && window->type() == Qt::Popup) {
-            return true;
-        }
-    }
-    return focus != nullptr && focus->type() == Qt::Popup;
 }
 
 }  // namespace
@@ -64,7 +53,7 @@ bool KeyMonitor::isOutdated(const QKeyEvent& event) {
 
 bool KeyMonitor::handles(const QKeyEvent& event) const {
     assertMainThread();
-    if (holdsCommandModifier(event) || menuIsOpen()) {
+    if (holdsCommandModifier(event) || session_.held()) {
         return false;
     }
     const std::optional<GameKey> pressed = gameKey(event);

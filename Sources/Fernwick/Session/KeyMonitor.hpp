@@ -9,7 +9,7 @@ class Session;
 
 /// Sees every key press of the application before the focused widget does, hands it to the session
 /// and consumes it if the session used it. Presses with Ctrl, Alt, AltGr or Meta held, and all
-/// presses while a menu is open, pass. Discards the auto-repeats of a key that was pressed before
+/// presses while a menu is in use, pass. Discards the auto-repeats of a key that was pressed before
 /// the run started or ended, until that key is released. Works from construction to destruction.
 class KeyMonitor : public QObject {
     Q_OBJECT

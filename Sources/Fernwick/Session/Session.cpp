@@ -145,6 +145,18 @@ void Session::setSound(bool on) {
     }
 }
 
+void Session::setHeld(bool held) {
+    if (held == held_) {
+        return;
+    }
+    held_ = held;
+    if (held) {
+        stopTimer();
+    } else if (running()) {
+        timer_->start();
+    }
+}
+
 void Session::schedule() {
     timer_ = std::make_unique<QTimer>(this);
     timer_->setTimerType(Qt::PreciseTimer);
@@ -153,7 +165,9 @@ void Session::schedule() {
         assertMainThread();
         tick();
     });
-    timer_->start();
+    if (!held_) {
+        timer_->start();
+    }
 }
 
 void Session::stopTimer() {
@@ -163,7 +177,7 @@ void Session::stopTimer() {
 }
 
 void Session::tick() {
-    if (!running()) {
+    if (!running() || held_) {
         return;
     }
     const std::int64_t before = game_.score();

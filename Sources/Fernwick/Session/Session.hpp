@@ -76,6 +76,9 @@ public:
     /// `pace()` has changed since.
     [[nodiscard]] Pace runPace() const { return runPace_; }
 
+    /// Whether a menu is in use: the run does not advance, and the keys are not the game's.
+    [[nodiscard]] bool held() const { return held_; }
+
     /// Begins a new run, even during another one. Does nothing while waiting for a name or while
     /// the sheet is open.
     void start();
@@ -97,6 +100,9 @@ public:
     void chooseScorePace(Pace pace);
     /// Turns the sound on or off and stores the setting.
     void setSound(bool on);
+    /// Stops the timer while a menu is in use, without pausing the run. The next step comes a full
+    /// interval after the end.
+    void setHeld(bool held);
     /// Handles a key press. Returns true if the caller should consume the event.
     bool key(GameKey key);
 
@@ -126,5 +132,6 @@ private:
     Pace scorePace_ = Pace::classic;
     SnakeCore::UUID runID_;
     Pace runPace_ = Pace::classic;
+    bool held_ = false;
     std::unique_ptr<QTimer> timer_;
 };

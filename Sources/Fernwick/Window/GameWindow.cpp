@@ -7,6 +7,7 @@
 #include "Garden/Look/Icons.hpp"
 #include "Garden/Widgets/Accessibility.hpp"
 #include "Screens/Main/ContentView.hpp"
+#include "Session/Session.hpp"
 #include "Window/LaunchView.hpp"
 #include "Window/Log.hpp"
 #include "Window/MenuCommands.hpp"
@@ -43,6 +44,7 @@ GameWindow::GameWindow(Session& session)
     create();
     new WindowChrome(*this, TitleBand::height);
     band_->watchWindow();
+    connect(band_, &TitleBand::menuInUseChanged, &session, &Session::setHeld);
     connect(content_, &ContentView::appeared, this, &GameWindow::appeared, Qt::QueuedConnection);
     // Rendering its eight sizes takes longer than a frame.
     connect(this, &GameWindow::appeared, this,

@@ -41,6 +41,8 @@ QAction* MenuCommands::add(QMenu& menu, const QString& title, const QList<QKeySe
                            std::function<void()> action) {
     QAction* item = menu.addAction(title);
     item->setShortcuts(shortcuts);
+    // Holding the keys of a shortcut acts once.
+    item->setAutoRepeat(false);
     // A hidden menu bar has no shortcuts; the window has them too.
     window_.addAction(item);
     connect(item, &QAction::triggered, this, [action = std::move(action)] {

@@ -9,7 +9,9 @@
 #include <QWindow>
 
 #include "Garden/Widgets/IconButton.hpp"
+#include "Window/AltTap.hpp"
 #include "Window/MenuStyle.hpp"
+#include "Window/MenuUse.hpp"
 
 namespace {
 
@@ -48,6 +50,14 @@ TitleBand::TitleBand(QWidget* window) : QWidget(window), menuBar_(new QMenuBar(t
 void TitleBand::watchWindow() {
     window()->installEventFilter(this);
     window()->windowHandle()->installEventFilter(this);
+    menuUse_ = new MenuUse(*menuBar_);
+    connect(menuUse_, &MenuUse::changed, this, &TitleBand::menuInUseChanged);
+    connect(new AltTap(this), &AltTap::tapped, this, [this] {
+        // QMenuBar handles Alt itself while it is visible.
+        if (menuBar_->isHidden()) {
+            openFirstMenu();
+        }
+    });
     for (const QAction* menu : menuBar_->actions()) {
         connect(menu->menu(), &QMenu::aboutToHide, this, &TitleBand::concealUnlessUsed,
                 Qt::QueuedConnection);
@@ -65,12 +75,8 @@ bool TitleBand::eventFilter(QObject* watched, QEvent* event) {
                 followPointer(static_cast<QMouseEvent*>(event)->position().toPoint().y());
             }
             break;
-        case QEvent::MouseButtonPress:
-            altAlone_ = false;
-            break;
         case QEvent::KeyPress:
-        case QEvent::KeyRelease:
-            if (watched->isWindowType() && followKeys(static_cast<QKeyEvent&>(*event))) {
+            if (watched->isWindowType() && followKey(static_cast<QKeyEvent&>(*event))) {
                 return true;
             }
             break;
@@ -87,6 +93,9 @@ void TitleBand::followWindowState() {
     }
     maximize_->setIcon(window()->isMaximized() ? Garden::Icon::windowRestore
                                                : Garden::Icon::windowMaximize);
+    if (fullScreen) {
+        menuUse_->leaveBar();
+    }
     menuBar_->setVisible(!fullScreen);
 }
 
@@ -99,27 +108,18 @@ void TitleBand::followPointer(int y) {
     }
 }
 
-bool TitleBand::followKeys(const QKeyEvent& event) {
-    const bool isAlt = event.key() == Qt::Key_Alt;
-    if (event.type() == QEvent::KeyPress) {
-        altAlone_ = isAlt;
-        if (event.key() == Qt::Key_F10 && event.modifiers() == Qt::NoModifier) {
-            openFirstMenu();
-            return true;
-        }
+bool TitleBand::followKey(const QKeyEvent& event) {
+    if (event.key() != Qt::Key_F10 || event.modifiers() != Qt::NoModifier) {
         return false;
     }
-    // QMenuBar handles Alt itself while it is visible.
-    if (isAlt && altAlone_ && menuBar_->isHidden()) {
-        openFirstMenu();
-        return true;
-    }
-    return false;
+    openFirstMenu();
+    return true;
 }
 
 void TitleBand::concealUnlessUsed() {
     if (window()->isFullScreen() && !pointerInBand_ &&
         QApplication::activePopupWidget() == nullptr) {
+        menuUse_->leaveBar();
         menuBar_->hide();
     }
 }

@@ -5,6 +5,7 @@
 
 class QMenuBar;
 class QKeyEvent;
+class MenuUse;
 
 namespace Garden {
 class IconButton;
@@ -29,17 +30,21 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+Q_SIGNALS:
+    /// A menu has been opened or the menu bar has got the keyboard focus, or neither holds any
+    /// more.
+    void menuInUseChanged(bool inUse);
+
 private:
     void followWindowState();
     void followPointer(int y);
-    bool followKeys(const QKeyEvent& event);
+    bool followKey(const QKeyEvent& event);
     void concealUnlessUsed();
     void openFirstMenu();
 
     QMenuBar* menuBar_;
+    MenuUse* menuUse_ = nullptr;
     QList<Garden::IconButton*> buttons_;
     Garden::IconButton* maximize_ = nullptr;
-    // Alt is down and nothing else has been pressed since.
-    bool altAlone_ = false;
     bool pointerInBand_ = false;
 };

@@ -179,6 +179,21 @@ TEST_F(KeyMonitoring, passesAllKeysWhileANameIsAwaited) {
     EXPECT_TRUE(session.awaitingName());
 }
 
+TEST_F(KeyMonitoring, passesAllKeysWhileAMenuIsInUse) {
+    session.start();
+    session.setHeld(true);
+
+    for (const int key : {Qt::Key_Up, Qt::Key_Space, Qt::Key_R, Qt::Key_Escape}) {
+        press(key);
+    }
+    session.setHeld(false);
+    fireTimer();
+
+    EXPECT_EQ(widget.received.size(), 4U);
+    EXPECT_EQ(session.phase(), Session::Phase::running);
+    EXPECT_EQ(session.game().direction(), SnakeCore::Direction::right);
+}
+
 TEST_F(KeyMonitoring, ignoresKeyReleases) {
     release(Qt::Key_Space, scanCodeOfSpace);
 

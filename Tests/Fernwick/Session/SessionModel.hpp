@@ -14,6 +14,7 @@
 struct SessionModel {
     Session::Phase phase = Session::Phase::fresh;
     bool showingScores = false;
+    bool held = false;
     Pace pace = Pace::classic;
     Pace runPace = Pace::classic;
     Pace scorePace = Pace::classic;
@@ -32,6 +33,7 @@ struct SessionModel {
     [[nodiscard]] bool canChoosePace() const {
         return !inRun() && phase != Session::Phase::awaitingName;
     }
+    [[nodiscard]] bool advances() const { return phase == Session::Phase::running && !held; }
     [[nodiscard]] bool handlesKeys() const {
         return phase != Session::Phase::awaitingName && !showingScores;
     }
@@ -39,7 +41,7 @@ struct SessionModel {
     /// Restarts the program: stored values stay.
     void launch() {
         phase = Session::Phase::fresh;
-        showingScores = false;
+        showingScores = held = false;
         pace = runPace = scorePace = Pace::classic;
         game = SnakeCore::ReferenceGame(28, 22);
     }
@@ -117,7 +119,7 @@ struct SessionModel {
     /// `generator` places the next fruit; the caller must then copy its position from the session.
     template <typename Generator>
     void tick(Generator& generator) {
-        if (phase != Session::Phase::running) {
+        if (!advances()) {
             return;
         }
         const std::int64_t before = game.score;

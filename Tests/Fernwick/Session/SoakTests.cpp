@@ -48,16 +48,16 @@ protected:
         }
         // Also while paused: a timeout event may already be queued when the run is paused.
         QMetaObject::invokeMethod(timer, "timeout");
-        const bool wasRunning = model.phase == Session::Phase::running;
+        const bool advances = model.advances();
         const std::int64_t before = model.game.score;
         model.tick(random);
-        if (wasRunning) {
+        if (advances) {
             secondsPlayed += std::chrono::duration<double>(timer->intervalAsDuration()).count();
         }
         if (model.game.score > before && !model.game.ended) {
             model.game.food = session->game().food();
         }
-        endedRuns += wasRunning && model.game.ended ? 1 : 0;
+        endedRuns += advances && model.game.ended ? 1 : 0;
     }
 
     void pressTurn(GameKey key) {
@@ -152,6 +152,11 @@ protected:
 
     void act() {
         const bool running = model.phase == Session::Phase::running;
+        if (chance(model.held ? 0.3 : 0.005)) {
+            model.held = !model.held;
+            session->setHeld(model.held);
+            return;
+        }
         if (running && chance(0.97)) {
             if (followsWalk || chance(0.4)) {
                 steer();
@@ -176,6 +181,7 @@ protected:
     void expectEqual() {
         ASSERT_EQ(session->phase(), model.phase);
         ASSERT_EQ(session->showingScores(), model.showingScores);
+        ASSERT_EQ(session->held(), model.held);
         ASSERT_EQ(session->pace(), model.pace);
         ASSERT_EQ(session->runPace(), model.runPace);
         ASSERT_EQ(session->scorePace(), model.scorePace);
@@ -189,7 +195,7 @@ protected:
         ASSERT_EQ(session->game().score(), model.game.score);
         ASSERT_EQ(session->game().won(), model.game.won);
         const QTimer* timer = session->findChild<QTimer*>();
-        ASSERT_EQ(timer != nullptr && timer->isActive(), model.phase == Session::Phase::running);
+        ASSERT_EQ(timer != nullptr && timer->isActive(), model.advances());
         sounds.played.clear();
         model.played.clear();
         seen.emplace(model.phase, model.showingScores);

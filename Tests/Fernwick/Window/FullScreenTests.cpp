@@ -3,10 +3,13 @@
 #include <QApplication>
 #include <QScreen>
 #include <QTest>
+#include <algorithm>
+#include <array>
 #include <memory>
 #include <vector>
 
 #include "Fernwick/Window/WindowTest.hpp"
+#include "Support/LogCapture.hpp"
 #include "Window/FullScreen.hpp"
 #include "Window/LaunchView.hpp"
 
@@ -14,21 +17,28 @@ TEST(LaunchView, makesItsWindowFullScreenInTheNextEventLoopIteration) {
     QWidget window;
     new LaunchView(&window);
 
+    const LogCapture log("fernwick.window");
+
     window.show();
     EXPECT_FALSE(window.isFullScreen());
     QCoreApplication::processEvents();
 
     EXPECT_TRUE(window.isFullScreen());
+    EXPECT_TRUE(log.contains("requesting full screen"));
 }
 
 TEST(LaunchView, leavesAFullScreenWindowAlone) {
     QWidget window;
     new LaunchView(&window);
 
+    const LogCapture log("fernwick.window");
+
     window.showFullScreen();
     QCoreApplication::processEvents();
 
     EXPECT_TRUE(window.isFullScreen());
+    EXPECT_FALSE(log.contains("requesting full screen"));
+    EXPECT_TRUE(window.updatesEnabled());
 }
 
 TEST(LaunchView, doesNothingIfTheWindowIsDestroyedFirst) {
@@ -112,6 +122,39 @@ TEST(ToggleFullScreen, doesNothingWithoutAWindow) {
     toggleFullScreen();
 
     EXPECT_TRUE(QApplication::topLevelWidgets().isEmpty());
+}
+
+TEST(ToggleFullScreen, ignoresAHiddenWindow) {
+    const QWidget hidden;
+
+    toggleFullScreen();
+
+    EXPECT_FALSE(hidden.isFullScreen());
+}
+
+TEST(ToggleFullScreen, ignoresADialog) {
+    QWidget dialog(nullptr, Qt::Dialog);
+    dialog.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+
+    toggleFullScreen();
+
+    EXPECT_FALSE(dialog.isFullScreen());
+}
+
+TEST(ToggleFullScreen, choosesTheVisibleWindowIfADialogIsActive) {
+    const std::array<QWidget, 8> hidden;
+    QWidget window;
+    window.show();
+    QWidget dialog(nullptr, Qt::Dialog);
+    dialog.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+
+    toggleFullScreen();
+
+    EXPECT_TRUE(window.isFullScreen());
+    EXPECT_FALSE(dialog.isFullScreen());
+    EXPECT_TRUE(std::ranges::none_of(hidden, &QWidget::isFullScreen));
 }
 
 TEST(ToggleFullScreen, ignoresAMinimisedWindow) {

@@ -1,34 +1,16 @@
-#include <QApplication>
-#include <QMenu>
-#include <QMenuBar>
 #include <QTest>
 #include <QTimer>
-#include <QWindow>
 
-#include "Fernwick/Window/Keyboard.hpp"
-#include "Fernwick/Window/WindowTest.hpp"
+#include "Fernwick/Window/MenuKeysTest.hpp"
 
 namespace {
 
-constexpr Qt::Key firstMenu = Qt::Key_F10;
 const QStringList fileItems{"New Game", "Quit"};
 
 /// Commands given by shortcut and through the menus, in full screen and in a window.
-class MenuKeys : public WindowTest, public ::testing::WithParamInterface<bool> {
+class MenuKeys : public MenuKeysTest {
 protected:
-    MenuKeys() {
-        if (!GetParam()) {
-            leaveFullScreen();
-        }
-    }
-
-    void press(Qt::Key key, Qt::KeyboardModifiers held = {}) { Keyboard::press(window, key, held); }
-
     void pressCtrl(Qt::Key key) { press(key, Qt::ControlModifier); }
-
-    [[nodiscard]] static QMenu* openMenu() {
-        return qobject_cast<QMenu*>(QApplication::activePopupWidget());
-    }
 
     /// Moves to the item called `title` with the arrow keys. Returns false if they cannot reach
     /// it, because it is disabled.
@@ -53,41 +35,23 @@ protected:
         closeMenus();
     }
 
-    void closeMenus() {
-        for (int menus = 2; openMenu() != nullptr && menus > 0; --menus) {
-            press(Qt::Key_Escape);
-        }
-        ASSERT_EQ(openMenu(), nullptr);
-    }
-
-    void click(const QWidget& widget, const QPoint& position) {
-        QTest::mouseClick(widget.window()->windowHandle(), Qt::LeftButton, {},
-                          widget.mapTo(widget.window(), position));
-        processEvents();
-    }
-
     /// Opens the menu that contains `title` with the mouse and clicks the item.
     void clickOn(const QString& title) {
-        // In full screen the menu bar appears when the pointer touches the top edge.
-        QTest::mouseMove(window.windowHandle(), QPoint(window.width() / 2, 0));
-        processEvents();
-        auto& bar = child<QMenuBar>();
-        ASSERT_TRUE(bar.isVisible());
-        QAction* menuTitle = bar.actions().at(fileItems.contains(title) ? 0 : 1);
-        click(bar, bar.actionGeometry(menuTitle).center());
-        ASSERT_EQ(openMenu(), menuTitle->menu());
-        for (QAction* item : menuTitle->menu()->actions()) {
+        showBar();
+        const qsizetype index = fileItems.contains(title) ? 0 : 1;
+        clickTitle(index);
+        QMenu* menu = bar().actions().at(index)->menu();
+        ASSERT_EQ(openMenu(), menu);
+        for (QAction* item : menu->actions()) {
             if (item->text() == title) {
-                click(*menuTitle->menu(), menuTitle->menu()->actionGeometry(item).center());
+                click(*menu, menu->actionGeometry(item).center());
             }
         }
         closeMenus();
     }
 };
 
-INSTANTIATE_TEST_SUITE_P(In, MenuKeys, ::testing::Bool(), [](const auto& fullScreen) {
-    return fullScreen.param ? "FullScreen" : "Window";
-});
+INSTANTIATE_TEST_SUITE_P(In, MenuKeys, ::testing::Bool(), menuKeysName);
 
 }  // namespace
 
@@ -183,11 +147,52 @@ TEST_P(MenuKeys, f10OpensTheMenusAndEscapeClosesThem) {
 
 TEST_P(MenuKeys, altAloneActivatesTheMenuBar) {
     press(Qt::Key_Alt);
+    EXPECT_TRUE(bar().isVisible());
+    EXPECT_EQ(bar().activeAction(), bar().actions().front());
 
-    const auto& bar = child<QMenuBar>();
-    EXPECT_TRUE(bar.isVisible());
-    EXPECT_EQ(bar.activeAction(), bar.actions().front());
-    closeMenus();
+    press(Qt::Key_Down);
+    ASSERT_EQ(openTitle(), "File");
+    EXPECT_EQ(openMenu()->activeAction()->text(), "New Game");
+    press(Qt::Key_Right);
+    EXPECT_EQ(openTitle(), "Game");
+    press(Qt::Key_Left);
+    EXPECT_EQ(openTitle(), "File");
+    press(Qt::Key_Escape);
+    EXPECT_EQ(openMenu(), nullptr);
+    EXPECT_EQ(session.phase(), Session::Phase::fresh);
+}
+
+TEST_P(MenuKeys, spaceAfterAltUsesTheMenusAndStartsNoRun) {
+    press(Qt::Key_Alt);
+    press(Qt::Key_Space);
+
+    EXPECT_EQ(openTitle(), "File");
+    EXPECT_EQ(session.phase(), Session::Phase::fresh);
+}
+
+TEST_P(MenuKeys, arrowsAfterAltDoNotSteer) {
+    startRun();
+    press(Qt::Key_Alt);
+    press(Qt::Key_Up);
+    EXPECT_EQ(openTitle(), "File");
+    leaveMenus();
+    fireTimer();
+
+    EXPECT_EQ(session.phase(), Session::Phase::running);
+    EXPECT_EQ(session.game().direction(), SnakeCore::Direction::right);
+    EXPECT_EQ(session.game().snake()[0], (SnakeCore::Cell{15, 11}));
+}
+
+TEST_P(MenuKeys, returnAfterAltAndDownChoosesTheFirstItem) {
+    press(Qt::Key_Alt);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+
+    EXPECT_EQ(openMenu(), nullptr);
+    EXPECT_EQ(session.phase(), Session::Phase::running);
+    press(Qt::Key_Up);
+    fireTimer();
+    EXPECT_EQ(session.game().direction(), SnakeCore::Direction::up);
 }
 
 TEST_P(MenuKeys, keysPressedInAnOpenMenuDoNotReachTheGame) {
@@ -197,12 +202,13 @@ TEST_P(MenuKeys, keysPressedInAnOpenMenuDoNotReachTheGame) {
     for (const Qt::Key key : {Qt::Key_W, Qt::Key_Up, Qt::Key_R, Qt::Key_Escape}) {
         press(key);
     }
-    closeMenus();
+    leaveMenus();
     fireTimer();
 
     EXPECT_EQ(session.runID(), run);
     EXPECT_EQ(session.phase(), Session::Phase::running);
     EXPECT_EQ(session.game().direction(), SnakeCore::Direction::right);
+    EXPECT_EQ(session.game().snake()[0], (SnakeCore::Cell{15, 11}));
 }
 
 TEST_P(MenuKeys, everyItemCanBeChosenWithTheKeyboard) {

@@ -73,6 +73,15 @@ TEST_F(Menus, showShortcuts) {
     EXPECT_TRUE(item("Sound Effects")->shortcuts().isEmpty());
 }
 
+TEST_F(Menus, doNotRepeatACommandWhileItsKeysAreHeld) {
+    for (const QString& title : {QStringLiteral("File"), QStringLiteral("Game")}) {
+        for (const QAction* action : menu(title)->actions()) {
+            EXPECT_TRUE(action->isSeparator() || !action->autoRepeat())
+                << action->text().toStdString();
+        }
+    }
+}
+
 TEST_F(Menus, enableTheirItemsInEveryPhase) {
     inEveryPhase([this](Session::Phase phase) {
         const bool running = phase == Session::Phase::running;

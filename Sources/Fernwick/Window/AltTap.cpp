@@ -1,0 +1,87 @@
+#include "Window/AltTap.hpp"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <cstdint>
+
+namespace {
+
+// As in xproto.h, which would be the only use of libxcb.
+constexpr std::uint8_t xcbFocusOut = 10;
+constexpr std::uint8_t xcbTypeMask = 0x7f;
+
+bool hasOtherModifier(const QKeyEvent& event) {
+    return (event.modifiers() & ~Qt::AltModifier) != 0;
+}
+
+}  // namespace
+
+AltTap::AltTap(QObject* parent) : QObject(parent) {
+    QCoreApplication::instance()->installEventFilter(this);
+    QCoreApplication::instance()->installNativeEventFilter(this);
+}
+
+bool AltTap::eventFilter(QObject* watched, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::KeyPress:
+        case QEvent::KeyRelease: {
+            const auto& key = static_cast<const QKeyEvent&>(*event);
+            // QMenuBar takes Meta for Alt.
+            if (key.key() != Qt::Key_Alt && key.key() != Qt::Key_Meta) {
+                alone_ = false;
+            } else if (watched->isWindowType()) {
+                return follow(key);
+            }
+            break;
+        }
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::Wheel:
+        case QEvent::TouchBegin:
+        case QEvent::TabletPress:
+        case QEvent::FocusIn:
+        case QEvent::FocusOut:
+        case QEvent::WindowActivate:
+        case QEvent::WindowDeactivate:
+        case QEvent::ApplicationStateChange:
+            alone_ = false;
+            break;
+        default:
+            break;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+bool AltTap::follow(const QKeyEvent& event) {
+    if (event.type() == QEvent::KeyPress) {
+        // The filter installed last is called first. QMenuBar installs its own at the
+        // ShortcutOverride event, just before the key press.
+        QCoreApplication::instance()->installEventFilter(this);
+    }
+    if (event.isAutoRepeat()) {
+        return true;
+    }
+    if (event.type() == QEvent::KeyPress) {
+        // Alt closes an open menu.
+        alone_ = event.key() == Qt::Key_Alt && !hasOtherModifier(event) &&
+                 QApplication::activePopupWidget() == nullptr;
+        return false;
+    }
+    const bool isTap = alone_ && !hasOtherModifier(event);
+    alone_ = false;
+    if (isTap) {
+        Q_EMIT tapped();
+    }
+    return !isTap;
+}
+
+// When the window manager grabs a key, the X server takes the focus from the window. Qt reports
+// that only if the focus does not come back within a moment.
+bool AltTap::nativeEventFilter(const QByteArray& eventType, void* message, qintptr*) {
+    if (eventType == "xcb_generic_event_t" &&
+        (*static_cast<const std::uint8_t*>(message) & xcbTypeMask) == xcbFocusOut) {
+        alone_ = false;
+    }
+    return false;
+}
