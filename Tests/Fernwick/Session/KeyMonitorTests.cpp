@@ -189,7 +189,7 @@ TEST_F(KeyMonitoring, passesAllKeysWhileAMenuIsInUse) {
     session.setHeld(false);
     fireTimer();
 
-    EXPECT_EQ(widget.received.size(), 4U);
+    EXPECT_EQ(window.received.size(), 4U);
     EXPECT_EQ(session.phase(), Session::Phase::running);
     EXPECT_EQ(session.game().direction(), SnakeCore::Direction::right);
 }
