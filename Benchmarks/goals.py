@@ -2,7 +2,7 @@
 
 from dataclasses import dataclass
 
-from paces import TICKS
+from paces import FLUSH_DELAYS, TICKS
 
 MS = 1e-3
 MB = 1e6
@@ -54,6 +54,7 @@ def rows(seconds, program):
     """`seconds`: medians by benchmark name; `program`: the output of Process/measure.py."""
     yield from whole_program(program)
     yield from keys(program)
+    yield from slow_disk(program)
     yield from frames(seconds)
     yield from model(seconds)
 
@@ -77,6 +78,13 @@ def keys(program):
                       f"{program[f'presses_{pace}']}", tick + 10 * MS,
                       program[f"key_worst_{pace}"], milliseconds)
     yield none("lost key presses", sum(program[f"lost_{pace}"] for pace in TICKS))
+
+
+def slow_disk(program):
+    for delay in FLUSH_DELAYS:
+        yield at_most("longest interval between pictures, Swift, each fsync delayed by "
+                      f"{delay} ms, compared with the tick", 1.3,
+                      program[f"interval_{delay}"] / TICKS["Swift"], times)
 
 
 def frames(seconds):

@@ -98,6 +98,7 @@ x11-utils            xprop, which reads the state of windows
 libxtst6             XTEST extension, which simulates key presses
 dbus                 D-Bus session bus
 python3              runs the measurements of the whole program
+python3-cbor2        reads the preferences file
 LIST
 }
 

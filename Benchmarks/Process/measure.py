@@ -1,5 +1,6 @@
-"""measure.py BUILD: measures the whole program on a private X server of 1920 x 1080 pixels.
+"""measure.py BUILD [PART]...: measures the whole program on a private X server of 1920 x 1080 pixels.
 
+PART is one of startup, gameplay, idle and slow_disk; all of them by default.
 Prints one JSON object of named figures in seconds, bytes, shares of one core, or counts.
 """
 
@@ -9,15 +10,19 @@ import sys
 
 import gameplay
 import idle
+import slow_disk
 import startup
 from testbed import Testbed
 
+PARTS = {"startup": startup, "gameplay": gameplay, "idle": idle, "slow_disk": slow_disk}
+
 
 def main():
+    parts = [PARTS[name] for name in sys.argv[2:] or PARTS]
     testbed = Testbed(pathlib.Path(sys.argv[1]).resolve())
     try:
         measured = {}
-        for part in (startup, gameplay, idle):
+        for part in parts:
             measured |= part.measure(testbed)
     finally:
         testbed.close()

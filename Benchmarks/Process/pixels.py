@@ -1,13 +1,17 @@
 """Single pixels of the screen, read from the X server's framebuffer file."""
 
-from board import COLUMNS, EYE_MAXIMUM_GREEN, EYES, ROWS
+from board import COLUMNS, EYE_MAXIMUM_GREEN, EYES, FRUIT, ROWS
 from screen import BYTES_PER_PIXEL, Screen
 
 # The area of the board on the main screen of 1920 x 1080 points.
 LEFT, TOP, WIDTH, HEIGHT = 38, 195, 1844, 810
 CELL = min(WIDTH / COLUMNS, HEIGHT / ROWS)
+CELLS = [(x, y) for y in range(ROWS) for x in range(COLUMNS)]
 FIRST_X = LEFT + (WIDTH - COLUMNS * CELL) / 2
 FIRST_Y = TOP + (HEIGHT - ROWS * CELL) / 2
+
+# The glow of the snake may tint the fruit by so much.
+FRUIT_TOLERANCE = 40
 
 VECTORS = {"up": (0, -1), "left": (-1, 0), "right": (1, 0), "down": (0, 1)}
 
@@ -34,6 +38,12 @@ class Pixels(Screen):
         """Whether the snake's head is in this cell and looks in this direction."""
         return all(self._in_cell(cell, eye)[1] <= EYE_MAXIMUM_GREEN for eye in EYES[direction]) and \
             self._in_cell(cell, (0, 0))[1] > EYE_MAXIMUM_GREEN
+
+    def fruit(self):
+        """The cell of the fruit; None if it is not to be seen."""
+        return next((cell for cell in CELLS if all(
+            abs(seen - expected) <= FRUIT_TOLERANCE
+            for seen, expected in zip(self._in_cell(cell, (0, 0)), FRUIT))), None)
 
     def _in_cell(self, cell, offset):
         return self.colour(FIRST_X + (cell[0] + 0.5 + offset[0]) * CELL,

@@ -26,6 +26,7 @@ class Testbed:
         self.hello = build / "Benchmarks/Process/Hello"
         self.play = build / "Benchmarks/Process/Play"
         self.game = build / "fernwick"
+        self.delayed_flush = build / "Benchmarks/Process/DelayedFlush.so"
         # Directly below /tmp, because the path of a Unix socket is limited to 107 bytes.
         self.desktop = Desktop(pathlib.Path(tempfile.mkdtemp(prefix="fernwick-")))
         self.desktop.start()
@@ -36,9 +37,12 @@ class Testbed:
         self.desktop.stop()
 
     @contextlib.contextmanager
-    def game_at(self, pace):
-        """Starts the game and selects a pace, without starting a run."""
-        with Program(self.desktop, self.game) as program:
+    def game_at(self, pace, **environment):
+        """Starts the game and selects a pace, without starting a run.
+
+        Keyword arguments are environment variables."""
+        variables = [f"{name}={value}" for name, value in environment.items()]
+        with Program(self.desktop, "env", *variables, str(self.game)) as program:
             time.sleep(STARTUP_SECONDS)
             self.input.click(*PACE_BUTTONS[pace])
             time.sleep(CLICK_SECONDS)
