@@ -1,6 +1,7 @@
-"""measure.py BUILD [PART]...: measures the whole program on a private X server of 1920 x 1080 pixels.
+"""measure.py BUILD [PART]...: measures the whole program on a private X server.
 
-PART is one of startup, gameplay, idle and slow_disk; all of them by default.
+Its screen has 1920 x 1080 pixels. PART is one of startup, gameplay, idle and slow_disk; all of them
+by default.
 Prints one JSON object of named figures in seconds, bytes, shares of one core, or counts.
 """
 
