@@ -1,9 +1,12 @@
 """Every way to quit gives status 0, prints nothing and stores everything."""
 
+import os
+import pathlib
 import signal
 import socket
 
 import pytest
+from key_flood import press_fast
 from waiting import TIMEOUT, eventually
 
 
@@ -27,6 +30,14 @@ WAYS_TO_QUIT = {
     "SIGINT": send(signal.SIGINT),
     "SIGHUP": send(signal.SIGHUP),
 }
+# An X11 key code.
+SPACE = 65
+# So many that the game takes longer than EXIT_LIMIT, in seconds, to handle them all.
+FLOOD = 300_000
+EXIT_LIMIT = 10
+# In /proc/PID/stat, after the name.
+USER_TIME = 11
+
 # Signals do not depend on what the window shows; these two do.
 by_the_window = pytest.mark.parametrize("quit_by", [close_by_window_manager, press_ctrl_q])
 ways_to_quit = pytest.mark.parametrize("quit_by", WAYS_TO_QUIT.values(), ids=WAYS_TO_QUIT.keys())
@@ -48,6 +59,24 @@ def test_repeated_signals_until_the_end_give_status_0(game):
         for number in (signal.SIGHUP, signal.SIGTERM, signal.SIGINT):
             game.process.send_signal(number)
     assert game.exit_status() == 0
+
+
+def cpu_seconds(process):
+    """The CPU time that a process has used in user mode."""
+    fields = pathlib.Path(f"/proc/{process.pid}/stat").read_text().rpartition(")")[2].split()
+    return int(fields[USER_TIME]) / os.sysconf("SC_CLK_TCK")
+
+
+def test_a_backlog_of_keys_does_not_delay_the_exit(game):
+    """Each Space pauses or resumes the run, which shows or hides a card."""
+    game.start_run()
+    game.process.send_signal(signal.SIGSTOP)
+    press_fast(game.desktop.environment["DISPLAY"], SPACE, FLOOD)
+    before = cpu_seconds(game.process)
+    game.process.send_signal(signal.SIGCONT)
+    eventually(lambda: cpu_seconds(game.process) > before + 0.5, "the game handles the keys")
+    game.process.send_signal(signal.SIGTERM)
+    assert game.process.wait(EXIT_LIMIT) == 0
 
 
 @pytest.fixture

@@ -2,6 +2,7 @@
 #include <unistd.h>
 
 #include <QCoreApplication>
+#include <QKeyEvent>
 #include <QSignalSpy>
 #include <cerrno>
 #include <csignal>
@@ -20,6 +21,34 @@ int errnoAfterManySignals() {
         error = errno;
     }
     return error;
+}
+
+/// Counts the input events of the application, as an event filter of the game would see them.
+class InputCounter : public QObject {
+public:
+    InputCounter() { QCoreApplication::instance()->installEventFilter(this); }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        count += dynamic_cast<QInputEvent*>(event) != nullptr ? 1 : 0;
+        return QObject::eventFilter(watched, event);
+    }
+
+    int count = 0;
+};
+
+void sendInput(QObject& receiver) {
+    for (const QEvent::Type type :
+         {QEvent::ShortcutOverride, QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent key(type, Qt::Key_Tab, Qt::NoModifier);
+        QCoreApplication::sendEvent(&receiver, &key);
+    }
+    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseMove,
+                                    QEvent::MouseButtonRelease, QEvent::MouseButtonDblClick}) {
+        QMouseEvent mouse(type, {}, {}, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&receiver, &mouse);
+    }
+    QWheelEvent wheel({}, {}, {}, {}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&receiver, &wheel);
 }
 
 class QuitOnSignalsTest : public testing::TestWithParam<int> {
@@ -56,6 +85,20 @@ TEST_P(QuitOnSignalsTest, ignoresTheSignalOnceDestroyed) {
     { const Desktop::QuitOnSignals quitOnSignals; }
 
     std::raise(GetParam());
+}
+
+TEST_P(QuitOnSignalsTest, dropsAllInputFromTheSignalOn) {
+    const Desktop::QuitOnSignals quitOnSignals;
+    InputCounter counter;
+    QObject receiver;
+    QCoreApplication::processEvents();
+    sendInput(receiver);
+    EXPECT_EQ(counter.count, 8);
+
+    std::raise(GetParam());
+    sendInput(receiver);
+
+    EXPECT_EQ(counter.count, 8);
 }
 
 INSTANTIATE_TEST_SUITE_P(Signals, QuitOnSignalsTest, testing::Values(SIGTERM, SIGINT, SIGHUP));
