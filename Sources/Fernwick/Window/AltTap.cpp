@@ -7,6 +7,7 @@
 namespace {
 
 // As in xproto.h, which would be the only use of libxcb.
+constexpr std::uint8_t xcbKeyPress = 2;
 constexpr std::uint8_t xcbFocusOut = 10;
 constexpr std::uint8_t xcbTypeMask = 0x7f;
 
@@ -62,13 +63,18 @@ bool AltTap::follow(const QKeyEvent& event) {
     if (event.isAutoRepeat()) {
         return true;
     }
+    const std::size_t key = event.nativeScanCode() % focusLost_.size();
     if (event.type() == QEvent::KeyPress) {
+        if (key == 0) {
+            // Not from the keyboard.
+            focusLost_.reset(key);
+        }
         // Alt closes an open menu.
         alone_ = event.key() == Qt::Key_Alt && !hasOtherModifier(event) &&
                  QApplication::activePopupWidget() == nullptr;
         return false;
     }
-    const bool isTap = alone_ && !hasOtherModifier(event);
+    const bool isTap = alone_ && !hasOtherModifier(event) && !focusLost_[key];
     alone_ = false;
     if (isTap) {
         Q_EMIT tapped();
@@ -77,11 +83,21 @@ bool AltTap::follow(const QKeyEvent& event) {
 }
 
 // When the window manager grabs a key, the X server takes the focus from the window. Qt reports
-// that only if the focus does not come back within a moment.
+// that only if the focus does not come back within a moment. This filter may be ahead of Qt's
+// events, as Qt reads several X events at a time, so the order is kept for each key.
 bool AltTap::nativeEventFilter(const QByteArray& eventType, void* message, qintptr*) {
-    if (eventType == "xcb_generic_event_t" &&
-        (*static_cast<const std::uint8_t*>(message) & xcbTypeMask) == xcbFocusOut) {
-        alone_ = false;
+    if (eventType == "xcb_generic_event_t") {
+        const auto* bytes = static_cast<const std::uint8_t*>(message);
+        switch (bytes[0] & xcbTypeMask) {
+            case xcbKeyPress:
+                focusLost_.reset(bytes[1]);
+                break;
+            case xcbFocusOut:
+                focusLost_.set();
+                break;
+            default:
+                break;
+        }
     }
     return false;
 }

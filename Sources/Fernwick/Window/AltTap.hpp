@@ -2,6 +2,7 @@
 
 #include <QAbstractNativeEventFilter>
 #include <QObject>
+#include <bitset>
 
 class QKeyEvent;
 
@@ -28,4 +29,6 @@ private:
 
     // Alt is down, and nothing else has happened since.
     bool alone_ = false;
+    // By X11 key code: whether the window has lost the focus since the key went down.
+    std::bitset<256> focusLost_;
 };

@@ -9,6 +9,8 @@ namespace {
 
 constexpr std::uint8_t xcbKeyPress = 2;
 constexpr std::uint8_t xcbFocusOut = 10;
+constexpr std::uint8_t scanCodeOfAlt = 64;
+const QByteArray xEvent = "xcb_generic_event_t";
 
 /// What happens between the press and the release of Alt, and whether Alt then activates the menu
 /// bar.
@@ -29,9 +31,16 @@ protected:
         QCoreApplication::sendEvent(window.windowHandle(), &event);
     }
 
-    static void receive(const QByteArray& eventType, std::uint8_t type) {
+    /// A key press or release of Alt as it comes from the X server.
+    void sendAlt(QEvent::Type type) {
+        QKeyEvent event(type, Qt::Key_Alt, Qt::AltModifier, scanCodeOfAlt, 0, 0);
+        QCoreApplication::sendEvent(window.windowHandle(), &event);
+        processEvents();
+    }
+
+    static void receive(const QByteArray& eventType, std::uint8_t type, std::uint8_t detail = 0) {
         // The size of an event of the X protocol.
-        std::array<std::uint8_t, 32> event{type};
+        std::array<std::uint8_t, 32> event{type, detail};
         qintptr result = 0;
         QAbstractEventDispatcher::instance()->filterNativeEvent(eventType, event.data(), &result);
     }
@@ -147,13 +156,27 @@ TEST_P(AltTaps, doNotCountIfTheFocusChanges) {
 }
 
 TEST_P(AltTaps, doNotCountIfTheWindowManagerGrabsAKey) {
-    const QByteArray xEvent = "xcb_generic_event_t";
     constexpr std::uint8_t sentByAClient = 0x80;
 
     EXPECT_FALSE(altWith([&] { receive(xEvent, xcbFocusOut); }));
     EXPECT_FALSE(altWith([&] { receive(xEvent, sentByAClient | xcbFocusOut); }));
     EXPECT_TRUE(altWith([&] { receive(xEvent, xcbKeyPress); }));
     EXPECT_TRUE(altWith([&] { receive("another platform", xcbFocusOut); }));
+}
+
+TEST_P(AltTaps, doNotCountIfTheFocusIsLostBeforeQtDeliversThePress) {
+    for (const bool grabbed : {true, false}) {
+        receive(xEvent, xcbFocusOut);
+        receive(xEvent, xcbKeyPress, scanCodeOfAlt);
+        if (grabbed) {
+            receive(xEvent, xcbFocusOut);
+        }
+        sendAlt(QEvent::ShortcutOverride);
+        sendAlt(QEvent::KeyPress);
+        sendAlt(QEvent::KeyRelease);
+
+        EXPECT_EQ(activatesBar(), !grabbed);
+    }
 }
 
 TEST_P(AltTaps, ignoreAutoRepeats) {
