@@ -30,7 +30,14 @@ bool AltTap::eventFilter(QObject* watched, QEvent* event) {
             // QMenuBar takes Meta for Alt.
             if (key.key() != Qt::Key_Alt && key.key() != Qt::Key_Meta) {
                 alone_ = false;
-            } else if (watched->isWindowType()) {
+                break;
+            }
+            // The filter installed last is called first. QMenuBar installs its own at the
+            // ShortcutOverride event, just before the key press.
+            if (key.type() == QEvent::KeyPress) {
+                QCoreApplication::instance()->installEventFilter(this);
+            }
+            if (watched->isWindowType()) {
                 return follow(key);
             }
             break;
@@ -55,11 +62,6 @@ bool AltTap::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool AltTap::follow(const QKeyEvent& event) {
-    if (event.type() == QEvent::KeyPress) {
-        // The filter installed last is called first. QMenuBar installs its own at the
-        // ShortcutOverride event, just before the key press.
-        QCoreApplication::instance()->installEventFilter(this);
-    }
     if (event.isAutoRepeat()) {
         return true;
     }
@@ -69,7 +71,7 @@ bool AltTap::follow(const QKeyEvent& event) {
             // Not from the keyboard.
             focusLost_.reset(key);
         }
-        // Alt closes an open menu.
+        // In an open menu, Alt closes it.
         alone_ = event.key() == Qt::Key_Alt && !hasOtherModifier(event) &&
                  QApplication::activePopupWidget() == nullptr;
         return false;

@@ -33,7 +33,7 @@ protected:
 
     /// A key press or release of Alt as it comes from the X server.
     void sendAlt(QEvent::Type type) {
-        QKeyEvent event(type, Qt::Key_Alt, Qt::AltModifier, scanCodeOfAlt, 0, 0);
+        QKeyEvent event(type, Qt::Key_Alt, {}, scanCodeOfAlt, 0, 0);
         QCoreApplication::sendEvent(window.windowHandle(), &event);
         processEvents();
     }
