@@ -1,6 +1,6 @@
 #include "Window/AltTap.hpp"
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <cstdint>
 
@@ -71,9 +71,8 @@ bool AltTap::follow(const QKeyEvent& event) {
             // Not from the keyboard.
             focusLost_.reset(key);
         }
-        // In an open menu, Alt closes it.
-        alone_ = event.key() == Qt::Key_Alt && !hasOtherModifier(event) &&
-                 QApplication::activePopupWidget() == nullptr;
+        // In an open menu, Alt closes it, and the focus changes.
+        alone_ = event.key() == Qt::Key_Alt && !hasOtherModifier(event);
         return false;
     }
     const bool isTap = alone_ && !hasOtherModifier(event) && !focusLost_[key];
