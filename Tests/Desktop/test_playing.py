@@ -6,6 +6,9 @@ from waiting import eventually
 
 ARROWS = {"up": "Up", "down": "Down", "left": "Left", "right": "Right"}
 LETTERS = {"up": W, "down": S, "left": A, "right": D}
+# X11 key codes, with Num Lock off.
+KEYPAD_ARROWS = {"up": "80", "down": "88", "left": "83", "right": "85"}
+CAPS_LOCK = "66"
 # A square, away from the walls.
 SQUARE = ["up", "left", "down", "right"]
 
@@ -27,6 +30,25 @@ def steer_in_a_square(game, keys):
     for direction in SQUARE:
         game.press(keys[direction])
         snake_heading(game, board, direction)
+
+
+def press_with_alt_gr(game):
+    """Presses Space and R with AltGr held; returns when the game has handled them."""
+    game.wait_for(FRESH)
+    game.press("ISO_Level3_Shift+space", "ISO_Level3_Shift+r")
+    # Keys are handled in order.
+    game.press("ctrl+l")
+    game.wait_for("The high scores.")
+    game.press("Escape")
+    eventually(lambda: not game.shows("The high scores."), "the sheet is closed")
+
+
+@pytest.fixture
+def caps_lock_is_escape(desktop):
+    desktop.run("setxkbmap", "-option", "caps:escape")
+    yield
+    # An empty option removes all of them.
+    desktop.run("setxkbmap", "-option", "")
 
 
 @pytest.fixture
@@ -52,6 +74,21 @@ def test_w_a_s_d_steer_the_snake(game):
 
 def test_the_same_physical_keys_steer_with_a_french_layout(game, french_layout):
     steer_in_a_square(game, LETTERS)
+
+
+def test_the_arrows_of_the_keypad_steer_the_snake(game):
+    steer_in_a_square(game, KEYPAD_ARROWS)
+
+
+def test_escape_in_the_place_of_caps_lock_pauses(game, caps_lock_is_escape):
+    game.start_run()
+    game.press(CAPS_LOCK)
+    game.wait_for(PAUSED)
+
+
+def test_keys_pressed_with_alt_gr_do_nothing(game):
+    press_with_alt_gr(game)
+    assert game.shows(FRESH, "Find your flow.")
 
 
 def test_two_quick_turns_both_count(game):

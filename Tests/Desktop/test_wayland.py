@@ -6,7 +6,7 @@ import pytest
 from compositor import BACKGROUND, Compositor
 from game import FRESH, MOVING, PAUSED, Game
 from screen import Screen
-from test_playing import LETTERS, steer_in_a_square
+from test_playing import KEYPAD_ARROWS, LETTERS, press_with_alt_gr, steer_in_a_square
 from waiting import eventually
 
 SIZE = Screen.WIDTH, Screen.HEIGHT
@@ -75,6 +75,15 @@ def test_starts_in_full_screen(game):
 
 def test_w_a_s_d_steer_the_snake(game):
     steer_in_a_square(game, LETTERS)
+
+
+def test_the_arrows_of_the_keypad_steer_the_snake(game):
+    steer_in_a_square(game, KEYPAD_ARROWS)
+
+
+def test_keys_pressed_with_alt_gr_do_nothing(game):
+    press_with_alt_gr(game)
+    assert game.shows(FRESH, "Find your flow.")
 
 
 # The compositor reads the keyboard layout when it starts.

@@ -89,6 +89,19 @@ TEST_P(KeysBeforeTheFirstRun, directionsAndEscapeDoNothing) {
     expectNoControlPressed();
 }
 
+TEST_P(KeysBeforeTheFirstRun, arrowsOfTheKeypadDoNothing) {
+    for (const auto& [key, scanCode] :
+         {std::pair{Qt::Key_Up, 80}, {Qt::Key_Left, 83}, {Qt::Key_Right, 85}, {Qt::Key_Down, 88}}) {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::KeypadModifier, static_cast<quint32>(scanCode),
+                        0, 0);
+        QCoreApplication::sendEvent(window.windowHandle(), &event);
+    }
+
+    EXPECT_EQ(session.phase(), Session::Phase::fresh);
+    EXPECT_EQ(Screen::nameOf(QApplication::focusWidget()), GetParam());
+    expectNoControlPressed();
+}
+
 TEST_F(Keys, spacePausesWhateverHasTheFocus) {
     onEveryControl(Session::Phase::running, [this] {
         press(Qt::Key_Space);
