@@ -1,6 +1,6 @@
 import pytest
 from accessible_desktop import accessible_desktop
-from game import Game
+from game import ACCESSIBLE, Game
 from home import Home
 from other_window import OtherWindow
 from screen import Screen
@@ -11,6 +11,13 @@ POINTER_AWAY = str(Screen.WIDTH // 2), str(Screen.HEIGHT - 2)
 
 @pytest.fixture(scope="session")
 def desktop():
+    with accessible_desktop() as desktop:
+        yield desktop
+
+
+@pytest.fixture
+def short_lived_desktop():
+    """A separate desktop, which the test may ruin."""
     with accessible_desktop() as desktop:
         yield desktop
 
@@ -29,7 +36,7 @@ def start(desktop, home, tmp_path):
 
     def start(**environment):
         environment = (desktop.environment | home.environment
-                       | {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"} | environment)
+                       | ACCESSIBLE | environment)
         games.append(Game(desktop, tmp_path, {name: value for name, value in environment.items()
                                               if value is not None}))
         return games[-1]

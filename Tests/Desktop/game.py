@@ -17,6 +17,9 @@ PROGRAM = os.environ.get(
 # X11 key codes, which do not depend on the keyboard layout.
 W, A, S, D = "25", "38", "39", "40"
 
+# Makes Qt connect to the accessibility bus.
+ACCESSIBLE = {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
+
 FRESH = "THE CLASSIC, REPLANTED"
 MOVING = "IN THE FLOW"
 PAUSED = "TAKE A BREATH"

@@ -3,21 +3,11 @@
 import signal
 import time
 
-import pytest
-from accessible_desktop import accessible_desktop
-from game import FRESH, PAUSED, Game
+from game import ACCESSIBLE, FRESH, PAUSED, Game
 from waiting import TIMEOUT, eventually
 
-ACCESSIBLE = {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
 STOPPED_SECONDS = 4
 START_COLUMN = 14
-
-
-@pytest.fixture
-def short_lived_desktop():
-    """A separate desktop, whose X server the test kills."""
-    with accessible_desktop() as desktop:
-        yield desktop
 
 
 def lose_display(game, end_display):
