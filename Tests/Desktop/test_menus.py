@@ -150,13 +150,3 @@ def test_the_menu_bar_holds_the_run_still_while_it_has_the_focus(game):
     eventually(lambda: snake_heading(game, board, "right").head > (column, row),
                "the snake moves on")
     assert game.shows(MOVING)
-
-
-def test_a_shortcut_acts_once_while_its_keys_are_held(game):
-    game.click(game.find("Swift"))
-    game.desktop.run("xdotool", "keydown", "ctrl", "keydown", "n")
-    try:
-        # Not if a new run started with every repeat.
-        game.wait_for("Game over.")
-    finally:
-        game.desktop.run("xdotool", "keyup", "n", "keyup", "ctrl")
