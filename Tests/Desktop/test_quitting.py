@@ -86,6 +86,7 @@ def test_a_backlog_of_keys_does_not_delay_the_exit(short_lived_desktop, home, tm
         eventually(lambda: cpu_seconds(game.process) > before + 0.5, "the game handles the keys")
         game.process.send_signal(signal.SIGTERM)
         assert game.process.wait(EXIT_LIMIT) == 0
+        assert game.printed() == ""
     finally:
         game.kill()
 

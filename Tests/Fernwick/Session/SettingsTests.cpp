@@ -2,7 +2,7 @@
 
 namespace {
 
-class Settings : public SessionTest {
+class StoredSettings : public SessionTest {
 protected:
     /// Another session that reads the same settings file, as after a restart of the game.
     struct NextLaunch {
@@ -18,7 +18,7 @@ protected:
 
 }  // namespace
 
-TEST_F(Settings, haveDefaultsOnTheFirstLaunch) {
+TEST_F(StoredSettings, haveDefaultsOnTheFirstLaunch) {
     EXPECT_EQ(session.pace(), Pace::classic);
     EXPECT_EQ(session.best(), 0);
     EXPECT_TRUE(session.sound());
@@ -35,11 +35,11 @@ TEST_F(Settings, haveDefaultsOnTheFirstLaunch) {
     EXPECT_EQ(timer(), nullptr);
 }
 
-TEST_F(Settings, areNotWrittenOnTheFirstLaunch) {
+TEST_F(StoredSettings, areNotWrittenOnTheFirstLaunch) {
     EXPECT_FALSE(std::filesystem::exists(writtenSettings()));
 }
 
-TEST_F(Settings, includeABestForEachPace) {
+TEST_F(StoredSettings, includeABestForEachPace) {
     preferences.store("best-Classic", 250);
     preferences.store("best-Gentle", 30);
     NextLaunch next = launchAgain();
@@ -51,20 +51,20 @@ TEST_F(Settings, includeABestForEachPace) {
     EXPECT_EQ(next.session.best(), 0);
 }
 
-TEST_F(Settings, treatANonNumericBestAsZero) {
+TEST_F(StoredSettings, treatANonNumericBestAsZero) {
     preferences.store("best-Classic", QStringLiteral("250"));
 
     EXPECT_EQ(launchAgain().session.best(), 0);
 }
 
-TEST_F(Settings, restoreSoundThatWasSwitchedOff) {
+TEST_F(StoredSettings, restoreSoundThatWasSwitchedOff) {
     session.setSound(false);
 
     EXPECT_FALSE(session.sound());
     EXPECT_FALSE(launchAgain().session.sound());
 }
 
-TEST_F(Settings, restoreSoundThatWasSwitchedBackOn) {
+TEST_F(StoredSettings, restoreSoundThatWasSwitchedBackOn) {
     session.setSound(false);
     session.setSound(true);
 
@@ -72,13 +72,13 @@ TEST_F(Settings, restoreSoundThatWasSwitchedBackOn) {
     EXPECT_EQ(storedPreferences().boolean("sound"), true);
 }
 
-TEST_F(Settings, areNotWrittenWhenTheSoundSettingIsUnchanged) {
+TEST_F(StoredSettings, areNotWrittenWhenTheSoundSettingIsUnchanged) {
     session.setSound(true);
 
     EXPECT_FALSE(std::filesystem::exists(writtenSettings()));
 }
 
-TEST_F(Settings, ignoreASoundSettingThatIsNotABool) {
+TEST_F(StoredSettings, ignoreASoundSettingThatIsNotABool) {
     for (const QCborValue& stored :
          {QCborValue(QStringLiteral("false")), QCborValue(0), QCborValue(0.0),
           QCborValue(QByteArray("\0", 1)), QCborValue(QCborValue::Null)}) {
@@ -88,19 +88,19 @@ TEST_F(Settings, ignoreASoundSettingThatIsNotABool) {
     }
 }
 
-TEST_F(Settings, restoreTheLastName) {
+TEST_F(StoredSettings, restoreTheLastName) {
     preferences.store("player-name", QStringLiteral("Ada"));
 
     EXPECT_EQ(launchAgain().session.playerName(), "Ada");
 }
 
-TEST_F(Settings, ignoreANameThatIsNotText) {
+TEST_F(StoredSettings, ignoreANameThatIsNotText) {
     preferences.store("player-name", QByteArray("Ada"));
 
     EXPECT_EQ(launchAgain().session.playerName(), "");
 }
 
-TEST_F(Settings, treatInvalidScoreDataAsAnEmptyTable) {
+TEST_F(StoredSettings, treatInvalidScoreDataAsAnEmptyTable) {
     for (const QCborValue& stored : {QCborValue(QByteArray("[{\"id\":")), QCborValue(QByteArray()),
                                      QCborValue(QStringLiteral("[]")), QCborValue(7)}) {
         preferences.store("high-scores-v1", stored);
@@ -109,7 +109,7 @@ TEST_F(Settings, treatInvalidScoreDataAsAnEmptyTable) {
     }
 }
 
-TEST_F(Settings, restoreASavedRunAtTheNextLaunch) {
+TEST_F(StoredSettings, restoreASavedRunAtTheNextLaunch) {
     session.start();
     eatFirstFruit();
     endRun();
@@ -125,7 +125,7 @@ TEST_F(Settings, restoreASavedRunAtTheNextLaunch) {
     EXPECT_EQ(next.session.pace(), Pace::classic);
 }
 
-TEST_F(Settings, doNotIncludeThePace) {
+TEST_F(StoredSettings, doNotIncludeThePace) {
     session.choosePace(Pace::swift);
     session.start();
 
