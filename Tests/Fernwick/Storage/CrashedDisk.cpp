@@ -53,7 +53,7 @@ std::vector<Step> stepsOf(const std::vector<Effect>& effects, std::size_t count)
 }
 
 /// Names that lead to contents, which are known by the path under which the file was created.
-struct Disk {
+struct SimulatedDisk {
     std::map<std::string, std::string> names;
     std::map<std::string, std::string> contents;
 
@@ -106,7 +106,7 @@ struct Disk {
 
 void CrashedDisk::forEachState(const Files& before, const std::vector<Effect>& effects,
                                std::size_t count, const std::function<void(const Files&)>& check) {
-    Disk old;
+    SimulatedDisk old;
     for (const auto& [path, content] : before) {
         old.names[path] = content == folder ? folder : path;
         old.contents[path] = content;
@@ -120,7 +120,7 @@ void CrashedDisk::forEachState(const Files& before, const std::vector<Effect>& e
     const std::vector<Step> steps = stepsOf(effects, count);
     const auto uncertain = std::ranges::count(steps, false, &Step::durable);
     for (std::uint64_t choice = 0; choice < std::uint64_t{1} << uncertain; ++choice) {
-        Disk disk = old;
+        SimulatedDisk disk = old;
         std::uint64_t rest = choice;
         for (const Step& step : steps) {
             const bool reached = step.durable || (rest & 1) != 0;

@@ -16,9 +16,9 @@ using SystemCalls::Effect;
 
 namespace {
 
-const QString table = u"table"_s;
-const QByteArray oldTable(300, 'o');
-const QByteArray newTable(400, 'n');
+const QString savedKey = u"table"_s;
+const QByteArray valueBefore(300, 'o');
+const QByteArray valueAfter(400, 'n');
 const QByteArray unreadable(200, 'u');
 
 /// A save recorded on a real disk, with what was there before.
@@ -39,14 +39,14 @@ Recording recordSave(const std::optional<QByteArray>& contentBefore) {
     }
     PreferencesFile preferences(path, noRetry);
     SystemCalls::watch({});
-    EXPECT_TRUE(storeNow(preferences, table, newTable));
+    EXPECT_TRUE(storeNow(preferences, savedKey, valueAfter));
     SystemCalls::unwatch();
     recording.effects = SystemCalls::effects();
     return recording;
 }
 
 QByteArray settingsWith(const QByteArray& value) {
-    return QCborValue(QCborMap{{table, value}}).toCbor();
+    return QCborValue(QCborMap{{savedKey, value}}).toCbor();
 }
 
 /// The states of the disk that lose something, over power failures at every moment of the save.
@@ -78,16 +78,16 @@ private:
             hasUnreadable = hasUnreadable || content == unreadable.toStdString();
         }
         const PreferencesFile preferences(folder.path() / "fernwick/preferences.cbor");
-        const auto stored = preferences.bytes(table);
+        const auto stored = preferences.bytes(savedKey);
         const bool keepsOld = stored == oldBefore() && !saveHadReturned;
         const bool keepsUnreadable = !beganUnreadable() || hasUnreadable;
         ++states_;
-        losses_ += (stored == newTable || keepsOld) && keepsUnreadable ? 0 : 1;
+        losses_ += (stored == valueAfter || keepsOld) && keepsUnreadable ? 0 : 1;
     }
 
     [[nodiscard]] bool beganUnreadable() const { return beganWith(unreadable); }
     [[nodiscard]] std::optional<QByteArray> oldBefore() const {
-        return beganWith(settingsWith(oldTable)) ? std::optional(oldTable) : std::nullopt;
+        return beganWith(settingsWith(valueBefore)) ? std::optional(valueBefore) : std::nullopt;
     }
     [[nodiscard]] bool beganWith(const QByteArray& content) const {
         return std::ranges::any_of(recording_.before, [&](const auto& file) {
@@ -126,7 +126,7 @@ void expectOnlyCompleteSaves(const std::optional<QByteArray>& contentBefore, int
 
 TEST(PowerLoss, leavesTheOldSettingsOrTheNewAndKeepsASaveThatHasReturned) {
     constexpr int fileAndFolder = 2;
-    expectOnlyCompleteSaves(settingsWith(oldTable), fileAndFolder);
+    expectOnlyCompleteSaves(settingsWith(valueBefore), fileAndFolder);
 }
 
 TEST(PowerLoss, keepsTheFirstSaveThatHasReturned) {
