@@ -25,16 +25,14 @@ protected:
 
     [[nodiscard]] fs::path path() const { return folder_.path() / "fernwick/preferences.cbor"; }
 
-    static void blockDisk(int errorAfterwards = 0) {
-        SystemCalls::watch({.call = 0, .outcome = Outcome::blocks, .error = errorAfterwards});
-    }
+    static void blockDisk() { SystemCalls::watch({.call = 0, .outcome = Outcome::blocks}); }
     static void failAllWrites() {
         SystemCalls::watch(
             {.call = 0, .outcome = Outcome::fails, .error = ENOSPC, .repeats = true});
     }
 
     [[nodiscard]] static bool waitFor(const auto& condition) {
-        const auto deadline = std::chrono::steady_clock::now() + 1min;
+        const auto deadline = std::chrono::steady_clock::now() + 10s;
         while (!condition() && std::chrono::steady_clock::now() < deadline) {
             std::this_thread::sleep_for(1ms);
         }
@@ -111,7 +109,12 @@ TEST_F(PreferencesWriter, keepsTheLatestValueOfAFailedWriteAndALaterStore) {
 
 TEST_F(PreferencesWriter, keepsAValueThatWasStoredDuringAFailingWrite) {
     PreferencesFile preferences(path(), noRetry);
-    blockDisk(EIO);
+    SystemCalls::watch({});
+    EXPECT_TRUE(storeNow(preferences, u"best-Swift"_s, 15));
+    const std::vector<std::string> calls = SystemCalls::unwatch();
+    const auto write = std::ranges::find(calls, "write") - calls.begin();
+    SystemCalls::watch(
+        {.call = static_cast<std::size_t>(write), .outcome = Outcome::blocks, .error = EIO});
     preferences.store(u"best-Swift"_s, 20);
     SystemCalls::waitUntilBlocked();
     preferences.store(u"best-Swift"_s, 30);
