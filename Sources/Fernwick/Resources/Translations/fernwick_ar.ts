@@ -69,7 +69,7 @@
     </message>
     <message>
         <source>PERSONAL BEST</source>
-        <translation>أفضل نتائجك</translation>
+        <translation>أفضل نتيجة لك</translation>
     </message>
     <message>
         <source>FERNWICK</source>
@@ -216,7 +216,7 @@
     <message>
         <source>You gathered %lld points. Let&apos;s grow a little further.</source>
         <extracomment>%lld is the score; it has to stay.</extracomment>
-        <translation>حصادك من النقاط: %lld. فلننمُ قليلًا بعد.</translation>
+        <translation>حصادك من النقاط: %lld. فلننمُ أكثر قليلًا.</translation>
     </message>
     <message>
         <source>Grow again</source>
@@ -239,11 +239,11 @@
     <message>
         <source>Find your flow.</source>
         <extracomment>The headline before the first run.</extracomment>
-        <translation>جِد إيقاعك.</translation>
+        <translation>اعثر على إيقاعك.</translation>
     </message>
     <message>
         <source>Gather the fruit. Grow a little longer. Stay curious.</source>
-        <translation>اقطف الثمار. انمُ قليلًا بعد. ودُم شغوفًا.</translation>
+        <translation>اقطف الثمار. انمُ أكثر قليلًا. واحتفظ بفضولك.</translation>
     </message>
     <message>
         <source>Let&apos;s grow</source>

@@ -172,7 +172,7 @@
     <name>NameEntry</name>
     <message>
         <source>Save score</source>
-        <translation>Punkte speichern</translation>
+        <translation>Ergebnis speichern</translation>
     </message>
     <message>
         <source>Your name</source>
@@ -234,7 +234,7 @@
     </message>
     <message>
         <source>Keep growing</source>
-        <translation>Weiter wachsen</translation>
+        <translation>Weiterwachsen</translation>
     </message>
     <message>
         <source>Find your flow.</source>
@@ -339,7 +339,7 @@
     </message>
     <message>
         <source>Score saved · Top 10</source>
-        <translation>Punkte gespeichert · Top 10</translation>
+        <translation>Ergebnis gespeichert · Top 10</translation>
     </message>
     <message>
         <source>Top 10</source>

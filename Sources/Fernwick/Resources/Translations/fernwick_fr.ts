@@ -23,7 +23,7 @@
     <message>
         <source>ANOTHER CHANCE TO GROW</source>
         <extracomment>The run is over.</extracomment>
-        <translation>UNE AUTRE CHANCE DE GRANDIR</translation>
+        <translation>UNE NOUVELLE CHANCE DE GRANDIR</translation>
     </message>
     <message>
         <source>TAKE A BREATH</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>Toggle Full Screen</source>
-        <translation>Basculer en plein écran</translation>
+        <translation>Activer/désactiver le plein écran</translation>
     </message>
     <message>
         <source>High Scores</source>
@@ -221,7 +221,7 @@
     <message>
         <source>Grow again</source>
         <extracomment>A button; so are &quot;Keep growing&quot; and &quot;Let&apos;s grow&quot;. An arrow follows the words.</extracomment>
-        <translation>Grandir encore</translation>
+        <translation>Grandir à nouveau</translation>
     </message>
     <message>
         <source>No rush.</source>

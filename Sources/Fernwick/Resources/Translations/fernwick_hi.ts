@@ -40,7 +40,7 @@
     <message>
         <source>Fully grown.</source>
         <extracomment>Headlines of an ended run: the snake fills the whole board; it struck something.</extracomment>
-        <translation>पूरा बढ़ गया।</translation>
+        <translation>पूरी तरह बढ़ गया।</translation>
     </message>
     <message>
         <source>Game over.</source>
@@ -207,7 +207,7 @@
     <message>
         <source>Fully grown.</source>
         <extracomment>Headlines of an ended run: the snake fills the whole board; it struck something.</extracomment>
-        <translation>पूरा बढ़ गया।</translation>
+        <translation>पूरी तरह बढ़ गया।</translation>
     </message>
     <message>
         <source>A good place to begin again.</source>

@@ -6,7 +6,7 @@
     <message>
         <source>Snake board. Score %lld. Use arrow keys or W A S D to move.</source>
         <extracomment>Read aloud for the picture of the board. %lld is the score; it has to stay.</extracomment>
-        <translation>Tabellone del serpente. Punteggio: %lld. Muoviti con le frecce o W A S D.</translation>
+        <translation>Campo di gioco del serpente. Punteggio: %lld. Muoviti con le frecce o W A S D.</translation>
     </message>
 </context>
 <context>

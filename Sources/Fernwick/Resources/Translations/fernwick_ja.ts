@@ -23,7 +23,7 @@
     <message>
         <source>ANOTHER CHANCE TO GROW</source>
         <extracomment>The run is over.</extracomment>
-        <translation>もういちど、育つとき</translation>
+        <translation>もう一度、育つとき</translation>
     </message>
     <message>
         <source>TAKE A BREATH</source>
@@ -125,7 +125,7 @@
     <message>
         <source>·   SPACE to pause   ·   R to restart</source>
         <extracomment>Three spaces on each side of a dot, as here. R stays a Latin letter.</extracomment>
-        <translation>·   スペースで一時停止   ·   R でやりなおし</translation>
+        <translation>·   スペースキーで一時停止   ·   R でやりなおし</translation>
     </message>
 </context>
 <context>
@@ -221,7 +221,7 @@
     <message>
         <source>Grow again</source>
         <extracomment>A button; so are &quot;Keep growing&quot; and &quot;Let&apos;s grow&quot;. An arrow follows the words.</extracomment>
-        <translation>もう一度育つ</translation>
+        <translation>もう一度育てる</translation>
     </message>
     <message>
         <source>No rush.</source>
@@ -234,7 +234,7 @@
     </message>
     <message>
         <source>Keep growing</source>
-        <translation>育ちつづける</translation>
+        <translation>育てつづける</translation>
     </message>
     <message>
         <source>Find your flow.</source>
@@ -247,7 +247,7 @@
     </message>
     <message>
         <source>Let&apos;s grow</source>
-        <translation>さあ、育とう</translation>
+        <translation>育てよう</translation>
     </message>
 </context>
 <context>

@@ -230,7 +230,7 @@
     </message>
     <message>
         <source>Your garden will be here when you&apos;re ready.</source>
-        <translation>정원은 언제나 여기서 기다릴게요.</translation>
+        <translation>정원은 언제나 여기서 기다리고 있을 거예요.</translation>
     </message>
     <message>
         <source>Keep growing</source>
@@ -247,7 +247,7 @@
     </message>
     <message>
         <source>Let&apos;s grow</source>
-        <translation>자라 볼까요</translation>
+        <translation>자라 볼까요?</translation>
     </message>
 </context>
 <context>
@@ -339,11 +339,11 @@
     </message>
     <message>
         <source>Score saved · Top 10</source>
-        <translation>점수 저장됨 · 톱 10</translation>
+        <translation>점수 저장됨 · 상위 10위</translation>
     </message>
     <message>
         <source>Top 10</source>
-        <translation>톱 10</translation>
+        <translation>상위 10위</translation>
     </message>
 </context>
 <context>

@@ -32,7 +32,7 @@
     </message>
     <message>
         <source>THE CLASSIC, REPLANTED</source>
-        <translation>KLASİK, YENİDEN DİKİLDİ</translation>
+        <translation>KLASİK, YENİDEN FİLİZLENDİ</translation>
     </message>
 </context>
 <context>
@@ -185,7 +185,7 @@
     </message>
     <message>
         <source>Skip saving</source>
-        <translation>Kaydetme</translation>
+        <translation>Kaydetmeden geç</translation>
     </message>
     <message>
         <source>Leave your name in the garden.</source>
@@ -350,7 +350,7 @@
     <name>ScoreRows</name>
     <message>
         <source>A fresh start. Be the first on the board.</source>
-        <translation>Taze bir başlangıç. Listedeki ilk ad seninki olsun.</translation>
+        <translation>Yepyeni bir başlangıç. Listedeki ilk ad seninki olsun.</translation>
     </message>
     <message>
         <source>Scores</source>

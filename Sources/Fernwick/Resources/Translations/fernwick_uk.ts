@@ -40,7 +40,7 @@
     <message>
         <source>Fully grown.</source>
         <extracomment>Headlines of an ended run: the snake fills the whole board; it struck something.</extracomment>
-        <translation>Виросла на повну.</translation>
+        <translation>Виросла сповна.</translation>
     </message>
     <message>
         <source>Game over.</source>
@@ -100,7 +100,7 @@
     <message>
         <source>Top 10 for each speed · saved on this Mac</source>
         <extracomment>&quot;Mac&quot; means the player&apos;s own computer, of whatever make.</extracomment>
-        <translation>Топ-10 кожного темпу · збережено на цьому комп’ютері</translation>
+        <translation>Топ-10 для кожного темпу · збережено на цьому комп’ютері</translation>
     </message>
 </context>
 <context>
@@ -172,7 +172,7 @@
     <name>NameEntry</name>
     <message>
         <source>Save score</source>
-        <translation>Зберегти рахунок</translation>
+        <translation>Зберегти результат</translation>
     </message>
     <message>
         <source>Your name</source>
@@ -207,7 +207,7 @@
     <message>
         <source>Fully grown.</source>
         <extracomment>Headlines of an ended run: the snake fills the whole board; it struck something.</extracomment>
-        <translation>Виросла на повну.</translation>
+        <translation>Виросла сповна.</translation>
     </message>
     <message>
         <source>A good place to begin again.</source>
@@ -339,7 +339,7 @@
     </message>
     <message>
         <source>Score saved · Top 10</source>
-        <translation>Рахунок збережено · Топ-10</translation>
+        <translation>Результат збережено · Топ-10</translation>
     </message>
     <message>
         <source>Top 10</source>

@@ -159,7 +159,7 @@ TEST(TrackedLabel, hasTheSameHeightForTextsInTheSameScript) {
             .height();
     };
 
-    EXPECT_EQ(heightOf("النقاط"), heightOf("أفضل نتائجك"));
+    EXPECT_EQ(heightOf("النقاط"), heightOf("أفضل نتيجة لك"));
     EXPECT_EQ(heightOf("РАХУНОК"), heightOf("ОСОБИСТИЙ РЕКОРД"));
     EXPECT_EQ(heightOf("अंक"), heightOf("आपका सर्वश्रेष्ठ"));
     EXPECT_EQ(heightOf("スコア"), heightOf("自己ベスト"));
