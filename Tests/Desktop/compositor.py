@@ -41,6 +41,9 @@ class Compositor:
         eventually(self._fills_the_screen, "the compositor fills the screen")
         self._synchronise_pointer()
 
+    def crash(self):
+        self._process.kill()
+
     def stop(self):
         self._process.terminate()
         self._process.wait()

@@ -1,9 +1,14 @@
+import pathlib
+import subprocess
+
 import pytest
 from accessible_desktop import accessible_desktop
 from game import ACCESSIBLE, Game
 from home import Home
 from other_window import OtherWindow
 from screen import Screen
+
+DELAYED_FLUSH = pathlib.Path(__file__).parents[1] / "Support/DelayedFlush.cpp"
 
 # Below all controls.
 POINTER_AWAY = str(Screen.WIDTH // 2), str(Screen.HEIGHT - 2)
@@ -20,6 +25,15 @@ def short_lived_desktop():
     """A separate desktop, which the test may ruin."""
     with accessible_desktop() as desktop:
         yield desktop
+
+
+@pytest.fixture(scope="session")
+def slow_disk(tmp_path_factory):
+    """Environment variables that make every fsync() take 300 ms."""
+    library = tmp_path_factory.mktemp("slow_disk") / "DelayedFlush.so"
+    subprocess.run(["g++", "-std=c++20", "-shared", "-fPIC", "-o", library, DELAYED_FLUSH],
+                   check=True)
+    return {"LD_PRELOAD": str(library), "FERNWICK_FLUSH_DELAY": "300"}
 
 
 @pytest.fixture

@@ -53,6 +53,18 @@ def test_a_crash_of_the_x_server_loses_nothing_stored(short_lived_desktop, home,
     assert [entry["name"] for entry in home.high_scores()] == ["Pip"]
 
 
+def test_a_crash_of_the_x_server_loses_no_score_on_a_slow_disk(
+        short_lived_desktop, home, tmp_path, slow_disk):
+    game = Game(short_lived_desktop, tmp_path, short_lived_desktop.environment
+                | home.environment | ACCESSIBLE | slow_disk)
+    try:
+        game.wait_until_shown()
+        game.save_a_run("Pip")
+    finally:
+        lose_display(game, short_lived_desktop.end_display)
+    assert home.saved()["player-name"] == "Pip"
+
+
 def test_the_start_after_a_crash_of_the_x_server_finds_the_score(
         short_lived_desktop, launch, home, tmp_path):
     lost = Game(short_lived_desktop, tmp_path,

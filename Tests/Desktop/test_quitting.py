@@ -4,14 +4,11 @@ import os
 import pathlib
 import signal
 import socket
-import subprocess
 
 import pytest
 from game import ACCESSIBLE, Game
 from key_flood import press_fast
 from waiting import TIMEOUT, eventually
-
-DELAYED_FLUSH = pathlib.Path(__file__).parents[1] / "Support/DelayedFlush.cpp"
 
 
 def close_by_window_manager(game):
@@ -107,15 +104,6 @@ def test_a_signal_before_there_is_a_window_gives_status_0(start, silent_bus, num
     silent_bus.accept()
     game.process.send_signal(number)
     assert game.exit_status() == 0
-
-
-@pytest.fixture(scope="module")
-def slow_disk(tmp_path_factory):
-    """Environment variables that make every fsync() take 300 ms."""
-    library = tmp_path_factory.mktemp("slow_disk") / "DelayedFlush.so"
-    subprocess.run(["g++", "-std=c++20", "-shared", "-fPIC", "-o", library, DELAYED_FLUSH],
-                   check=True)
-    return {"LD_PRELOAD": str(library), "FERNWICK_FLUSH_DELAY": "300"}
 
 
 def test_an_exit_waits_for_a_slow_disk_and_a_start_for_the_exit(launch, home, slow_disk):

@@ -7,7 +7,7 @@ from compositor import BACKGROUND, Compositor
 from game import FRESH, MOVING, PAUSED, Game
 from screen import Screen
 from test_playing import KEYPAD_ARROWS, LETTERS, press_with_alt_gr, steer_in_a_square
-from waiting import eventually
+from waiting import TIMEOUT, eventually
 
 SIZE = Screen.WIDTH, Screen.HEIGHT
 WINDOW_SIZE = 940, 860
@@ -130,3 +130,18 @@ def test_a_signal_quits_with_status_0(game, number):
 def middle(element):
     left, top, width, height = element.extents_on_screen()
     return left + width // 2, top + height // 2
+
+
+def test_a_crash_of_the_compositor_loses_no_score_on_a_slow_disk(
+        desktop, wayland, home, tmp_path, slow_disk):
+    game = Game(desktop, tmp_path, desktop.environment | home.environment
+                | wayland.environment | slow_disk)
+    try:
+        game.wait_for(FRESH)
+        game.save_a_run("Pip")
+        wayland.crash()
+        assert game.process.wait(TIMEOUT) == 1
+    finally:
+        game.kill()
+    assert home.saved()["player-name"] == "Pip"
+    assert "The Wayland connection broke" in game.printed()

@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QLocale>
+#include <chrono>
 #include <cstdlib>
 #include <optional>
 
@@ -63,6 +64,8 @@ int main(int argc, char* argv[]) {
 
     const Desktop::QuitOnSignals quitOnSignals;
     static Storage::PreferencesFile preferences(settings);
+    Desktop::callBeforeWaylandExit(
+        [] { static_cast<void>(preferences.flush(std::chrono::seconds(5))); });
     Sound::PulseSoundEffects soundEffects(applicationID.toUtf8());
     FernwickApp fernwick(preferences, soundEffects);
     QObject::connect(&fernwick.window(), &GameWindow::appeared, &fernwick, [&] {

@@ -7,6 +7,7 @@
 #include <array>
 #include <cstdio>
 #include <cstdlib>
+#include <mutex>
 #include <utility>
 #include <vector>
 
@@ -33,6 +34,12 @@ constexpr QLatin1String xServerFailure("could not connect to display");
 constexpr QLatin1String missingPlugin("Could not find the Qt platform plugin");
 constexpr std::array displayFailures{waylandFailure, xServerFailure, missingPlugin};
 
+/// After these messages Qt calls _exit().
+constexpr std::array waylandLosses{
+    QLatin1String("The Wayland connection broke"),
+    QLatin1String("The Wayland connection experienced a fatal error"),
+};
+
 /// Part of Qt's last message when it has tried all of them.
 constexpr QLatin1String noDisplay("no Qt platform plugin could be initialized");
 
@@ -43,6 +50,7 @@ struct Message {
 };
 
 QtMessageHandler defaultHandler = nullptr;
+void (*beforeWaylandExit)() = nullptr;
 bool showsEverything = false;
 bool isOpeningDisplay = false;
 std::vector<Message> held;
@@ -92,6 +100,14 @@ void filter(QtMsgType type, const QMessageLogContext& context, const QString& me
     } else if (showsEverything || !startsWithOneOf(harmlessPrefixes, message)) {
         defaultHandler(type, context, message);
     }
+    if (startsWithOneOf(waylandLosses, message)) {
+        // Each thread that uses the connection gets here, and the first to return ends the process.
+        static std::mutex mutex;
+        const std::lock_guard lock(mutex);
+        if (beforeWaylandExit != nullptr) {
+            beforeWaylandExit();
+        }
+    }
 }
 
 }  // namespace
@@ -111,6 +127,10 @@ void showHeldQtMessages() {
             show(message);
         }
     }
+}
+
+void callBeforeWaylandExit(void (*function)()) {
+    beforeWaylandExit = function;
 }
 
 }  // namespace Desktop

@@ -16,4 +16,8 @@ void filterQtMessages();
 /// about Wayland: Qt tries Wayland first, and an X server is just as good.
 void showHeldQtMessages();
 
+/// Sets a function to call when the connection to the Wayland compositor is lost. Qt then prints a
+/// message and calls _exit(), so that no destructor runs. Called in any thread.
+void callBeforeWaylandExit(void (*function)());
+
 }  // namespace Desktop
