@@ -1,5 +1,6 @@
 #include "Screens/Main/ContentView.hpp"
 
+#include <QPaintEngine>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QVBoxLayout>
@@ -36,9 +37,11 @@ ContentView::ContentView(Session& session, int topPadding, QWidget* parent)
 }
 
 void ContentView::paintEvent(QPaintEvent* event) {
-    // A new device pixel ratio repaints the whole window, this widget first.
-    placeBoard();
     QPainter painter(this);
+    // While a screen's scale changes on Wayland, the widget's ratio can differ from that of the
+    // buffer that it is painted on. A new ratio repaints the whole window, this widget first.
+    scale_ = painter.paintEngine()->paintDevice()->devicePixelRatio();
+    placeBoard();
     const WidgetPixels pixels(painter, rect(), scale_);
     for (const QRect& part : event->region()) {
         const QRect area = pixels.of(part);
@@ -60,7 +63,6 @@ void ContentView::placeBoard() {
     const QPoint origin = boardArea_->pos();
     const Painting::BoardGeometry board =
         Painting::fitBoard(boardArea_->rect(), {int{Session::columns}, int{Session::rows}});
-    scale_ = devicePixelRatioF();
     backdrop_.fit(size(), scale_, board.frame.translated(origin));
     boardArea_->placeBoard(board, origin, scale_);
 }

@@ -1,5 +1,6 @@
 #include <QMenuBar>
 
+#include "Fernwick/Painting/PictureDifference.hpp"
 #include "Fernwick/Window/LookTest.hpp"
 #include "Garden/Look/Palette.hpp"
 #include "Garden/Widgets/ChoiceGroup.hpp"
@@ -184,4 +185,18 @@ TEST_P(MainScreenLook, alignsTheMenuWithTheRows) {
 
     EXPECT_EQ(bar.actions().constFirst()->text(), "File");
     EXPECT_NEAR(first, sidePadding, 2);
+}
+
+// So on Wayland while the scale of the screen changes.
+TEST_P(MainScreenLook, isTheSameOnABufferOfAnotherRatioThanTheWindow) {
+    startRun();
+    const QSize size = window.size();
+    const QImage expected = grab().scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+
+    QImage doubled(size * 2 * window.devicePixelRatioF(), QImage::Format_RGB32);
+    doubled.setDevicePixelRatio(2 * window.devicePixelRatioF());
+    window.render(&doubled);
+
+    const QImage shown = doubled.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    EXPECT_LT(difference(shown, expected).mean, 1);
 }
