@@ -12,14 +12,8 @@
 #include "Window/Log.hpp"
 #include "Window/MenuCommands.hpp"
 #include "Window/TitleBand.hpp"
+#include "Window/WindowBounds.hpp"
 #include "Window/WindowChrome.hpp"
-
-namespace {
-
-constexpr QSize defaultSize(940, 860);
-constexpr QSize minimumWindowSize(820, 760);
-
-}  // namespace
 
 GameWindow::GameWindow(Session& session)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint),
@@ -30,8 +24,6 @@ GameWindow::GameWindow(Session& session)
     setObjectName(QStringLiteral("main"));
     //: The name of the game. Stays as it is in every language.
     setWindowTitle(tr("Fernwick"));
-    setMinimumSize(minimumWindowSize);
-    resize(defaultSize);
     // The content paints every pixel.
     setAttribute(Qt::WA_OpaquePaintEvent);
 
@@ -42,7 +34,9 @@ GameWindow::GameWindow(Session& session)
     new LaunchView(this);
     new MenuCommands(session, band_->menuBar(), *this);
     create();
-    new WindowChrome(*this, TitleBand::height);
+    auto* bounds = new WindowBounds(*this);
+    auto* chrome = new WindowChrome(*this, TitleBand::height);
+    connect(chrome, &WindowChrome::resizeBegins, bounds, &WindowBounds::beginResize);
     band_->watchWindow();
     connect(band_, &TitleBand::menuInUseChanged, &session, &Session::setHeld);
     connect(content_, &ContentView::appeared, this, &GameWindow::appeared, Qt::QueuedConnection);
@@ -51,30 +45,18 @@ GameWindow::GameWindow(Session& session)
             [this] { setWindowIcon(Garden::applicationIcon()); });
 }
 
-bool GameWindow::coversScreen() const {
-    return isFullScreen() || isMaximized();
-}
-
 void GameWindow::changeEvent(QEvent* event) {
     if (event->type() == QEvent::WindowStateChange) {
         qCDebug(windowLog) << windowState() << size();
-        // On a small screen the minimum size would exceed the size that the compositor asks for,
-        // which is a protocol error in xdg-shell and ends the program.
-        if (coversScreen()) {
-            setMinimumSize(QSize(0, 0));
-        }
     }
     QWidget::changeEvent(event);
 }
 
 void GameWindow::resizeEvent(QResizeEvent* event) {
     qCDebug(windowLog) << "resized from" << event->oldSize() << "to" << event->size();
-    // Not in changeEvent: the window still has the screen's size there.
-    if (!coversScreen()) {
-        setMinimumSize(minimumWindowSize);
-    }
+    // The event's size is stale if an event filter has resized the window again.
     content_->setGeometry(rect());
-    band_->setGeometry(0, 0, event->size().width(), TitleBand::height);
+    band_->setGeometry(0, 0, width(), TitleBand::height);
 }
 
 void GameWindow::closeEvent(QCloseEvent* event) {

@@ -23,8 +23,6 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    [[nodiscard]] bool coversScreen() const;
-
     TitleBand* band_;
     ContentView* content_;
 };

@@ -1,11 +1,15 @@
 #include "Window/LaunchView.hpp"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QPainter>
 #include <QPointer>
 #include <QShowEvent>
 #include <QTimer>
+#include <QWindow>
 #include <chrono>
+#include <functional>
 
+#include "Garden/Look/Palette.hpp"
 #include "Session/MainThread.hpp"
 #include "Window/Log.hpp"
 
@@ -47,6 +51,57 @@ private:
     QWidget& window_;
 };
 
+/// Covers the window with the ground's colour and calls `shown` once the Wayland compositor has
+/// presented that frame. mutter gives a window its place only then; one that enters full screen
+/// earlier has no place to go back to.
+class FirstFrame : public QWidget {
+public:
+    FirstFrame(QWidget& window, std::function<void()> shown)
+        : QWidget(&window), shown_(std::move(shown)) {
+        setAttribute(Qt::WA_OpaquePaintEvent);
+        setGeometry(window.rect());
+        raise();
+        show();
+        window.windowHandle()->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        // Qt's Wayland plugin sends it with the compositor's next frame.
+        if (event->type() == QEvent::UpdateRequest && painted_) {
+            watched->removeEventFilter(this);
+            deleteLater();
+            shown_();
+        }
+        return QWidget::eventFilter(watched, event);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter(this).fillRect(rect(), Garden::night);
+        // Queued, so that this frame has been committed.
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                painted_ = true;
+                window()->windowHandle()->requestUpdate();
+            },
+            Qt::QueuedConnection);
+    }
+
+private:
+    std::function<void()> shown_;
+    bool painted_ = false;
+};
+
+void enterFullScreen(QWidget& window) {
+    assertMainThread();
+    if (!window.isFullScreen()) {
+        qCDebug(windowLog) << "requesting full screen";
+        new PaintAfterResize(window);
+        window.setWindowState(window.windowState() | Qt::WindowFullScreen);
+    }
+}
+
 }  // namespace
 
 LaunchView::LaunchView(QWidget* parent) : QWidget(parent) {
@@ -60,15 +115,16 @@ void LaunchView::showEvent(QShowEvent* event) {
         return;
     }
     configured_ = true;
+    if (QGuiApplication::platformName() == QStringLiteral("wayland")) {
+        new FirstFrame(*window(), [this] { enterFullScreen(*window()); });
+        return;
+    }
     // Queued, so that the window is shown before it changes its state.
     QMetaObject::invokeMethod(
         QCoreApplication::instance(),
         [window = QPointer<QWidget>(this->window())] {
-            assertMainThread();
-            if (!window.isNull() && !window->isFullScreen()) {
-                qCDebug(windowLog) << "requesting full screen";
-                new PaintAfterResize(*window);
-                window->setWindowState(window->windowState() | Qt::WindowFullScreen);
+            if (!window.isNull()) {
+                enterFullScreen(*window);
             }
         },
         Qt::QueuedConnection);

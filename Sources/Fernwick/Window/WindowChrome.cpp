@@ -82,7 +82,11 @@ bool WindowChrome::drag(const QMouseEvent& event) {
     }
     const Qt::Edges edges = edgesAt(*held_);
     held_.reset();
-    return edges != Qt::Edges() ? handle_->startSystemResize(edges) : handle_->startSystemMove();
+    if (edges == Qt::Edges()) {
+        return handle_->startSystemMove();
+    }
+    Q_EMIT resizeBegins();
+    return handle_->startSystemResize(edges);
 }
 
 bool WindowChrome::eventFilter(QObject* watched, QEvent* event) {

@@ -24,6 +24,10 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+Q_SIGNALS:
+    /// The player is about to resize the window by one of its edges.
+    void resizeBegins();
+
 private:
     [[nodiscard]] bool isBand(const QPoint& position) const;
     void showCursorFor(const QPoint& position);

@@ -1,0 +1,101 @@
+#include "Window/WindowBounds.hpp"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWindow>
+#include <algorithm>
+
+namespace {
+
+// In points.
+constexpr QSize defaultSize(940, 860);
+constexpr QSize minimumSize(820, 760);
+/// The smallest tile that a tiling compositor may choose.
+constexpr QSize minimumTile(640, 360);
+/// Room for panels on Wayland, where clients cannot know the work area.
+constexpr int panelHeight = 64;
+
+bool isOnWayland() {
+    return QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
+}
+
+/// Bounded by the available area of `screen`.
+QSize defaultSizeOn(const QScreen& screen) {
+    const QSize room = screen.availableSize();
+    return defaultSize.boundedTo(isOnWayland() ? room - QSize(0, panelHeight) : room);
+}
+
+bool coversScreen(const QWidget& window) {
+    return window.isFullScreen() || window.isMaximized();
+}
+
+}  // namespace
+
+WindowBounds::WindowBounds(QWidget& window) : QObject(&window), window_(window) {
+    window.resize(defaultSizeOn(*window.screen()));
+    window.installEventFilter(this);
+    window.windowHandle()->installEventFilter(this);
+    connect(window.windowHandle(), &QWindow::screenChanged, this, &WindowBounds::followScreen);
+    // Queued, so that Qt has already moved the window to a remaining screen.
+    connect(qGuiApp, &QGuiApplication::screenRemoved, this, &WindowBounds::fit,
+            Qt::QueuedConnection);
+    followScreen();
+}
+
+void WindowBounds::followScreen() {
+    const QScreen& screen = *window_.screen();
+    connect(&screen, &QScreen::availableGeometryChanged, this, &WindowBounds::fit,
+            Qt::UniqueConnection);
+    setMinimum();
+    // Only the size: the player may be dragging the window from another screen.
+    if (!coversScreen(window_)) {
+        window_.resize(window_.size().boundedTo(screen.availableSize()));
+    }
+}
+
+void WindowBounds::setMinimum() {
+    // Qt's Wayland plugin never makes a window smaller than its minimum size. A tile of a tiling
+    // compositor would be cut off, and a smaller output in full screen would be a protocol error.
+    const QSize minimum = isOnWayland() ? minimumTile : minimumSize;
+    window_.setMinimumSize(minimum.boundedTo(window_.screen()->availableSize()));
+}
+
+void WindowBounds::beginResize() {
+    if (isOnWayland()) {
+        window_.setMinimumSize(minimumSize.boundedTo(window_.size()));
+    }
+}
+
+void WindowBounds::fit() {
+    fitsAtNextResize_ = false;
+    const QRect room = window_.screen()->availableGeometry();
+    setMinimum();
+    if (coversScreen(window_)) {
+        return;
+    }
+    QRect place(window_.pos(), window_.size().boundedTo(room.size()));
+    place.moveLeft(std::clamp(place.left(), room.left(), room.right() + 1 - place.width()));
+    place.moveTop(std::clamp(place.top(), room.top(), room.bottom() + 1 - place.height()));
+    window_.setGeometry(place);
+}
+
+bool WindowBounds::eventFilter(QObject* watched, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::WindowStateChange:
+            // The new geometry has not arrived yet.
+            fitsAtNextResize_ = !coversScreen(window_);
+            break;
+        case QEvent::Resize:
+            if (fitsAtNextResize_) {
+                QMetaObject::invokeMethod(this, &WindowBounds::fit, Qt::QueuedConnection);
+            }
+            break;
+        case QEvent::Enter:
+            // The compositor has had the pointer during the resize.
+            setMinimum();
+            break;
+        default:
+            break;
+    }
+    return QObject::eventFilter(watched, event);
+}
