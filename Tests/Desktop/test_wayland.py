@@ -7,6 +7,7 @@ from compositor import BACKGROUND, Compositor
 from game import FRESH, MOVING, PAUSED, Game
 from screen import Screen
 from test_playing import KEYPAD_ARROWS, LETTERS, press_with_alt_gr, steer_in_a_square
+from test_window import GRIP, MINIMUM_SIZE, drag
 from waiting import TIMEOUT, eventually
 
 SIZE = Screen.WIDTH, Screen.HEIGHT
@@ -111,6 +112,17 @@ def test_leaving_full_screen_restores_the_window_size_without_a_frame(game):
     eventually(lambda: bounds_of_game(game)[2:] == WINDOW_SIZE, "there is no frame")
     game.press("F11")
     eventually(lambda: bounds_of_game(game) == (0, 0, *SIZE), "full screen again")
+
+
+def test_an_edge_cannot_be_dragged_below_the_minimum_size(game):
+    game.press("F11")
+    game.wait_for("Minimise")
+    eventually(lambda: bounds_of_game(game)[2:] == WINDOW_SIZE, "full screen is left")
+    left, top, width, height = bounds_of_game(game)
+    release = drag(game, (left + width - GRIP, top + height - GRIP), by=(-400, -400))
+    eventually(lambda: bounds_of_game(game) == (left, top, *MINIMUM_SIZE),
+               "the window has its minimum size")
+    release()
 
 
 @pytest.mark.parametrize("scale", [1.25, 1.5])
