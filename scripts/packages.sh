@@ -70,6 +70,7 @@ weston               Wayland compositor
 xdotool              sends key presses and moves the pointer
 x11-utils            xprop, which reads the state of windows
 x11-xkb-utils        setxkbmap, which switches keyboard layouts
+x11-xserver-utils    xrandr, which changes the resolution of the screen
 imagemagick          takes screenshots
 dbus                 D-Bus session bus for the desktop tests
 at-spi2-core         AT-SPI accessibility bus

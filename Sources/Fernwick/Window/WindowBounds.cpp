@@ -33,6 +33,9 @@ bool coversScreen(const QWidget& window) {
 
 WindowBounds::WindowBounds(QWidget& window) : QObject(&window), window_(window) {
     window.resize(defaultSizeOn(*window.screen()));
+    // Some X11 window managers would put it into the top left corner. On Wayland the compositor
+    // alone decides.
+    window.move(window.screen()->availableGeometry().center() - window.rect().center());
     window.installEventFilter(this);
     window.windowHandle()->installEventFilter(this);
     connect(window.windowHandle(), &QWindow::screenChanged, this, &WindowBounds::followScreen);

@@ -34,6 +34,15 @@ TEST_F(BoundedWindow, hasItsDefaultSizeAsFarAsTheScreenHasRoom) {
     EXPECT_EQ(window.size(), QSize(940, 860).boundedTo(room().size()));
 }
 
+TEST_F(BoundedWindow, isInTheMiddleOfTheScreenAfterFullScreen) {
+    toggle();
+
+    EXPECT_TRUE(QTest::qWaitFor([this] {
+        const QPoint off = window.geometry().center() - room().center();
+        return off.manhattanLength() <= 2;
+    })) << ::testing::PrintToString(window.geometry());
+}
+
 TEST_F(BoundedWindow, hasItsMinimumSizeAsFarAsTheScreenHasRoom) {
     EXPECT_EQ(window.minimumSize(), QSize(820, 760).boundedTo(room().size()));
     toggle();
