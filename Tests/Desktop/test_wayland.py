@@ -74,6 +74,22 @@ def test_starts_in_full_screen(game):
     assert not game.find("File").is_showing()
 
 
+# mutter gives a window its place when it first presents it. A window that is in full screen before
+# that has no place to go back to.
+def test_enters_full_screen_after_its_first_frame_was_presented(
+        desktop, wayland, home, tmp_path):
+    game = Game(desktop, tmp_path, desktop.environment | home.environment
+                | wayland.environment | {"WAYLAND_DEBUG": "1"})
+    try:
+        game.wait_for(FRESH)
+    finally:
+        game.kill()
+    requests = game.printed()
+    attached = requests.index(".attach(wl_buffer")
+    presented = requests.index(".done(", requests.index(".commit()", attached))
+    assert attached < presented < requests.index(".set_fullscreen(")
+
+
 def test_w_a_s_d_steer_the_snake(game):
     steer_in_a_square(game, LETTERS)
 
