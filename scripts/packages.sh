@@ -16,6 +16,7 @@ qt6-wayland          Qt's Wayland plugin
 nlohmann-json3-dev   JSON parser for the high scores
 libicu-dev           ICU: finds the user-perceived characters of a name
 uuid-dev             libuuid: one UUID per run
+libxcb1-dev          X11 client library, for a request to the window manager
 libpulse-dev         PulseAudio client library for the two sounds
 fonts-inter          embedded font of the texts
 fonts-elstob         embedded font of the headlines

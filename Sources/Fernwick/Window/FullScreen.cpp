@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QWidget>
 
+#include "Desktop/X11FullScreen.hpp"
+
 namespace {
 
 bool canBeMainWindow(const QWidget& widget) {
@@ -25,7 +27,10 @@ QWidget* windowToToggle() {
 }  // namespace
 
 void toggleFullScreen() {
-    if (QWidget* window = windowToToggle(); window != nullptr) {
+    QWidget* window = windowToToggle();
+    if (window != nullptr &&
+        !(window->isMaximized() &&
+          Desktop::requestFullScreenOnX11(*window->windowHandle(), !window->isFullScreen()))) {
         window->setWindowState(window->windowState() ^ Qt::WindowFullScreen);
     }
 }

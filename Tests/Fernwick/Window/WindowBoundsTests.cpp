@@ -51,6 +51,7 @@ TEST_F(BoundedWindow, hasItsMinimumSizeAsFarAsTheScreenHasRoom) {
 
 TEST_F(BoundedWindow, isMaximisedAgainAfterFullScreen) {
     toggle();
+    const QRect before = window.geometry();
     window.showMaximized();
     EXPECT_TRUE(QTest::qWaitFor([this] { return window.isMaximized(); }));
 
@@ -61,6 +62,10 @@ TEST_F(BoundedWindow, isMaximisedAgainAfterFullScreen) {
     // The window manager may still change the state.
     QTest::qWait(300);
     EXPECT_TRUE(isOnlyMaximized());
+
+    window.showNormal();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window.geometry() == before; }))
+        << ::testing::PrintToString(window.geometry());
 }
 
 TEST_F(BoundedWindow, isNotMaximisedAfterFullScreenIfItWasNotBefore) {
