@@ -7,6 +7,7 @@
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QWindow>
+#include <utility>
 
 #include "Garden/Widgets/IconButton.hpp"
 #include "Window/AltTap.hpp"
@@ -93,10 +94,14 @@ void TitleBand::followWindowState() {
     }
     maximize_->setIcon(window()->isMaximized() ? Garden::Icon::windowRestore
                                                : Garden::Icon::windowMaximize);
-    if (fullScreen) {
-        menuUse_->leaveBar();
+    // The event also comes when the state stays the same: on GNOME's Wayland session, opening a
+    // menu deactivates the window for a moment, and Qt reports both changes this way.
+    if (fullScreen != std::exchange(fullScreen_, fullScreen)) {
+        if (fullScreen) {
+            menuUse_->leaveBar();
+        }
+        menuBar_->setVisible(!fullScreen);
     }
-    menuBar_->setVisible(!fullScreen);
 }
 
 void TitleBand::followPointer(int y) {

@@ -46,5 +46,6 @@ private:
     MenuUse* menuUse_ = nullptr;
     QList<Garden::IconButton*> buttons_;
     Garden::IconButton* maximize_ = nullptr;
+    bool fullScreen_ = false;
     bool pointerInBand_ = false;
 };

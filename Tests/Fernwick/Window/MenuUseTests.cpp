@@ -122,6 +122,17 @@ TEST_P(MenusInUse, endWithAClickInTheWindowIfADesktopPanelShowsThem) {
     expectHeld(false);
 }
 
+TEST_P(MenusInUse, keepTheBarShownWhenTheWindowStateIsReportedAgain) {
+    press(firstMenu);
+
+    // GNOME's Wayland session deactivates and activates the window when a menu opens.
+    QWindowStateChangeEvent event(window.windowState());
+    QCoreApplication::sendEvent(&window, &event);
+
+    EXPECT_TRUE(bar().isVisible());
+    EXPECT_EQ(openTitle(), "File");
+}
+
 TEST_P(MenuBarInUse, holdsTheRunUntilEscape) {
     startRun();
     activateBar();
