@@ -20,13 +20,27 @@ const QString catalogueStem = QStringLiteral("fernwick_");
     QT_TRANSLATE_NOOP("QLineEdit", "&Paste"),
     QT_TRANSLATE_NOOP("QLineEdit", "Delete"),
     QT_TRANSLATE_NOOP("QLineEdit", "Select All"),
-    //: Keys, as they are written on the keyboards of the language.
+    //: Keys, as they are written on the keyboards of the language. "Meta" is the key with a logo
+    //: next to Alt, which Linux desktops call "Super".
     QT_TRANSLATE_NOOP("QShortcut", "Ctrl"),
     QT_TRANSLATE_NOOP("QShortcut", "Shift"),
     QT_TRANSLATE_NOOP("QShortcut", "Meta"),
     //: What can be done with a button, and what that means; read aloud.
     QT_TRANSLATE_NOOP("QAccessibleActionInterface", "Press"),
     QT_TRANSLATE_NOOP("QAccessibleActionInterface", "Triggers the action"),
+};
+
+/// Qt's English name of a key that keyboards and desktops call otherwise.
+class EnglishKeyNames : public QTranslator {
+public:
+    [[nodiscard]] QString translate(const char* context, const char* source, const char*,
+                                    int) const override {
+        return qstrcmp(context, "QShortcut") == 0 && qstrcmp(source, "Meta") == 0
+                   ? QStringLiteral("Super")
+                   : QString();
+    }
+
+    [[nodiscard]] bool isEmpty() const override { return false; }
 };
 
 // Readers understand another country's variant of their language, but not another script.
@@ -61,9 +75,13 @@ QString Language::bestFor(const QStringList& wanted) {
 }
 
 Language::Language(const QString& name) {
-    if (!name.isEmpty() && texts_.load(catalogueStem + name, catalogueFolder)) {
-        QCoreApplication::installTranslator(&texts_);
+    if (name.isEmpty()) {
+        texts_ = std::make_unique<EnglishKeyNames>();
+    } else {
+        texts_ = std::make_unique<QTranslator>();
+        static_cast<void>(texts_->load(catalogueStem + name, catalogueFolder));
     }
+    QCoreApplication::installTranslator(texts_.get());
     const QLocale locale(name.isEmpty() ? QStringLiteral("en") : name);
     // Garden's fonts choose their fallback families by the default locale.
     QLocale::setDefault(locale);

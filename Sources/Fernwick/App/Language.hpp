@@ -3,6 +3,7 @@
 #include <QString>
 #include <QStringList>
 #include <QTranslator>
+#include <memory>
 
 /// Installs a language for the lifetime of the object: the translated texts, the default locale and
 /// the layout direction. Make it before the first widget.
@@ -20,5 +21,5 @@ public:
     explicit Language(const QString& name);
 
 private:
-    QTranslator texts_;
+    std::unique_ptr<QTranslator> texts_;
 };

@@ -22,7 +22,7 @@ MenuCommands::MenuCommands(Session& session, QMenuBar& bar, QWidget& window)
     add(file, tr("Quit"), {QKeySequence(Qt::CTRL | Qt::Key_Q)}, [] { QCoreApplication::quit(); });
 
     add(game, tr("Toggle Full Screen"),
-        {QKeySequence(Qt::CTRL | Qt::META | Qt::Key_F), QKeySequence(Qt::Key_F11)},
+        {QKeySequence(Qt::Key_F11), QKeySequence(Qt::CTRL | Qt::META | Qt::Key_F)},
         toggleFullScreen);
     game.addSeparator();
     add(game, tr("High Scores"), {QKeySequence(Qt::CTRL | Qt::Key_L)},

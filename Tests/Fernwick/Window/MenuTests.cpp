@@ -66,8 +66,9 @@ TEST_F(Menus, listTheirItemsInOrder) {
 TEST_F(Menus, showShortcuts) {
     EXPECT_EQ(item("New Game")->shortcut(), QKeySequence("Ctrl+N"));
     EXPECT_EQ(item("Quit")->shortcut(), QKeySequence("Ctrl+Q"));
+    // The menu displays the first one.
     EXPECT_EQ(item("Toggle Full Screen")->shortcuts(),
-              QList<QKeySequence>({QKeySequence("Ctrl+Meta+F"), QKeySequence("F11")}));
+              QList<QKeySequence>({QKeySequence("F11"), QKeySequence("Ctrl+Meta+F")}));
     EXPECT_EQ(item("High Scores")->shortcut(), QKeySequence("Ctrl+L"));
     EXPECT_EQ(item("Resume")->shortcut(), QKeySequence("Ctrl+P"));
     EXPECT_TRUE(item("Sound Effects")->shortcuts().isEmpty());

@@ -314,7 +314,7 @@
     <name>QShortcut</name>
     <message>
         <source>Ctrl</source>
-        <extracomment>Keys, as they are written on the keyboards of the language.</extracomment>
+        <extracomment>Keys, as they are written on the keyboards of the language. &quot;Meta&quot; is the key with a logo next to Alt, which Linux desktops call &quot;Super&quot;.</extracomment>
         <translation>Ctrl</translation>
     </message>
     <message>
@@ -323,7 +323,7 @@
     </message>
     <message>
         <source>Meta</source>
-        <translation>Meta</translation>
+        <translation>Super</translation>
     </message>
 </context>
 <context>

@@ -26,6 +26,13 @@ class QtTexts : public ::testing::TestWithParam<QString> {};
 
 INSTANTIATE_TEST_SUITE_P(Languages, QtTexts, ::testing::ValuesIn(allLanguages()), languageName);
 
+/// The name that shortcuts show for the key with the logo.
+QString logoKey() {
+    return QKeySequence(Qt::META | Qt::Key_F)
+        .toString(QKeySequence::NativeText)
+        .section(u'+', 0, 0);
+}
+
 }  // namespace
 
 TEST_P(QtTexts, areTranslatedInTheMenuOfTheNameField) {
@@ -56,6 +63,18 @@ TEST_P(QtTexts, areTranslatedInTheAccessibleActionOfAButton) {
     const QString translated = QAccessibleActionInterface::tr(press.toUtf8().constData());
 
     EXPECT_NE(translated, english);
+}
+
+TEST_P(QtTexts, callTheLogoKeySuper) {
+    const Language language(GetParam());
+
+    EXPECT_EQ(logoKey(), "Super");
+}
+
+TEST(QtTextsInEnglish, callTheLogoKeySuper) {
+    const Language english("");
+
+    EXPECT_EQ(logoKey(), "Super");
 }
 
 TEST(QtTextsInGerman, useGermanKeyNames) {
