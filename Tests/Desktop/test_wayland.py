@@ -116,6 +116,15 @@ def test_pauses_when_it_loses_the_focus(game, other_window):
     game.wait_for(PAUSED, "No rush.")
 
 
+def test_pauses_while_the_compositor_switches_windows(game):
+    game.start_run()
+    game.desktop.run("xdotool", "keydown", "super", "key", "Tab")
+    try:
+        game.wait_for(PAUSED, "No rush.")
+    finally:
+        game.desktop.run("xdotool", "keyup", "super")
+
+
 def test_buttons_can_be_clicked(game):
     game.point_at(*middle(game.find("Let's grow")))
     game.desktop.run("xdotool", "click", "1")

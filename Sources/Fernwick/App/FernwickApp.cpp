@@ -1,19 +1,16 @@
 #include "App/FernwickApp.hpp"
 
-#include <QGuiApplication>
-
 #include "Desktop/ActivationToken.hpp"
 #include "Session/MainThread.hpp"
 
 FernwickApp::FernwickApp(Preferences& preferences, SoundEffects& soundEffects)
     : session_(preferences, soundEffects), keyMonitor_(session_), window_(session_) {
-    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
-            [this](Qt::ApplicationState state) {
-                assertMainThread();
-                if (state != Qt::ApplicationActive && session_.running()) {
-                    session_.pause();
-                }
-            });
+    connect(&keyboardFocus_, &Desktop::KeyboardFocus::lost, this, [this] {
+        assertMainThread();
+        if (session_.running()) {
+            session_.pause();
+        }
+    });
 }
 
 void FernwickApp::show() {

@@ -2,6 +2,7 @@
 
 #include <QObject>
 
+#include "Desktop/KeyboardFocus.hpp"
 #include "Session/KeyMonitor.hpp"
 #include "Session/Session.hpp"
 #include "Window/GameWindow.hpp"
@@ -24,10 +25,12 @@ public:
     void bringForward(const QByteArray& activationToken);
 
     [[nodiscard]] Session& session() { return session_; }
+    [[nodiscard]] Desktop::KeyboardFocus& keyboardFocus() { return keyboardFocus_; }
     [[nodiscard]] GameWindow& window() { return window_; }
 
 private:
     Session session_;
     KeyMonitor keyMonitor_;
+    Desktop::KeyboardFocus keyboardFocus_;
     GameWindow window_;
 };

@@ -70,8 +70,10 @@ int main(int argc, char* argv[]) {
     FernwickApp fernwick(preferences, soundEffects);
     QObject::connect(&fernwick.window(), &GameWindow::appeared, &fernwick, [&] {
         soundEffects.prepare();
+        const QDBusConnection bus = QDBusConnection::sessionBus();
+        fernwick.keyboardFocus().followOverview(bus);
         new Desktop::DBusActivation(
-            QDBusConnection::sessionBus(), applicationID, &fernwick,
+            bus, applicationID, &fernwick,
             [&fernwick](const QByteArray& token) { fernwick.bringForward(token); });
         trimHeap();
     });

@@ -2,16 +2,25 @@
 
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QTest>
 
 #include "App/FernwickApp.hpp"
 #include "Fernwick/Session/SessionTest.hpp"
 
 namespace {
 
+// A run goes on if the keyboard comes back within this time, in milliseconds.
+constexpr int longestAbsence = 200;
+
 class Application : public ::testing::Test {
 protected:
     static void changeState(Qt::ApplicationState state) {
         Q_EMIT qGuiApp->applicationStateChanged(state);
+    }
+
+    static void deactivate() {
+        changeState(Qt::ApplicationInactive);
+        QTest::qWait(2 * longestAbsence);
     }
 
     TemporaryFolder folder;
@@ -29,26 +38,38 @@ TEST_F(Application, pausesWhenDeactivatedAndStaysPausedWhenReactivated) {
         session.start();
 
         changeState(inactive);
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !session.running(); }));
         EXPECT_EQ(session.phase(), Session::Phase::paused);
         changeState(Qt::ApplicationActive);
         EXPECT_EQ(session.phase(), Session::Phase::paused);
     }
 }
 
-TEST_F(Application, changesNothingWhenDeactivatedOutsideARunningGame) {
+TEST_F(Application, staysInTheRunIfItIsReactivatedAtOnce) {
+    session.start();
+
     changeState(Qt::ApplicationInactive);
+    QTest::qWait(longestAbsence / 2);
+    changeState(Qt::ApplicationActive);
+    QTest::qWait(2 * longestAbsence);
+
+    EXPECT_EQ(session.phase(), Session::Phase::running);
+}
+
+TEST_F(Application, changesNothingWhenDeactivatedOutsideARunningGame) {
+    deactivate();
     EXPECT_EQ(session.phase(), Session::Phase::fresh);
 
     session.start();
     session.pause();
-    changeState(Qt::ApplicationInactive);
+    deactivate();
     EXPECT_EQ(session.phase(), Session::Phase::paused);
 
     session.start();
     while (session.running()) {
         QMetaObject::invokeMethod(session.findChild<QTimer*>(), "timeout");
     }
-    changeState(Qt::ApplicationInactive);
+    deactivate();
     EXPECT_EQ(session.phase(), Session::Phase::awaitingName);
 }
 
