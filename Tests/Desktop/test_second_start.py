@@ -1,5 +1,6 @@
 """Single instance: a second start activates the first window and exits."""
 
+import re
 import signal
 import subprocess
 import time
@@ -12,23 +13,27 @@ from waiting import TIMEOUT, eventually
 
 BUS_NAME = "org.fernwick.fernwick"
 NO_BUS = {"DBUS_SESSION_BUS_ADDRESS": "unix:path=/nonexistent/bus"}
+ALREADY_RUNNING = b"fernwick: the game is already running\n"
 
 
 @pytest.fixture
 def start_again(desktop, home):
-    """Starts another instance with the same home folder and returns its process."""
+    """Starts another instance with the same home folder and returns its process.
+
+    Checks afterwards that it has printed what was expected."""
     started = []
 
-    def start_again(**environment):
-        started.append(subprocess.Popen(
+    def start_again(prints=b"", **environment):
+        process = subprocess.Popen(
             [PROGRAM], env=desktop.environment | home.environment | environment,
-            stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT))
-        return started[-1]
+            stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
+        started.append((process, prints))
+        return process
 
     yield start_again
-    for process in started:
+    for process, prints in started:
         process.kill()
-        assert process.communicate()[0] == b""
+        assert process.communicate()[0] == prints
 
 
 def exits_normally(process):
@@ -53,6 +58,35 @@ def test_a_second_start_activates_despite_focus_stealing_prevention(
     game.press("shift", "a")
     assert exits_normally(start_again())
     eventually(game.is_active, "the first window is active")
+
+
+def user_time(game):
+    """The time of the latest input or activation request of the window, in ms of the X server."""
+    return int(game.desktop.property(game.window, "_NET_WM_USER_TIME"))
+
+
+@pytest.fixture
+def typing(game, desktop, tmp_path):
+    """Another window that has the focus and has got a key press; the time of that."""
+    events = tmp_path / "events"
+    with open(events, "wb") as file:
+        process = subprocess.Popen(["stdbuf", "-oL", "xev", "-event", "keyboard"],
+                                   env=desktop.environment, stdout=file)
+    eventually(lambda: not game.is_active(), "the other window is active")
+    # The first one may change the state of the keyboard, of which the X server informs every program.
+    game.press("a", "b")
+    presses = eventually(lambda: re.findall(r"KeyPress.*\n.* time (\d+)", events.read_text())[1:],
+                         "the other window gets keys")
+    yield int(presses[0])
+    process.terminate()
+    process.wait()
+
+
+def test_a_second_start_activates_with_a_time_after_the_latest_input(game, typing, start_again):
+    """Window managers may refuse older requests; KWin and Mutter do."""
+    assert user_time(game) < typing
+    assert exits_normally(start_again())
+    eventually(lambda: user_time(game) >= typing, "the window is activated with the current time")
 
 
 def test_a_second_start_does_not_affect_the_run(game, start_again):
@@ -86,7 +120,7 @@ def test_a_second_start_exits_even_if_the_first_is_stopped(game, other_window, s
     other_window.take_focus_from(game)
     game.process.send_signal(signal.SIGSTOP)
     try:
-        assert exits_normally(start_again())
+        assert exits_normally(start_again(prints=ALREADY_RUNNING))
     finally:
         game.process.send_signal(signal.SIGCONT)
     eventually(game.is_active, "the first window is active after SIGCONT")

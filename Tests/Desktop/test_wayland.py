@@ -1,10 +1,11 @@
 """The game under a Wayland compositor."""
 
 import signal
+import subprocess
 
 import pytest
 from compositor import BACKGROUND, Compositor
-from game import FRESH, MOVING, PAUSED, Game
+from game import FRESH, MOVING, PAUSED, PROGRAM, Game
 from screen import Screen
 from test_playing import KEYPAD_ARROWS, LETTERS, press_with_alt_gr, steer_in_a_square
 from test_window import GRIP, MINIMUM_SIZE, drag
@@ -156,6 +157,18 @@ def test_plays_at_fractional_scale_factors(launch, scale):
     game.start_run()
     game.press("space")
     game.wait_for(PAUSED)
+
+
+@pytest.mark.parametrize("token, printed", [
+    ({}, "fernwick: the game is already running\n"),
+    ({"XDG_ACTIVATION_TOKEN": "token"}, ""),
+], ids=["no token", "token"])
+def test_a_second_start_prints_one_line_if_the_window_may_not_come_forward(
+        game, wayland, home, token, printed):
+    done = subprocess.run(
+        [PROGRAM], env=game.desktop.environment | home.environment | wayland.environment | token,
+        timeout=TIMEOUT, text=True, stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
+    assert (done.returncode, done.stdout) == (0, printed)
 
 
 @pytest.mark.parametrize("number", [signal.SIGTERM, signal.SIGINT, signal.SIGHUP])

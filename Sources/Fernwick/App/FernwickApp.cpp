@@ -1,7 +1,19 @@
 #include "App/FernwickApp.hpp"
 
+#include <QGuiApplication>
+#include <QTimer>
+#include <array>
+#include <chrono>
+
 #include "Desktop/ActivationToken.hpp"
 #include "Session/MainThread.hpp"
+
+namespace {
+
+// Several, because the window manager may be slow.
+constexpr std::array repeatDelays{std::chrono::milliseconds(100), std::chrono::milliseconds(300)};
+
+}  // namespace
 
 FernwickApp::FernwickApp(Preferences& preferences, SoundEffects& soundEffects)
     : session_(preferences, soundEffects), keyMonitor_(session_), window_(session_) {
@@ -23,4 +35,12 @@ void FernwickApp::bringForward(const QByteArray& activationToken) {
     Desktop::setActivationToken(activationToken);
     window_.setWindowState(window_.windowState() & ~Qt::WindowMinimized);
     show();
+    // Window managers refuse a request that is older than the last input in another window and mark
+    // the window instead. On X11, Qt's request has the time of the last event that it has received.
+    // The request causes events, so that the next one has the current time.
+    if (QGuiApplication::platformName() == QStringLiteral("xcb")) {
+        for (const std::chrono::milliseconds delay : repeatDelays) {
+            QTimer::singleShot(delay, &window_, &QWidget::activateWindow);
+        }
+    }
 }

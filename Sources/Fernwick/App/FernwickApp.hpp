@@ -20,8 +20,9 @@ public:
 
     /// Shows the window and brings it to the front.
     void show();
-    /// Brings the window to the front, also from minimised. `activationToken` is the desktop's
-    /// permission to do so (xdg-activation or startup notification); may be empty.
+    /// Brings the window to the front, also from minimised, or asks for attention where the desktop
+    /// does not permit that. `activationToken` is its permission (xdg-activation or startup
+    /// notification); may be empty.
     void bringForward(const QByteArray& activationToken);
 
     [[nodiscard]] Session& session() { return session_; }

@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QLocale>
 #include <chrono>
+#include <cstdio>
 #include <cstdlib>
 #include <optional>
 
@@ -46,6 +47,9 @@ int main(int argc, char* argv[]) {
     // one has written.
     static Desktop::SingleInstance singleInstance(settings);
     if (singleInstance.role() == Desktop::SingleInstance::Role::second) {
+        if (!singleInstance.bringsForward()) {
+            std::fputs("fernwick: the game is already running\n", stderr);
+        }
         return 0;
     }
     Desktop::filterQtMessages();

@@ -7,8 +7,10 @@
 #include <array>
 #include <chrono>
 #include <cstring>
+#include <optional>
 #include <thread>
 
+#include "Desktop/WaylandToken.hpp"
 #include "Posix/LocalSocket.hpp"
 
 namespace fs = std::filesystem;
@@ -65,7 +67,7 @@ FileDescriptor acceptConnection(const FileDescriptor& listener) {
 enum class Reply { acknowledged, timedOut, closed, otherUser };
 
 /// Sends the instance that has bound `address` an activation request.
-Reply requestActivation(const LocalAddress& address) {
+Reply requestActivation(const LocalAddress& address, const QByteArray& token) {
     const FileDescriptor connection = Posix::localSocket(SOCK_SEQPACKET);
     Posix::setTimeout(connection, SO_SNDTIMEO, replyTimeout);
     Posix::setTimeout(connection, SO_RCVTIMEO, replyTimeout);
@@ -76,7 +78,6 @@ Reply requestActivation(const LocalAddress& address) {
         return Reply::otherUser;
     }
     // Including the null terminator: an empty packet would read like the end of the connection.
-    const QByteArray token = inheritedActivationToken();
     ::send(connection.number(), token.constData(), static_cast<std::size_t>(token.size()) + 1,
            MSG_NOSIGNAL);
     char reply = 0;
@@ -95,6 +96,7 @@ SingleInstance::SingleInstance(const fs::path& settings) {
     constexpr auto pause = std::chrono::milliseconds(2);
     constexpr int backlog = 16;
     const LocalAddress address(socketName(settings));
+    std::optional<QByteArray> token;
     const auto deadline = std::chrono::steady_clock::now() + timeout;
     do {
         FileDescriptor socket = Posix::localSocket(SOCK_SEQPACKET | SOCK_NONBLOCK);
@@ -110,13 +112,21 @@ SingleInstance::SingleInstance(const fs::path& settings) {
             qCWarning(instanceLog, "unknown: bind failed: %s", std::strerror(errno));
             return;
         }
-        switch (requestActivation(address)) {
+        if (!token) {
+            token = inheritedActivationToken();
+            bringsForward_ = !token->isEmpty() || !usesWayland();
+            if (!bringsForward_) {
+                token = requestWaylandToken();
+            }
+        }
+        switch (requestActivation(address, *token)) {
             case Reply::acknowledged:
                 role_ = Role::second;
                 qCDebug(instanceLog, "second instance: the first one activates its window");
                 return;
             case Reply::timedOut:
                 role_ = Role::second;
+                bringsForward_ = false;
                 qCWarning(instanceLog, "second instance: the first one does not respond");
                 return;
             case Reply::otherUser:

@@ -25,11 +25,15 @@ public:
     };
 
     /// `settings` is the path of the settings file, which need not exist. Waits at most a second
-    /// for the other instance to respond, and six seconds for one that is about to end. Needs no
-    /// QCoreApplication.
+    /// for the other instance to respond, one for the Wayland compositor if there is another
+    /// instance, and six seconds for one that is about to end. Needs no QCoreApplication.
     explicit SingleInstance(const std::filesystem::path& settings);
 
     [[nodiscard]] Role role() const { return role_; }
+    /// For the second instance: whether the first one comes to the front. It does not on Wayland if
+    /// this process has inherited no activation token; then it asks for attention instead. Nor does
+    /// it while it does not respond.
+    [[nodiscard]] bool bringsForward() const { return bringsForward_; }
 
     /// Starts to handle activation requests, including those received so far. Needs the
     /// QCoreApplication.
@@ -47,6 +51,7 @@ private:
     void acceptRequest();
 
     Role role_ = Role::unknown;
+    bool bringsForward_ = false;
     Posix::FileDescriptor listener_{-1};
     std::unique_ptr<QSocketNotifier> notifier_;
 };

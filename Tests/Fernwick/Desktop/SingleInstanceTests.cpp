@@ -80,6 +80,37 @@ TEST_F(SingleInstanceTest, passesTheActivationTokenToTheFirst) {
     }
 }
 
+TEST_F(SingleInstanceTest, bringsTheFirstForwardOnWaylandOnlyWithAToken) {
+    struct Case {
+        const char* platform;
+        const char* token;
+        bool expected;
+    };
+    SingleInstance first(settings());
+    first.listen();
+    for (const auto& [platform, token, expected] :
+         {Case{"xcb", nullptr, true}, Case{"wayland", "token", true},
+          Case{"wayland", nullptr, false}}) {
+        const EnvironmentVariable platformVariable("QT_QPA_PLATFORM", platform);
+        const EnvironmentVariable tokenVariable("XDG_ACTIVATION_TOKEN", token);
+        const ForkedProcess second([this](const auto& report) {
+            report(SingleInstance(settings()).bringsForward() ? 1 : 0);
+        });
+
+        while (!second.hasReported()) {
+            QCoreApplication::processEvents();
+        }
+
+        EXPECT_EQ(second.nextReport(-1), expected ? 1 : 0) << platform;
+    }
+}
+
+TEST_F(SingleInstanceTest, doesNotBringAFirstForwardThatDoesNotRespond) {
+    const SingleInstance first(settings());
+
+    EXPECT_FALSE(SingleInstance(settings()).bringsForward());
+}
+
 TEST_F(SingleInstanceTest, handlesARequestThatArrivedBeforeListening) {
     SingleInstance first(settings());
     const QSignalSpy requests(&first, &SingleInstance::activationRequested);
