@@ -16,6 +16,8 @@ qt6-wayland          Qt's Wayland plugin
 nlohmann-json3-dev   JSON parser for the high scores
 libicu-dev           ICU: finds the user-perceived characters of a name
 uuid-dev             libuuid: one UUID per run
+libwayland-dev       Wayland client library, for the activation token of a second start
+wayland-protocols    the description of that protocol
 libxcb1-dev          X11 client library, for a request to the window manager
 libpulse-dev         PulseAudio client library for the two sounds
 fonts-inter          embedded font of the texts

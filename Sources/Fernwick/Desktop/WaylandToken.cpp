@@ -1,140 +1,66 @@
 #include "Desktop/WaylandToken.hpp"
 
+#include <poll.h>
+#include <wayland-client.h>
+#include <xdg-activation-v1-client.h>
+
 #include <QtGlobal>
-#include <array>
+#include <chrono>
 #include <cstdint>
 #include <cstring>
-#include <optional>
-
-#include "Posix/LocalSocket.hpp"
+#include <memory>
 
 namespace Desktop {
 
 namespace {
 
-using Word = std::uint32_t;
+using Clock = std::chrono::steady_clock;
 
-constexpr timeval timeout{1, 0};
+constexpr std::chrono::seconds timeout{1};
 
-// IDs of Wayland objects. Those of a client are numbered in the order of their creation.
-constexpr Word display = 1;
-constexpr Word registry = 2;
-constexpr Word callback = 3;
-constexpr Word activation = 4;
-constexpr Word token = 5;
-
-// Numbers of requests and events, by interface.
-namespace WlDisplay {
-constexpr Word sync = 0;
-constexpr Word getRegistry = 1;
-constexpr Word error = 0;
-}  // namespace WlDisplay
-namespace WlRegistry {
-constexpr Word bind = 0;
-constexpr Word global = 0;
-}  // namespace WlRegistry
-namespace XdgActivation {
-constexpr const char* name = "xdg_activation_v1";
-constexpr Word version = 1;
-constexpr Word getToken = 1;
-}  // namespace XdgActivation
-namespace XdgActivationToken {
-constexpr Word commit = 3;
-constexpr Word done = 0;
-}  // namespace XdgActivationToken
-
-QByteArray encoded(Word number) {
-    return QByteArray(reinterpret_cast<const char*>(&number), sizeof number);
-}
-
-/// The length with the null terminator, the characters, and padding to whole words.
-QByteArray encoded(const QByteArray& text) {
-    constexpr qsizetype word = sizeof(Word);
-    const QByteArray terminator(word - text.size() % word, '\0');
-    return encoded(static_cast<Word>(text.size() + 1)) + text + terminator;
-}
-
-/// The word at `offset`; 0 beyond the end.
-Word wordAt(const QByteArray& bytes, qsizetype offset) {
-    Word word = 0;
-    if (offset + qsizetype{sizeof word} <= bytes.size()) {
-        std::memcpy(&word, bytes.constData() + offset, sizeof word);
-    }
-    return word;
-}
-
-QByteArray textAt(const QByteArray& bytes, qsizetype offset) {
-    // mid() cuts a length that is beyond the end.
-    const QByteArray text = bytes.mid(offset + qsizetype{sizeof(Word)}, wordAt(bytes, offset));
-    return text.left(text.indexOf('\0'));
-}
-
-struct Event {
-    Word sender;
-    Word number;
-    QByteArray arguments;
+template <auto destroy>
+struct Destroy {
+    void operator()(auto* object) const { destroy(object); }
 };
 
-/// libwayland would do this, but every start of the game would have to load it, and it waits for
-/// the compositor without a limit.
-class Connection {
-public:
-    Connection() {
-        QByteArray path = qgetenv("WAYLAND_DISPLAY");
-        if (path.isEmpty()) {
-            path = "wayland-0";
+template <typename Object, auto destroy>
+using Owned = std::unique_ptr<Object, Destroy<destroy>>;
+
+constexpr wl_registry_listener findsActivation{
+    [](void* activation, wl_registry* registry, std::uint32_t name, const char* interface,
+       std::uint32_t) {
+        if (std::strcmp(interface, xdg_activation_v1_interface.name) == 0) {
+            *static_cast<void**>(activation) =
+                wl_registry_bind(registry, name, &xdg_activation_v1_interface, 1);
         }
-        if (!path.startsWith('/')) {
-            path.prepend(qgetenv("XDG_RUNTIME_DIR") + '/');
+    },
+    [](void*, wl_registry*, std::uint32_t) {}};
+
+constexpr wl_callback_listener setsFlag{
+    [](void* flag, wl_callback*, std::uint32_t) { *static_cast<bool*>(flag) = true; }};
+
+constexpr xdg_activation_token_v1_listener keepsToken{
+    [](void* kept, xdg_activation_token_v1*, const char* token) {
+        *static_cast<QByteArray*>(kept) = token;
+    }};
+
+/// wl_display_dispatch() with a deadline. False if it has passed or the connection has failed.
+bool dispatch(wl_display* display, Clock::time_point deadline) {
+    while (wl_display_prepare_read(display) != 0) {
+        if (wl_display_dispatch_pending(display) < 0) {
+            return false;
         }
-        const Posix::LocalAddress address(path);
-        Posix::setTimeout(socket_, SO_SNDTIMEO, timeout);
-        Posix::setTimeout(socket_, SO_RCVTIMEO, timeout);
-        // If it fails, so do the calls below.
-        static_cast<void>(::connect(socket_.number(), address.get(), address.size()));
     }
-
-    void send(Word receiver, Word request, const QByteArray& arguments) {
-        const auto size = static_cast<Word>(headerSize + arguments.size());
-        const QByteArray bytes = encoded(receiver) + encoded(size << 16 | request) + arguments;
-        ::send(socket_.number(), bytes.constData(), static_cast<std::size_t>(bytes.size()),
-               MSG_NOSIGNAL);
+    wl_display_flush(display);
+    const auto left =
+        std::chrono::duration_cast<std::chrono::milliseconds>(deadline - Clock::now());
+    pollfd socket{wl_display_get_fd(display), POLLIN, 0};
+    if (left.count() <= 0 || ::poll(&socket, 1, static_cast<int>(left.count())) <= 0) {
+        wl_display_cancel_read(display);
+        return false;
     }
-
-    /// Nothing if the connection fails or the timeout has elapsed.
-    [[nodiscard]] std::optional<Event> receive() {
-        if (!receiveAtLeast(headerSize)) {
-            return std::nullopt;
-        }
-        const Word second = wordAt(received_, sizeof(Word));
-        const qsizetype size = second >> 16;
-        if (size < headerSize || !receiveAtLeast(size)) {
-            return std::nullopt;
-        }
-        Event event{wordAt(received_, 0), second & 0xffff,
-                    received_.mid(headerSize, size - headerSize)};
-        received_.remove(0, size);
-        return event;
-    }
-
-private:
-    static constexpr qsizetype headerSize = 2 * sizeof(Word);
-
-    [[nodiscard]] bool receiveAtLeast(qsizetype size) {
-        while (received_.size() < size) {
-            std::array<char, 4096> buffer{};
-            const ssize_t count = ::recv(socket_.number(), buffer.data(), buffer.size(), 0);
-            if (count <= 0) {
-                return false;
-            }
-            received_.append(buffer.data(), count);
-        }
-        return true;
-    }
-
-    Posix::FileDescriptor socket_ = Posix::localSocket(SOCK_STREAM);
-    QByteArray received_;
-};
+    return wl_display_read_events(display) == 0 && wl_display_dispatch_pending(display) >= 0;
+}
 
 }  // namespace
 
@@ -146,27 +72,31 @@ bool usesWayland() {
 }
 
 QByteArray requestWaylandToken() {
-    Connection compositor;
-    compositor.send(display, WlDisplay::getRegistry, encoded(registry));
-    compositor.send(display, WlDisplay::sync, encoded(callback));
-    bool isRequested = false;
-    while (const std::optional<Event> event = compositor.receive()) {
-        if (event->sender == registry && event->number == WlRegistry::global &&
-            textAt(event->arguments, sizeof(Word)) == XdgActivation::name) {
-            compositor.send(registry, WlRegistry::bind,
-                            encoded(wordAt(event->arguments, 0)) + encoded(XdgActivation::name) +
-                                encoded(XdgActivation::version) + encoded(activation));
-            compositor.send(activation, XdgActivation::getToken, encoded(token));
-            compositor.send(token, XdgActivationToken::commit, {});
-            isRequested = true;
-        } else if (event->sender == token && event->number == XdgActivationToken::done) {
-            return textAt(event->arguments, 0);
-        } else if ((event->sender == callback && !isRequested) ||
-                   (event->sender == display && event->number == WlDisplay::error)) {
-            break;
-        }
+    const Clock::time_point deadline = Clock::now() + timeout;
+    const Owned<wl_display, wl_display_disconnect> display(wl_display_connect(nullptr));
+    if (display == nullptr) {
+        return {};
     }
-    return {};
+    xdg_activation_v1* found = nullptr;
+    const Owned<wl_registry, wl_registry_destroy> registry(wl_display_get_registry(display.get()));
+    wl_registry_add_listener(registry.get(), &findsActivation, &found);
+    bool hasAllGlobals = false;
+    const Owned<wl_callback, wl_callback_destroy> synced(wl_display_sync(display.get()));
+    wl_callback_add_listener(synced.get(), &setsFlag, &hasAllGlobals);
+    while (!hasAllGlobals && dispatch(display.get(), deadline)) {
+    }
+    const Owned<xdg_activation_v1, xdg_activation_v1_destroy> activation(found);
+    if (!hasAllGlobals || activation == nullptr) {
+        return {};
+    }
+    QByteArray token;
+    const Owned<xdg_activation_token_v1, xdg_activation_token_v1_destroy> request(
+        xdg_activation_v1_get_activation_token(activation.get()));
+    xdg_activation_token_v1_add_listener(request.get(), &keepsToken, &token);
+    xdg_activation_token_v1_commit(request.get());
+    while (token.isEmpty() && dispatch(display.get(), deadline)) {
+    }
+    return token;
 }
 
 }  // namespace Desktop

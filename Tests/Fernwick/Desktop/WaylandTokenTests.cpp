@@ -38,14 +38,19 @@ Bytes global(std::uint32_t name, const Bytes& interface) {
 const Bytes globals = global(1, "wl_compositor") + global(27, "xdg_activation_v1");
 const Bytes endOfGlobals = event(3, 0, word(5)) + event(1, 1, word(3));
 
-/// Listens on the socket of a compositor and sends fixed bytes to the first client.
+const Bytes commit = event(5, 3, "");
+
+/// Listens on the socket of a compositor. Sends fixed bytes to the first client, and others once it
+/// has requested a token.
 class Compositor {
 public:
-    explicit Compositor(Bytes answer) : answer_(std::move(answer)) {
+    explicit Compositor(Bytes answer, Bytes later = {})
+        : answer_(std::move(answer)), later_(std::move(later)) {
         const Posix::LocalAddress address(
             QByteArray::fromStdString(folder_.path() / "wayland-test"));
         EXPECT_EQ(::bind(listener_.number(), address.get(), address.size()), 0);
         EXPECT_EQ(::listen(listener_.number(), 1), 0);
+        server_ = std::thread([this] { serve(); });
     }
     Compositor(const Compositor&) = delete;
     Compositor& operator=(const Compositor&) = delete;
@@ -69,22 +74,26 @@ private:
         for (ssize_t count = 0;
              (count = ::recv(client.number(), buffer.data(), buffer.size(), 0)) > 0;) {
             requests_.append(buffer.data(), static_cast<std::size_t>(count));
+            if (requests_.ends_with(commit)) {
+                ::send(client.number(), later_.data(), later_.size(), MSG_NOSIGNAL);
+            }
         }
     }
 
     const Bytes answer_;
+    const Bytes later_;
     Bytes requests_;
     TemporaryFolder folder_;
     const EnvironmentVariable runtimeFolder_{"XDG_RUNTIME_DIR", folder_.path().c_str()};
     const EnvironmentVariable display_{"WAYLAND_DISPLAY", "wayland-test"};
     const Posix::FileDescriptor listener_ = Posix::localSocket(SOCK_STREAM);
-    std::thread server_{[this] { serve(); }};
+    std::thread server_;
 };
 
 }  // namespace
 
 TEST(WaylandToken, isThatOfTheCompositor) {
-    Compositor compositor(globals + endOfGlobals + event(5, 0, text("token-1")));
+    Compositor compositor(globals + endOfGlobals, event(5, 0, text("token-1")));
 
     EXPECT_EQ(Desktop::requestWaylandToken(), "token-1");
 
