@@ -41,7 +41,9 @@ struct Pipe {
 
     [[nodiscard]] static Pipe open() {
         std::array<int, 2> ends{-1, -1};
-        static_cast<void>(::pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK));
+        if (::pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK) != 0) {
+            ends = {-1, -1};
+        }
         return {FileDescriptor(ends[0]), FileDescriptor(ends[1])};
     }
 };
