@@ -24,6 +24,8 @@ constexpr int buttonSpacing = 8;
 
 TitleBand::TitleBand(QWidget* window) : QWidget(window), menuBar_(new QMenuBar(this)) {
     styleMenuBar(*menuBar_);
+    // The rest of the band moves the window.
+    menuBar_->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Maximum);
     auto* row = new QHBoxLayout(this);
     // The first title's text, rather than its hover plate, lines up with the rows below.
     QMargins margins(leftMargin - menuItemPadding - menuItemSpacing, 0, rightMargin, 0);

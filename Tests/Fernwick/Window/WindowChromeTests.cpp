@@ -100,6 +100,14 @@ TEST_F(Chrome, doubleClickOnTheTitleBandMaximisesAndRestores) {
     EXPECT_TRUE(QTest::qWaitFor([this] { return !window.isMaximized(); }));
 }
 
+TEST_F(Chrome, doubleClickBesideTheLastMenuMaximises) {
+    const auto& bar = child<QMenuBar>();
+    const QRect last = bar.actionGeometry(bar.actions().constLast());
+    doubleClick(bar.mapTo(&window, QPoint(last.right() + 30, last.center().y())));
+
+    EXPECT_TRUE(QTest::qWaitFor([this] { return window.isMaximized(); }));
+}
+
 TEST_F(Chrome, doubleClickElsewhereDoesNothing) {
     const auto& bar = child<QMenuBar>();
     doubleClick(bar.mapTo(&window, bar.rect().center()));
