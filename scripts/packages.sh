@@ -54,6 +54,43 @@ imagemagick          takes screenshots
 LIST
 }
 
+# Installed only in the minimal Debian of Tests/Desktops/run.
+desktops_packages() {
+    cat <<'LIST'
+libqt6widgets6       run-time libraries of the game
+libqt6svg6           .
+libicu72             .
+libuuid1             .
+libpulse0            .
+qt6-wayland          Qt's Wayland plugin
+gnome-shell          desktop
+kwin-wayland         Wayland compositor of KDE Plasma
+kwin-x11             window manager of KDE Plasma
+xfwm4                window manager of Xfce
+marco                window manager of MATE
+mate-settings-daemon-common  settings schemas that marco needs
+metacity             window manager
+openbox              window manager
+icewm                window manager
+fluxbox              window manager
+i3-wm                tiling window manager
+sway                 tiling Wayland compositor
+weston               Wayland compositor and small Wayland programs
+xvfb                 X server without a screen
+libgl1-mesa-dri      software rendering
+xdotool              sends key presses and moves the pointer
+x11-utils            xprop, xwininfo, xmessage
+imagemagick          takes screenshots
+dbus                 D-Bus session bus
+at-spi2-core         AT-SPI accessibility bus
+dconf-gsettings-backend  stores settings
+libglib2.0-bin       gsettings
+python3-gi           D-Bus and AT-SPI for Python
+python3-cbor2        reads the preferences file
+fonts-dejavu-core    a font for the desktops
+LIST
+}
+
 check_packages() {
     package_packages
     cat <<'LIST'
@@ -69,7 +106,9 @@ strace               traces system calls and makes them fail, for tests
 devscripts           hardening-check, which inspects the released binary
 xvfb                 X server without a screen
 openbox              window manager
+xfwm4                window manager of Xfce
 weston               Wayland compositor
+sway                 tiling Wayland compositor
 xdotool              sends key presses and moves the pointer
 x11-utils            xprop, which reads the state of windows
 x11-xkb-utils        setxkbmap, which switches keyboard layouts

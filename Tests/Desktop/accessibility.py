@@ -10,6 +10,7 @@ TEXT = "org.a11y.atspi.Text"
 PROPERTIES = "org.freedesktop.DBus.Properties"
 REGISTRY = "org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root"
 ON_SCREEN = 0
+IN_WINDOW = 1
 TIMEOUT_MS = 10_000
 
 # AtspiStateType.
@@ -141,6 +142,10 @@ class Element:
     def extents_on_screen(self):
         """Left, top, width and height in pixels of the screen."""
         return self._ask(COMPONENT, "GetExtents", "(u)", ON_SCREEN)[0]
+
+    def extents_in_window(self):
+        """Left, top, width and height in its window."""
+        return self._ask(COMPONENT, "GetExtents", "(u)", IN_WINDOW)[0]
 
     def _has(self, state):
         words = self._ask(ACCESSIBLE, "GetState")[0]

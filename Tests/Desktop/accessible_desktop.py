@@ -9,10 +9,10 @@ from desktop import Desktop
 
 
 @contextlib.contextmanager
-def accessible_desktop():
+def accessible_desktop(kind=Desktop):
     """Starts a private desktop. `accessibility` is its connection to the accessibility bus."""
     # Not under tmp_path: the paths of sockets are limited to 107 bytes.
-    desktop = Desktop(pathlib.Path(tempfile.mkdtemp(prefix="fernwick-")))
+    desktop = kind(pathlib.Path(tempfile.mkdtemp(prefix="fernwick-")))
     try:
         desktop.start()
         desktop.accessibility = accessibility_bus(

@@ -13,6 +13,13 @@ SNAKE_MAXIMUM_RED = 200
 # The eyes are painted on the bright head in black at 75 % opacity.
 EYE_MAXIMUM_GREEN = 100
 
+# The frame is searched for at these distances outwards from the edge; pixels.
+FRAME_STEPS = range(-3, 4)
+# Inside the frame; pixels from the edge.
+INSIDE = 8
+# How much greener the frame is than the ground; at a fractional scale it is blurred.
+FRAME_CONTRAST = 5
+
 # The eyes' offsets from the centre of the head, in cells, by direction.
 EYES = {
     "up": ((-0.16, -0.15), (0.16, -0.15)),
@@ -33,8 +40,8 @@ class Board:
     """The board at `geometry`: left, top, width and height in screen pixels."""
 
     def __init__(self, geometry):
-        self._left, self._top, width, height = geometry
-        self._cell = min(width / COLUMNS, height / ROWS)
+        self._left, self._top, self._width, self._height = geometry
+        self._cell = min(self._width / COLUMNS, self._height / ROWS)
 
     def snake(self, picture):
         """The snake, or None unless exactly one head is recognised."""
@@ -52,6 +59,17 @@ class Board:
         """Whether a run is in progress: otherwise the board is blurred and dimmed."""
         # Check for both colours, as the glow of the snake may tint the fruit.
         return picture.shows(TAIL) or picture.shows(FRUIT)
+
+    def has_frame(self, picture):
+        """Whether the frame's thin bright line is drawn at all four sides."""
+        right = self._left + self._width
+        bottom = self._top + self._height
+        x = self._left + self._width / 3
+        y = self._top + self._height / 3
+        return all(max(picture.colour(a + dx * step, b + dy * step)[1] for step in FRAME_STEPS)
+                   >= picture.colour(a - dx * INSIDE, b - dy * INSIDE)[1] + FRAME_CONTRAST
+                   for a, b, dx, dy in ((self._left, y, -1, 0), (right, y, 1, 0),
+                                        (x, self._top, 0, -1), (x, bottom, 0, 1)))
 
     def _has_eyes(self, picture, cell, direction):
         return all(self._colour(picture, *cell, *eye)[1] <= EYE_MAXIMUM_GREEN

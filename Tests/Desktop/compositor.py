@@ -21,7 +21,7 @@ class Compositor:
     def __init__(self, desktop, size):
         self._desktop = desktop
         self.size = size
-        self._process = None
+        self.process = None
         self.window = None
         # With these variables, programs connect to it.
         self.environment = {"QT_QPA_PLATFORM": "wayland", "WAYLAND_DISPLAY": SOCKET,
@@ -31,7 +31,7 @@ class Compositor:
         settings = self._desktop.folder / "weston.ini"
         settings.write_text(SETTINGS)
         width, height = self.size
-        self._process = self._desktop.spawn(
+        self.process = self._desktop.spawn(
             "weston", "--backend=x11-backend.so", f"--config={settings}", "--fullscreen",
             "--idle-time=0", f"--socket={SOCKET}", f"--width={width}", f"--height={height}")
         socket = self._desktop.run_folder() / SOCKET
@@ -42,11 +42,11 @@ class Compositor:
         self._synchronise_pointer()
 
     def crash(self):
-        self._process.kill()
+        self.process.kill()
 
     def stop(self):
-        self._process.terminate()
-        self._process.wait()
+        self.process.terminate()
+        self.process.wait()
 
     def _fills_the_screen(self):
         picture = self._desktop.screen.picture()

@@ -15,6 +15,9 @@ WITH_X_SERVER = pathlib.Path(__file__).resolve().parents[2] / "scripts/with-x-se
 class Desktop:
     """Runs from `start` to `stop`; all its files are in `folder`."""
 
+    # Options of scripts/with-x-server.
+    X_SERVER_OPTIONS = ()
+
     def __init__(self, folder):
         self.folder = folder
         self.processes = []
@@ -52,6 +55,17 @@ class Desktop:
                               stdout=subprocess.PIPE)
         return done.stdout
 
+    def press(self, *keys):
+        """Presses keys one after the other, by X11 name; "ctrl+l" is a combination."""
+        self.run("xdotool", "key", *keys)
+
+    def point_at(self, x, y):
+        """Moves the pointer."""
+        self.run("xdotool", "mousemove", str(x), str(y))
+
+    def click(self):
+        self.run("xdotool", "click", "1")
+
     def property(self, window, name):
         """The value of a window's X11 property as xprop prints it; "" if the window is gone."""
         done = subprocess.run(["xprop", "-id", str(window), name], env=self.environment, text=True,
@@ -60,7 +74,8 @@ class Desktop:
 
     def active_window(self):
         line = self.run("xprop", "-root", "_NET_ACTIVE_WINDOW")
-        number = line.rpartition("# ")[2].strip()
+        # xfwm4 adds a second, empty value.
+        number = line.rpartition("# ")[2].partition(",")[0].strip()
         return int(number, 16) if number.startswith("0x") else 0
 
     def run_folder(self):
@@ -81,7 +96,7 @@ class Desktop:
     def _start_x_server(self):
         # `cat` exits when its standard input is closed, even if this process is killed.
         launcher = self._spawn(
-            str(WITH_X_SERVER), "--framebuffer", str(self.folder),
+            str(WITH_X_SERVER), "--framebuffer", str(self.folder), *self.X_SERVER_OPTIONS,
             "sh", "-c", "echo $DISPLAY $X_SERVER_PID; exec cat",
             stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=None, text=True)
         display, process = launcher.stdout.readline().split()

@@ -39,7 +39,7 @@ class Game:
     # Input.
 
     def press(self, *keys):
-        self.desktop.run("xdotool", "key", *keys)
+        self.desktop.press(*keys)
 
     def type(self, text):
         self.desktop.run("xdotool", "type", "--delay", "5", text)
@@ -62,10 +62,10 @@ class Game:
         eventually(self._geometry_is_current, "AT-SPI reports the geometry of the window")
         left, top, width, height = element.extents_on_screen()
         self.point_at(left + width // 2, top + height // 2)
-        self.desktop.run("xdotool", "click", "1")
+        self.desktop.click()
 
     def point_at(self, x, y):
-        self.desktop.run("xdotool", "mousemove", str(x), str(y))
+        self.desktop.point_at(x, y)
 
     # Texts on the screen.
 
@@ -140,12 +140,16 @@ class Game:
 
     def _has_window(self):
         assert self.process.poll() is None, f"exited: {self.printed()}"
+        self.find_window()
+        return self.window is not None
+
+    def find_window(self):
+        """Sets `window` to its X11 window, if it has one yet."""
         found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "^Fernwick$"],
                                env=self.desktop.environment, text=True, stdout=subprocess.PIPE)
         for number in found.stdout.split():
             if self.desktop.property(number, "_NET_WM_PID") == str(self.process.pid):
                 self.window = int(number)
-        return self.window is not None
 
     # Exit.
 

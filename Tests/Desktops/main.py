@@ -1,0 +1,125 @@
+"""Tries the game on desktops and prints a table. Called by Tests/Desktops/run."""
+
+import argparse
+import contextlib
+import pathlib
+import signal
+import sys
+import tempfile
+import traceback
+from xml.etree import ElementTree
+
+sys.path.insert(0, str(pathlib.Path(__file__).parents[1] / "Desktop"))
+
+from accessible_desktop import accessible_desktop
+from gnome import GnomeWayland, GnomeX11
+from starts import scaled_starts
+from steps import SCRIPT
+from trial import Trial
+from wayland import KwinWayland, Sway, Weston
+from x11 import Fluxbox, I3, Icewm, KwinX11, Marco, Metacity, Openbox, Xfwm4
+
+DESKTOPS = {kind.NAME: kind for kind in (
+    GnomeWayland, GnomeX11, KwinWayland, KwinX11, Xfwm4, Marco, Metacity, Openbox, Icewm, Fluxbox,
+    I3, Sway, Weston)}
+PASSED = "pass"
+
+
+def arguments():
+    parser = argparse.ArgumentParser(prog="Tests/Desktops/run", description=__doc__)
+    parser.add_argument("desktops", nargs="*", choices=[[], *DESKTOPS], metavar="DESKTOP",
+                        help=f"of {', '.join(DESKTOPS)}; by default all")
+    parser.add_argument("--starts", type=int, default=2, metavar="N",
+                        help="starts at each scale (default: 2)")
+    parser.add_argument("--results", type=pathlib.Path, default="build/desktops", metavar="FOLDER",
+                        help="where the JUnit report and pictures of failures are written")
+    return parser.parse_args()
+
+
+def try_desktop(kind, steps, results):
+    """The outcome of each step: PASSED or what went wrong. A string if the desktop did not start."""
+    with contextlib.ExitStack() as stack:
+        folder = pathlib.Path(stack.enter_context(tempfile.TemporaryDirectory()))
+        try:
+            desktop = stack.enter_context(accessible_desktop(kind))
+        except Exception as error:  # Whatever prevents it from starting.
+            return f"{type(error).__name__}: {error}"
+        return run_steps(Trial(desktop, folder), steps, results)
+
+
+def run_steps(trial, steps, results):
+    outcomes = {}
+    try:
+        for name, step in steps.items():
+            try:
+                step(trial)
+                outcomes[name] = PASSED
+            except Exception as error:  # A step can fail in any way.
+                outcomes[name] = f"{type(error).__name__}: {error}"
+                traceback.print_exc()
+                trial.desktop.save_screenshot(results / f"{trial.desktop.NAME} {name}.png")
+                trial.end()
+    finally:
+        trial.end()
+    return outcomes
+
+
+def cell(outcomes, step):
+    if isinstance(outcomes, str):
+        return "not run"
+    if step not in outcomes:
+        return ""
+    return PASSED if outcomes[step] == PASSED else "FAIL"
+
+
+def print_table(outcomes):
+    """A row for each step, a column for each desktop."""
+    steps = dict.fromkeys(step for tried in outcomes.values() if not isinstance(tried, str)
+                          for step in tried)
+    rows = [["", *outcomes]] + [[step, *(cell(tried, step) for tried in outcomes.values())]
+                                for step in steps]
+    widths = [max(map(len, column)) for column in zip(*rows)]
+    for row in rows:
+        print("  ".join(text.ljust(width) for text, width in zip(row, widths)).rstrip())
+    for name, tried in outcomes.items():
+        if isinstance(tried, str):
+            print(f"not run: {name}: {tried}")
+            continue
+        for step, outcome in tried.items():
+            if outcome != PASSED:
+                print(f"failed: {name}: {step}: {outcome}")
+
+
+def write_report(outcomes, path):
+    """A JUnit report of the steps that were run."""
+    suite = ElementTree.Element("testsuite", name="desktops")
+    for name, tried in outcomes.items():
+        for step, outcome in {} if isinstance(tried, str) else tried.items():
+            case = ElementTree.SubElement(suite, "testcase", classname=name, name=step)
+            if outcome != PASSED:
+                ElementTree.SubElement(case, "failure", message=outcome)
+    ElementTree.ElementTree(suite).write(path, encoding="utf-8", xml_declaration=True)
+
+
+def main():
+    # Unwinds, so that every desktop is stopped.
+    for number in signal.SIGTERM, signal.SIGHUP:
+        signal.signal(number, lambda number, frame: sys.exit(128 + number))
+    options = arguments()
+    options.results.mkdir(parents=True, exist_ok=True)
+    outcomes = {}
+    for name in options.desktops or DESKTOPS:
+        steps = SCRIPT | scaled_starts(options.starts)
+        print(f"{name} …", flush=True)
+        outcomes[name] = try_desktop(DESKTOPS[name], steps, options.results)
+    print_table(outcomes)
+    write_report(outcomes, options.results / "desktops.xml")
+    results = [result for tried in outcomes.values() if not isinstance(tried, str)
+               for result in tried.values()]
+    passed = results.count(PASSED)
+    print(f"{passed} passed, {len(results) - passed} failed")
+    return 0 if results and passed == len(results) else 1
+
+
+if __name__ == "__main__":
+    sys.exit(main())
