@@ -13,10 +13,12 @@ sys.path.insert(0, str(pathlib.Path(__file__).parents[1] / "Desktop"))
 
 from accessible_desktop import accessible_desktop
 from gnome import GnomeWayland, GnomeX11
+from screens import SCREENS
 from starts import scaled_starts
 from steps import SCRIPT
+from sway import Sway
 from trial import Trial
-from wayland import KwinWayland, Sway, Weston
+from wayland import KwinWayland, Weston
 from x11 import Fluxbox, I3, Icewm, KwinX11, Marco, Metacity, Openbox, Xfwm4
 
 DESKTOPS = {kind.NAME: kind for kind in (
@@ -32,7 +34,8 @@ def arguments():
     parser.add_argument("--starts", type=int, default=2, metavar="N",
                         help="starts at each scale (default: 2)")
     parser.add_argument("--results", type=pathlib.Path, default="build/desktops", metavar="FOLDER",
-                        help="where the JUnit report and pictures of failures are written")
+                        help="for pictures of failed steps; the JUnit report is FOLDER.xml")
+    parser.add_argument("--steps", nargs="+", metavar="STEP", help="only these")
     return parser.parse_args()
 
 
@@ -109,11 +112,13 @@ def main():
     options.results.mkdir(parents=True, exist_ok=True)
     outcomes = {}
     for name in options.desktops or DESKTOPS:
-        steps = SCRIPT | scaled_starts(options.starts)
+        steps = SCRIPT | scaled_starts(options.starts) | (SCREENS if name == Sway.NAME else {})
+        if options.steps:
+            steps = {step: steps[step] for step in options.steps if step in steps}
         print(f"{name} …", flush=True)
         outcomes[name] = try_desktop(DESKTOPS[name], steps, options.results)
     print_table(outcomes)
-    write_report(outcomes, options.results / "desktops.xml")
+    write_report(outcomes, options.results.with_suffix(".xml"))
     results = [result for tried in outcomes.values() if not isinstance(tried, str)
                for result in tried.values()]
     passed = results.count(PASSED)

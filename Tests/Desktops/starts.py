@@ -14,8 +14,9 @@ def start_repeatedly(scale, number):
                 trial.launch(QT_SCALE_FACTOR=str(scale))
             except AssertionError as error:
                 failures.append(str(error))
-        trial.end()
+        # On a failure the game is left for the screenshot.
         assert not failures, f"{len(failures)} of {number} starts failed: {failures[0]}"
+        trial.end()
 
     return step
 

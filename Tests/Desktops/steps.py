@@ -19,8 +19,7 @@ def start(trial):
 
 def full_screen(trial):
     game = trial.game
-    window, = game.top().children()
-    eventually(lambda: window.extents_on_screen()[2:] == (Screen.WIDTH, Screen.HEIGHT),
+    eventually(lambda: trial.size() == (Screen.WIDTH, Screen.HEIGHT),
                "the game has the size of the screen")
     assert not game.shows("Close"), "the window's buttons are shown"
     trial.wait_for_the_whole_board()

@@ -82,15 +82,16 @@ class Trial:
         def is_there():
             bounds = self.desktop.bounds(self.game)
             return (bounds is not None and not self.is_full_screen() and is_expected(bounds)
-                    and self._size_in_the_game() == bounds[2:])
+                    and self.size() == bounds[2:])
 
         try:
             eventually(is_there, what)
         except AssertionError as error:
             raise AssertionError(f"{error}; it is at {self.desktop.bounds(self.game)}, the game's "
-                                 f"size is {self._size_in_the_game()}") from None
+                                 f"size is {self.size()}") from None
 
-    def _size_in_the_game(self):
+    def size(self):
+        """The window's width and height as the game reports them."""
         window, = self.game.top().children()
         return tuple(window.extents_on_screen()[2:])
 
@@ -100,7 +101,8 @@ class Trial:
         x, y, _, _ = element.extents_in_window()
         # Qt 6.4 reports a wrong size with that place.
         _, _, width, height = element.extents_on_screen()
-        return left + x, top + y, width, height
+        scale = self.desktop.scale
+        return left + x * scale, top + y * scale, width * scale, height * scale
 
     # Pointer and keys.
 

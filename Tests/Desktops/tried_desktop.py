@@ -25,6 +25,8 @@ class TriedDesktop(Desktop):
     OTHER_WINDOW = ()
     # Whether a window alone on the screen always fills it.
     TILES = False
+    # Pixels of the X server per unit in which programs place things in their windows.
+    scale = 1
 
     def start(self):
         for program in (*self.PROGRAMS, self.OTHER_WINDOW[0]):
