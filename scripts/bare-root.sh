@@ -1,4 +1,4 @@
-# A minimal Debian in the folder $root; logs go to $folder. Sourced by try-package.
+# A minimal Debian in the folder $root; logs go to $folder. Sourced.
 
 # This system's release and archives as sources.list lines, whatever format apt is configured in.
 archives() {

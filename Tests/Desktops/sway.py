@@ -7,6 +7,7 @@ import re
 import shutil
 import tempfile
 
+from close_window import close_window
 from compositor import BACKGROUND
 from screen import Screen
 from waiting import eventually
@@ -32,6 +33,9 @@ class Sway(WaylandDesktop):
         settings = self._own_folder / "settings"
         settings.write_text(f"default_border none\noutput * bg {colour} solid_color\n"
                             f"output * mode --custom {Screen.WIDTH}x{Screen.HEIGHT}\n")
+        # sway does not create these atoms, and without them it cannot be told to close an output.
+        for atom in "WM_PROTOCOLS", "WM_DELETE_WINDOW":
+            self.run("xprop", "-root", "-f", atom, "8s", "-set", atom, "")
         as_user = ()
         if os.getuid() == 0:
             os.chmod(self._own_folder, 0o755)
@@ -64,6 +68,14 @@ class Sway(WaylandDesktop):
         """The outputs are windows in the corner of the X server's screen; this raises one."""
         names = sorted(each["name"] for each in self.outputs())
         self.run("xdotool", "windowraise", self._windows()[names.index(output)])
+
+    def unplug_second(self):
+        close_window(self.environment["DISPLAY"], int(self._windows()[1], 16))
+        eventually(lambda: len(self.outputs()) == 1, "the second output is gone")
+
+    def second(self):
+        """The name of the output that is not the first."""
+        return next(each["name"] for each in self.outputs() if each["name"] != FIRST)
 
     def _windows(self):
         """The X windows of the outputs, oldest first."""

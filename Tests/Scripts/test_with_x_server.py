@@ -63,6 +63,13 @@ def test_the_window_manager_is_up_before_the_command_starts(launch):
     assert "window id # 0x" in printed
 
 
+def test_runs_without_a_window_manager_on_request(launch):
+    launcher = launch("--no-window-manager", "xprop", "-root", "_NET_SUPPORTING_WM_CHECK")
+    printed, _ = launcher.communicate(timeout=TIMEOUT)
+    assert "window id # 0x" not in printed
+    assert launcher.returncode == 0
+
+
 def test_the_command_reads_standard_input(launch):
     printed, _ = launch("cat").communicate("hello", timeout=TIMEOUT)
     assert printed == "hello"
