@@ -7,6 +7,8 @@ import signal
 import sys
 import tempfile
 import traceback
+from concurrent.futures import ProcessPoolExecutor
+from functools import partial
 from xml.etree import ElementTree
 
 sys.path.insert(0, str(pathlib.Path(__file__).parents[1] / "Desktop"))
@@ -33,10 +35,20 @@ def arguments():
                         help=f"of {', '.join(DESKTOPS)}; by default all")
     parser.add_argument("--starts", type=int, default=2, metavar="N",
                         help="starts at each scale (default: 2)")
+    parser.add_argument("--jobs", type=int, default=1, metavar="N",
+                        help="desktops tried at the same time (default: 1)")
     parser.add_argument("--results", type=pathlib.Path, default="build/desktops", metavar="FOLDER",
                         help="for pictures of failed steps; the JUnit report is FOLDER.xml")
     parser.add_argument("--steps", nargs="+", metavar="STEP", help="only these")
     return parser.parse_args()
+
+
+def try_named(options, name):
+    steps = SCRIPT | scaled_starts(options.starts) | (SCREENS if name == Sway.NAME else {})
+    if options.steps:
+        steps = {step: steps[step] for step in options.steps if step in steps}
+    print(f"{name} …", flush=True)
+    return try_desktop(DESKTOPS[name], steps, options.results)
 
 
 def try_desktop(kind, steps, results):
@@ -110,13 +122,9 @@ def main():
         signal.signal(number, lambda number, frame: sys.exit(128 + number))
     options = arguments()
     options.results.mkdir(parents=True, exist_ok=True)
-    outcomes = {}
-    for name in options.desktops or DESKTOPS:
-        steps = SCRIPT | scaled_starts(options.starts) | (SCREENS if name == Sway.NAME else {})
-        if options.steps:
-            steps = {step: steps[step] for step in options.steps if step in steps}
-        print(f"{name} …", flush=True)
-        outcomes[name] = try_desktop(DESKTOPS[name], steps, options.results)
+    names = options.desktops or list(DESKTOPS)
+    with ProcessPoolExecutor(options.jobs) as executor:
+        outcomes = dict(zip(names, executor.map(partial(try_named, options), names)))
     print_table(outcomes)
     write_report(outcomes, options.results.with_suffix(".xml"))
     results = [result for tried in outcomes.values() if not isinstance(tried, str)
