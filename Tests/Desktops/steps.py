@@ -77,13 +77,14 @@ def menu_by_alt(trial):
 
 
 def menu_by_pointer(trial):
+    game = trial.game
     trial.desktop.point_at(Screen.WIDTH // 2, 0)
-    eventually(lambda: trial.game.shows("File", "Game"), "the menu bar is shown")
+    eventually(lambda: game.shows("File", "Game"), "the menu bar is shown")
     trial.click("File")
     expect_open_menu(trial)
-    trial.game.press("Escape")
+    game.press("Escape")
     trial.point_away()
-    eventually(lambda: not trial.game.shows("File"), "the menu bar is hidden again")
+    eventually(lambda: not game.shows("File"), "the menu bar is hidden again")
 
 
 def focus_away(trial):
