@@ -108,6 +108,7 @@ class Desktop:
         return not pathlib.Path("/proc", str(self._x_server)).exists()
 
     def _start_bus(self):
-        self.bus = self._spawn("dbus-daemon", "--session", "--nofork", "--nopidfile",
-                               "--print-address", stdout=subprocess.PIPE, text=True)
+        self.bus = self._spawn("setpriv", "--pdeathsig", "TERM", "dbus-daemon", "--session",
+                               "--nofork", "--nopidfile", "--print-address",
+                               stdout=subprocess.PIPE, text=True)
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = self.bus.stdout.readline().strip()

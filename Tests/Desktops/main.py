@@ -2,12 +2,12 @@
 
 import argparse
 import contextlib
+import multiprocessing
 import pathlib
 import signal
 import sys
 import tempfile
 import traceback
-from concurrent.futures import ProcessPoolExecutor
 from functools import partial
 from xml.etree import ElementTree
 
@@ -27,6 +27,8 @@ DESKTOPS = {kind.NAME: kind for kind in (
     GnomeWayland, GnomeX11, KwinWayland, KwinX11, Xfwm4, Marco, Metacity, Openbox, Icewm, Fluxbox,
     I3, Sway, Weston)}
 PASSED = "pass"
+UNWIND_SECONDS = 5
+SIGNALS = signal.SIGINT, signal.SIGTERM, signal.SIGHUP
 
 
 def arguments():
@@ -52,7 +54,7 @@ def try_named(options, name):
 
 
 def try_desktop(kind, steps, results):
-    """The outcome of each step: PASSED or what went wrong. A string if the desktop did not start."""
+    """The outcome of each step: PASSED or what went wrong. A string if it did not start."""
     with contextlib.ExitStack() as stack:
         folder = pathlib.Path(stack.enter_context(tempfile.TemporaryDirectory()))
         try:
@@ -116,15 +118,22 @@ def write_report(outcomes, path):
     ElementTree.ElementTree(suite).write(path, encoding="utf-8", xml_declaration=True)
 
 
+def unwind(number, frame):
+    """Ends the process after it has stopped its desktop, or in some seconds: the exception is lost
+    if it comes up in a destructor. The programs of the desktop end with this process then."""
+    signal.alarm(UNWIND_SECONDS)
+    sys.exit(128 + number)
+
+
 def main():
-    # Unwinds, so that every desktop is stopped.
-    for number in signal.SIGTERM, signal.SIGHUP:
-        signal.signal(number, lambda number, frame: sys.exit(128 + number))
+    # Inherited by the processes of the pool.
+    for number in SIGNALS:
+        signal.signal(number, unwind)
     options = arguments()
     options.results.mkdir(parents=True, exist_ok=True)
     names = options.desktops or list(DESKTOPS)
-    with ProcessPoolExecutor(options.jobs) as executor:
-        outcomes = dict(zip(names, executor.map(partial(try_named, options), names)))
+    with multiprocessing.Pool(options.jobs) as pool:
+        outcomes = dict(zip(names, pool.map(partial(try_named, options), names, chunksize=1)))
     print_table(outcomes)
     write_report(outcomes, options.results.with_suffix(".xml"))
     results = [result for tried in outcomes.values() if not isinstance(tried, str)

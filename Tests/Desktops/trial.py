@@ -19,7 +19,7 @@ END_SECONDS = 3
 
 
 class Trial:
-    """Starts the game when a step first needs it; after a failed step, `end` makes it start anew."""
+    """Starts the game when a step first needs it, and anew after `end`."""
 
     def __init__(self, desktop, folder):
         self.desktop = desktop
