@@ -28,6 +28,14 @@ constexpr int listHeight = 330;
 constexpr double cornerRadius = 22;
 constexpr double edgeOpacity = 0.16;
 
+QString subtitle() {
+#ifdef Q_OS_MACOS
+    return HighScoresView::tr("Top 10 for each speed · saved on this Mac");
+#else
+    return HighScoresView::tr("Top 10 for each speed · saved on this computer");
+#endif
+}
+
 }  // namespace
 
 HighScoresView::HighScoresView(Session& session, QWidget* parent)
@@ -49,11 +57,9 @@ HighScoresView::HighScoresView(Session& session, QWidget* parent)
         new Garden::TrackedLabel(tr("The high scores."), Garden::serif(titleSize, QFont::Normal),
                                  Garden::primaryText),
         0, Qt::AlignHCenter);
-    column->addWidget(
-        //: "Mac" means the player's own computer, of whatever make.
-        new Garden::TrackedLabel(tr("Top 10 for each speed · saved on this Mac"),
-                                 Garden::sans(subtitleSize, QFont::Normal), Garden::muted),
-        0, Qt::AlignHCenter);
+    column->addWidget(new Garden::TrackedLabel(
+                          subtitle(), Garden::sans(subtitleSize, QFont::Normal), Garden::muted),
+                      0, Qt::AlignHCenter);
     column->addWidget(speed_, 0, Qt::AlignHCenter);
     column->addWidget(rows_);
     column->addWidget(done, 0, Qt::AlignHCenter);
