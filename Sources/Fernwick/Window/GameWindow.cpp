@@ -24,7 +24,7 @@ constexpr QSize minimumWindowSize(820, 760);
 GameWindow::GameWindow(Session& session)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint),
       band_(new TitleBand(this)),
-      content_(new ContentView(session, TitleBand::height, this)) {
+      content_(new ContentView(session, this)) {
     // Screen readers follow windows; by default Qt reports a plain QWidget as a filler.
     Garden::setAccessibleRole(*this, QAccessible::Window);
     setObjectName(QStringLiteral("main"));
@@ -63,6 +63,7 @@ void GameWindow::changeEvent(QEvent* event) {
         if (coversScreen()) {
             setMinimumSize(QSize(0, 0));
         }
+        placeContent();
     }
     QWidget::changeEvent(event);
 }
@@ -73,8 +74,14 @@ void GameWindow::resizeEvent(QResizeEvent* event) {
     if (!coversScreen()) {
         setMinimumSize(minimumWindowSize);
     }
+    placeContent();
+}
+
+void GameWindow::placeContent() {
+    content_->setBand(isFullScreen() ? 0 : TitleBand::height);
     content_->setGeometry(rect());
-    band_->setGeometry(0, 0, event->size().width(), TitleBand::height);
+    band_->setContent(content_->contentArea());
+    band_->setGeometry(0, 0, width(), TitleBand::height);
 }
 
 void GameWindow::closeEvent(QCloseEvent* event) {

@@ -24,6 +24,7 @@ protected:
 
 private:
     [[nodiscard]] bool coversScreen() const;
+    void placeContent();
 
     TitleBand* band_;
     ContentView* content_;

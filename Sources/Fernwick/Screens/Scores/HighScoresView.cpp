@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <algorithm>
 
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/Palette.hpp"
@@ -25,6 +26,8 @@ constexpr double emblemSize = 28;
 constexpr double titleSize = 30;
 constexpr double subtitleSize = 12;
 constexpr int listHeight = 330;
+constexpr int leastListHeight = 160;
+constexpr Garden::ContentHeight tallest{660, 164, 425};
 constexpr double cornerRadius = 22;
 constexpr double edgeOpacity = 0.16;
 
@@ -47,7 +50,7 @@ HighScoresView::HighScoresView(Session& session, QWidget* parent)
     Garden::setAccessibleRole(*this, QAccessible::Dialog);
     setFixedWidth(sheetWidth);
     setAccessibleName(tr("The high scores."));
-    rows_->setFixedHeight(listHeight);
+    rows_->setHeights(listHeight, leastListHeight);
     auto* done = new Garden::GardenButton(tr("Done"));
 
     auto* column = Garden::layOut<QVBoxLayout>(this, spacing, padding);
@@ -72,6 +75,14 @@ HighScoresView::HighScoresView(Session& session, QWidget* parent)
     refresh();
 }
 
+QSize HighScoresView::fittedTo(int available) {
+    const Garden::Density density = Garden::densityFor(available, tallest);
+    scale_ = density.scale;
+    setFixedWidth(Garden::scaled(sheetWidth, scale_));
+    density_.set(density);
+    return {width(), std::min(layout()->totalSizeHint().height(), available)};
+}
+
 void HighScoresView::refresh() {
     if (!session_.showingScores()) {
         return;
@@ -91,7 +102,8 @@ void HighScoresView::keyPressEvent(QKeyEvent* event) {
 void HighScoresView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(Garden::continuousRoundedRect(rect(), cornerRadius), Garden::night);
-    painter.strokePath(Garden::continuousRoundedRect(Garden::inset(rect(), 0.5), cornerRadius),
+    const double radius = cornerRadius * scale_;
+    painter.fillPath(Garden::continuousRoundedRect(rect(), radius), Garden::night);
+    painter.strokePath(Garden::continuousRoundedRect(Garden::inset(rect(), 0.5), radius),
                        QPen(Garden::withOpacity(Garden::mint, edgeOpacity), 1));
 }

@@ -13,6 +13,8 @@
 namespace {
 
 constexpr double scrimOpacity = 0.48;
+// The least distance of the sheet from the edges of the window, in points.
+constexpr int margin = 8;
 
 // Without the window's background, which would show in the rounded corners.
 QPixmap pictureOf(QWidget& sheet) {
@@ -84,8 +86,7 @@ void SheetLayer::placeSheet() {
     if (sheet_ == nullptr) {
         return;
     }
-    sheet_->adjustSize();
-    QRect sheetRect(QPoint(), sheet_->size());
+    QRect sheetRect(QPoint(), sheet_->fittedTo(height() - 2 * margin));
     sheetRect.moveCenter(rect().center());
     sheet_->setGeometry(sheetRect);
 }

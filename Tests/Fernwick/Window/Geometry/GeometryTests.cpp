@@ -1,0 +1,201 @@
+#include <QGuiApplication>
+#include <QMenuBar>
+#include <QScreen>
+#include <optional>
+
+#include "App/Language.hpp"
+#include "Fernwick/Window/Geometry/WindowSizes.hpp"
+#include "Fernwick/Window/Layout.hpp"
+#include "Gallery/Scenes.hpp"
+#include "Screens/Main/BoardArea.hpp"
+#include "Screens/Scores/ScoreRow.hpp"
+#include "Session/SoundEffects.hpp"
+#include "Storage/PreferencesFile.hpp"
+#include "Window/GameWindow.hpp"
+
+namespace {
+
+class Silence : public SoundEffects {
+public:
+    void play(SoundEffect) override {}
+};
+
+/// The window with the session of a scene, in a language.
+class SceneWindow {
+public:
+    SceneWindow(const QString& language, const Scene& scene, Pace pace)
+        : language_(language), scene_(scene) {
+        scene_.store(preferences_);
+        session_.emplace(preferences_, sounds_,
+                         [this](SnakeCore::Game& game) { game = scene_.game(); });
+        session_->choosePace(pace);
+        scene_.arrange(*session_);
+        window_.emplace(*session_);
+        window_->show();
+        processEvents();
+        // Only the geometry is tested.
+        window_->setUpdatesEnabled(false);
+    }
+
+    void cover(QScreen* screen, Qt::WindowState state) {
+        window_->setScreen(screen);
+        window_->setWindowState(state);
+        processEvents();
+    }
+
+    [[nodiscard]] const GameWindow& window() const { return *window_; }
+
+private:
+    static void processEvents() {
+        QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
+    }
+
+    Language language_;
+    Scene scene_;
+    Storage::PreferencesFile preferences_{std::filesystem::path()};
+    Silence sounds_;
+    std::optional<Session> session_;
+    std::optional<GameWindow> window_;
+};
+
+QRect rectIn(const QWidget& root, const QWidget& widget) {
+    return {widget.mapTo(&root, QPoint()), widget.size()};
+}
+
+/// Expects `widget` to lie inside every widget around it.
+void expectInside(const QWidget& window, const QWidget& widget) {
+    for (const QWidget* around = widget.parentWidget(); around != nullptr;
+         around = around->parentWidget()) {
+        EXPECT_TRUE(around->rect().contains(rectIn(*around, widget)))
+            << around->metaObject()->className();
+        if (around == &window) {
+            break;
+        }
+    }
+}
+
+void expectWhole(const QWidget& element) {
+    const QSize needed = element.sizeHint().boundedTo(element.maximumSize());
+    EXPECT_GE(element.width(), needed.width());
+    if (qobject_cast<const ScoreRows*>(&element) == nullptr) {
+        EXPECT_GE(element.height(), needed.height());
+    }
+}
+
+/// Expects a list with less than its full height to show only whole rows, and at least two.
+void expectWholeRows(const ScoreRows& rows) {
+    if (rows.height() >= rows.maximumHeight()) {
+        return;
+    }
+    int visible = 0;
+    for (const ScoreRow* row : rows.findChildren<ScoreRow*>()) {
+        const QWidget& viewport = *row->parentWidget()->parentWidget();
+        const QRect shown = rectIn(viewport, *row);
+        if (viewport.rect().intersects(shown)) {
+            EXPECT_TRUE(viewport.rect().contains(shown));
+            ++visible;
+        }
+    }
+    const bool empty = rows.findChildren<ScoreRow*>().isEmpty();
+    EXPECT_TRUE(empty || visible == rows.findChildren<ScoreRow*>().size() || visible >= 2);
+}
+
+/// The menu titles and window buttons, in the coordinates of the window.
+QList<QRect> bandRects(const GameWindow& window) {
+    QList<QRect> rects;
+    const auto& bar = *window.findChild<QMenuBar*>();
+    for (QAction* menu : bar.actions()) {
+        if (bar.isVisible()) {
+            rects.append(bar.actionGeometry(menu).translated(bar.mapTo(&window, QPoint())));
+        }
+    }
+    return rects;
+}
+
+void expectComposed(const GameWindow& window) {
+    const auto* sheet = window.findChild<HighScoresView*>();
+    const bool sheetOpen = sheet != nullptr && sheet->isVisible();
+    const QWidget& front = sheetOpen ? static_cast<const QWidget&>(*sheet) : window;
+    QList<std::pair<QRect, QString>> taken;
+    for (const QRect& rect : bandRects(window)) {
+        EXPECT_TRUE(window.rect().contains(rect));
+        taken.append({rect, QStringLiteral("a menu")});
+    }
+    if (sheetOpen) {
+        const QRect rect = rectIn(window, *sheet);
+        EXPECT_TRUE(window.rect().contains(rect));
+        for (const auto& [other, name] : taken) {
+            EXPECT_FALSE(rect.intersects(other)) << "the sheet and " << name.toStdString();
+        }
+    }
+    for (QWidget* element : Layout::visibleElements(front)) {
+        SCOPED_TRACE(element->metaObject()->className() + std::string(" ") +
+                     Screen::nameOf(element).toStdString());
+        const QRect rect = rectIn(window, *element);
+        expectInside(window, *element);
+        expectWhole(*element);
+        for (const auto& [other, name] : taken) {
+            EXPECT_FALSE(rect.intersects(other)) << name.toStdString();
+        }
+        taken.append({rect, Screen::nameOf(element)});
+        if (element->inherits("Garden::TrackedLabel") || element->inherits("QAbstractButton")) {
+            EXPECT_TRUE(element->inherits("Garden::IconButton") ||
+                        element->font().pixelSize() >= 8);
+        }
+        if (const auto* rows = qobject_cast<const ScoreRows*>(element); rows != nullptr) {
+            expectWholeRows(*rows);
+        }
+    }
+}
+
+struct State {
+    Scene scene;
+    Pace pace;
+};
+
+/// Each state of the screens once, and the card with the result of each pace.
+const std::vector<State>& states() {
+    static const std::vector<State> all = [] {
+        std::vector<State> result;
+        for (const Scene& scene : galleryScenes()) {
+            const bool hasCard =
+                scene.name == QLatin1String("ended") || scene.name == QLatin1String("saved");
+            for (const Pace pace : allPaces) {
+                if (hasCard || pace == Pace::classic) {
+                    result.push_back({scene, pace});
+                }
+            }
+        }
+        return result;
+    }();
+    return all;
+}
+
+class Geometry : public ::testing::TestWithParam<QString> {};
+
+QStringList languages() {
+    return QStringList(QStringLiteral("en")) + Language::translated();
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, Geometry, ::testing::ValuesIn(languages()),
+                         [](const auto& language) { return language.param.toStdString(); });
+
+}  // namespace
+
+TEST_P(Geometry, everythingIsWholeAndApartAtEverySizeInEveryState) {
+    for (const State& state : states()) {
+        SceneWindow scene(GetParam(), state.scene, state.pace);
+        for (QScreen* screen : QGuiApplication::screens()) {
+            for (const Qt::WindowState kind : {Qt::WindowFullScreen, Qt::WindowMaximized}) {
+                scene.cover(screen, kind);
+                const QSize size = screen->size();
+                SCOPED_TRACE(state.scene.name.toStdString() + " " + std::to_string(size.width()) +
+                             "x" + std::to_string(size.height()) +
+                             (kind == Qt::WindowFullScreen ? " full screen" : " tile"));
+                ASSERT_EQ(scene.window().size(), size);
+                expectComposed(scene.window());
+            }
+        }
+    }
+}
