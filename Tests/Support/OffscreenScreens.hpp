@@ -19,7 +19,9 @@ public:
         int left = 0;
         for (const QSize& size : sizes) {
             const QSize pixels = (QSizeF(size) * scale).toSize();
-            screens.append(QJsonObject{{"x", left},
+            // Qt tells screens apart by their names.
+            screens.append(QJsonObject{{"name", QString::number(screens.size())},
+                                       {"x", left},
                                        {"y", 0},
                                        {"width", pixels.width()},
                                        {"height", pixels.height()},

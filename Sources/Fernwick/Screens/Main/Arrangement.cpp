@@ -14,7 +14,7 @@ constexpr int leastTop = 16;
 constexpr int leastBottom = 12;
 constexpr int leastSpacing = 12;
 // The band's contents are lower than the band.
-constexpr int leastBelowBand = 6;
+constexpr int leastBelowBand = 4;
 
 // Width by height, and height by width.
 constexpr double widestShape = 2;

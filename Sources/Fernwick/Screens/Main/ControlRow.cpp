@@ -14,6 +14,8 @@ constexpr double statusSize = 9;
 constexpr double statusTracking = 2;
 constexpr int statusSpacing = 8;
 constexpr int columnSpacing = 12;
+// Of the speeds in a column, so that the longest names fit.
+constexpr double columnAir = 0.6;
 
 }  // namespace
 
@@ -41,7 +43,7 @@ ControlRow::ControlRow(Session& session, QWidget* parent)
 
 void ControlRow::arrange(int columnWidth, const Garden::Density& density) {
     const bool asColumn = columnWidth > 0;
-    density_.set(density);
+    density_.set({asColumn ? columnAir : density.air, density.scale});
     row_->setDirection(asColumn ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     row_->setSpacing(
         Garden::scaled(asColumn ? columnSpacing : statusSpacing, density.air * density.scale));

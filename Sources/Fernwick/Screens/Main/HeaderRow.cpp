@@ -24,7 +24,7 @@ constexpr double ruleOpacity = 0.25;
 constexpr int rulePadding = 12;
 constexpr int columnSpacing = 18;
 // In a column, so that it stays on one line in all languages.
-constexpr double columnTaglineScale = 0.7;
+constexpr double columnTaglineScale = 0.68;
 
 }  // namespace
 

@@ -25,7 +25,7 @@ constexpr double hintTracking = 2.5;
 constexpr int spaceAboveHint = 2;
 constexpr Garden::ContentHeight tallest{290, 113, 245};
 // With the line below the title on two lines.
-constexpr double leastWidth = 376;
+constexpr double leastWidth = 416;
 
 }  // namespace
 

@@ -48,7 +48,6 @@ HighScoresView::HighScoresView(Session& session, QWidget* parent)
       speed_(new Garden::ChoiceGroup(paceNames(), tr("Speed"))),
       rows_(new ScoreRows) {
     Garden::setAccessibleRole(*this, QAccessible::Dialog);
-    setFixedWidth(sheetWidth);
     setAccessibleName(tr("The high scores."));
     rows_->setHeights(listHeight, leastListHeight);
     auto* done = new Garden::GardenButton(tr("Done"));
@@ -78,9 +77,9 @@ HighScoresView::HighScoresView(Session& session, QWidget* parent)
 QSize HighScoresView::fittedTo(int available) {
     const Garden::Density density = Garden::densityFor(available, tallest);
     scale_ = density.scale;
-    setFixedWidth(Garden::scaled(sheetWidth, scale_));
     density_.set(density);
-    return {width(), std::min(layout()->totalSizeHint().height(), available)};
+    return {Garden::scaled(sheetWidth, scale_),
+            std::min(layout()->totalSizeHint().height(), available)};
 }
 
 void HighScoresView::refresh() {

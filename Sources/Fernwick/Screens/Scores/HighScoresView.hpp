@@ -18,7 +18,7 @@ class HighScoresView : public QWidget {
 public:
     explicit HighScoresView(Session& session, QWidget* parent = nullptr);
 
-    /// Makes it fit this height, in points, and returns its size.
+    /// Makes it fit the height `available`, and returns the size that it needs, in points.
     QSize fittedTo(int available);
 
 protected:

@@ -129,6 +129,7 @@ void expectComposed(const GameWindow& window) {
             EXPECT_FALSE(rect.intersects(other)) << "the sheet and " << name.toStdString();
         }
     }
+    ASSERT_GT(Layout::visibleElements(front).size(), 4);
     for (QWidget* element : Layout::visibleElements(front)) {
         SCOPED_TRACE(element->metaObject()->className() + std::string(" ") +
                      Screen::nameOf(element).toStdString());
