@@ -26,7 +26,8 @@ ControlRow::ControlRow(Session& session, QWidget* parent)
       dot_(new Garden::StatusDot),
       status_(new Garden::TrackedLabel({}, Garden::sans(statusSize, QFont::Medium, statusTracking),
                                        Garden::muted)),
-      row_(Garden::layOut<QHBoxLayout>(this, statusSpacing)) {
+      row_(Garden::layOut<QHBoxLayout>(this, statusSpacing)),
+      speedsDensity_(*speeds_) {
     auto* status = new QHBoxLayout;
     status->setSpacing(statusSpacing);
     status->addWidget(dot_);
@@ -43,7 +44,8 @@ ControlRow::ControlRow(Session& session, QWidget* parent)
 
 void ControlRow::arrange(int columnWidth, const Garden::Density& density) {
     const bool asColumn = columnWidth > 0;
-    density_.set({asColumn ? columnAir : density.air, density.scale});
+    density_.set(density);
+    speedsDensity_.set({asColumn ? columnAir : density.air, density.scale});
     row_->setDirection(asColumn ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     row_->setSpacing(
         Garden::scaled(asColumn ? columnSpacing : statusSpacing, density.air * density.scale));

@@ -34,4 +34,5 @@ private:
     Garden::TrackedLabel* status_;
     QBoxLayout* row_;
     Garden::ContentDensity density_{*this};
+    Garden::ContentDensity speedsDensity_;
 };

@@ -126,8 +126,13 @@ bool ScoreRows::eventFilter(QObject* watched, QEvent* event) {
     return QWidget::eventFilter(watched, event);
 }
 
+bool ScoreRows::showsWholeRows() const {
+    const bool full = density_ == Garden::Density() && height() >= maximumHeight();
+    return !full && !rows_.isEmpty() && height() >= pitch();
+}
+
 int ScoreRows::listHeight() const {
-    if (rows_.isEmpty() || height() >= maximumHeight() || height() < pitch()) {
+    if (!showsWholeRows()) {
         return height();
     }
     const int spacing = column_->spacing();
@@ -193,7 +198,7 @@ void ScoreRows::showHighlighted() {
     if (highlightedRow_ != nullptr) {
         scrollArea_->ensureWidgetVisible(highlightedRow_, 0, 0);
     }
-    if (height() < maximumHeight() && !rows_.isEmpty()) {
+    if (showsWholeRows()) {
         QScrollBar* scrolling = scrollArea_->verticalScrollBar();
         scrolling->setValue((scrolling->value() + pitch() - 1) / pitch() * pitch());
     }

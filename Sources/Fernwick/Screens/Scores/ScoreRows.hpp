@@ -48,7 +48,8 @@ protected:
 
 private:
     void showIndicator();
-    /// Below its full height, of whole rows only.
+    /// Whether the list has less than its full size, and then no part of a row.
+    [[nodiscard]] bool showsWholeRows() const;
     [[nodiscard]] int listHeight() const;
     /// From one row to the next.
     [[nodiscard]] int pitch() const;
