@@ -2,63 +2,12 @@
 #include <QLayout>
 #include <QMenuBar>
 #include <QScreen>
-#include <optional>
 
-#include "App/Language.hpp"
-#include "Fernwick/Window/Geometry/WindowSizes.hpp"
+#include "Fernwick/Window/Geometry/SceneWindow.hpp"
 #include "Fernwick/Window/Layout.hpp"
-#include "Gallery/Scenes.hpp"
-#include "Screens/Main/BoardArea.hpp"
 #include "Screens/Scores/ScoreRow.hpp"
-#include "Session/SoundEffects.hpp"
-#include "Storage/PreferencesFile.hpp"
-#include "Window/GameWindow.hpp"
 
 namespace {
-
-class Silence : public SoundEffects {
-public:
-    void play(SoundEffect) override {}
-};
-
-/// The window with the session of a scene, in a language.
-class SceneWindow {
-public:
-    SceneWindow(const QString& language, const Scene& scene, Pace pace)
-        : language_(language), scene_(scene) {
-        scene_.store(preferences_);
-        session_.emplace(preferences_, sounds_,
-                         [this](SnakeCore::Game& game) { game = scene_.game(); });
-        session_->choosePace(pace);
-        scene_.arrange(*session_);
-        window_.emplace(*session_);
-        window_->show();
-        processEvents();
-        // Only the geometry is tested.
-        window_->setUpdatesEnabled(false);
-    }
-
-    void cover(QScreen* screen, Qt::WindowState state) {
-        window_->setScreen(screen);
-        window_->setWindowState(state);
-        processEvents();
-    }
-
-    [[nodiscard]] const GameWindow& window() const { return *window_; }
-
-private:
-    static void processEvents() {
-        QCoreApplication::processEvents();
-        QCoreApplication::processEvents();
-    }
-
-    Language language_;
-    Scene scene_;
-    Storage::PreferencesFile preferences_{std::filesystem::path()};
-    Silence sounds_;
-    std::optional<Session> session_;
-    std::optional<GameWindow> window_;
-};
 
 QRect rectIn(const QWidget& root, const QWidget& widget) {
     return {widget.mapTo(&root, QPoint()), widget.size()};
@@ -190,6 +139,7 @@ INSTANTIATE_TEST_SUITE_P(Languages, Geometry, ::testing::ValuesIn(languages()),
 TEST_P(Geometry, everythingIsWholeAndApartAtEverySizeInEveryState) {
     for (const State& state : states()) {
         SceneWindow scene(GetParam(), state.scene, state.pace);
+        scene.dontPaint();
         for (QScreen* screen : QGuiApplication::screens()) {
             for (const Qt::WindowState kind : {Qt::WindowFullScreen, Qt::WindowMaximized}) {
                 scene.cover(screen, kind);
