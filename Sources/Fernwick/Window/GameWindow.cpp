@@ -78,8 +78,8 @@ void GameWindow::resizeEvent(QResizeEvent* event) {
 }
 
 void GameWindow::placeContent() {
-    content_->setBand(isFullScreen() ? 0 : TitleBand::height);
     content_->setGeometry(rect());
+    content_->setBand(isFullScreen() ? 0 : TitleBand::height);
     band_->setContent(content_->contentArea());
     band_->setGeometry(0, 0, width(), TitleBand::height);
 }

@@ -5,8 +5,8 @@
 
 namespace Garden {
 
-void ContentDensity::measure() {
-    for (QLayout* layout : root_.findChildren<QLayout*>()) {
+ContentDensity::ContentDensity(QWidget& root) : QObject(&root), root_(root) {
+    for (QLayout* layout : root.findChildren<QLayout*>()) {
         air_.push_back({layout, layout->contentsMargins(), layout->spacing()});
         for (int index = 0; index < layout->count(); ++index) {
             if (QSpacerItem* spacer = layout->itemAt(index)->spacerItem(); spacer != nullptr) {
@@ -21,9 +21,6 @@ void ContentDensity::set(const Density& density) {
         return;
     }
     density_ = density;
-    if (air_.empty()) {
-        measure();
-    }
     applyToLayouts(density.air * density.scale);
     for (QWidget* widget : root_.findChildren<QWidget*>()) {
         if (auto* scalable = dynamic_cast<Scalable*>(widget); scalable != nullptr) {

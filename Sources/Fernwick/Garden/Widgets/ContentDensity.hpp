@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMargins>
+#include <QObject>
 #include <QSize>
 #include <vector>
 
@@ -23,13 +24,14 @@ protected:
 
 /// Applies a density to everything inside a widget: the spacing and margins of its layouts, and its
 /// `Scalable` descendants.
-class ContentDensity {
-public:
-    /// `root` has to outlive it.
-    explicit ContentDensity(QWidget& root) : root_(root) {}
+class ContentDensity : public QObject {
+    Q_OBJECT
 
-    /// The first density other than the default takes the spacing and margins that the layouts
-    /// have then as those of full size.
+public:
+    /// A child of `root`. Create it when the layouts of `root` are complete: it takes their spacing
+    /// and margins as those of full size.
+    explicit ContentDensity(QWidget& root);
+
     void set(const Density& density);
 
 private:
@@ -43,7 +45,6 @@ private:
         QSize size;
     };
 
-    void measure();
     void applyToLayouts(double factor);
 
     QWidget& root_;

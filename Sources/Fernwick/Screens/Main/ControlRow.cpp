@@ -26,8 +26,7 @@ ControlRow::ControlRow(Session& session, QWidget* parent)
       dot_(new Garden::StatusDot),
       status_(new Garden::TrackedLabel({}, Garden::sans(statusSize, QFont::Medium, statusTracking),
                                        Garden::muted)),
-      row_(Garden::layOut<QHBoxLayout>(this, statusSpacing)),
-      speedsDensity_(*speeds_) {
+      row_(Garden::layOut<QHBoxLayout>(this, statusSpacing)) {
     auto* status = new QHBoxLayout;
     status->setSpacing(statusSpacing);
     status->addWidget(dot_);
@@ -38,14 +37,16 @@ ControlRow::ControlRow(Session& session, QWidget* parent)
     connect(speeds_, &Garden::ChoiceGroup::chosen, this, [this](int index) {
         session_.choosePace(allPaces.at(static_cast<std::size_t>(index)));
     });
+    density_ = new Garden::ContentDensity(*this);
+    speedsDensity_ = new Garden::ContentDensity(*speeds_);
     connect(&session_, &Session::changed, this, &ControlRow::refresh);
     refresh();
 }
 
 void ControlRow::arrange(int columnWidth, const Garden::Density& density) {
     const bool asColumn = columnWidth > 0;
-    density_.set(density);
-    speedsDensity_.set({asColumn ? columnAir : density.air, density.scale});
+    density_->set(density);
+    speedsDensity_->set({asColumn ? columnAir : density.air, density.scale});
     row_->setDirection(asColumn ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     row_->setSpacing(
         Garden::scaled(asColumn ? columnSpacing : statusSpacing, density.air * density.scale));

@@ -33,6 +33,6 @@ private:
     Garden::StatusDot* dot_;
     Garden::TrackedLabel* status_;
     QBoxLayout* row_;
-    Garden::ContentDensity density_{*this};
-    Garden::ContentDensity speedsDensity_;
+    Garden::ContentDensity* density_ = nullptr;
+    Garden::ContentDensity* speedsDensity_ = nullptr;
 };

@@ -41,12 +41,13 @@ HeaderRow::HeaderRow(Session& session, QWidget* parent)
     row_->addLayout(titleBlock());
     row_->addStretch();
     row_->addLayout(scoreTiles());
+    density_ = new Garden::ContentDensity(*this);
     connect(&session_, &Session::changed, this, &HeaderRow::refresh);
     refresh();
 }
 
 void HeaderRow::arrange(bool asColumn, const Garden::Density& density) {
-    density_.set(density);
+    density_->set(density);
     const double taglineScale = asColumn ? columnTaglineScale : 1;
     tagline_->setDensity({density.air, density.scale * taglineScale});
     row_->setDirection(asColumn ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);

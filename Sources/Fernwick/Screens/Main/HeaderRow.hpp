@@ -35,5 +35,5 @@ private:
     Garden::RollingDigits* best_;
     Garden::TrackedLabel* tagline_;
     QBoxLayout* row_;
-    Garden::ContentDensity density_{*this};
+    Garden::ContentDensity* density_ = nullptr;
 };

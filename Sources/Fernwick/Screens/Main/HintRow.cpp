@@ -65,6 +65,7 @@ HintRow::HintRow(Session& session, QWidget* parent)
     buttons->addWidget(pause_);
     row_->addLayout(buttons);
     row_->setAlignment(buttons, Qt::AlignLeft);
+    density_ = new Garden::ContentDensity(*this);
     arrange(Form::oneLine, {});
     // The icon shows whether sounds are on; screen readers need the checked state.
     sound_->setCheckable(true);
@@ -79,7 +80,7 @@ HintRow::HintRow(Session& session, QWidget* parent)
 
 void HintRow::arrange(Form form, const Garden::Density& density) {
     const bool asColumn = form == Form::column;
-    density_.set(density);
+    density_->set(density);
     const auto direct = [&](QBoxLayout* layout, bool down, int spacing) {
         layout->setDirection(down ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
         layout->setSpacing(Garden::scaled(spacing, density.air * density.scale));

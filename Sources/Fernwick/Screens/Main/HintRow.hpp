@@ -42,5 +42,5 @@ private:
     QBoxLayout* moves_;
     QBoxLayout* lines_;
     QBoxLayout* row_;
-    Garden::ContentDensity density_{*this};
+    Garden::ContentDensity* density_ = nullptr;
 };

@@ -54,6 +54,7 @@ Overlay::Overlay(Session& session, QWidget* parent)
     column->addStretch();
     connect(button_, &QAbstractButton::clicked, this,
             [this] { session_.inRun() ? session_.pause() : session_.start(); });
+    density_ = new Garden::ContentDensity(*this);
     connect(&session_, &Session::changed, this, &Overlay::refresh);
     refresh();
 }
@@ -61,7 +62,7 @@ Overlay::Overlay(Session& session, QWidget* parent)
 void Overlay::resizeEvent(QResizeEvent*) {
     Garden::Density density = Garden::densityFor(height(), tallest);
     density.scale = std::min(density.scale, width() / leastWidth);
-    density_.set(density);
+    density_->set(density);
     line_->wrapAt(contentsRect().marginsRemoved(layout()->contentsMargins()).width(),
                   Qt::AlignHCenter);
 }

@@ -34,5 +34,5 @@ private:
     Garden::TrackedLabel* title_;
     Garden::TrackedLabel* line_;
     Garden::GardenButton* button_;
-    Garden::ContentDensity density_{*this};
+    Garden::ContentDensity* density_ = nullptr;
 };

@@ -48,6 +48,7 @@ GameOverView::GameOverView(Session& session, QWidget* parent)
     // The stretch factor lets the card grow to its maximum width before the margins grow.
     area->addWidget(card, 1, Qt::AlignVCenter);
     area->addStretch();
+    density_ = new Garden::ContentDensity(*this);
     connect(&session_, &Session::changed, this, &GameOverView::refresh);
     refresh();
 }
@@ -59,7 +60,7 @@ void GameOverView::resizeEvent(QResizeEvent*) {
 void GameOverView::fit() {
     Garden::Density density = Garden::densityFor(height(), session_.awaitingName() ? entry : saved);
     density.scale = std::min(density.scale, width() / leastWidth);
-    density_.set(density);
+    density_->set(density);
 }
 
 void GameOverView::refresh() {

@@ -36,5 +36,5 @@ private:
     Garden::TrackedLabel* result_;
     NameEntry* nameEntry_;
     SavedBoard* savedBoard_;
-    Garden::ContentDensity density_{*this};
+    Garden::ContentDensity* density_ = nullptr;
 };

@@ -70,6 +70,7 @@ HighScoresView::HighScoresView(Session& session, QWidget* parent)
         session_.chooseScorePace(allPaces.at(static_cast<std::size_t>(index)));
     });
     connect(done, &QAbstractButton::clicked, &session_, &Session::closeScores);
+    density_ = new Garden::ContentDensity(*this);
     connect(&session_, &Session::changed, this, &HighScoresView::refresh);
     refresh();
 }
@@ -77,7 +78,7 @@ HighScoresView::HighScoresView(Session& session, QWidget* parent)
 QSize HighScoresView::fittedTo(int available) {
     const Garden::Density density = Garden::densityFor(available, tallest);
     scale_ = density.scale;
-    density_.set(density);
+    density_->set(density);
     return {Garden::scaled(sheetWidth, scale_),
             std::min(layout()->totalSizeHint().height(), available)};
 }

@@ -32,5 +32,5 @@ private:
     Garden::ChoiceGroup* speed_;
     ScoreRows* rows_;
     double scale_ = 1;
-    Garden::ContentDensity density_{*this};
+    Garden::ContentDensity* density_ = nullptr;
 };

@@ -19,6 +19,7 @@ protected:
         column->addSpacing(13);
         column->addWidget(icon);
         column->addWidget(button);
+        density = new Garden::ContentDensity(root);
     }
 
     QWidget root;
@@ -27,7 +28,7 @@ protected:
         QStringLiteral("Grow"), Garden::sans(20, QFont::Normal), Garden::mint);
     Garden::IconView* icon = new Garden::IconView(Garden::Icon::leaf, 30, Garden::mint);
     Garden::GardenButton* button = new Garden::GardenButton(QStringLiteral("Done"));
-    Garden::ContentDensity density{root};
+    Garden::ContentDensity* density = nullptr;
 };
 
 }  // namespace
@@ -35,7 +36,7 @@ protected:
 TEST_F(ContentDensity, withLessAirChangesOnlySpacingAndMargins) {
     const QSize labelSize = label->sizeHint();
 
-    density.set({0.5, 1});
+    density->set({0.5, 1});
 
     EXPECT_EQ(column->spacing(), 10);
     EXPECT_EQ(column->contentsMargins(), QMargins(15, 15, 15, 15));
@@ -45,7 +46,7 @@ TEST_F(ContentDensity, withLessAirChangesOnlySpacingAndMargins) {
 }
 
 TEST_F(ContentDensity, scalesEverythingAtOnce) {
-    density.set({1, 0.8});
+    density->set({1, 0.8});
 
     EXPECT_EQ(column->spacing(), 16);
     EXPECT_EQ(label->font().pixelSize(), 16);
@@ -56,7 +57,7 @@ TEST_F(ContentDensity, scalesEverythingAtOnce) {
 TEST_F(ContentDensity, keepsButtonsHighWithLessAir) {
     const QSize full = button->sizeHint();
 
-    density.set({0.5, 1});
+    density->set({0.5, 1});
 
     EXPECT_LT(button->sizeHint().width(), full.width());
     EXPECT_EQ(button->sizeHint().height(), full.height());
@@ -64,10 +65,10 @@ TEST_F(ContentDensity, keepsButtonsHighWithLessAir) {
 
 TEST_F(ContentDensity, takesEffectOnTheSizeOfTheWholeAtOnce) {
     const QSize full = root.sizeHint();
-    density.set({1, 0.5});
+    density->set({1, 0.5});
     EXPECT_LT(root.sizeHint().height(), full.height());
 
-    density.set({});
+    density->set({});
 
     EXPECT_EQ(root.sizeHint(), full);
 }
