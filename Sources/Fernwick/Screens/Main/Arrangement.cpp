@@ -24,8 +24,8 @@ constexpr double highestShape = 1.25;
 constexpr int rowsHeight = 130;
 constexpr double boardRatio = 28.0 / 22;
 
-// Below this width the hints do not fit on one line in every language.
-constexpr int oneLineHints = 806;
+// The width that the hints and the buttons need on one line, in the language with the longest.
+constexpr int oneLineHints = 740;
 
 constexpr int widestColumn = 264;
 // Of full-sized contents.
@@ -74,8 +74,8 @@ Arrangement arrangementFor(const QSize& size, int band) {
                      shrunk(leastSide, fullPadding.right(), wide),
                      shrunk(leastBottom, fullPadding.bottom(), high));
     result.spacing = shrunk(leastSpacing, fullSpacing, high);
-    result.foldedHints = size.width() < oneLineHints;
     result.content = bounded(size).marginsRemoved(padding);
+    result.foldedHints = result.content.width() < oneLineHints;
     if (full || high >= 0) {
         return result;
     }

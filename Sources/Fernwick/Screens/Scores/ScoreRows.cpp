@@ -93,7 +93,9 @@ QSize ScoreRows::sizeHint() const {
 }
 
 QSize ScoreRows::minimumSizeHint() const {
-    return {QWidget::minimumSizeHint().width(), Garden::scaled(leastHeight_, density_.scale)};
+    // With all the air there is, the list has its full height too.
+    const int least = density_ == Garden::Density() ? fullHeight_ : leastHeight_;
+    return {QWidget::minimumSizeHint().width(), Garden::scaled(least, density_.scale)};
 }
 
 void ScoreRows::showIndicator() {
@@ -127,7 +129,8 @@ bool ScoreRows::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool ScoreRows::showsWholeRows() const {
-    const bool full = density_ == Garden::Density() && height() >= maximumHeight();
+    const bool full =
+        fullHeight_ == 0 || (density_ == Garden::Density() && height() >= maximumHeight());
     return !full && !rows_.isEmpty() && height() >= pitch();
 }
 
