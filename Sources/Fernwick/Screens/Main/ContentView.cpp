@@ -4,7 +4,6 @@
 #include <QPainter>
 #include <QStyle>
 
-#include "Screens/Main/Arrangement.hpp"
 #include "Screens/Main/BoardArea.hpp"
 #include "Screens/Main/ControlRow.hpp"
 #include "Screens/Main/HeaderRow.hpp"
@@ -57,13 +56,13 @@ void ContentView::paintEvent(QPaintEvent* event) {
 }
 
 QRect ContentView::contentArea() const {
-    return arrangementFor(size(), band_).content;
+    return arrangement_.content;
 }
 
 bool ContentView::event(QEvent* event) {
     // A row has got another height.
     if (event->type() == QEvent::LayoutRequest) {
-        arrange();
+        place();
     }
     return QWidget::event(event);
 }
@@ -74,14 +73,19 @@ void ContentView::resizeEvent(QResizeEvent*) {
 }
 
 void ContentView::arrange() {
-    const Arrangement wanted = arrangementFor(size(), band_);
+    arrangement_ = arrangementFor(size(), band_);
+    const Arrangement& wanted = arrangement_;
     header_->arrange(wanted.beside, wanted.rows);
     controls_->arrange(wanted.columnWidth, wanted.rows);
     hints_->arrange(wanted.beside        ? HintRow::Form::column
                     : wanted.foldedHints ? HintRow::Form::twoLines
                                          : HintRow::Form::oneLine,
                     wanted.hints);
+    place();
+}
 
+void ContentView::place() {
+    const Arrangement& wanted = arrangement_;
     QRect rows = wanted.content;
     QRect board = wanted.content;
     const int header = header_->sizeHint().height();

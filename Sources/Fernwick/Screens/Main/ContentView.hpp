@@ -3,6 +3,7 @@
 #include <QWidget>
 
 #include "Painting/Ground/Backdrop.hpp"
+#include "Screens/Main/Arrangement.hpp"
 
 class BoardArea;
 class ControlRow;
@@ -36,6 +37,8 @@ protected:
 
 private:
     void arrange();
+    /// Gives the rows and the board their places. Changes nothing that asks for another layout.
+    void place();
     /// `area` in a right-to-left layout.
     [[nodiscard]] QRect mirrored(const QRect& area) const;
     void placeBoard();
@@ -45,6 +48,7 @@ private:
     qreal scale_ = 1;
     Painting::Backdrop backdrop_;
     int band_ = 0;
+    Arrangement arrangement_;
     HeaderRow* header_;
     ControlRow* controls_;
     BoardArea* boardArea_;

@@ -79,6 +79,9 @@ void ScoreRows::setHeights(int full, int least) {
 void ScoreRows::setDensity(const Garden::Density& density) {
     density_ = density;
     if (fullHeight_ > 0) {
+        // With all the air there is, the list has its full height too.
+        const int least = density == Garden::Density() ? fullHeight_ : leastHeight_;
+        setMinimumHeight(Garden::scaled(least, density.scale));
         setMaximumHeight(Garden::scaled(fullHeight_, density.scale));
     }
     for (ScoreRow* row : rows_) {
@@ -90,12 +93,6 @@ void ScoreRows::setDensity(const Garden::Density& density) {
 QSize ScoreRows::sizeHint() const {
     const QSize hint = QWidget::sizeHint();
     return fullHeight_ > 0 ? QSize(hint.width(), maximumHeight()) : hint;
-}
-
-QSize ScoreRows::minimumSizeHint() const {
-    // With all the air there is, the list has its full height too.
-    const int least = density_ == Garden::Density() ? fullHeight_ : leastHeight_;
-    return {QWidget::minimumSizeHint().width(), Garden::scaled(least, density_.scale)};
 }
 
 void ScoreRows::showIndicator() {

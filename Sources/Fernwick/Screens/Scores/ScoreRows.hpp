@@ -38,7 +38,6 @@ public:
     void setDensity(const Garden::Density& density) override;
 
     [[nodiscard]] QSize sizeHint() const override;
-    [[nodiscard]] QSize minimumSizeHint() const override;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -7,6 +7,7 @@
 #include "Garden/Widgets/TrackedLabel.hpp"
 #include "Screens/Scores/NameField.hpp"
 #include "Support/Screen.hpp"
+#include "Support/Wakeups.hpp"
 
 namespace {
 
@@ -69,6 +70,16 @@ TEST(SizeChanges, bringBackTheFullSize) {
         scene.cover(large, Qt::WindowFullScreen);
 
         EXPECT_TRUE(scene.window().grab().toImage() == before) << name;
+    }
+}
+
+TEST(SizeChanges, wakeTheEventLoopNoMoreOnceTheLayoutIsDone) {
+    for (const char* name : {"fresh", "ended", "saved"}) {
+        SceneWindow scene(QStringLiteral("en"), sceneNamed(name), Pace::classic);
+        scene.cover(screenOf({640, 360}), Qt::WindowFullScreen);
+
+        constexpr int fewWakeups = 4;
+        EXPECT_LE(wakeups(100), fewWakeups) << name;
     }
 }
 
