@@ -7,6 +7,11 @@
 #include "Fernwick/Window/Layout.hpp"
 #include "Screens/Scores/ScoreRow.hpp"
 
+// GoogleTest prints the parameter of a failed test with this.
+static void PrintTo(const QString& text, std::ostream* out) {
+    *out << text.toStdString();
+}
+
 namespace {
 
 QRect rectIn(const QWidget& root, const QWidget& widget) {
