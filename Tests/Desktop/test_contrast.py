@@ -25,7 +25,7 @@ LOW_BY_DESIGN = {"Your name"}
 
 
 SHEET = "The high scores.", "Done"
-ON_SHEET = {*SHEET, "Top 10 for each speed · saved on this Mac", "Gentle", "Classic", "Swift",
+ON_SHEET = {*SHEET, "Top 10 for each speed · saved on this computer", "Gentle", "Classic", "Swift",
             "01 Pip 0"}
 
 

@@ -1,7 +1,6 @@
 #include <QApplication>
 #include <QDir>
 #include <QPainter>
-#include <QScreen>
 #include <cstdio>
 
 #include "App/ApplicationStyle.hpp"
@@ -10,6 +9,7 @@
 #include "Session/Session.hpp"
 #include "Session/SoundEffects.hpp"
 #include "Storage/PreferencesFile.hpp"
+#include "Support/OffscreenScreens.hpp"
 #include "Window/GameWindow.hpp"
 
 // Renders every scene at one size into a folder, and a contact sheet of all scenes.
@@ -18,13 +18,14 @@ namespace {
 
 constexpr int thumbnailWidth = 640;
 constexpr int sheetColumns = 3;
+constexpr QSize largeScreen(3840, 2160);
 
 class NoSound : public SoundEffects {
 public:
     void play(SoundEffect) override {}
 };
 
-QImage render(const Scene& scene, const QSize& size, bool fullScreen) {
+QImage render(const Scene& scene, const QSize& size, Qt::WindowState state) {
     Storage::PreferencesFile inMemory{std::filesystem::path()};
     NoSound sounds;
     scene.store(inMemory);
@@ -33,10 +34,11 @@ QImage render(const Scene& scene, const QSize& size, bool fullScreen) {
     GameWindow window(session);
     window.show();
     QCoreApplication::processEvents();
-    if (!fullScreen) {
-        window.showNormal();
+    window.setWindowState(state);
+    QCoreApplication::processEvents();
+    if (state == Qt::WindowNoState) {
+        window.resize(size);
     }
-    window.resize(size);
     QCoreApplication::processEvents();
     return window.grab().toImage();
 }
@@ -52,14 +54,18 @@ void addToSheet(QPainter& sheet, const QImage& picture, int index, const QSize& 
 
 int main(int argc, char* argv[]) {
     if (argc != 5 && argc != 6) {
-        std::fputs("usage: fernwick-gallery FOLDER WIDTH HEIGHT window|full-screen [LANGUAGE]\n",
-                   stderr);
+        std::fputs(
+            "usage: fernwick-gallery FOLDER WIDTH HEIGHT window|tile|full-screen [LANGUAGE]\n",
+            stderr);
         return 2;
     }
     const QDir folder(QString::fromLocal8Bit(argv[1]));
     const QSize size(QByteArray(argv[2]).toInt(), QByteArray(argv[3]).toInt());
-    const bool fullScreen = QByteArray(argv[4]) == "full-screen";
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QByteArray kind(argv[4]);
+    const Qt::WindowState state = kind == "full-screen" ? Qt::WindowFullScreen
+                                  : kind == "tile"      ? Qt::WindowMaximized
+                                                        : Qt::WindowNoState;
+    const OffscreenScreens screen({state == Qt::WindowNoState ? largeScreen : size});
     const QApplication application(argc, argv);
     // A locale name such as "de" or "pt_BR"; English by default.
     const QString wanted = argc == 6 ? QString::fromLocal8Bit(argv[5]) : QString();
@@ -78,7 +84,7 @@ int main(int argc, char* argv[]) {
     QPainter painter(&sheet);
     for (int index = 0; index < static_cast<int>(scenes.size()); ++index) {
         const Scene& scene = scenes[static_cast<std::size_t>(index)];
-        const QImage picture = render(scene, size, fullScreen);
+        const QImage picture = render(scene, size, state);
         if (!picture.save(folder.filePath(scene.name + QStringLiteral(".png")))) {
             std::fputs("cannot save a picture\n", stderr);
             return 1;

@@ -18,7 +18,7 @@
 GameWindow::GameWindow(Session& session)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint),
       band_(new TitleBand(this)),
-      content_(new ContentView(session, TitleBand::height, this)) {
+      content_(new ContentView(session, this)) {
     // Screen readers follow windows; by default Qt reports a plain QWidget as a filler.
     Garden::setAccessibleRole(*this, QAccessible::Window);
     setObjectName(QStringLiteral("main"));
@@ -48,14 +48,21 @@ GameWindow::GameWindow(Session& session)
 void GameWindow::changeEvent(QEvent* event) {
     if (event->type() == QEvent::WindowStateChange) {
         qCDebug(windowLog) << windowState() << size();
+        placeContent();
     }
     QWidget::changeEvent(event);
 }
 
 void GameWindow::resizeEvent(QResizeEvent* event) {
     qCDebug(windowLog) << "resized from" << event->oldSize() << "to" << event->size();
-    // The event's size is stale if an event filter has resized the window again.
+    placeContent();
+}
+
+void GameWindow::placeContent() {
     content_->setGeometry(rect());
+    content_->setBand(isFullScreen() ? 0 : TitleBand::height);
+    band_->setContent(content_->contentArea());
+    // A resize event's size is stale if an event filter has resized the window again.
     band_->setGeometry(0, 0, width(), TitleBand::height);
 }
 

@@ -23,6 +23,8 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void placeContent();
+
     TitleBand* band_;
     ContentView* content_;
 };

@@ -6,9 +6,12 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QWindow>
+#include <algorithm>
 #include <utility>
 
+#include "Garden/Look/Palette.hpp"
 #include "Garden/Widgets/IconButton.hpp"
 #include "Window/AltTap.hpp"
 #include "Window/MenuStyle.hpp"
@@ -16,8 +19,7 @@
 
 namespace {
 
-constexpr int leftMargin = 38;
-constexpr int rightMargin = 38;
+constexpr int widestMargin = 38;
 constexpr int buttonSpacing = 8;
 
 }  // namespace
@@ -26,13 +28,8 @@ TitleBand::TitleBand(QWidget* window) : QWidget(window), menuBar_(new QMenuBar(t
     styleMenuBar(*menuBar_);
     // The rest of the band moves the window.
     menuBar_->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Maximum);
+    menuBar_->installEventFilter(this);
     auto* row = new QHBoxLayout(this);
-    // The first title's text, rather than its hover plate, lines up with the rows below.
-    QMargins margins(leftMargin - menuItemPadding - menuItemSpacing, 0, rightMargin, 0);
-    if (isRightToLeft()) {
-        margins = {margins.right(), 0, margins.left(), 0};
-    }
-    row->setContentsMargins(margins);
     row->setSpacing(buttonSpacing);
     row->addWidget(menuBar_, 0, Qt::AlignVCenter);
     row->addStretch();
@@ -48,6 +45,21 @@ TitleBand::TitleBand(QWidget* window) : QWidget(window), menuBar_(new QMenuBar(t
     addButton(maximize_,
               [window] { window->setWindowState(window->windowState() ^ Qt::WindowMaximized); });
     addButton(new Garden::IconButton(Garden::Icon::windowClose, tr("Close")), &QWidget::close);
+}
+
+void TitleBand::setContent(const QRect& content) {
+    overContent_ = content.top() < height;
+    const int margin = std::min(content.left(), widestMargin);
+    // The first title's text, rather than its hover plate, lines up with the rows below.
+    const int menuMargin = margin - menuItemPadding - menuItemSpacing;
+    layout()->setContentsMargins(isRightToLeft() ? QMargins(margin, 0, menuMargin, 0)
+                                                 : QMargins(menuMargin, 0, margin, 0));
+}
+
+void TitleBand::paintEvent(QPaintEvent*) {
+    if (overContent_ && window()->isFullScreen() && menuBar_->isVisible()) {
+        QPainter(this).fillRect(rect(), Garden::night);
+    }
 }
 
 void TitleBand::watchWindow() {
@@ -73,9 +85,19 @@ bool TitleBand::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::WindowStateChange:
             followWindowState();
             break;
+        case QEvent::Show:
+        case QEvent::Hide:
+            update();
+            break;
         case QEvent::MouseMove:
             if (watched->isWindowType()) {
                 followPointer(static_cast<QMouseEvent*>(event)->position().toPoint().y());
+            }
+            break;
+        case QEvent::Leave:
+            if (watched->isWindowType()) {
+                pointerInBand_ = false;
+                concealUnlessUsed();
             }
             break;
         case QEvent::KeyPress:

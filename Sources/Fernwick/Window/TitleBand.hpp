@@ -25,6 +25,10 @@ public:
 
     [[nodiscard]] QMenuBar& menuBar() { return *menuBar_; }
 
+    /// Lines the menu bar and the buttons up with the sides of `content`, in points of the window.
+    /// If `content` begins within the band, the menu bar of full screen covers it.
+    void setContent(const QRect& content);
+
     /// Starts to follow the pointer and the keys. The window must have a native handle.
     void watchWindow();
 
@@ -34,6 +38,9 @@ Q_SIGNALS:
     /// A menu has been opened or the menu bar has got the keyboard focus, or neither holds any
     /// more.
     void menuInUseChanged(bool inUse);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     void followWindowState();
@@ -48,4 +55,5 @@ private:
     Garden::IconButton* maximize_ = nullptr;
     bool fullScreen_ = false;
     bool pointerInBand_ = false;
+    bool overContent_ = false;
 };

@@ -14,14 +14,14 @@ namespace Garden {
 namespace {
 
 constexpr double fontSize = 12;
-constexpr QSize padding(17, 9);
+constexpr QSize fullPadding(17, 9);
 constexpr double currentOpacity = 0.16;
 constexpr double hoverOpacity = 0.05;
 
 }  // namespace
 
 ChoiceButton::ChoiceButton(const QString& text, QWidget* parent)
-    : QuietButton(text, sans(fontSize, QFont::Medium), padding, parent) {
+    : QuietButton(text, sans(fontSize, QFont::Medium), fullPadding, parent) {
     setAccessibleRole(*this, QAccessible::RadioButton);
     setCheckable(true);
 }

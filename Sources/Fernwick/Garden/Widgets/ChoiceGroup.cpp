@@ -1,6 +1,7 @@
 #include "Garden/Widgets/ChoiceGroup.hpp"
 
 #include <QPainter>
+#include <algorithm>
 
 #include "Garden/Look/Palette.hpp"
 #include "Garden/Look/RoundedShape.hpp"
@@ -54,8 +55,8 @@ void ChoiceGroup::setChoicesEnabled(bool enabled) {
 void ChoiceGroup::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(continuousRoundedRect(rect(), groupRadius),
-                     withOpacity(Qt::white, groupOpacity));
+    const double radius = std::min(groupRadius, height() / 2.0);
+    painter.fillPath(continuousRoundedRect(rect(), radius), withOpacity(Qt::white, groupOpacity));
 }
 
 }  // namespace Garden

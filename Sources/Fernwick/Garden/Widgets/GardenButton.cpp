@@ -18,7 +18,7 @@ constexpr QSize arrowPadding(25, 15);
 constexpr double cornerRadius = 22;
 constexpr int arrowSpacing = 8;
 // Odd in an even height, so that the shaft fills one row of pixels, at the middle of the letters.
-constexpr int arrowSize = 13;
+constexpr int fullArrowSize = 13;
 
 constexpr double pressedFill = 0.7;
 constexpr double disabledFill = 0.3;
@@ -34,8 +34,15 @@ GardenButton::GardenButton(const QString& text, QWidget* parent, Style style)
       style_(style) {}
 
 QSize GardenButton::sizeHint() const {
-    return QuietButton::sizeHint() +
-           QSize(style_ == Style::arrow ? arrowSpacing + arrowSize : 0, 0);
+    return QuietButton::sizeHint() + QSize(style_ == Style::arrow ? arrowWidth() : 0, 0);
+}
+
+int GardenButton::arrowSize() const {
+    return scaled(fullArrowSize, scale());
+}
+
+int GardenButton::arrowWidth() const {
+    return scaled(arrowSpacing, scale()) + arrowSize();
 }
 
 QPainterPath GardenButton::shape(double distance, double radius) const {
@@ -47,13 +54,14 @@ void GardenButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const double enabledOpacity = isDown() ? pressedFill : 1;
-    painter.fillPath(shape(0, cornerRadius),
+    const double radius = cornerRadius * scale();
+    painter.fillPath(shape(0, radius),
                      withOpacity(mint, isEnabled() ? enabledOpacity : disabledFill));
     if (hovered()) {
-        painter.strokePath(shape(hoverEdgeInset, cornerRadius),
+        painter.strokePath(shape(hoverEdgeInset, radius),
                            QPen(withOpacity(Qt::white, hoverEdgeOpacity), 2 * hoverEdgeInset));
     }
-    focusRing().paint(painter, shape(ringInset, cornerRadius - ringInset), ink);
+    focusRing().paint(painter, shape(ringInset, radius - ringInset), ink);
     painter.setPen(ink);
     if (style_ == Style::arrow) {
         paintTextAndArrow(painter);
@@ -63,7 +71,8 @@ void GardenButton::paintEvent(QPaintEvent*) {
 }
 
 void GardenButton::paintTextAndArrow(QPainter& painter) const {
-    const int content = sizeHint().width() - 2 * arrowPadding.width();
+    const int content = sizeHint().width() - 2 * padding().width();
+    const int arrow = arrowSize();
     const QRectF line(std::floor((width() - content) / 2.0), 0, content, height());
     painter.setLayoutDirection(layoutDirection());
     // AlignLeft is the leading side in either layout direction.
@@ -72,8 +81,7 @@ void GardenButton::paintTextAndArrow(QPainter& painter) const {
         painter.setTransform(QTransform(-1, 0, 0, 1, width(), 0), true);
     }
     paintIcon(painter, Icon::arrowRight,
-              QRectF(line.right() - arrowSize, (height() - arrowSize) / 2.0, arrowSize, arrowSize),
-              ink);
+              QRectF(line.right() - arrow, (height() - arrow) / 2.0, arrow, arrow), ink);
 }
 
 }  // namespace Garden

@@ -26,6 +26,9 @@ protected:
 private:
     [[nodiscard]] QPainterPath shape(double distance, double radius) const;
     void paintTextAndArrow(QPainter& painter) const;
+    /// Of the arrow and the space before it.
+    [[nodiscard]] int arrowWidth() const;
+    [[nodiscard]] int arrowSize() const;
 
     Style style_;
 };

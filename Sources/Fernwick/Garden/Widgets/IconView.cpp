@@ -9,9 +9,14 @@
 namespace Garden {
 
 IconView::IconView(Icon icon, double size, const QColor& colour, QWidget* parent)
-    : QWidget(parent), icon_(icon), size_(size), colour_(colour) {
+    : QWidget(parent), icon_(icon), fullSize_(size), size_(size), colour_(colour) {
     setAccessibleRole(*this, QAccessible::Graphic);
-    const int side = static_cast<int>(std::ceil(size));
+    IconView::setDensity({});
+}
+
+void IconView::setDensity(const Density& density) {
+    size_ = fullSize_ * density.scale;
+    const int side = static_cast<int>(std::ceil(size_));
     setFixedSize(side, side);
 }
 

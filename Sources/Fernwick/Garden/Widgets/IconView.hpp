@@ -4,11 +4,12 @@
 #include <QWidget>
 
 #include "Garden/Look/Icons.hpp"
+#include "Garden/Widgets/ContentDensity.hpp"
 
 namespace Garden {
 
 /// A decorative icon in one colour, `size` points square. It has no accessible name.
-class IconView : public QWidget {
+class IconView : public QWidget, public Scalable {
     Q_OBJECT
 
 public:
@@ -18,11 +19,14 @@ public:
     void setIcon(Icon icon);
     [[nodiscard]] QColor colour() const { return colour_; }
 
+    void setDensity(const Density& density) override;
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
     Icon icon_;
+    double fullSize_;
     double size_;
     QColor colour_;
 };

@@ -22,7 +22,7 @@ constexpr double ringRadius = 6;
 }  // namespace
 
 QuietButton::QuietButton(const QString& text, const QFont& font, QSize padding, QWidget* parent)
-    : QAbstractButton(parent), padding_(padding) {
+    : QAbstractButton(parent), fullFont_(font), fullPadding_(padding) {
     setAccessibleRole(*this, QAccessible::PushButton);
     setText(text);
     setFont(font);
@@ -36,7 +36,19 @@ QSize QuietButton::sizeHint() const {
     const QFontMetricsF metrics(font());
     return QSize(static_cast<int>(std::ceil(metrics.horizontalAdvance(text()))),
                  static_cast<int>(std::ceil(metrics.height()))) +
-           2 * padding_;
+           2 * padding();
+}
+
+void QuietButton::setDensity(const Density& density) {
+    density_ = density;
+    setFont(scaled(fullFont_, density.scale));
+    updateGeometry();
+    update();
+}
+
+QSize QuietButton::padding() const {
+    return {scaled(fullPadding_.width(), density_.air * density_.scale),
+            scaled(fullPadding_.height(), density_.scale)};
 }
 
 bool QuietButton::hovered() const {

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QColor>
 
+#include "Garden/Widgets/ContentDensity.hpp"
 #include "Garden/Widgets/FocusRing.hpp"
 
 namespace Garden {
@@ -10,7 +11,7 @@ namespace Garden {
 /// A button without a fill: only its text, in `muted`. Base class of all buttons: it takes the
 /// focus by Tab only and shows a focus ring for it, is clicked by Return and Enter as well as
 /// Space, and has a pointing-hand cursor while enabled.
-class QuietButton : public QAbstractButton {
+class QuietButton : public QAbstractButton, public Scalable {
     Q_OBJECT
 
 public:
@@ -20,9 +21,16 @@ public:
     QuietButton(const QString& text, const QFont& font, QSize padding = {8, 3},
                 QWidget* parent = nullptr);
 
+    void setDensity(const Density& density) override;
+
     [[nodiscard]] QSize sizeHint() const override;
 
 protected:
+    /// Factor of the lengths that the button paints.
+    [[nodiscard]] double scale() const { return density_.scale; }
+    /// The space around the text, in points. Less air makes it narrower, but not lower: the button
+    /// stays easy to click.
+    [[nodiscard]] QSize padding() const;
     [[nodiscard]] bool hovered() const;
     [[nodiscard]] const FocusRing& focusRing() const { return focusRing_; }
     /// The colour of text and icons outside a fill: `muted`, brighter while hovered, translucent
@@ -36,7 +44,9 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    QSize padding_;
+    QFont fullFont_;
+    QSize fullPadding_;
+    Density density_;
     FocusRing focusRing_;
 };
 

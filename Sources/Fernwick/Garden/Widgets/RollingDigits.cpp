@@ -18,8 +18,8 @@ namespace {
 constexpr double fontSize = 33;
 constexpr QFont::Weight fontWeight = QFont::Light;
 constexpr int minimumDigits = 3;
-// How far digits roll, in points. They fade in and out meanwhile.
-constexpr double rollDistance = 30;
+// How far digits roll, in font sizes. They fade in and out meanwhile.
+constexpr double rollDistance = 30 / fontSize;
 
 QString digits(qint64 value) {
     return QString::asprintf("%0*lld", minimumDigits, value);
@@ -65,6 +65,12 @@ void RollingDigits::setValue(qint64 value) {
     announce();
 }
 
+void RollingDigits::setDensity(const Density& density) {
+    setFont(scaled(mono(fontSize, fontWeight), density.scale));
+    updateGeometry();
+    update();
+}
+
 void RollingDigits::announce() {
     QAccessibleEvent name(this, QAccessible::NameChanged);
     QAccessible::updateAccessibility(&name);
@@ -90,10 +96,11 @@ double RollingDigits::left(int fromRight) const {
 
 void RollingDigits::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    const double distance = rollDistance * font().pixelSize();
     const double baseline = (height() + QFontMetricsF(font()).capHeight()) / 2;
     const auto draw = [&](int fromRight, QChar digit, double shift, double opacity) {
         painter.setPen(withOpacity(mint, opacity));
-        painter.drawText(QPointF(left(fromRight), baseline + shift * rollDistance), QString(digit));
+        painter.drawText(QPointF(left(fromRight), baseline + shift * distance), QString(digit));
     };
     const bool rolling = roll_.state() == QAbstractAnimation::Running;
     const double progress = roll_.currentValue().toDouble();

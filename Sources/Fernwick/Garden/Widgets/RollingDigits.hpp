@@ -4,11 +4,13 @@
 #include <QVariantAnimation>
 #include <QWidget>
 
+#include "Garden/Widgets/ContentDensity.hpp"
+
 namespace Garden {
 
 /// A number of at least three digits. Digits that change roll upwards, or, with reduced motion,
 /// change in place. No timer runs except during that animation.
-class RollingDigits : public QWidget {
+class RollingDigits : public QWidget, public Scalable {
     Q_OBJECT
 
 public:
@@ -19,6 +21,8 @@ public:
     [[nodiscard]] qint64 value() const { return value_; }
     /// The first value is shown without animation.
     void setValue(qint64 value);
+
+    void setDensity(const Density& density) override;
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }

@@ -3,6 +3,7 @@
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPainterPath>
+#include <QTextLayout>
 #include <algorithm>
 #include <cmath>
 
@@ -13,6 +14,9 @@
 namespace Garden {
 
 namespace {
+
+// Between two lines, in font sizes.
+constexpr double lineSpacing = 0.35;
 
 // How far descenders extend below the descent that a font reports: Elstob's "g" does.
 double overhang(const QFont& font) {
@@ -47,11 +51,32 @@ bool isLatin(QChar letter) {
     return letter <= lastLatin || (letter >= firstPunctuation && letter <= lastPunctuation);
 }
 
+// `text` in as few lines of at most `width` as possible, which are as even as possible.
+QStringList balancedLines(const QString& text, const QFont& font, int width) {
+    const auto broken = [&](int atWidth) {
+        QStringList lines;
+        QTextLayout layout(text, font);
+        layout.beginLayout();
+        for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+            line.setLineWidth(atWidth);
+            lines.append(text.mid(line.textStart(), line.textLength()).trimmed());
+        }
+        layout.endLayout();
+        return lines;
+    };
+    const QStringList fewest = broken(width);
+    int narrowest = width / static_cast<int>(fewest.size());
+    while (broken(narrowest).size() > fewest.size()) {
+        ++narrowest;
+    }
+    return broken(std::min(narrowest, width));
+}
+
 }  // namespace
 
 TrackedLabel::TrackedLabel(const QString& text, const QFont& font, const QColor& colour,
                            QWidget* parent)
-    : QWidget(parent), text_(text), font_(font), colour_(colour), overhang_(overhang(font)) {
+    : QWidget(parent), text_(text), font_(font), colour_(colour) {
     setAccessibleRole(*this, QAccessible::StaticText);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     fitToText();
@@ -63,13 +88,33 @@ void TrackedLabel::setText(const QString& text) {
     }
     text_ = text;
     fitToText();
-    updateGeometry();
-    update();
+}
+
+void TrackedLabel::wrapAt(int width, Qt::Alignment alignment) {
+    if (width != wrapWidth_) {
+        wrapWidth_ = width;
+        alignment_ = alignment;
+        breakLines();
+    }
+}
+
+void TrackedLabel::setDensity(const Density& density) {
+    if (density.scale != scale_) {
+        scale_ = density.scale;
+        fitToText();
+    }
 }
 
 void TrackedLabel::fitToText() {
-    setFont(fittedTo(text_, font_));
+    const QFont sized = scaled(font_, scale_);
+    overhang_ = overhang(sized);
+    setFont(fittedTo(text_, sized));
     setAccessibleName(text_);
+    measureExcess();
+    breakLines();
+}
+
+void TrackedLabel::measureExcess() {
     excess_ = {};
     if (std::ranges::all_of(text_, isLatin)) {
         return;
@@ -85,12 +130,36 @@ void TrackedLabel::fitToText() {
     excess_ = {std::max(0.0, std::ceil(above)), std::max(0.0, std::ceil(below))};
 }
 
+void TrackedLabel::breakLines() {
+    lines_ = text_.split(u'\n');
+    if (wrapWidth_ > 0 && widthOf(text_) > wrapWidth_) {
+        lines_ = balancedLines(text_, font(), wrapWidth_);
+    }
+    updateGeometry();
+    update();
+}
+
+int TrackedLabel::widthOf(const QString& line) const {
+    const double trailing = line.isEmpty() ? 0 : font().letterSpacing();
+    return static_cast<int>(std::ceil(QFontMetricsF(font()).horizontalAdvance(line) - trailing));
+}
+
+int TrackedLabel::lineHeight() const {
+    const double height = std::ceil(QFontMetricsF(font()).height());
+    return static_cast<int>(excess_.above + height + overhang_ + excess_.below);
+}
+
+int TrackedLabel::leading() const {
+    return scaled(font().pixelSize(), lineSpacing);
+}
+
 QSize TrackedLabel::sizeHint() const {
-    const QFontMetricsF metrics(font());
-    const double trailing = text_.isEmpty() ? 0 : font().letterSpacing();
-    return {
-        static_cast<int>(std::ceil(metrics.horizontalAdvance(text_) - trailing)),
-        static_cast<int>(excess_.above + std::ceil(metrics.height()) + overhang_ + excess_.below)};
+    int widest = 0;
+    for (const QString& line : lines_) {
+        widest = std::max(widest, widthOf(line));
+    }
+    const int pitch = lineHeight() + leading();
+    return {widest, static_cast<int>(lines_.size()) * pitch - leading()};
 }
 
 void TrackedLabel::paintEvent(QPaintEvent*) {
@@ -98,14 +167,18 @@ void TrackedLabel::paintEvent(QPaintEvent*) {
     painter.setPen(legible(colour_));
     painter.setLayoutDirection(layoutDirection());
     const QFontMetricsF metrics(font());
-    const QSize needed = sizeHint();
-    const bool fits = width() >= needed.width();
-    // Positioned by hand: right alignment would include the letter spacing after the last letter,
-    // and vertical centring would include the ascent and descent of fallback fonts.
-    const double left = fits && isRightToLeft() ? width() - needed.width() : 0;
-    const double top = (height() - needed.height()) / 2.0;
-    painter.drawText(QPointF(left, top + excess_.above + metrics.ascent()),
-                     fits ? text_ : metrics.elidedText(text_, Qt::ElideRight, width()));
+    double top = (height() - sizeHint().height()) / 2.0;
+    for (const QString& line : lines_) {
+        const int free = width() - widthOf(line);
+        // Positioned by hand: right alignment would include the letter spacing after the last
+        // letter, and vertical centring would include the ascent and descent of fallback fonts.
+        const double start = isRightToLeft() ? free : 0;
+        const double left =
+            lines_.size() > 1 && alignment_ == Qt::AlignHCenter ? free / 2.0 : start;
+        painter.drawText(QPointF(std::max(0.0, left), top + excess_.above + metrics.ascent()),
+                         free >= 0 ? line : metrics.elidedText(line, Qt::ElideRight, width()));
+        top += lineHeight() + leading();
+    }
 }
 
 }  // namespace Garden

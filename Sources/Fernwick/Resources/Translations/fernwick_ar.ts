@@ -99,7 +99,10 @@
     </message>
     <message>
         <source>Top 10 for each speed · saved on this Mac</source>
-        <extracomment>&quot;Mac&quot; means the player&apos;s own computer, of whatever make.</extracomment>
+        <translation>أفضل 10 لكل سرعة · محفوظة على جهاز Mac هذا</translation>
+    </message>
+    <message>
+        <source>Top 10 for each speed · saved on this computer</source>
         <translation>أفضل 10 لكل سرعة · محفوظة على هذا الحاسوب</translation>
     </message>
 </context>
@@ -193,7 +196,10 @@
     </message>
     <message>
         <source>Up to 24 characters · saved on this Mac</source>
-        <extracomment>&quot;Mac&quot; means the player&apos;s own computer, of whatever make.</extracomment>
+        <translation>حتى 24 حرفًا · يُحفظ على جهاز Mac هذا</translation>
+    </message>
+    <message>
+        <source>Up to 24 characters · saved on this computer</source>
         <translation>حتى 24 حرفًا · يُحفظ على هذا الحاسوب</translation>
     </message>
 </context>

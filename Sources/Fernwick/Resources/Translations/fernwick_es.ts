@@ -99,7 +99,10 @@
     </message>
     <message>
         <source>Top 10 for each speed · saved on this Mac</source>
-        <extracomment>&quot;Mac&quot; means the player&apos;s own computer, of whatever make.</extracomment>
+        <translation>Los 10 mejores de cada velocidad · guardados en este Mac</translation>
+    </message>
+    <message>
+        <source>Top 10 for each speed · saved on this computer</source>
         <translation>Los 10 mejores de cada velocidad · guardados en este equipo</translation>
     </message>
 </context>
@@ -193,7 +196,10 @@
     </message>
     <message>
         <source>Up to 24 characters · saved on this Mac</source>
-        <extracomment>&quot;Mac&quot; means the player&apos;s own computer, of whatever make.</extracomment>
+        <translation>Hasta 24 caracteres · guardado en este Mac</translation>
+    </message>
+    <message>
+        <source>Up to 24 characters · saved on this computer</source>
         <translation>Hasta 24 caracteres · guardado en este equipo</translation>
     </message>
 </context>

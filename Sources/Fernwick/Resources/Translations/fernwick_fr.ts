@@ -99,7 +99,10 @@
     </message>
     <message>
         <source>Top 10 for each speed · saved on this Mac</source>
-        <extracomment>&quot;Mac&quot; means the player&apos;s own computer, of whatever make.</extracomment>
+        <translation>Top 10 de chaque vitesse · enregistré sur ce Mac</translation>
+    </message>
+    <message>
+        <source>Top 10 for each speed · saved on this computer</source>
         <translation>Top 10 de chaque vitesse · enregistré sur cet ordinateur</translation>
     </message>
 </context>
@@ -193,7 +196,10 @@
     </message>
     <message>
         <source>Up to 24 characters · saved on this Mac</source>
-        <extracomment>&quot;Mac&quot; means the player&apos;s own computer, of whatever make.</extracomment>
+        <translation>24 caractères au plus · enregistré sur ce Mac</translation>
+    </message>
+    <message>
+        <source>Up to 24 characters · saved on this computer</source>
         <translation>24 caractères au plus · enregistré sur cet ordinateur</translation>
     </message>
 </context>

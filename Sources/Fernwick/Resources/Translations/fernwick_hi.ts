@@ -99,7 +99,10 @@
     </message>
     <message>
         <source>Top 10 for each speed · saved on this Mac</source>
-        <extracomment>&quot;Mac&quot; means the player&apos;s own computer, of whatever make.</extracomment>
+        <translation>हर गति के शीर्ष 10 · इसी Mac पर सहेजे गए</translation>
+    </message>
+    <message>
+        <source>Top 10 for each speed · saved on this computer</source>
         <translation>हर गति के शीर्ष 10 · इसी कंप्यूटर पर सहेजे गए</translation>
     </message>
 </context>
@@ -193,7 +196,10 @@
     </message>
     <message>
         <source>Up to 24 characters · saved on this Mac</source>
-        <extracomment>&quot;Mac&quot; means the player&apos;s own computer, of whatever make.</extracomment>
+        <translation>अधिकतम 24 अक्षर · इसी Mac पर सहेजा जाएगा</translation>
+    </message>
+    <message>
+        <source>Up to 24 characters · saved on this computer</source>
         <translation>अधिकतम 24 अक्षर · इसी कंप्यूटर पर सहेजा जाएगा</translation>
     </message>
 </context>

@@ -99,7 +99,10 @@
     </message>
     <message>
         <source>Top 10 for each speed · saved on this Mac</source>
-        <extracomment>&quot;Mac&quot; means the player&apos;s own computer, of whatever make.</extracomment>
+        <translation>I 10 migliori per ogni velocità · salvati su questo Mac</translation>
+    </message>
+    <message>
+        <source>Top 10 for each speed · saved on this computer</source>
         <translation>I 10 migliori per ogni velocità · salvati su questo computer</translation>
     </message>
 </context>
@@ -193,7 +196,10 @@
     </message>
     <message>
         <source>Up to 24 characters · saved on this Mac</source>
-        <extracomment>&quot;Mac&quot; means the player&apos;s own computer, of whatever make.</extracomment>
+        <translation>Fino a 24 caratteri · salvato su questo Mac</translation>
+    </message>
+    <message>
+        <source>Up to 24 characters · saved on this computer</source>
         <translation>Fino a 24 caratteri · salvato su questo computer</translation>
     </message>
 </context>

@@ -3,7 +3,7 @@
 #include <QPaintEngine>
 #include <QPaintEvent>
 #include <QPainter>
-#include <QVBoxLayout>
+#include <QStyle>
 
 #include "Screens/Main/BoardArea.hpp"
 #include "Screens/Main/ControlRow.hpp"
@@ -15,25 +15,29 @@
 
 namespace {
 
-constexpr int rowSpacing = 23;
-constexpr int sidePadding = 38;
-constexpr int bottomPadding = 26;
+Painting::BoardGeometry fitBoard(const QRect& space) {
+    return Painting::fitBoard(space, {int{Session::columns}, int{Session::rows}});
+}
 
 }  // namespace
 
-ContentView::ContentView(Session& session, int topPadding, QWidget* parent)
-    : QWidget(parent), boardArea_(new BoardArea(session, backdrop_)) {
+ContentView::ContentView(Session& session, QWidget* parent)
+    : QWidget(parent),
+      // From top to bottom: Tab follows the order in which they are created.
+      header_(new HeaderRow(session, this)),
+      controls_(new ControlRow(session, this)),
+      boardArea_(new BoardArea(session, backdrop_, this)),
+      hints_(new HintRow(session, this)),
+      sheetLayer_(new SheetLayer(session, this)) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     connect(boardArea_, &BoardArea::placed, this, &ContentView::placeBoard);
-    // From top to bottom: Tab follows the order in which they are added.
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(sidePadding, topPadding, sidePadding, bottomPadding);
-    column->setSpacing(rowSpacing);
-    column->addWidget(new HeaderRow(session));
-    column->addWidget(new ControlRow(session));
-    column->addWidget(boardArea_, 1);
-    column->addWidget(new HintRow(session));
-    sheetLayer_ = new SheetLayer(session, this);
+}
+
+void ContentView::setBand(int height) {
+    if (height != band_) {
+        band_ = height;
+        arrange();
+    }
 }
 
 void ContentView::paintEvent(QPaintEvent* event) {
@@ -54,15 +58,70 @@ void ContentView::paintEvent(QPaintEvent* event) {
     }
 }
 
+QRect ContentView::contentArea() const {
+    return arrangement_.content;
+}
+
+bool ContentView::event(QEvent* event) {
+    // A row has got another height.
+    if (event->type() == QEvent::LayoutRequest) {
+        place();
+    }
+    return QWidget::event(event);
+}
+
 void ContentView::resizeEvent(QResizeEvent*) {
-    placeBoard();
+    arrange();
     sheetLayer_->setGeometry(rect());
+}
+
+void ContentView::arrange() {
+    arrangement_ = arrangementFor(size(), band_);
+    const Arrangement& wanted = arrangement_;
+    header_->arrange(wanted.beside, wanted.rows);
+    controls_->arrange(wanted.columnWidth, wanted.rows);
+    hints_->arrange(wanted.beside        ? HintRow::Form::column
+                    : wanted.foldedHints ? HintRow::Form::twoLines
+                                         : HintRow::Form::oneLine,
+                    wanted.hints);
+    place();
+}
+
+void ContentView::place() {
+    const Arrangement& wanted = arrangement_;
+    QRect rows = wanted.content;
+    QRect board = wanted.content;
+    const int header = header_->sizeHint().height();
+    const int controls = controls_->sizeHint().height();
+    const int hints = hints_->sizeHint().height();
+    if (wanted.beside) {
+        board.setLeft(rows.left() + wanted.columnWidth + wanted.spacing);
+        rows.setWidth(wanted.columnWidth);
+        // As high as the board, if that is enough.
+        const double height = fitBoard(board).frame.height();
+        if (header + controls + hints + 2 * wanted.spacing <= height) {
+            const int margin = qRound((board.height() - height) / 2);
+            rows.adjust(0, margin, 0, -margin);
+        }
+    } else {
+        board.adjust(0, header + controls + 2 * wanted.spacing, 0, -hints - wanted.spacing);
+    }
+    const auto place = [&](QWidget* row, int top, int height) {
+        row->setGeometry(mirrored({rows.left(), top, rows.width(), height}));
+    };
+    place(header_, rows.top(), header);
+    place(controls_, rows.top() + header + wanted.spacing, controls);
+    place(hints_, rows.bottom() + 1 - hints, hints);
+    boardArea_->setGeometry(mirrored(board));
+}
+
+QRect ContentView::mirrored(const QRect& area) const {
+    return QStyle::visualRect(layoutDirection(), rect(), area);
 }
 
 void ContentView::placeBoard() {
     const QPoint origin = boardArea_->pos();
-    const Painting::BoardGeometry board =
-        Painting::fitBoard(boardArea_->rect(), {int{Session::columns}, int{Session::rows}});
+    const Painting::BoardGeometry board = fitBoard(boardArea_->rect());
     backdrop_.fit(size(), scale_, board.frame.translated(origin));
     boardArea_->placeBoard(board, origin, scale_);
 }

@@ -3,8 +3,12 @@
 #include <QWidget>
 
 #include "Painting/Ground/Backdrop.hpp"
+#include "Screens/Main/Arrangement.hpp"
 
 class BoardArea;
+class ControlRow;
+class HeaderRow;
+class HintRow;
 class Session;
 class SheetLayer;
 
@@ -15,24 +19,39 @@ class ContentView : public QWidget {
     Q_OBJECT
 
 public:
-    /// Leaves `topPadding` points free at the top.
-    ContentView(Session& session, int topPadding, QWidget* parent = nullptr);
+    explicit ContentView(Session& session, QWidget* parent = nullptr);
+
+    /// The uppermost `height` points are covered; 0 if none are.
+    void setBand(int height);
+    /// The part that the rows and the board fill, in points.
+    [[nodiscard]] QRect contentArea() const;
 
 Q_SIGNALS:
     /// The first frame has been painted.
     void appeared();
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void arrange();
+    /// Gives the rows and the board their places. Changes nothing that asks for another layout.
+    void place();
+    /// `area` in a right-to-left layout.
+    [[nodiscard]] QRect mirrored(const QRect& area) const;
     void placeBoard();
 
     bool hasAppeared_ = false;
     // Device pixels per point.
     qreal scale_ = 1;
     Painting::Backdrop backdrop_;
+    int band_ = 0;
+    Arrangement arrangement_;
+    HeaderRow* header_;
+    ControlRow* controls_;
     BoardArea* boardArea_;
-    SheetLayer* sheetLayer_ = nullptr;
+    HintRow* hints_;
+    SheetLayer* sheetLayer_;
 };

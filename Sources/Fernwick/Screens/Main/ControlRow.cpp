@@ -13,6 +13,9 @@ namespace {
 constexpr double statusSize = 9;
 constexpr double statusTracking = 2;
 constexpr int statusSpacing = 8;
+constexpr int columnSpacing = 12;
+// Of the speeds in a column, so that the longest names fit.
+constexpr double columnAir = 0.6;
 
 }  // namespace
 
@@ -22,17 +25,32 @@ ControlRow::ControlRow(Session& session, QWidget* parent)
       speeds_(new Garden::ChoiceGroup(paceNames(), tr("Speed"))),
       dot_(new Garden::StatusDot),
       status_(new Garden::TrackedLabel({}, Garden::sans(statusSize, QFont::Medium, statusTracking),
-                                       Garden::muted)) {
-    auto* row = Garden::layOut<QHBoxLayout>(this, statusSpacing);
-    row->addWidget(speeds_);
-    row->addStretch();
-    row->addWidget(dot_);
-    row->addWidget(status_);
+                                       Garden::muted)),
+      row_(Garden::layOut<QHBoxLayout>(this, statusSpacing)) {
+    auto* status = new QHBoxLayout;
+    status->setSpacing(statusSpacing);
+    status->addWidget(dot_);
+    status->addWidget(status_);
+    row_->addWidget(speeds_, 0, Qt::AlignLeft);
+    row_->addStretch();
+    row_->addLayout(status);
     connect(speeds_, &Garden::ChoiceGroup::chosen, this, [this](int index) {
         session_.choosePace(allPaces.at(static_cast<std::size_t>(index)));
     });
+    density_ = new Garden::ContentDensity(*this);
+    speedsDensity_ = new Garden::ContentDensity(*speeds_);
     connect(&session_, &Session::changed, this, &ControlRow::refresh);
     refresh();
+}
+
+void ControlRow::arrange(int columnWidth, const Garden::Density& density) {
+    const bool asColumn = columnWidth > 0;
+    density_->set(density);
+    speedsDensity_->set({asColumn ? columnAir : density.air, density.scale});
+    row_->setDirection(asColumn ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    row_->setSpacing(
+        Garden::scaled(asColumn ? columnSpacing : statusSpacing, density.air * density.scale));
+    status_->wrapAt(asColumn ? columnWidth - dot_->width() - statusSpacing : 0);
 }
 
 QString ControlRow::statusWord() const {

@@ -2,6 +2,9 @@
 
 #include <QWidget>
 
+#include "Garden/Widgets/ContentDensity.hpp"
+
+class QBoxLayout;
 class Session;
 
 namespace Garden {
@@ -10,12 +13,16 @@ class StatusDot;
 class TrackedLabel;
 }  // namespace Garden
 
-/// The row under the header: the speed selector on the left, the status on the right.
+/// The row under the header: the speed selector on the left, the status on the right; or, in a
+/// column, below it.
 class ControlRow : public QWidget {
     Q_OBJECT
 
 public:
     explicit ControlRow(Session& session, QWidget* parent = nullptr);
+
+    /// `columnWidth` is in points; 0 makes it a row.
+    void arrange(int columnWidth, const Garden::Density& density);
 
 private:
     void refresh();
@@ -25,4 +32,7 @@ private:
     Garden::ChoiceGroup* speeds_;
     Garden::StatusDot* dot_;
     Garden::TrackedLabel* status_;
+    QBoxLayout* row_;
+    Garden::ContentDensity* density_ = nullptr;
+    Garden::ContentDensity* speedsDensity_ = nullptr;
 };

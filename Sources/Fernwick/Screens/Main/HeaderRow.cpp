@@ -22,6 +22,9 @@ constexpr int tileSpacing = 7;
 constexpr QSize ruleSize(1, 36);
 constexpr double ruleOpacity = 0.25;
 constexpr int rulePadding = 12;
+constexpr int columnSpacing = 18;
+// In a column, so that it stays on one line in all languages.
+constexpr double columnTaglineScale = 0.68;
 
 }  // namespace
 
@@ -29,23 +32,43 @@ HeaderRow::HeaderRow(Session& session, QWidget* parent)
     : QWidget(parent),
       session_(session),
       score_(new Garden::RollingDigits(Qt::AlignLeft, this)),
-      best_(new Garden::RollingDigits(Qt::AlignRight, this)) {
+      best_(new Garden::RollingDigits(Qt::AlignRight, this)),
+      //: The line under the wordmark: of the garden, and of whoever plays in it.
+      tagline_(new Garden::TrackedLabel(tr("A little room to grow."),
+                                        Garden::serif(taglineSize, QFont::Light),
+                                        Garden::withOpacity(Qt::white, taglineOpacity))),
+      row_(Garden::layOut<QHBoxLayout>(this, 0)) {
+    row_->addLayout(titleBlock());
+    row_->addStretch();
+    row_->addLayout(scoreTiles());
+    density_ = new Garden::ContentDensity(*this);
+    connect(&session_, &Session::changed, this, &HeaderRow::refresh);
+    refresh();
+}
+
+void HeaderRow::arrange(bool asColumn, const Garden::Density& density) {
+    density_->set(density);
+    const double taglineScale = asColumn ? columnTaglineScale : 1;
+    tagline_->setDensity({density.air, density.scale * taglineScale});
+    row_->setDirection(asColumn ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    row_->setSpacing(asColumn ? Garden::scaled(columnSpacing, density.air * density.scale) : 0);
+}
+
+QBoxLayout* HeaderRow::scoreTiles() {
     auto* rule = new QWidget;
     rule->setObjectName(QStringLiteral("rule"));
     rule->setFixedSize(ruleSize);
     rule->setPalette(Garden::withOpacity(Garden::muted, ruleOpacity));
     rule->setAutoFillBackground(true);
-    auto* row = Garden::layOut<QHBoxLayout>(this, 0);
-    row->addLayout(titleBlock());
-    row->addStretch();
+    auto* tiles = new QHBoxLayout;
+    tiles->setSpacing(0);
     //: A tiny label above a number; so is the next. In capitals where the script has them.
-    row->addLayout(scoreTile(tr("SCORE"), score_, Qt::AlignLeft));
-    row->addSpacing(rulePadding);
-    row->addWidget(rule, 0, Qt::AlignVCenter);
-    row->addSpacing(rulePadding);
-    row->addLayout(scoreTile(tr("PERSONAL BEST"), best_, Qt::AlignRight));
-    connect(&session_, &Session::changed, this, &HeaderRow::refresh);
-    refresh();
+    tiles->addLayout(scoreTile(tr("SCORE"), score_, Qt::AlignLeft));
+    tiles->addSpacing(rulePadding);
+    tiles->addWidget(rule, 0, Qt::AlignVCenter);
+    tiles->addSpacing(rulePadding);
+    tiles->addLayout(scoreTile(tr("PERSONAL BEST"), best_, Qt::AlignRight));
+    return tiles;
 }
 
 QBoxLayout* HeaderRow::titleBlock() {
@@ -61,10 +84,7 @@ QBoxLayout* HeaderRow::titleBlock() {
     auto* block = new QVBoxLayout;
     block->setSpacing(titleBlockSpacing);
     block->addLayout(wordmark);
-    //: The line under the wordmark: of the garden, and of whoever plays in it.
-    block->addWidget(new Garden::TrackedLabel(tr("A little room to grow."),
-                                              Garden::serif(taglineSize, QFont::Light),
-                                              Garden::withOpacity(Qt::white, taglineOpacity)));
+    block->addWidget(tagline_);
     return block;
 }
 

@@ -1,5 +1,7 @@
 #include "Screens/Main/Overlay.hpp"
 
+#include <algorithm>
+
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/NumberText.hpp"
 #include "Garden/Look/Palette.hpp"
@@ -21,6 +23,9 @@ constexpr int spaceAboveButton = 13;
 constexpr double hintSize = 8;
 constexpr double hintTracking = 2.5;
 constexpr int spaceAboveHint = 2;
+constexpr Garden::ContentHeight tallest{290, 113, 245};
+// With the line below the title on two lines.
+constexpr double leastWidth = 416;
 
 }  // namespace
 
@@ -49,8 +54,17 @@ Overlay::Overlay(Session& session, QWidget* parent)
     column->addStretch();
     connect(button_, &QAbstractButton::clicked, this,
             [this] { session_.inRun() ? session_.pause() : session_.start(); });
+    density_ = new Garden::ContentDensity(*this);
     connect(&session_, &Session::changed, this, &Overlay::refresh);
     refresh();
+}
+
+void Overlay::resizeEvent(QResizeEvent*) {
+    Garden::Density density = Garden::densityFor(height(), tallest);
+    density.scale = std::min(density.scale, width() / leastWidth);
+    density_->set(density);
+    line_->wrapAt(contentsRect().marginsRemoved(layout()->contentsMargins()).width(),
+                  Qt::AlignHCenter);
 }
 
 void Overlay::refresh() {

@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+#include "Garden/Widgets/ContentDensity.hpp"
+
 class Session;
 
 namespace Garden {
@@ -21,6 +23,9 @@ public:
 
     explicit Overlay(Session& session, QWidget* parent = nullptr);
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     void refresh();
 
@@ -29,4 +34,5 @@ private:
     Garden::TrackedLabel* title_;
     Garden::TrackedLabel* line_;
     Garden::GardenButton* button_;
+    Garden::ContentDensity* density_ = nullptr;
 };

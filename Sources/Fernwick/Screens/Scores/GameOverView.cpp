@@ -1,5 +1,7 @@
 #include "Screens/Scores/GameOverView.hpp"
 
+#include <algorithm>
+
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/NumberText.hpp"
 #include "Garden/Look/Palette.hpp"
@@ -18,6 +20,9 @@ constexpr double resultTracking = 2;
 constexpr int widestCard = 400;
 constexpr int cardPadding = 24;
 constexpr int spacing = 14;
+constexpr Garden::ContentHeight entry{345, 160, 281};
+constexpr Garden::ContentHeight saved{404, 132, 279};
+constexpr double leastWidth = 376;
 
 }  // namespace
 
@@ -43,14 +48,26 @@ GameOverView::GameOverView(Session& session, QWidget* parent)
     // The stretch factor lets the card grow to its maximum width before the margins grow.
     area->addWidget(card, 1, Qt::AlignVCenter);
     area->addStretch();
+    density_ = new Garden::ContentDensity(*this);
     connect(&session_, &Session::changed, this, &GameOverView::refresh);
     refresh();
+}
+
+void GameOverView::resizeEvent(QResizeEvent*) {
+    fit();
+}
+
+void GameOverView::fit() {
+    Garden::Density density = Garden::densityFor(height(), session_.awaitingName() ? entry : saved);
+    density.scale = std::min(density.scale, width() / leastWidth);
+    density_->set(density);
 }
 
 void GameOverView::refresh() {
     if (!session_.game().ended()) {
         return;
     }
+    fit();
     //: Headlines of an ended run: the snake fills the whole board; it struck something.
     headline_->setText(session_.game().won() ? tr("Fully grown.") : tr("Game over."));
     //: %lld is the score, %@ the name of the speed; both have to stay. Two spaces round the dot.

@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+#include "Garden/Widgets/ContentDensity.hpp"
+
 class NameEntry;
 class SavedBoard;
 class Session;
@@ -22,12 +24,17 @@ public:
 
     explicit GameOverView(Session& session, QWidget* parent = nullptr);
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     void refresh();
+    void fit();
 
     Session& session_;
     Garden::TrackedLabel* headline_;
     Garden::TrackedLabel* result_;
     NameEntry* nameEntry_;
     SavedBoard* savedBoard_;
+    Garden::ContentDensity* density_ = nullptr;
 };

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <algorithm>
 
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/Palette.hpp"
@@ -25,8 +26,18 @@ constexpr double emblemSize = 28;
 constexpr double titleSize = 30;
 constexpr double subtitleSize = 12;
 constexpr int listHeight = 330;
+constexpr int leastListHeight = 160;
+constexpr Garden::ContentHeight tallest{660, 164, 425};
 constexpr double cornerRadius = 22;
 constexpr double edgeOpacity = 0.16;
+
+QString subtitle() {
+#ifdef Q_OS_MACOS
+    return HighScoresView::tr("Top 10 for each speed · saved on this Mac");
+#else
+    return HighScoresView::tr("Top 10 for each speed · saved on this computer");
+#endif
+}
 
 }  // namespace
 
@@ -37,9 +48,8 @@ HighScoresView::HighScoresView(Session& session, QWidget* parent)
       speed_(new Garden::ChoiceGroup(paceNames(), tr("Speed"))),
       rows_(new ScoreRows) {
     Garden::setAccessibleRole(*this, QAccessible::Dialog);
-    setFixedWidth(sheetWidth);
     setAccessibleName(tr("The high scores."));
-    rows_->setFixedHeight(listHeight);
+    rows_->setHeights(listHeight, leastListHeight);
     auto* done = new Garden::GardenButton(tr("Done"));
 
     auto* column = Garden::layOut<QVBoxLayout>(this, spacing, padding);
@@ -49,11 +59,9 @@ HighScoresView::HighScoresView(Session& session, QWidget* parent)
         new Garden::TrackedLabel(tr("The high scores."), Garden::serif(titleSize, QFont::Normal),
                                  Garden::primaryText),
         0, Qt::AlignHCenter);
-    column->addWidget(
-        //: "Mac" means the player's own computer, of whatever make.
-        new Garden::TrackedLabel(tr("Top 10 for each speed · saved on this Mac"),
-                                 Garden::sans(subtitleSize, QFont::Normal), Garden::muted),
-        0, Qt::AlignHCenter);
+    column->addWidget(new Garden::TrackedLabel(
+                          subtitle(), Garden::sans(subtitleSize, QFont::Normal), Garden::muted),
+                      0, Qt::AlignHCenter);
     column->addWidget(speed_, 0, Qt::AlignHCenter);
     column->addWidget(rows_);
     column->addWidget(done, 0, Qt::AlignHCenter);
@@ -62,8 +70,17 @@ HighScoresView::HighScoresView(Session& session, QWidget* parent)
         session_.chooseScorePace(allPaces.at(static_cast<std::size_t>(index)));
     });
     connect(done, &QAbstractButton::clicked, &session_, &Session::closeScores);
+    density_ = new Garden::ContentDensity(*this);
     connect(&session_, &Session::changed, this, &HighScoresView::refresh);
     refresh();
+}
+
+QSize HighScoresView::fittedTo(int available) {
+    const Garden::Density density = Garden::densityFor(available, tallest);
+    scale_ = density.scale;
+    density_->set(density);
+    return {Garden::scaled(sheetWidth, scale_),
+            std::min(layout()->totalSizeHint().height(), available)};
 }
 
 void HighScoresView::refresh() {
@@ -85,7 +102,8 @@ void HighScoresView::keyPressEvent(QKeyEvent* event) {
 void HighScoresView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(Garden::continuousRoundedRect(rect(), cornerRadius), Garden::night);
-    painter.strokePath(Garden::continuousRoundedRect(Garden::inset(rect(), 0.5), cornerRadius),
+    const double radius = cornerRadius * scale_;
+    painter.fillPath(Garden::continuousRoundedRect(rect(), radius), Garden::night);
+    painter.strokePath(Garden::continuousRoundedRect(Garden::inset(rect(), 0.5), radius),
                        QPen(Garden::withOpacity(Garden::mint, edgeOpacity), 1));
 }

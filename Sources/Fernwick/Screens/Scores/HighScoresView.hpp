@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+#include "Garden/Widgets/ContentDensity.hpp"
+
 class ScoreRows;
 class Session;
 
@@ -16,6 +18,9 @@ class HighScoresView : public QWidget {
 public:
     explicit HighScoresView(Session& session, QWidget* parent = nullptr);
 
+    /// Makes it fit the height `available`, and returns the size that it needs, in points.
+    QSize fittedTo(int available);
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -26,4 +31,6 @@ private:
     Session& session_;
     Garden::ChoiceGroup* speed_;
     ScoreRows* rows_;
+    double scale_ = 1;
+    Garden::ContentDensity* density_ = nullptr;
 };

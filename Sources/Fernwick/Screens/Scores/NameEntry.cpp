@@ -19,6 +19,14 @@ constexpr double promptSize = 14;
 constexpr double hintSize = 10;
 constexpr double skipSize = 12;
 
+QString hint() {
+#ifdef Q_OS_MACOS
+    return NameEntry::tr("Up to 24 characters · saved on this Mac");
+#else
+    return NameEntry::tr("Up to 24 characters · saved on this computer");
+#endif
+}
+
 }  // namespace
 
 NameEntry::NameEntry(Session& session, QWidget* parent)
@@ -38,10 +46,8 @@ NameEntry::NameEntry(Session& session, QWidget* parent)
         0, Qt::AlignHCenter);
     column->addWidget(field_);
     column->addWidget(
-        //: "Mac" means the player's own computer, of whatever make.
-        new Garden::TrackedLabel(tr("Up to 24 characters · saved on this Mac"),
-                                 Garden::sans(hintSize, QFont::Normal), Garden::muted),
-        0, Qt::AlignHCenter);
+        new Garden::TrackedLabel(hint(), Garden::sans(hintSize, QFont::Normal), Garden::muted), 0,
+        Qt::AlignHCenter);
     column->addWidget(save_, 0, Qt::AlignHCenter);
     column->addWidget(skip, 0, Qt::AlignHCenter);
 

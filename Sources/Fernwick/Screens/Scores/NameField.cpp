@@ -16,7 +16,7 @@
 namespace {
 
 constexpr double fontSize = 18;
-constexpr int padding = 14;
+constexpr int fullPadding = 14;
 // QLineEdit itself adds two points on both sides of the text.
 constexpr int lineEditMargin = 2;
 constexpr double cornerRadius = 10;
@@ -55,8 +55,7 @@ NameField::NameField(QWidget* parent) : QLineEdit(parent) {
     // cut that text within a surrogate pair, but never in the part that the validator keeps.
     setMaxLength(2 * longestNameText);
     setFrame(false);
-    setFont(Garden::sans(fontSize, QFont::Normal));
-    setTextMargins(padding - lineEditMargin, 0, padding - lineEditMargin, 0);
+    NameField::setDensity({});
 
     QPalette colours = palette();
     colours.setColor(QPalette::Base, Qt::transparent);
@@ -79,7 +78,16 @@ void NameField::setPlaceholderColour() {
     setPalette(colours);
 }
 
+void NameField::setDensity(const Garden::Density& density) {
+    density_ = density;
+    setFont(Garden::scaled(Garden::sans(fontSize, QFont::Normal), density.scale));
+    const int margin = Garden::scaled(fullPadding, density.scale) - lineEditMargin;
+    setTextMargins(margin, 0, margin, 0);
+    updateGeometry();
+}
+
 QSize NameField::sizeHint() const {
+    const int padding = Garden::scaled(fullPadding, density_.air * density_.scale);
     return {QLineEdit::sizeHint().width(), fontMetrics().height() + 2 * padding};
 }
 
@@ -87,8 +95,8 @@ void NameField::paintEvent(QPaintEvent* event) {
     {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        const QPainterPath shape =
-            Garden::continuousRoundedRect(Garden::inset(rect(), edgeWidth / 2), cornerRadius);
+        const QPainterPath shape = Garden::continuousRoundedRect(
+            Garden::inset(rect(), edgeWidth / 2), cornerRadius * density_.scale);
         painter.fillPath(shape, Garden::withOpacity(Qt::white, plateOpacity));
         painter.strokePath(
             shape,

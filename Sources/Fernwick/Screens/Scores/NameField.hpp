@@ -2,14 +2,18 @@
 
 #include <QLineEdit>
 
+#include "Garden/Widgets/ContentDensity.hpp"
+
 /// The text field for the player's name: a faint plate with a mint edge. It keeps the beginning of
 /// a text that is longer than a name, however it is entered. Its height follows the font; the
 /// layout sets its width.
-class NameField : public QLineEdit {
+class NameField : public QLineEdit, public Garden::Scalable {
     Q_OBJECT
 
 public:
     explicit NameField(QWidget* parent = nullptr);
+
+    void setDensity(const Garden::Density& density) override;
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
@@ -19,4 +23,6 @@ protected:
 
 private:
     void setPlaceholderColour();
+
+    Garden::Density density_;
 };

@@ -15,6 +15,7 @@ namespace {
 constexpr int spacing = 14;
 constexpr double titleSize = 12;
 constexpr int listHeight = 150;
+constexpr int leastListHeight = 78;
 constexpr double hintSize = 9;
 constexpr double hintTracking = 2;
 
@@ -26,7 +27,7 @@ SavedBoard::SavedBoard(Session& session, QWidget* parent)
       title_(new Garden::TrackedLabel({}, Garden::sans(titleSize, QFont::Normal), Garden::muted,
                                       this)),
       rows_(new ScoreRows(this)) {
-    rows_->setFixedHeight(listHeight);
+    rows_->setHeights(listHeight, leastListHeight);
     auto* replay = new Garden::GardenButton(tr("Play again"), this);
     connect(replay, &QAbstractButton::clicked, &session_, &Session::start);
 

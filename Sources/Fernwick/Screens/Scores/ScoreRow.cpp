@@ -68,8 +68,15 @@ void ScoreRow::show(std::int64_t rank, const SnakeCore::HighScore& entry, bool h
 }
 
 QSize ScoreRow::sizeHint() const {
-    const int height = fontMetrics().height() + static_cast<int>(2 * verticalPadding);
-    return {static_cast<int>(2 * horizontalPadding + rankWidth), height};
+    const int height = fontMetrics().height() + static_cast<int>(2 * verticalPadding * scale_);
+    return {static_cast<int>((2 * horizontalPadding + rankWidth) * scale_), height};
+}
+
+void ScoreRow::setDensity(const Garden::Density& density) {
+    scale_ = density.scale;
+    setFont(Garden::scaled(rowFont(), scale_));
+    updateGeometry();
+    update();
 }
 
 QRectF ScoreRow::asRead(const QRectF& area) const {
@@ -81,18 +88,21 @@ QRectF ScoreRow::asRead(const QRectF& area) const {
 void ScoreRow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(Garden::continuousRoundedRect(rect(), cornerRadius),
+    painter.fillPath(Garden::continuousRoundedRect(rect(), cornerRadius * scale_),
                      highlighted_ ? Garden::withOpacity(Garden::mint, highlightOpacity)
                                   : Garden::withOpacity(Qt::white, plateOpacity));
 
     const QFontMetricsF metrics(font());
-    const QRectF line = QRectF(rect()).adjusted(horizontalPadding, verticalPadding,
-                                                -horizontalPadding, -verticalPadding);
+    const double side = horizontalPadding * scale_;
+    const double above = verticalPadding * scale_;
+    const double spacing = elementSpacing * scale_;
+    const double ranks = rankWidth * scale_;
+    const QRectF line = QRectF(rect()).adjusted(side, above, -side, -above);
     const double cell = digitCell(metrics);
 
     QRectF rank = line;
     rank.setWidth(static_cast<double>(rank_.size()) * cell);
-    rank.moveLeft(line.left() + (rankWidth - rank.width()) / 2);
+    rank.moveLeft(line.left() + (ranks - rank.width()) / 2);
     painter.setPen(Garden::legible(Garden::muted));
     drawDigits(painter, asRead(rank), rank_);
 
@@ -102,8 +112,8 @@ void ScoreRow::paintEvent(QPaintEvent*) {
     drawDigits(painter, asRead(score), score_);
 
     QRectF name = line;
-    name.setLeft(line.left() + rankWidth + elementSpacing);
-    name.setRight(score.left() - elementSpacing);
+    name.setLeft(line.left() + ranks + spacing);
+    name.setRight(score.left() - spacing);
     painter.setPen(Garden::primaryText);
     const int begin = isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
     // The name's own letters decide its direction, not the language of the program.

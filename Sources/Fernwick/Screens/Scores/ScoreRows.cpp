@@ -70,6 +70,31 @@ ScoreRows::ScoreRows(QWidget* parent)
     showIndicator();
 }
 
+void ScoreRows::setHeights(int full, int least) {
+    fullHeight_ = full;
+    leastHeight_ = least;
+    setDensity(density_);
+}
+
+void ScoreRows::setDensity(const Garden::Density& density) {
+    density_ = density;
+    if (fullHeight_ > 0) {
+        // With all the air there is, the list has its full height too.
+        const int least = density == Garden::Density() ? fullHeight_ : leastHeight_;
+        setMinimumHeight(Garden::scaled(least, density.scale));
+        setMaximumHeight(Garden::scaled(fullHeight_, density.scale));
+    }
+    for (ScoreRow* row : rows_) {
+        row->setDensity(density);
+    }
+    updateGeometry();
+}
+
+QSize ScoreRows::sizeHint() const {
+    const QSize hint = QWidget::sizeHint();
+    return fullHeight_ > 0 ? QSize(hint.width(), maximumHeight()) : hint;
+}
+
 void ScoreRows::showIndicator() {
     const QScrollBar* scrolling = scrollArea_->verticalScrollBar();
     indicator_->setStyleSheet(scrollBarStyle());
@@ -100,9 +125,35 @@ bool ScoreRows::eventFilter(QObject* watched, QEvent* event) {
     return QWidget::eventFilter(watched, event);
 }
 
-void ScoreRows::resizeEvent(QResizeEvent*) {
-    const QRect trailingEdge(width() - scrollBarWidth, 0, scrollBarWidth, height());
+bool ScoreRows::showsWholeRows() const {
+    const bool full =
+        fullHeight_ == 0 || (density_ == Garden::Density() && height() >= maximumHeight());
+    return !full && !rows_.isEmpty() && height() >= pitch();
+}
+
+int ScoreRows::listHeight() const {
+    if (!showsWholeRows()) {
+        return height();
+    }
+    const int spacing = column_->spacing();
+    return (height() + spacing) / pitch() * pitch() - spacing;
+}
+
+int ScoreRows::pitch() const {
+    return rows_.first()->sizeHint().height() + column_->spacing();
+}
+
+void ScoreRows::placeList() {
+    scrollArea_->setMaximumHeight(listHeight());
+    layout()->activate();
+    QRect trailingEdge = scrollArea_->geometry();
+    trailingEdge.setLeft(width() - scrollBarWidth);
     indicator_->setGeometry(QStyle::visualRect(layoutDirection(), rect(), trailingEdge));
+    showHighlighted();
+}
+
+void ScoreRows::resizeEvent(QResizeEvent*) {
+    placeList();
 }
 
 void ScoreRows::paintEvent(QPaintEvent*) {
@@ -118,6 +169,7 @@ void ScoreRows::setRowCount(std::size_t count) {
     }
     while (rows_.size() < wanted) {
         auto* row = new ScoreRow;
+        row->setDensity(density_);
         // Insert before the final stretch, which aligns a short list to the top.
         column_->insertWidget(column_->count() - 1, row);
         rows_.append(row);
@@ -129,18 +181,25 @@ void ScoreRows::setEntries(const std::vector<SnakeCore::HighScore>& entries,
     empty_->setVisible(entries.empty());
     scrollArea_->setVisible(!entries.empty());
     setRowCount(entries.size());
-    ScoreRow* highlightedRow = nullptr;
+    highlightedRow_ = nullptr;
     for (std::size_t index = 0; index < entries.size(); ++index) {
         const bool isHighlighted = highlighted == entries[index].id;
         ScoreRow* row = rows_[static_cast<qsizetype>(index)];
         row->show(static_cast<std::int64_t>(index) + 1, entries[index], isHighlighted);
-        highlightedRow = isHighlighted ? row : highlightedRow;
+        if (isHighlighted) {
+            highlightedRow_ = row;
+        }
     }
-    if (highlightedRow != nullptr) {
-        // Queued: the new rows have no geometry before the layout has run.
-        QMetaObject::invokeMethod(
-            highlightedRow,
-            [this, highlightedRow] { scrollArea_->ensureWidgetVisible(highlightedRow, 0, 0); },
-            Qt::QueuedConnection);
+    // Queued: new rows have no geometry before the layout has run.
+    QMetaObject::invokeMethod(this, &ScoreRows::placeList, Qt::QueuedConnection);
+}
+
+void ScoreRows::showHighlighted() {
+    if (highlightedRow_ != nullptr) {
+        scrollArea_->ensureWidgetVisible(highlightedRow_, 0, 0);
+    }
+    if (showsWholeRows()) {
+        QScrollBar* scrolling = scrollArea_->verticalScrollBar();
+        scrolling->setValue((scrolling->value() + pitch() - 1) / pitch() * pitch());
     }
 }

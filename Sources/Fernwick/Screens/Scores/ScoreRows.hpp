@@ -1,11 +1,13 @@
 #pragma once
 
 #include <QList>
+#include <QPointer>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <optional>
 #include <vector>
 
+#include "Garden/Widgets/ContentDensity.hpp"
 #include "Garden/Widgets/FocusRing.hpp"
 #include "SnakeCore/HighScore.hpp"
 
@@ -18,16 +20,24 @@ class TrackedLabel;
 
 /// A scrolling list of ranked scores, or a line of text when there are none. The layout sets its
 /// height.
-class ScoreRows : public QWidget {
+class ScoreRows : public QWidget, public Garden::Scalable {
     Q_OBJECT
 
 public:
     explicit ScoreRows(QWidget* parent = nullptr);
 
+    /// The heights of the list in points: at most `full`, and at least `least` where there is less
+    /// room.
+    void setHeights(int full, int least);
+
     /// Shows `entries` in their order, the first as rank 1; highlights the one with the id
-    /// `highlighted` and scrolls to it.
+    /// `highlighted` and scrolls to it, then and when the height of the list changes.
     void setEntries(const std::vector<SnakeCore::HighScore>& entries,
                     const std::optional<SnakeCore::UUID>& highlighted = std::nullopt);
+
+    void setDensity(const Garden::Density& density) override;
+
+    [[nodiscard]] QSize sizeHint() const override;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -37,9 +47,19 @@ protected:
 
 private:
     void showIndicator();
+    /// Whether the list has less than its full size, and then no part of a row.
+    [[nodiscard]] bool showsWholeRows() const;
+    [[nodiscard]] int listHeight() const;
+    /// From one row to the next.
+    [[nodiscard]] int pitch() const;
+    void placeList();
     void followRange(int lowest, int highest);
     void setRowCount(std::size_t count);
+    void showHighlighted();
 
+    int fullHeight_ = 0;
+    int leastHeight_ = 0;
+    Garden::Density density_;
     Garden::TrackedLabel* empty_;
     QScrollArea* scrollArea_;
     // An overlay over the rows' padding, so that the rows keep the whole width.
@@ -47,4 +67,5 @@ private:
     Garden::FocusRing focusRing_;
     QVBoxLayout* column_;
     QList<ScoreRow*> rows_;
+    QPointer<ScoreRow> highlightedRow_;
 };

@@ -2,6 +2,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <algorithm>
 
 #include "Garden/Look/Motion.hpp"
 #include "Garden/Look/Palette.hpp"
@@ -13,6 +14,11 @@
 namespace {
 
 constexpr double scrimOpacity = 0.48;
+// The least distance of the sheet from the edges of the window, in points.
+constexpr int margin = 8;
+// A sheet that reaches into the title band leaves this much for the menus and for the buttons.
+constexpr int titleBand = 46;
+constexpr int besideMenus = 148;
 
 // Without the window's background, which would show in the rounded corners.
 QPixmap pictureOf(QWidget& sheet) {
@@ -84,8 +90,10 @@ void SheetLayer::placeSheet() {
     if (sheet_ == nullptr) {
         return;
     }
-    sheet_->adjustSize();
-    QRect sheetRect(QPoint(), sheet_->size());
+    QRect sheetRect(QPoint(), sheet_->fittedTo(height() - 2 * margin));
+    if (sheetRect.height() > height() - 2 * titleBand) {
+        sheetRect.setWidth(std::min(sheetRect.width(), width() - 2 * besideMenus));
+    }
     sheetRect.moveCenter(rect().center());
     sheet_->setGeometry(sheetRect);
 }

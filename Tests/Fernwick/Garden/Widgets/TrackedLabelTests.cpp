@@ -175,3 +175,33 @@ TEST(TrackedLabel, adaptsItsFontToTheScriptOfANewText) {
     label.setText(word);
     EXPECT_EQ(label.font().letterSpacing(), tracking);
 }
+
+TEST(TrackedLabel, wrapsIntoEvenLinesThatFit) {
+    Garden::TrackedLabel label(QStringLiteral("Gather the fruit. Grow a little longer."),
+                               Garden::sans(13, QFont::Normal), Garden::mint);
+    const QSize oneLine = label.sizeHint();
+
+    label.wrapAt(oneLine.width() - 1);
+
+    EXPECT_LT(label.sizeHint().width(), 0.7 * oneLine.width());
+    EXPECT_GT(label.sizeHint().height(), 2 * oneLine.height());
+    EXPECT_LT(label.sizeHint().height(), 3 * oneLine.height());
+}
+
+TEST(TrackedLabel, doesNotWrapATextThatFits) {
+    Garden::TrackedLabel label(word, trackedFont(), Garden::mint);
+    const QSize oneLine = label.sizeHint();
+
+    label.wrapAt(oneLine.width());
+
+    EXPECT_EQ(label.sizeHint(), oneLine);
+}
+
+TEST(TrackedLabel, paintsAllLinesOfAWrappedText) {
+    Garden::TrackedLabel label(QStringLiteral("GROW GROW GROW"), trackedFont(), Garden::mint);
+    label.wrapAt(label.sizeHint().width() / 2);
+
+    const QRect ink = inkOf(picture(label));
+    EXPECT_GT(ink.height(), label.height() / 2);
+    EXPECT_LT(ink.bottom(), label.height());
+}

@@ -141,7 +141,7 @@ TEST_P(GameOverCardLook, nameFormIsAColumn400WideSpacedBy14) {
         labelRect(QStringLiteral("%1 POINTS  ·  Classic").arg(session.game().score())),
         labelRect("Leave your name in the garden."),
         fieldRect(),
-        labelRect("Up to 24 characters · saved on this Mac"),
+        labelRect("Up to 24 characters · saved on this computer"),
         buttonRect("Save score"),
         buttonRect("Skip saving")};
 
@@ -159,7 +159,8 @@ TEST_P(GameOverCardLook, hasItsFontsAndColours) {
     expectLabel(QStringLiteral("%1 POINTS  ·  Classic").arg(session.game().score()),
                 {Look::sans, 11, QFont::Medium, 2}, mint);
     expectLabel("Leave your name in the garden.", {Look::sans, 14, QFont::Normal}, muted);
-    expectLabel("Up to 24 characters · saved on this Mac", {Look::sans, 10, QFont::Normal}, muted);
+    expectLabel("Up to 24 characters · saved on this computer", {Look::sans, 10, QFont::Normal},
+                muted);
     Look::expectType(child<NameField>(), {Look::sans, 18, QFont::Normal});
     Look::expectType(*Screen::find<Garden::QuietButton>(window, "Skip saving"),
                      {Look::sans, 12, QFont::Normal});
@@ -214,7 +215,7 @@ TEST_P(ScoreSheetLook, is440WideAndCentredInTheWindow) {
 TEST_P(ScoreSheetLook, isAColumnPaddedBy32AndSpacedBy20) {
     const std::vector<QRect> column{rectInSheet<Garden::IconView>(),
                                     labelRect("The high scores."),
-                                    labelRect("Top 10 for each speed · saved on this Mac"),
+                                    labelRect("Top 10 for each speed · saved on this computer"),
                                     rectInSheet<Garden::ChoiceGroup>(),
                                     rectInSheet<ScoreRows>(),
                                     buttonRect("Done")};
@@ -232,7 +233,7 @@ TEST_P(ScoreSheetLook, hasItsFontsAndColours) {
     EXPECT_EQ(emblem.size(), QSize(28, 28));
     EXPECT_EQ(emblem.colour(), mint);
     expectLabel("The high scores.", {Look::serif, 30, QFont::Normal}, Garden::primaryText);
-    expectLabel("Top 10 for each speed · saved on this Mac", {Look::sans, 12, QFont::Normal},
+    expectLabel("Top 10 for each speed · saved on this computer", {Look::sans, 12, QFont::Normal},
                 muted);
     expectLabel("A fresh start. Be the first on the board.", {Look::sans, 13, QFont::Normal},
                 muted);

@@ -36,7 +36,7 @@ TEST_F(GameOverCard, asksForAName) {
     EXPECT_TRUE(shows("Leave your name in the garden."));
     EXPECT_TRUE(shows("Player name"));
     EXPECT_EQ(field().placeholderText(), "Your name");
-    EXPECT_TRUE(shows("Up to 24 characters · saved on this Mac"));
+    EXPECT_TRUE(shows("Up to 24 characters · saved on this computer"));
     EXPECT_TRUE(shows("Save score"));
     EXPECT_TRUE(canPress("Skip saving"));
     EXPECT_FALSE(shows("Play again"));

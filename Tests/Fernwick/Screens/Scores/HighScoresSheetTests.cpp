@@ -39,7 +39,7 @@ TEST_F(HighScoresSheet, showsItsTexts) {
 
     EXPECT_TRUE(isOpen());
     EXPECT_TRUE(shows("The high scores."));
-    EXPECT_TRUE(shows("Top 10 for each speed · saved on this Mac"));
+    EXPECT_TRUE(shows("Top 10 for each speed · saved on this computer"));
     EXPECT_TRUE(shows("Speed"));
     EXPECT_TRUE(canPress("Done"));
 }
