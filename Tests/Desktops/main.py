@@ -47,6 +47,7 @@ def arguments():
 
 def try_named(options, name):
     steps = SCRIPT | scaled_starts(options.starts) | (SCREENS if name == Sway.NAME else {})
+    steps = {step: steps[step] for step in steps if step not in DESKTOPS[name].IMPOSSIBLE}
     if options.steps:
         steps = {step: steps[step] for step in options.steps if step in steps}
     print(f"{name} …", flush=True)
@@ -105,6 +106,9 @@ def print_table(outcomes):
         for step, outcome in tried.items():
             if outcome != PASSED:
                 print(f"failed: {name}: {step}: {outcome}")
+    for name in outcomes:
+        for step, reason in DESKTOPS[name].IMPOSSIBLE.items():
+            print(f"not possible: {name}: {step}: {reason}")
 
 
 def write_report(outcomes, path):

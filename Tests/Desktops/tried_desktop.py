@@ -25,6 +25,8 @@ class TriedDesktop(Desktop):
     OTHER_WINDOW = ()
     # Whether a window alone on the screen always fills it.
     TILES = False
+    # Steps that the desktop itself prevents, and why.
+    IMPOSSIBLE = {}
     # Pixels of the X server per unit in which programs place things in their windows.
     scale = 1
 
