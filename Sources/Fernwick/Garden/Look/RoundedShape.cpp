@@ -22,15 +22,10 @@ struct Corner {
     HalfCorner alongY;
 };
 
-// Exponent 2.5. The superellipse crosses the diagonal at 1 - 2^(-1/2.5), at a right angle; 0.828 is
-// fitted to the point halfway along the curve.
-constexpr double superellipseDiagonal = 0.2421;
-constexpr HalfCorner superellipse{1, {0.828, 0}, {2 * superellipseDiagonal, 0}};
-
 // An eighth of a circle, which crosses the diagonal at 1 - sqrt(1/2).
 constexpr double circleDiagonal = 0.29289;
 constexpr HalfCorner circular{1, {0.7348, 0}, {0.4804, 0.1054}};
-// The same with the curvature growing from zero along a long edge.
+// The same with the curvature growing from zero where the straight edge ends.
 constexpr HalfCorner eased{1.528, {0.993, 0}, {2 * circleDiagonal, 0}};
 
 // `eased`, or, where half the edge is too short for it, interpolated towards `circular`.
@@ -78,17 +73,14 @@ QPainterPath continuousRoundedRect(const QRectF& rect, double radius) {
         path.addRect(rect);
         return path;
     }
-    return withCorners(rect, limited, {superellipseDiagonal, superellipse, superellipse});
+    return withCorners(rect, limited,
+                       {circleDiagonal, easedWithin(rect.width() / 2 / limited),
+                        easedWithin(rect.height() / 2 / limited)});
 }
 
 QPainterPath continuousCapsule(const QRectF& rect) {
     const double radius = std::min(rect.width(), rect.height()) / 2;
-    if (radius <= 0) {
-        return {};
-    }
-    return withCorners(rect, radius,
-                       {circleDiagonal, easedWithin(rect.width() / 2 / radius),
-                        easedWithin(rect.height() / 2 / radius)});
+    return radius > 0 ? continuousRoundedRect(rect, radius) : QPainterPath();
 }
 
 }  // namespace Garden
