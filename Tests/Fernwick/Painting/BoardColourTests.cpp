@@ -72,6 +72,36 @@ TEST(BoardColours, haveDotsOfTheSameSizeOnASmallerBoard) {
     EXPECT_NEAR(mintIn(picture.image(), {6, 6, 8, 8}), M_PI * 1.6 * 1.6 * 0.12, 0.1);
 }
 
+void expectSamePixels(const QImage& actual, const QImage& expected) {
+    for (int y = 0; y < expected.height(); ++y) {
+        for (int x = 0; x < expected.width(); ++x) {
+            // The dither may add 1/255.
+            ASSERT_NEAR(channelOf(actual, x, y, 8), channelOf(expected, x, y, 8), 1);
+        }
+    }
+}
+
+TEST(BoardColours, haveTheSameDotInEveryCellAtScale1) {
+    Painting::PixelGrid grid = largeGrid;
+    grid.scale = 1;
+    grid.cell = 27.37;
+    Painting::BoardPicture board(grid);
+    board.show(Game(28, 22));
+    const QImage picture = board.image();
+    const auto dotAt = [&](int column, int row) {
+        const QPointF centre = grid.centre({column, row});
+        return picture.copy(static_cast<int>(centre.x()) - 2, static_cast<int>(centre.y()) - 2, 5,
+                            5);
+    };
+
+    for (int column = 0; column < 28; ++column) {
+        // Rows without the fruit and the snake.
+        for (const int row : {0, 1, 2, 3, 19, 20, 21}) {
+            expectSamePixels(dotAt(column, row), dotAt(0, 0));
+        }
+    }
+}
+
 TEST(BoardColours, haveAFruit0Point56CellsWide) {
     const QImage picture = painted(Game(28, 22));
     const int x = 18 * 40 + 20;

@@ -89,11 +89,15 @@ void paintShadow(QPainter& painter, const QImage& layer, const QColor& colour, d
     painter.drawImage(QPointF(), layer);
 }
 
-void paintDots(QPainter& painter, const SnakeCore::Game& game, double cell) {
+void paintDots(QPainter& painter, const SnakeCore::Game& game, const Painting::PixelGrid& grid) {
     painter.setBrush(withOpacity(mint, 0.12));
     for (std::int64_t y = 0; y < game.height(); ++y) {
         for (std::int64_t x = 0; x < game.width(); ++x) {
-            painter.drawEllipse(disc(centre({x, y}, cell), 1.6));
+            QPointF pixel = grid.origin + centre({x, y}, grid.cell);
+            if (grid.scale < 2) {
+                pixel = {std::floor(pixel.x()) + 0.5, std::floor(pixel.y()) + 0.5};
+            }
+            painter.drawEllipse(disc((pixel - grid.origin) / grid.scale, 1.6));
         }
     }
 }
@@ -171,7 +175,7 @@ QImage paintTransparent(const SnakeCore::Game& game, const Painting::PixelGrid& 
         paintBody(setUp(painter, grid), game, cell);
     }
     QPainter painter(&image);
-    paintDots(setUp(painter, grid), game, cell);
+    paintDots(setUp(painter, grid), game, grid);
     painter.resetTransform();
     paintShadow(painter, fruitLayer, withOpacity(orange, 0.55), 0.5 * grid.cell);
     paintStem(setUp(painter, grid), fruit, cell);

@@ -1,5 +1,7 @@
 #include "Painting/Board/Dots.hpp"
 
+#include <cmath>
+
 #include "Garden/Look/Palette.hpp"
 
 namespace {
@@ -7,6 +9,17 @@ namespace {
 // In points.
 constexpr double diameter = 1.6;
 constexpr double opacity = 0.12;
+/// Device pixels per point from which dots look the same at any position on the pixels.
+constexpr double fineScale = 2;
+
+// Below `fineScale`, dots at different positions on the pixels would form a visible pattern of
+// sharp and blurred ones: they all get a pixel's middle.
+QPointF dotCentre(const QPointF& centre, double scale) {
+    if (scale >= fineScale) {
+        return centre;
+    }
+    return {std::floor(centre.x()) + 0.5, std::floor(centre.y()) + 0.5};
+}
 
 }  // namespace
 
@@ -15,8 +28,9 @@ namespace Painting {
 Dots::Dots(const PixelGrid& grid) : grid_(grid), dots_(grid.columns, grid.rows) {
     for (int row = 0; row < grid.rows; ++row) {
         for (int column = 0; column < grid.columns; ++column) {
-            dots_.at(column, row) = CoverageLayer::disc(Garden::mint, grid.centre({column, row}),
-                                                        diameter / 2 * grid.scale, opacity);
+            dots_.at(column, row) =
+                CoverageLayer::disc(Garden::mint, dotCentre(grid.centre({column, row}), grid.scale),
+                                    diameter / 2 * grid.scale, opacity);
         }
     }
 }
