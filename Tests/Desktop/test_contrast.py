@@ -138,3 +138,24 @@ def test_texts_reach_level_aa(game):
 def test_texts_reach_level_aaa_with_the_high_contrast_setting(high_contrast_setting, launch):
     lowest = measured_on_every_screen(launch())
     assert {name: value for name, value in lowest.items() if value < LEVEL_AAA} == {}
+
+
+def wall_contrast(game):
+    """The contrast of the board's left edge, which ends a run, with the ground on both sides."""
+    board = next(element for element in game.top().everything_showing()
+                 if element.name.startswith("Snake board."))
+    left, top, _, height = board.extents_on_screen()
+    middle = top + height // 2
+    picture = game.desktop.screen.picture()
+    return contrast(picture, (left - 4, middle, 9, 1))
+
+
+def test_the_wall_stands_out_with_the_high_contrast_setting(high_contrast_setting, launch):
+    game = launch()
+    eventually(lambda: wall_contrast(game) >= 3, "the wall is drawn with high contrast")
+    game.start_run()
+    assert wall_contrast(game) >= 3
+
+
+def test_the_wall_is_faint_by_default(game):
+    assert 1.2 < wall_contrast(game) < 2

@@ -79,16 +79,58 @@ TEST(Backdrop, fillsTheFrameWithThePlainBoardColour) {
     }
 }
 
-TEST(Backdrop, centresTheStrokeOnTheFramesOutline) {
+TEST(Backdrop, strokesTheFrameOnePixelWideAtScale1) {
+    for (const double offset : {0.0, 0.3, 0.5, 0.8}) {
+        const QImage picture = groundOf(window, 1, frame.translated(offset, offset / 2));
+        const auto isStroke = [&](int x, int y) { return channelOf(picture, x, y, 8) >= 45; };
+
+        int columns = 0;
+        for (int x = 495; x < 1070; ++x) {
+            columns += isStroke(x, 420) ? 1 : 0;
+            EXPECT_LT(isStroke(x, 420) ? 0 : channelOf(picture, x, 420, 8), 26) << x;
+        }
+        int rows = 0;
+        for (int y = 195; y < 650; ++y) {
+            rows += isStroke(780, y) ? 1 : 0;
+            EXPECT_LT(isStroke(780, y) ? 0 : channelOf(picture, 780, y, 8), 26) << y;
+        }
+        EXPECT_EQ(columns, 2) << offset;
+        EXPECT_EQ(rows, 2) << offset;
+    }
+}
+
+double luminance(QRgb colour) {
+    const auto linear = [](int channel) {
+        const double value = channel / 255.0;
+        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(qRed(colour)) + 0.7152 * linear(qGreen(colour)) +
+           0.0722 * linear(qBlue(colour));
+}
+
+// As WCAG 2 defines it.
+double contrast(QRgb one, QRgb other) {
+    return (std::max(luminance(one), luminance(other)) + 0.05) /
+           (std::min(luminance(one), luminance(other)) + 0.05);
+}
+
+TEST(Backdrop, separatesTheFrameFromBothSidesInHighContrast) {
+    Painting::Backdrop backdrop;
+    backdrop.fit(window, 1, frame, Painting::Backdrop::strokeOpacityInHighContrast);
+
+    const QImage picture = backdrop.image(backdrop.bounds());
+
+    EXPECT_GE(contrast(picture.pixel(500, 420), picture.pixel(490, 420)), 3);
+    EXPECT_GE(contrast(picture.pixel(500, 420), picture.pixel(510, 420)), 3);
+    EXPECT_GE(contrast(picture.pixel(780, 200), picture.pixel(780, 190)), 3);
+}
+
+TEST(Backdrop, keepsTheFrameWithinAPixelOfItsPlace) {
     const QImage picture = groundOf(window, 1, frame);
 
-    // The left edge is in the middle of a pixel column, so the stroke is exactly that column.
+    // Outer edge of the stroke: 500 to 501 and 199.5 to 200.5.
     EXPECT_NEAR(channelOf(picture, 500, 420, 8), (24 + 12.5) / 2 * 0.84 + 240 * 0.16, 3);
-    EXPECT_EQ(picture.pixel(501, 420), qRgb(14, 24, 19));
-    EXPECT_LT(channelOf(picture, 499, 420, 8), 20);
-    // The top edge is between two pixel rows, each of which gets half of the stroke.
-    EXPECT_NEAR(channelOf(picture, 780, 200, 8), 24 * 0.92 + 240 * 0.08, 2);
-    EXPECT_NEAR(channelOf(picture, 780, 199, 8), 15 * 0.92 + 240 * 0.08, 3);
+    EXPECT_NEAR(channelOf(picture, 780, 200, 8), (24 + 12.5) / 2 * 0.84 + 240 * 0.16, 3);
 }
 
 TEST(Backdrop, roundsTheFramesCornersWithARadiusOf22Points) {
@@ -101,11 +143,11 @@ TEST(Backdrop, roundsTheFramesCornersWithARadiusOf22Points) {
             brightest = step;
         }
     }
-    // A corner of radius 22 crosses the diagonal five or six points from either edge.
-    EXPECT_GE(brightest, 4);
+    // A corner of radius 22 crosses the diagonal 6.4 points from either edge.
+    EXPECT_GE(brightest, 5);
     EXPECT_LE(brightest, 6);
     EXPECT_EQ(onDiagonal(9), qRgb(14, 24, 19));
-    EXPECT_LE(qGreen(onDiagonal(2)), 22);
+    EXPECT_LE(qGreen(onDiagonal(3)), 22);
 }
 
 TEST(Backdrop, paintsTheFramesShadow15PointsBelowTheFrame) {
@@ -125,7 +167,7 @@ TEST(Backdrop, paintsTheFramesShadow15PointsBelowTheFrame) {
     EXPECT_NEAR(shade(500 - 25, 430), 0.25 * 0.5 * std::erfc(1 / std::sqrt(2.0)), 0.02);
 }
 
-TEST(Backdrop, hasANewRevisionOnlyWhenWindowOrFrameChange) {
+TEST(Backdrop, hasANewRevisionOnlyWhenWindowFrameOrStrokeChange) {
     Painting::Backdrop backdrop;
     backdrop.fit(window, 1, frame);
     const int first = backdrop.revision();
@@ -136,7 +178,11 @@ TEST(Backdrop, hasANewRevisionOnlyWhenWindowOrFrameChange) {
     const int moved = backdrop.revision();
     EXPECT_NE(moved, first);
     backdrop.fit({800, 600}, 1, frame.translated(1, 0));
-    EXPECT_NE(backdrop.revision(), moved);
+    const int resized = backdrop.revision();
+    EXPECT_NE(resized, moved);
+    backdrop.fit({800, 600}, 1, frame.translated(1, 0),
+                 Painting::Backdrop::strokeOpacityInHighContrast);
+    EXPECT_NE(backdrop.revision(), resized);
     EXPECT_EQ(backdrop.bounds(), QRect(0, 0, 800, 600));
 }
 

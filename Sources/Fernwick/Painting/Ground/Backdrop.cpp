@@ -49,8 +49,10 @@ void paintMask(const Scanline& line, const QColor& colour, const QImage& mask, c
 
 }  // namespace
 
-void Backdrop::fit(const QSize& window, qreal devicePixelRatio, const QRectF& frame) {
-    if (window == window_ && devicePixelRatio == scale_ && frame == frame_) {
+void Backdrop::fit(const QSize& window, qreal devicePixelRatio, const QRectF& frame,
+                   double strokeOpacity) {
+    if (window == window_ && devicePixelRatio == scale_ && frame == frame_ &&
+        strokeOpacity == strokeOpacity_) {
         return;
     }
     ++revision_;
@@ -58,6 +60,7 @@ void Backdrop::fit(const QSize& window, qreal devicePixelRatio, const QRectF& fr
     window_ = window;
     scale_ = devicePixelRatio;
     frame_ = frame;
+    strokeOpacity_ = strokeOpacity;
     const QSizeF pixels = QSizeF(window) * devicePixelRatio;
     bounds_ = {0, 0, static_cast<int>(std::ceil(pixels.width())),
                static_cast<int>(std::ceil(pixels.height()))};
@@ -95,7 +98,7 @@ std::function<void(const Scanline&)> Backdrop::rowsOf(const QRect& area) {
             const QPoint corner = edge.area.topLeft();
             paintMask(line.clipped(edge.area), Garden::soil, edge.fill, corner, 1);
             paintMask(line.clipped(edge.area), Garden::mint, edge.stroke, corner,
-                      static_cast<float>(FrameShape::strokeOpacity));
+                      static_cast<float>(strokeOpacity_));
         }
     };
 }

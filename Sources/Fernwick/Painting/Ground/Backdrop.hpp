@@ -19,12 +19,19 @@ namespace Painting {
 /// they are painted: a cached image of the window would be the largest allocation in the game.
 class Backdrop {
 public:
-    /// Sets the window's size and the board's frame in it, both in points. Cheap: everything that
-    /// depends on them is computed at the next paint.
-    void fit(const QSize& window, qreal devicePixelRatio, const QRectF& frame);
+    /// Of the frame's stroke. Touching it ends the run, so high contrast makes it plain to see:
+    /// more than 3 : 1 to the ground on either side.
+    static constexpr double strokeOpacityByDefault = 0.16;
+    static constexpr double strokeOpacityInHighContrast = 0.5;
+
+    /// Sets the window's size and the board's frame in it, both in points, and the opacity of the
+    /// frame's stroke. Cheap: everything that depends on them is computed at the next paint.
+    void fit(const QSize& window, qreal devicePixelRatio, const QRectF& frame,
+             double strokeOpacity = strokeOpacityByDefault);
 
     /// Changes whenever fit() changes the picture.
     [[nodiscard]] int revision() const { return revision_; }
+    [[nodiscard]] double strokeOpacity() const { return strokeOpacity_; }
     /// The window in device pixels.
     [[nodiscard]] const QRect& bounds() const { return bounds_; }
 
@@ -49,6 +56,7 @@ private:
     QSize window_;
     qreal scale_ = 0;
     QRectF frame_;
+    double strokeOpacity_ = strokeOpacityByDefault;
     QRect bounds_;
     // Whether the members below are up to date with frame_ and scale_.
     bool prepared_ = true;

@@ -22,7 +22,8 @@ quint32 withoutFill(quint32 ground, double share) {
 }
 
 // `ground` is the backdrop of `area`.
-QImage stripImage(const QImage& ground, const QRect& area, const FrameShape& shape) {
+QImage stripImage(const QImage& ground, const QRect& area, const FrameShape& shape,
+                  double strokeOpacity) {
     const QImage fill = shape.fill(area);
     const QImage stroke = shape.stroke(area);
     QImage image(area.size(), QImage::Format_ARGB32_Premultiplied);
@@ -30,7 +31,7 @@ QImage stripImage(const QImage& ground, const QRect& area, const FrameShape& sha
         const Painting::Scanline line = Painting::scanline(image, image.rect(), y);
         const quint32* const behind = Painting::pixelsAt(ground, 0, y);
         for (int x = 0; x < line.count; ++x) {
-            const double stroked = stroke.constScanLine(y)[x] / 255.0 * FrameShape::strokeOpacity;
+            const double stroked = stroke.constScanLine(y)[x] / 255.0 * strokeOpacity;
             const double share = fill.constScanLine(y)[x] / 255.0 * (1 - stroked);
             line.pixels[x] = withoutFill(behind[x], share);
         }
@@ -46,7 +47,8 @@ Painting::FrameEdge::FrameEdge(Backdrop& ground, const QRect& boardRect, const F
         const QRect area = edge & visible;
         if (!area.isEmpty()) {
             const QImage behind = ground.image(area.translated(boardRect.topLeft()));
-            strips_.push_back({area.topLeft(), stripImage(behind, area, shape)});
+            strips_.push_back(
+                {area.topLeft(), stripImage(behind, area, shape, ground.strokeOpacity())});
         }
     }
 }

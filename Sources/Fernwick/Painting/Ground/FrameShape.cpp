@@ -14,6 +14,21 @@ constexpr double strokeWidth = 1;
 /// The length of a continuous corner along either edge, in radii.
 constexpr double cornerReach = 1.6;
 
+// The same for coordinates that differ by whole pixels, unlike std::round().
+double roundedUp(double value) {
+    return std::floor(value + 0.5);
+}
+
+// `frame` with each edge moved by at most half a pixel, so that the outer side of its stroke lies
+// between two pixels. At scale 1 the stroke is then one sharp pixel wide on every side.
+QRectF snapped(const QRectF& frame, double scale) {
+    const double outside = strokeWidth / 2 * scale;
+    return {QPointF(roundedUp(frame.left() - outside) + outside,
+                    roundedUp(frame.top() - outside) + outside),
+            QPointF(roundedUp(frame.right() + outside) - outside,
+                    roundedUp(frame.bottom() + outside) - outside)};
+}
+
 template <typename Paint>
 QImage coverageOf(const QRect& area, Paint paint) {
     QImage coverage(area.size(), QImage::Format_Alpha8);
@@ -30,9 +45,9 @@ QImage coverageOf(const QRect& area, Paint paint) {
 namespace Painting {
 
 FrameShape::FrameShape(const QRectF& frame, double scale)
-    : frame_(frame),
+    : frame_(snapped(frame, scale)),
       scale_(scale),
-      path_(Garden::continuousRoundedRect(frame, cornerRadius * scale)) {}
+      path_(Garden::continuousRoundedRect(frame_, cornerRadius * scale)) {}
 
 std::vector<QRect> FrameShape::edges() const {
     const QRect all = bounds();

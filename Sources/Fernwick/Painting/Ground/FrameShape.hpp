@@ -10,9 +10,8 @@ namespace Painting {
 /// Rasterizes the rounded frame around the board: the coverage of its fill and of its stroke.
 class FrameShape {
 public:
-    static constexpr double strokeOpacity = 0.16;
-
-    /// `frame` is in device pixels; `scale` is device pixels per point.
+    /// `frame` is in device pixels; `scale` is device pixels per point. The shape's edges differ
+    /// from the frame's by less than a pixel, so that the stroke is crisp.
     FrameShape(const QRectF& frame, double scale);
 
     /// Disjoint rectangles with every pixel that the fill covers partly or the stroke touches: the

@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QStyle>
 
+#include "Garden/Look/Contrast.hpp"
 #include "Screens/Main/BoardArea.hpp"
 #include "Screens/Main/ControlRow.hpp"
 #include "Screens/Main/HeaderRow.hpp"
@@ -122,6 +123,9 @@ QRect ContentView::mirrored(const QRect& area) const {
 void ContentView::placeBoard() {
     const QPoint origin = boardArea_->pos();
     const Painting::BoardGeometry board = fitBoard(boardArea_->rect());
-    backdrop_.fit(size(), scale_, board.frame.translated(origin));
+    backdrop_.fit(size(), scale_, board.frame.translated(origin),
+                  Garden::Contrast::shared().isHigh()
+                      ? Painting::Backdrop::strokeOpacityInHighContrast
+                      : Painting::Backdrop::strokeOpacityByDefault);
     boardArea_->placeBoard(board, origin, scale_);
 }
