@@ -97,9 +97,10 @@ QFont sans(double size, QFont::Weight weight, double tracking) {
 }
 
 QFont serif(double size, QFont::Weight weight) {
-    static const Face light = load("ElstobD-Light.otf");
-    static const Face regular = load("ElstobD-Regular.otf");
-    return make(weight <= QFont::Light ? light : regular, QFont::Serif, size, weight);
+    static const Face extraLight = load("ElstobD-ExtraLight.otf");
+    // The cut for large sizes. The regular cut has no kerning before the full stop.
+    static const Face regular = load("ElstobD-18pt.otf");
+    return make(weight <= QFont::ExtraLight ? extraLight : regular, QFont::Serif, size, weight);
 }
 
 QFont mono(double size, QFont::Weight weight) {

@@ -11,7 +11,7 @@ namespace Garden {
 /// letter spacing in points.
 [[nodiscard]] QFont sans(double size, QFont::Weight weight, double tracking = 0);
 
-/// Elstob, in Light or Normal.
+/// Elstob, in ExtraLight or Normal.
 [[nodiscard]] QFont serif(double size, QFont::Weight weight);
 
 /// JetBrains Mono, in Light or Normal.

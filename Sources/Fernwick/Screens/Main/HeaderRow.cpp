@@ -35,7 +35,7 @@ HeaderRow::HeaderRow(Session& session, QWidget* parent)
       best_(new Garden::RollingDigits(Qt::AlignRight, this)),
       //: The line under the wordmark: of the garden, and of whoever plays in it.
       tagline_(new Garden::TrackedLabel(tr("A little room to grow."),
-                                        Garden::serif(taglineSize, QFont::Light),
+                                        Garden::serif(taglineSize, QFont::ExtraLight),
                                         Garden::withOpacity(Qt::white, taglineOpacity))),
       row_(Garden::layOut<QHBoxLayout>(this, 0)) {
     row_->addLayout(titleBlock());

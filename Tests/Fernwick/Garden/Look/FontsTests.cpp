@@ -31,8 +31,8 @@ TEST(Fonts, haveTheRequestedFamilyAndWeight) {
     EXPECT_EQ(faceOf(Garden::sans(13, QFont::Normal)), "Inter/Regular/400");
     EXPECT_EQ(faceOf(Garden::sans(13, QFont::Medium)), "Inter/Medium/500");
     EXPECT_EQ(faceOf(Garden::sans(13, QFont::DemiBold)), "Inter/Semi Bold/600");
-    EXPECT_EQ(faceOf(Garden::serif(27, QFont::Light)), "ElstobD/Light/300");
-    EXPECT_EQ(faceOf(Garden::serif(35, QFont::Normal)), "ElstobD/Regular/400");
+    EXPECT_EQ(faceOf(Garden::serif(27, QFont::ExtraLight)), "ElstobD/ExtraLight/200");
+    EXPECT_EQ(faceOf(Garden::serif(35, QFont::Normal)), "ElstobD/18pt/400");
     EXPECT_EQ(faceOf(Garden::mono(33, QFont::Light)), "JetBrains Mono/Light/300");
     EXPECT_EQ(faceOf(Garden::mono(11, QFont::Normal)), "JetBrains Mono/Regular/400");
 }
@@ -41,14 +41,22 @@ TEST(Fonts, comeFromTheEmbeddedFiles) {
     expectEmbedded("Inter-Regular.otf", Garden::sans(12, QFont::Normal));
     expectEmbedded("Inter-Medium.otf", Garden::sans(12, QFont::Medium));
     expectEmbedded("Inter-SemiBold.otf", Garden::sans(12, QFont::DemiBold));
-    expectEmbedded("ElstobD-Light.otf", Garden::serif(27, QFont::Light));
-    expectEmbedded("ElstobD-Regular.otf", Garden::serif(27, QFont::Normal));
+    expectEmbedded("ElstobD-ExtraLight.otf", Garden::serif(27, QFont::ExtraLight));
+    expectEmbedded("ElstobD-18pt.otf", Garden::serif(27, QFont::Normal));
     expectEmbedded("JetBrainsMono-Light.ttf", Garden::mono(33, QFont::Light));
     expectEmbedded("JetBrainsMono-Regular.ttf", Garden::mono(33, QFont::Normal));
 }
 
+TEST(Fonts, kernTheFullStopOfHeadlines) {
+    const QFontMetricsF metrics(Garden::serif(34, QFont::Normal));
+
+    // The arm of the "r" hangs over the full stop.
+    EXPECT_LT(metrics.horizontalAdvance(QStringLiteral("r.")),
+              metrics.horizontalAdvance(u'r') + metrics.horizontalAdvance(u'.') - 2);
+}
+
 TEST(Fonts, haveTheSizeInPixelsAndNoHinting) {
-    for (const QFont& font : {Garden::sans(9, QFont::Medium), Garden::serif(9, QFont::Light),
+    for (const QFont& font : {Garden::sans(9, QFont::Medium), Garden::serif(9, QFont::ExtraLight),
                               Garden::mono(9, QFont::Normal)}) {
         EXPECT_EQ(font.pixelSize(), 9);
         EXPECT_EQ(font.hintingPreference(), QFont::PreferNoHinting);

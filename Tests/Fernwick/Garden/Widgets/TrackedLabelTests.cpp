@@ -89,7 +89,7 @@ TEST(TrackedLabel, elidesTextThatDoesNotFit) {
 
 TEST(TrackedLabel, doesNotClipDescenders) {
     const QString descenders = QStringLiteral("gjpqy");
-    for (const QFont& font : {Garden::serif(27, QFont::Light), Garden::serif(30, QFont::Normal),
+    for (const QFont& font : {Garden::serif(27, QFont::ExtraLight), Garden::serif(30, QFont::Normal),
                               Garden::serif(34, QFont::Normal), Garden::serif(35, QFont::Normal),
                               Garden::sans(14, QFont::Normal), Garden::mono(13, QFont::Normal)}) {
         Garden::TrackedLabel label(descenders, font, Qt::white);

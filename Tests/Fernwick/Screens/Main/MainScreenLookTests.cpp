@@ -77,7 +77,7 @@ TEST_P(MainScreenLook, setsTheTaglineInSerif) {
     EXPECT_EQ(line.x(), 38);
     EXPECT_GE(line.y(), bottomOf(labelRect("FERNWICK")));
     EXPECT_LE(bottomOf(line), bottomOf(rectOf<HeaderRow>()));
-    expectLabel("A little room to grow.", {Look::serif, 27, QFont::Light},
+    expectLabel("A little room to grow.", {Look::serif, 27, QFont::ExtraLight},
                 Garden::withOpacity(Qt::white, 0.9));
 }
 
