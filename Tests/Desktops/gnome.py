@@ -102,6 +102,13 @@ class GnomeShell:
                       f"({index}).activate(global.get_current_time())")
 
 
+def picture_from(desktop, *arguments):
+    """The result of ImageMagick's convert, as large as the screen."""
+    pixels = subprocess.run(["convert", *arguments, "-depth", "8", "bgra:-"], check=True,
+                            env=desktop.environment, stdout=subprocess.PIPE).stdout
+    return Picture(pixels, Screen.WIDTH * BYTES_PER_PIXEL)
+
+
 class GnomeX11(GnomeShell, X11Desktop):
     NAME = "gnome-x11"
     PROGRAMS = ("gnome-shell",)
@@ -111,6 +118,19 @@ class GnomeX11(GnomeShell, X11Desktop):
         self.prepare()
         super().start_shell()
         self.wait_for_shell()
+        self.screen = self
+
+    def picture(self):
+        """The pixels of the active window on black.
+
+        Not those of the screen: on Xvfb, which has no textures from pixmaps, mutter misses what a
+        window has drawn just after a change of its size."""
+        window = self.active_window()
+        left, top, _, _ = self.bounds_of(window)
+        path = self.folder / "window.png"
+        self.run("import", "-window", str(window), str(path))
+        return picture_from(self, "-size", f"{Screen.WIDTH}x{Screen.HEIGHT}", "xc:black", str(path),
+                            "-geometry", f"{left:+}{top:+}", "-composite")
 
 
 class GnomeWayland(GnomeShell, WaylandDesktop):
@@ -142,9 +162,7 @@ class GnomeWayland(GnomeShell, WaylandDesktop):
         """The pixels of the shell's screen."""
         path = self.folder / "screen.png"
         self.save_screenshot(path)
-        pixels = subprocess.run(["convert", str(path), "-depth", "8", "bgra:-"], check=True,
-                                env=self.environment, stdout=subprocess.PIPE).stdout
-        return Picture(pixels, Screen.WIDTH * BYTES_PER_PIXEL)
+        return picture_from(self, str(path))
 
     def save_screenshot(self, path):
         call(self.bus, (SCREENSHOT, "/org/gnome/Shell/Screenshot"), SCREENSHOT, "Screenshot",

@@ -27,7 +27,9 @@ class RemoteInput:
         self._call("Start")
         # Programs learn that there is a keyboard and a pointer when these are first used.
         self.press("shift")
-        self.point_at(0, 0)
+        # The corner at the bottom right: there is nothing in it.
+        self._move(FAR, FAR)
+        self._position = Screen.WIDTH - 1, Screen.HEIGHT - 1
 
     def press(self, *keys):
         for combination in keys:
@@ -38,9 +40,9 @@ class RemoteInput:
                 self._call("NotifyKeyboardKeycode", "(ub)", code, False)
 
     def point_at(self, x, y):
-        # Relative to the corner at the bottom right: there is nothing in it.
-        self._move(FAR, FAR)
-        self._move(x - (Screen.WIDTH - 1), y - (Screen.HEIGHT - 1))
+        left, top = self._position
+        self._move(x - left, y - top)
+        self._position = x, y
 
     def click(self):
         for is_down in True, False:

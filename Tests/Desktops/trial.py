@@ -12,7 +12,8 @@ from screen import Screen
 from waiting import eventually
 
 # Below all controls.
-POINTER_AWAY = Screen.WIDTH // 2, Screen.HEIGHT - 2
+# Not in the middle column, which is searched for the edges of the window.
+POINTER_AWAY = Screen.WIDTH * 3 // 4, Screen.HEIGHT - 2
 # Something that appears only for a moment is gone after this time.
 SETTLED_SECONDS = 0.5
 END_SECONDS = 3

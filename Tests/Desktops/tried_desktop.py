@@ -23,6 +23,7 @@ class TriedDesktop(Desktop):
     PROGRAMS = ()
     # A program that shows a small window.
     OTHER_WINDOW = ()
+    IS_WAYLAND = False
     # Whether a window alone on the screen always fills it.
     TILES = False
     # Steps that the desktop itself prevents, and why.

@@ -10,6 +10,7 @@ from waiting import eventually
 
 
 class WaylandDesktop(TriedDesktop):
+    IS_WAYLAND = True
     OTHER_WINDOW = ("weston-flower",)
     # The colour around the windows.
     BACKGROUND = 0, 0, 0

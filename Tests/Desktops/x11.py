@@ -21,7 +21,10 @@ class X11Desktop(TriedDesktop):
         """Writes its settings."""
 
     def bounds(self, game):
-        lines = subprocess.run(["xwininfo", "-id", str(game.window)], env=self.environment,
+        return self.bounds_of(game.window)
+
+    def bounds_of(self, window):
+        lines = subprocess.run(["xwininfo", "-id", str(window)], env=self.environment,
                                text=True, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL).stdout
         found = [re.search(rf"{name}: +(-?\d+)", lines) for name in
                  ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height")]
@@ -118,6 +121,9 @@ class I3(X11Desktop):
     def close_other_window(self):
         super().close_other_window()
         self.run("i3-msg", "workspace", "1")
+
+    def wants_attention(self, game):
+        return '"urgent":true' in self.run("i3-msg", "-t", "get_tree")
 
 
 class KwinX11(X11Desktop):
