@@ -26,8 +26,6 @@ constexpr int buttonSpacing = 8;
 
 TitleBand::TitleBand(QWidget* window) : QWidget(window), menuBar_(new QMenuBar(this)) {
     styleMenuBar(*menuBar_);
-    // The rest of the band moves the window.
-    menuBar_->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Maximum);
     menuBar_->installEventFilter(this);
     auto* row = new QHBoxLayout(this);
     row->setSpacing(buttonSpacing);
@@ -97,7 +95,6 @@ bool TitleBand::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::Leave:
             if (watched->isWindowType()) {
                 pointerInBand_ = false;
-                concealUnlessUsed();
             }
             break;
         case QEvent::KeyPress:

@@ -47,8 +47,9 @@ bool WindowChrome::isBand(const QPoint& position) const {
         return false;
     }
     const QWidget* child = window_.childAt(position);
+    const auto* bar = qobject_cast<const QMenuBar*>(child);
     return qobject_cast<const QAbstractButton*>(child) == nullptr &&
-           qobject_cast<const QMenuBar*>(child) == nullptr;
+           (bar == nullptr || bar->actionAt(bar->mapFrom(&window_, position)) == nullptr);
 }
 
 void WindowChrome::showCursorFor(const QPoint& position) {

@@ -135,6 +135,18 @@ TEST_P(MenuKeys, unassignedKeyCombinationsDoNotReachTheGame) {
     EXPECT_EQ(session.game().direction(), SnakeCore::Direction::right);
 }
 
+TEST_P(MenuKeys, escapeHidesTheBarInFullScreenIfThePointerHasLeftTheWindowFromTheBand) {
+    QTest::mouseMove(window.windowHandle(), QPoint(window.width() / 2, 20));
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(window.windowHandle(), &leave);
+
+    press(firstMenu);
+    closeMenus();
+    processEvents();
+
+    EXPECT_EQ(bar().isVisible(), !window.isFullScreen());
+}
+
 TEST_P(MenuKeys, f10OpensTheMenusAndEscapeClosesThem) {
     press(firstMenu);
     ASSERT_NE(openMenu(), nullptr);

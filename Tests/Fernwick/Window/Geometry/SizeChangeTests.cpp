@@ -1,3 +1,5 @@
+#include <gtest/gtest.h>
+
 #include <QGuiApplication>
 #include <QMenuBar>
 #include <algorithm>
