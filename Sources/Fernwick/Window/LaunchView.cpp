@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPointer>
+#include <QScreen>
 #include <QShowEvent>
 #include <QTimer>
 #include <QWindow>
@@ -97,7 +98,9 @@ void enterFullScreen(QWidget& window) {
     assertMainThread();
     if (!window.isFullScreen()) {
         qCDebug(windowLog) << "requesting full screen";
-        new PaintAfterResize(window);
+        if (window.size() != window.screen()->size()) {
+            new PaintAfterResize(window);
+        }
         window.setWindowState(window.windowState() | Qt::WindowFullScreen);
     }
 }

@@ -108,14 +108,36 @@ TEST(LaunchView, delaysPaintingUntilTheWindowIsFullScreen) {
     EXPECT_EQ(window.sizes.front(), window.screen()->size());
 }
 
-TEST(LaunchView, paintsEvenIfTheWindowIsNotResized) {
-    PaintedWindow window;
-    window.setFixedSize(window.screen()->size());
+TEST(LaunchView, doesNotDelayPaintingIfTheWindowIsAsLargeAsTheScreen) {
+    QWidget window;
+    window.resize(window.screen()->size());
     new LaunchView(&window);
 
     window.show();
+    QCoreApplication::processEvents();
+
+    EXPECT_TRUE(window.isFullScreen());
+    EXPECT_TRUE(window.updatesEnabled());
+}
+
+TEST(LaunchView, paintsEvenIfTheWindowIsNotResized) {
+    // Gets no resize event: it is hidden from the event filter that was installed last.
+    struct IgnoreResize : QObject {
+        bool eventFilter(QObject*, QEvent* event) override {
+            return event->type() == QEvent::Resize;
+        }
+    } ignoreResize;
+    PaintedWindow window;
+    window.resize(300, 200);
+    new LaunchView(&window);
+    const LogCapture log("fernwick.window");
+
+    window.show();
+    QCoreApplication::sendPostedEvents();
+    window.installEventFilter(&ignoreResize);
 
     EXPECT_TRUE(QTest::qWaitFor([&window] { return !window.sizes.empty(); }));
+    EXPECT_TRUE(log.contains("no full-screen size"));
 }
 
 TEST(ToggleFullScreen, doesNothingWithoutAWindow) {
