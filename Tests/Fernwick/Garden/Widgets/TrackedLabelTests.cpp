@@ -89,9 +89,10 @@ TEST(TrackedLabel, elidesTextThatDoesNotFit) {
 
 TEST(TrackedLabel, doesNotClipDescenders) {
     const QString descenders = QStringLiteral("gjpqy");
-    for (const QFont& font : {Garden::serif(27, QFont::ExtraLight), Garden::serif(30, QFont::Normal),
-                              Garden::serif(34, QFont::Normal), Garden::serif(35, QFont::Normal),
-                              Garden::sans(14, QFont::Normal), Garden::mono(13, QFont::Normal)}) {
+    for (const QFont& font :
+         {Garden::serif(27, QFont::ExtraLight), Garden::serif(30, QFont::Normal),
+          Garden::serif(34, QFont::Normal), Garden::serif(35, QFont::Normal),
+          Garden::sans(14, QFont::Normal), Garden::mono(13, QFont::Normal)}) {
         Garden::TrackedLabel label(descenders, font, Qt::white);
         QImage unclipped(400, 400, QImage::Format_ARGB32_Premultiplied);
         unclipped.setDevicePixelRatio(2);
