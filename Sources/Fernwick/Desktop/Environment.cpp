@@ -1,6 +1,7 @@
 #include "Desktop/Environment.hpp"
 
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QRegularExpression>
 #include <QSysInfo>
 #include <algorithm>
@@ -89,6 +90,17 @@ void prepareEnvironment() {
         qputenv("PULSE_LOG_SYSLOG", "1");
     }
     reserveActivationToken();
+}
+
+bool usesWayland() {
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    return platform.isEmpty() ? qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
+                                    qgetenv("XDG_SESSION_TYPE") == "wayland"
+                              : platform.startsWith("wayland");
+}
+
+bool isOnWayland() {
+    return QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
 }
 
 bool sessionBusExists() {

@@ -10,6 +10,7 @@
 #include <optional>
 #include <thread>
 
+#include "Desktop/Environment.hpp"
 #include "Desktop/WaylandToken.hpp"
 #include "Posix/LocalSocket.hpp"
 

@@ -4,7 +4,6 @@
 #include <wayland-client.h>
 #include <xdg-activation-v1-client.h>
 
-#include <QtGlobal>
 #include <chrono>
 #include <cstdint>
 #include <cstring>
@@ -63,13 +62,6 @@ bool dispatch(wl_display* display, Clock::time_point deadline) {
 }
 
 }  // namespace
-
-bool usesWayland() {
-    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
-    return platform.isEmpty() ? qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
-                                    qgetenv("XDG_SESSION_TYPE") == "wayland"
-                              : platform.startsWith("wayland");
-}
 
 QByteArray requestWaylandToken() {
     const Clock::time_point deadline = Clock::now() + timeout;

@@ -4,10 +4,6 @@
 
 namespace Desktop {
 
-/// Whether Qt connects to a Wayland compositor rather than to an X server, as far as the
-/// environment tells.
-[[nodiscard]] bool usesWayland();
-
 /// Asks the Wayland compositor for an activation token (xdg-activation). It is not a permission to
 /// come to the front, because no input of the user belongs to it: the compositor marks the window
 /// that uses it instead. Empty if the compositor has no tokens or does not answer within a second.

@@ -1,6 +1,6 @@
 #include "Window/LaunchView.hpp"
 
-#include <QGuiApplication>
+#include <QCoreApplication>
 #include <QPainter>
 #include <QPointer>
 #include <QScreen>
@@ -10,6 +10,7 @@
 #include <chrono>
 #include <functional>
 
+#include "Desktop/Environment.hpp"
 #include "Garden/Look/Palette.hpp"
 #include "Session/MainThread.hpp"
 #include "Window/Log.hpp"
@@ -118,7 +119,7 @@ void LaunchView::showEvent(QShowEvent* event) {
         return;
     }
     configured_ = true;
-    if (QGuiApplication::platformName() == QStringLiteral("wayland")) {
+    if (Desktop::isOnWayland()) {
         new FirstFrame(*window(), [this] { enterFullScreen(*window()); });
         return;
     }

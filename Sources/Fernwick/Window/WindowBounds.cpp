@@ -5,6 +5,8 @@
 #include <QWindow>
 #include <algorithm>
 
+#include "Desktop/Environment.hpp"
+
 namespace {
 
 // In points.
@@ -15,14 +17,10 @@ constexpr QSize minimumTile(640, 360);
 /// Room for panels on Wayland, where clients cannot know the work area.
 constexpr int panelHeight = 64;
 
-bool isOnWayland() {
-    return QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
-}
-
 /// Bounded by the available area of `screen`.
 QSize defaultSizeOn(const QScreen& screen) {
     const QSize room = screen.availableSize();
-    return defaultSize.boundedTo(isOnWayland() ? room - QSize(0, panelHeight) : room);
+    return defaultSize.boundedTo(Desktop::isOnWayland() ? room - QSize(0, panelHeight) : room);
 }
 
 bool coversScreen(const QWidget& window) {
@@ -59,12 +57,12 @@ void WindowBounds::followScreen() {
 void WindowBounds::setMinimum() {
     // Qt's Wayland plugin never makes a window smaller than its minimum size. A tile of a tiling
     // compositor would be cut off, and a smaller output in full screen would be a protocol error.
-    const QSize minimum = isOnWayland() ? minimumTile : minimumSize;
+    const QSize minimum = Desktop::isOnWayland() ? minimumTile : minimumSize;
     window_.setMinimumSize(minimum.boundedTo(window_.screen()->availableSize()));
 }
 
 void WindowBounds::beginResize() {
-    if (isOnWayland()) {
+    if (Desktop::isOnWayland()) {
         window_.setMinimumSize(minimumSize.boundedTo(window_.size()));
     }
 }

@@ -208,3 +208,26 @@ TEST_F(EnvironmentTest, keepsEverythingElse) {
 
     EXPECT_EQ(prepared("FERNWICK_TEST_VARIABLE"), "kept");
 }
+
+TEST(UsesWayland, dependsOnTheVariablesThatQtChoosesByACompositor) {
+    struct Case {
+        const char* platform;
+        const char* display;
+        const char* session;
+        bool expected;
+    };
+    for (const auto& [platform, display, session, expected] : {
+             Case{nullptr, nullptr, nullptr, false},
+             Case{nullptr, "wayland-0", nullptr, true},
+             Case{nullptr, nullptr, "wayland", true},
+             Case{nullptr, nullptr, "x11", false},
+             Case{"xcb", "wayland-0", "wayland", false},
+             Case{"wayland-egl", nullptr, nullptr, true},
+         }) {
+        const EnvironmentVariable first("QT_QPA_PLATFORM", platform);
+        const EnvironmentVariable second("WAYLAND_DISPLAY", display);
+        const EnvironmentVariable third("XDG_SESSION_TYPE", session);
+
+        EXPECT_EQ(Desktop::usesWayland(), expected);
+    }
+}
