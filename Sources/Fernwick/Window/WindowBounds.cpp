@@ -4,6 +4,7 @@
 #include <QScreen>
 #include <QWindow>
 #include <algorithm>
+#include <utility>
 
 #include "Desktop/Environment.hpp"
 
@@ -38,14 +39,14 @@ WindowBounds::WindowBounds(QWidget& window) : QObject(&window), window_(window) 
     window.windowHandle()->installEventFilter(this);
     connect(window.windowHandle(), &QWindow::screenChanged, this, &WindowBounds::followScreen);
     // Queued, so that Qt has already moved the window to a remaining screen.
-    connect(qGuiApp, &QGuiApplication::screenRemoved, this, &WindowBounds::fit,
+    connect(qGuiApp, &QGuiApplication::screenRemoved, this, &WindowBounds::fitToChangedScreen,
             Qt::QueuedConnection);
     followScreen();
 }
 
 void WindowBounds::followScreen() {
     const QScreen& screen = *window_.screen();
-    connect(&screen, &QScreen::availableGeometryChanged, this, &WindowBounds::fit,
+    connect(&screen, &QScreen::availableGeometryChanged, this, &WindowBounds::fitToChangedScreen,
             Qt::UniqueConnection);
     setMinimum();
     // Only the size: the player may be dragging the window from another screen.
@@ -67,13 +68,28 @@ void WindowBounds::beginResize() {
     }
 }
 
+void WindowBounds::fitToChangedScreen() {
+    setMinimum();
+    fit();
+}
+
+// Qt also reports a state that has not changed.
+void WindowBounds::followState() {
+    const bool covered = std::exchange(covers_, coversScreen(window_));
+    if (covers_) {
+        fitsAtNextResize_ = false;
+    } else if (covered) {
+        // The new geometry has not arrived yet.
+        fitsAtNextResize_ = true;
+    }
+}
+
 void WindowBounds::fit() {
     fitsAtNextResize_ = false;
-    const QRect room = window_.screen()->availableGeometry();
-    setMinimum();
     if (coversScreen(window_)) {
         return;
     }
+    const QRect room = window_.screen()->availableGeometry();
     QRect place(window_.pos(), window_.size().boundedTo(room.size()));
     place.moveLeft(std::clamp(place.left(), room.left(), room.right() + 1 - place.width()));
     place.moveTop(std::clamp(place.top(), room.top(), room.bottom() + 1 - place.height()));
@@ -83,8 +99,7 @@ void WindowBounds::fit() {
 bool WindowBounds::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
         case QEvent::WindowStateChange:
-            // The new geometry has not arrived yet.
-            fitsAtNextResize_ = !coversScreen(window_);
+            followState();
             break;
         case QEvent::Resize:
             if (fitsAtNextResize_) {
@@ -92,8 +107,11 @@ bool WindowBounds::eventFilter(QObject* watched, QEvent* event) {
             }
             break;
         case QEvent::Enter:
-            // The compositor has had the pointer during the resize.
-            setMinimum();
+            // The compositor has had the pointer during the resize. The widget also gets enter
+            // events when its children are moved.
+            if (watched->isWindowType()) {
+                setMinimum();
+            }
             break;
         default:
             break;

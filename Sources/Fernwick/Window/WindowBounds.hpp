@@ -21,10 +21,14 @@ public:
 
 private:
     void followScreen();
+    void followState();
+    void fitToChangedScreen();
     void setMinimum();
     /// Moves and shrinks the window into the available area, unless it covers the screen.
     void fit();
 
     QWidget& window_;
+    // Whether the window was maximised or in full screen at the last change of its state.
+    bool covers_ = false;
     bool fitsAtNextResize_ = false;
 };
