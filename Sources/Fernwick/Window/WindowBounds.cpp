@@ -2,8 +2,11 @@
 
 #include <QGuiApplication>
 #include <QScreen>
+#include <QTimer>
 #include <QWindow>
 #include <algorithm>
+#include <array>
+#include <chrono>
 #include <utility>
 
 #include "Desktop/Environment.hpp"
@@ -17,6 +20,9 @@ constexpr QSize minimumSize(820, 760);
 constexpr QSize minimumTile(640, 360);
 /// Room for panels on Wayland, where clients cannot know the work area.
 constexpr int panelHeight = 64;
+
+/// Two, because the compositor may be slow.
+constexpr std::array repaintDelays{std::chrono::milliseconds(200), std::chrono::milliseconds(1000)};
 
 /// Bounded by the available area of `screen`.
 QSize defaultSizeOn(const QScreen& screen) {
@@ -37,7 +43,10 @@ WindowBounds::WindowBounds(QWidget& window) : QObject(&window), window_(window) 
     window.move(window.screen()->availableGeometry().center() - window.rect().center());
     window.installEventFilter(this);
     window.windowHandle()->installEventFilter(this);
-    connect(window.windowHandle(), &QWindow::screenChanged, this, &WindowBounds::followScreen);
+    connect(window.windowHandle(), &QWindow::screenChanged, this, [this] {
+        followScreen();
+        repaintLater();
+    });
     // Queued, so that Qt has already moved the window to a remaining screen.
     connect(qGuiApp, &QGuiApplication::screenRemoved, this, &WindowBounds::fitToChangedScreen,
             Qt::QueuedConnection);
@@ -71,6 +80,17 @@ void WindowBounds::beginResize() {
 void WindowBounds::fitToChangedScreen() {
     setMinimum();
     fit();
+    repaintLater();
+}
+
+// Qt's Wayland plugin replaces the window's buffer some time after the screen or its scale has
+// changed, and Qt does not paint all of the new one: parts of the window stay black.
+void WindowBounds::repaintLater() {
+    if (Desktop::isOnWayland()) {
+        for (const std::chrono::milliseconds delay : repaintDelays) {
+            QTimer::singleShot(delay, &window_, qOverload<>(&QWidget::update));
+        }
+    }
 }
 
 // Qt also reports a state that has not changed.

@@ -23,6 +23,7 @@ private:
     void followScreen();
     void followState();
     void fitToChangedScreen();
+    void repaintLater();
     void setMinimum();
     /// Moves and shrinks the window into the available area, unless it covers the screen.
     void fit();
