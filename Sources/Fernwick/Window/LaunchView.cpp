@@ -9,6 +9,7 @@
 #include <QWindow>
 #include <chrono>
 #include <functional>
+#include <utility>
 
 #include "Desktop/Environment.hpp"
 #include "Garden/Look/Palette.hpp"
@@ -70,9 +71,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override {
         // Qt's Wayland plugin sends it with the compositor's next frame.
         if (event->type() == QEvent::UpdateRequest && painted_) {
-            watched->removeEventFilter(this);
-            deleteLater();
-            shown_();
+            finish();
         }
         return QWidget::eventFilter(watched, event);
     }
@@ -88,9 +87,21 @@ protected:
                 window()->windowHandle()->requestUpdate();
             },
             Qt::QueuedConnection);
+        // Qt drops the request if the compositor takes longer than 0.1 s for the frame.
+        QTimer::singleShot(timeout, this, &FirstFrame::finish);
     }
 
 private:
+    static constexpr std::chrono::milliseconds timeout{400};
+
+    void finish() {
+        if (shown_) {
+            window()->windowHandle()->removeEventFilter(this);
+            deleteLater();
+            std::exchange(shown_, nullptr)();
+        }
+    }
+
     std::function<void()> shown_;
     bool painted_ = false;
 };
