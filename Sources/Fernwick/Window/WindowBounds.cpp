@@ -88,7 +88,12 @@ void WindowBounds::fitToChangedScreen() {
 void WindowBounds::repaintLater() {
     if (Desktop::isOnWayland()) {
         for (const std::chrono::milliseconds delay : repaintDelays) {
-            QTimer::singleShot(delay, &window_, qOverload<>(&QWidget::update));
+            QTimer::singleShot(delay, &window_, [this] {
+                // Updating the window alone would not paint the children that cover it.
+                for (QWidget* widget : window_.findChildren<QWidget*>()) {
+                    widget->update();
+                }
+            });
         }
     }
 }
