@@ -15,7 +15,7 @@ sys.path.insert(0, str(pathlib.Path(__file__).parents[1] / "Desktop"))
 
 from accessible_desktop import accessible_desktop
 from gnome import GnomeWayland, GnomeX11
-from screens import KNOWN_TO_FAIL, SCREENS
+from screens import SCREENS
 from starts import scaled_starts
 from steps import SCRIPT
 from sway import Sway
@@ -48,8 +48,8 @@ def arguments():
 def try_named(options, name):
     steps = SCRIPT | scaled_starts(options.starts) | (SCREENS if name == Sway.NAME else {})
     steps = {step: steps[step] for step in steps if step not in DESKTOPS[name].IMPOSSIBLE}
-    wanted = options.steps or [step for step in steps if step not in KNOWN_TO_FAIL]
-    steps = {step: steps[step] for step in wanted if step in steps}
+    if options.steps:
+        steps = {step: steps[step] for step in options.steps if step in steps}
     print(f"{name} …", flush=True)
     return try_desktop(DESKTOPS[name], steps, options.results)
 
@@ -106,9 +106,6 @@ def print_table(outcomes):
         for step, outcome in tried.items():
             if outcome != PASSED:
                 print(f"failed: {name}: {step}: {outcome}")
-    if Sway.NAME in outcomes:
-        for step, defect in KNOWN_TO_FAIL.items():
-            print(f"known to fail: {Sway.NAME}: {step}: {defect}")
     for name in outcomes:
         for step, reason in DESKTOPS[name].IMPOSSIBLE.items():
             print(f"not possible: {name}: {step}: {reason}")

@@ -154,6 +154,3 @@ def wait_until_drawn(trial):
 
 
 SCREENS = {name: change_screen(*change) for name, change in CHANGES.items()}
-
-# Steps that fail because of a known defect, with what it is. They are run only by name.
-KNOWN_TO_FAIL = {"screen unplugged": "parts of the window sometimes stay black; one run in six"}
