@@ -6,6 +6,7 @@
 #include <chrono>
 #include <optional>
 #include <ostream>
+#include <random>
 #include <utility>
 #include <vector>
 
@@ -104,12 +105,15 @@ private:
         if (next_) {
             game = *std::exchange(next_, std::nullopt);
         } else {
-            game.step();
+            game.step(random_);
         }
     }
 
     TemporaryFolder folder_;
     std::optional<SnakeCore::Game> next_;
+    // Places the fruit alike in every run: tests that compare colours of pixels would fail whenever
+    // the fruit came to lie below one of them.
+    std::mt19937 random_;
 
 protected:
     Storage::PreferencesFile preferences{settingsPath()};
