@@ -91,6 +91,24 @@ inline void expectType(const QWidget& widget, const Type& type) {
     return nearest;
 }
 
+/// The bounding rectangle of the pixels inside `area` that look like `colour`, in points: including
+/// those of an antialiased edge that are at least half covered.
+[[nodiscard]] inline QRectF inkOf(const QColor& colour, const QImage& picture, const QRectF& area) {
+    constexpr int halfCovered = 110;
+    const double scale = picture.devicePixelRatio();
+    const QRect pixels =
+        QRectF(area.topLeft() * scale, area.size() * scale).toRect() & picture.rect();
+    QRect ink;
+    for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
+        for (int x = pixels.left(); x <= pixels.right(); ++x) {
+            if (distance(picture.pixelColor(x, y), colour) < halfCovered) {
+                ink |= QRect(x, y, 1, 1);
+            }
+        }
+    }
+    return {QPointF(ink.topLeft()) / scale, QSizeF(ink.size()) / scale};
+}
+
 /// The x coordinate just past the right edge, `QRect::right()` + 1.
 [[nodiscard]] inline int rightOf(const QRect& rect) {
     return rect.x() + rect.width();

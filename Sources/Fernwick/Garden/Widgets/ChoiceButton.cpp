@@ -17,6 +17,7 @@ constexpr double fontSize = 12;
 constexpr QSize fullPadding(17, 9);
 constexpr double currentOpacity = 0.16;
 constexpr double hoverOpacity = 0.05;
+constexpr double disabledOpacity = 0.55;
 
 }  // namespace
 
@@ -40,6 +41,7 @@ void ChoiceButton::nextCheckState() {}
 void ChoiceButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.setOpacity(isEnabled() ? 1 : disabledOpacity);
     const QRectF shape = rect();
     if (isChecked()) {
         painter.fillPath(continuousCapsule(shape), withOpacity(mint, currentOpacity));

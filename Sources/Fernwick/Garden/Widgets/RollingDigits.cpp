@@ -18,6 +18,9 @@ namespace {
 constexpr double fontSize = 33;
 constexpr QFont::Weight fontWeight = QFont::Light;
 constexpr int minimumDigits = 3;
+// The least space that the font leaves beside a digit, in font sizes. Cut off, so that the digits
+// line up with the label above them.
+constexpr double sideBearing = 0.058;
 // How far digits roll, in font sizes. They fade in and out meanwhile.
 constexpr double rollDistance = 30 / fontSize;
 
@@ -81,16 +84,17 @@ void RollingDigits::announce() {
 QSize RollingDigits::sizeHint() const {
     const QFontMetricsF metrics(font());
     const auto count = std::max<qsizetype>(shown_.size(), minimumDigits);
-    return {
-        static_cast<int>(std::ceil(metrics.horizontalAdvance(u'0') * static_cast<double>(count))),
-        static_cast<int>(std::ceil(metrics.height()))};
+    const double width = metrics.horizontalAdvance(u'0') * static_cast<double>(count) -
+                         2 * sideBearing * font().pixelSize();
+    return {static_cast<int>(std::ceil(width)), static_cast<int>(std::ceil(metrics.height()))};
 }
 
 double RollingDigits::left(int fromRight) const {
     const double cell = QFontMetricsF(font()).horizontalAdvance(u'0');
+    const double bearing = sideBearing * font().pixelSize();
     const double needed = cell * static_cast<double>(shown_.size());
     const bool staysAtRight = alignment_.testFlag(Qt::AlignRight) != isRightToLeft();
-    const double right = staysAtRight ? width() : needed;
+    const double right = staysAtRight ? width() + bearing : needed - bearing;
     return right - cell * (fromRight + 1);
 }
 

@@ -6,12 +6,16 @@ namespace Garden {
 
 namespace {
 
-constexpr int diameter = 5;
+constexpr double diameter = 5;
+// Room for the antialiased edge: at a fractional scale the widget starts and ends within a pixel.
+constexpr int margin = 1;
+constexpr int side = 7;
+static_assert(side == diameter + 2 * margin);
 
 }  // namespace
 
 StatusDot::StatusDot(QWidget* parent) : QWidget(parent) {
-    setFixedSize(diameter, diameter);
+    setFixedSize(side, side);
 }
 
 void StatusDot::setColour(const QColor& colour) {
@@ -26,7 +30,7 @@ void StatusDot::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(colour_);
-    painter.drawEllipse(rect());
+    painter.drawEllipse(QRectF(rect()).center(), diameter / 2, diameter / 2);
 }
 
 }  // namespace Garden

@@ -12,7 +12,8 @@ namespace {
 
 constexpr double statusSize = 9;
 constexpr double statusTracking = 2;
-constexpr int statusSpacing = 8;
+// From the margin around the dot; from the dot itself it is eight points.
+constexpr int statusSpacing = 7;
 constexpr int columnSpacing = 12;
 // Of the speeds in a column, so that the longest names fit.
 constexpr double columnAir = 0.6;

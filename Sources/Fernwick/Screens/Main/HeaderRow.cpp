@@ -18,10 +18,14 @@ constexpr double taglineOpacity = 0.9;
 constexpr int titleBlockSpacing = 7;
 constexpr double labelSize = 9;
 constexpr double labelTracking = 2;
-constexpr int tileSpacing = 7;
+// The digits are drawn at the middle of a line with room for them to roll: from the label to the
+// digits it is 14 points.
+constexpr int tileSpacing = 2;
 constexpr QSize ruleSize(1, 36);
 constexpr double ruleOpacity = 0.25;
 constexpr int rulePadding = 12;
+// From the top of the labels, so that the middle of the rule is that of the labels and digits.
+constexpr int spaceAboveRule = 6;
 constexpr int columnSpacing = 18;
 // In a column, so that it stays on one line in all languages.
 constexpr double columnTaglineScale = 0.68;
@@ -60,12 +64,16 @@ QBoxLayout* HeaderRow::scoreTiles() {
     rule->setFixedSize(ruleSize);
     rule->setPalette(Garden::withOpacity(Garden::muted, ruleOpacity));
     rule->setAutoFillBackground(true);
+    auto* ruleColumn = new QVBoxLayout;
+    ruleColumn->addSpacing(spaceAboveRule);
+    ruleColumn->addWidget(rule);
+    ruleColumn->addStretch();
     auto* tiles = new QHBoxLayout;
     tiles->setSpacing(0);
     //: A tiny label above a number; so is the next. In capitals where the script has them.
     tiles->addLayout(scoreTile(tr("SCORE"), score_, Qt::AlignLeft));
     tiles->addSpacing(rulePadding);
-    tiles->addWidget(rule, 0, Qt::AlignVCenter);
+    tiles->addLayout(ruleColumn);
     tiles->addSpacing(rulePadding);
     tiles->addLayout(scoreTile(tr("PERSONAL BEST"), best_, Qt::AlignRight));
     return tiles;

@@ -14,6 +14,8 @@ constexpr double arrowsSize = 13;
 constexpr double hintSize = 11;
 // As wide as the three spaces around the dots.
 constexpr int hintSpacing = 20;
+// The arrows and the letters are one hint.
+constexpr int arrowsSpacing = 9;
 constexpr int buttonSpacing = 8;
 constexpr int lineSpacing = 4;
 constexpr int columnSpacing = 12;
@@ -85,7 +87,7 @@ void HintRow::arrange(Form form, const Garden::Density& density) {
         layout->setDirection(down ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
         layout->setSpacing(Garden::scaled(spacing, density.air * density.scale));
     };
-    direct(moves_, asColumn, asColumn ? lineSpacing : hintSpacing);
+    direct(moves_, asColumn, asColumn ? lineSpacing : arrowsSpacing);
     direct(lines_, form != Form::oneLine, form == Form::oneLine ? hintSpacing : lineSpacing);
     direct(row_, asColumn, asColumn ? columnSpacing : hintSpacing);
     //: Three spaces on each side of a dot, as here. R stays a Latin letter.

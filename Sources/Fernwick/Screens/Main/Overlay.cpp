@@ -15,6 +15,10 @@ namespace {
 
 constexpr int padding = 25;
 constexpr int spacing = 12;
+// The glyphs of a title fill less of the height of its line than those of the other lines do: from
+// the symbol to its capitals it is 26 points, from its baseline to the line below 19.
+constexpr int spaceAboveTitle = 22;
+constexpr int spaceBelowTitle = 7;
 constexpr double symbolSize = 30;
 constexpr double titleSize = 35;
 constexpr double lineSize = 13;
@@ -23,7 +27,7 @@ constexpr int spaceAboveButton = 13;
 constexpr double hintSize = 8;
 constexpr double hintTracking = 2.5;
 constexpr int spaceAboveHint = 2;
-constexpr Garden::ContentHeight tallest{290, 113, 245};
+constexpr Garden::ContentHeight tallest{295, 118, 248};
 // With the line below the title on two lines.
 constexpr double leastWidth = 416;
 
@@ -38,14 +42,16 @@ Overlay::Overlay(Session& session, QWidget* parent)
       line_(new Garden::TrackedLabel({}, Garden::sans(lineSize, QFont::Normal),
                                      Garden::withOpacity(Qt::white, lineOpacity))),
       button_(new Garden::GardenButton({}, this, Garden::GardenButton::Style::arrow)) {
-    auto* column = Garden::layOut<QVBoxLayout>(this, spacing, padding);
+    auto* column = Garden::layOut<QVBoxLayout>(this, 0, padding);
     column->addStretch();
     column->addWidget(symbol_, 0, Qt::AlignHCenter);
+    column->addSpacing(spaceAboveTitle);
     column->addWidget(title_, 0, Qt::AlignHCenter);
+    column->addSpacing(spaceBelowTitle);
     column->addWidget(line_, 0, Qt::AlignHCenter);
-    column->addSpacing(spaceAboveButton);
+    column->addSpacing(spacing + spaceAboveButton);
     column->addWidget(button_, 0, Qt::AlignHCenter);
-    column->addSpacing(spaceAboveHint);
+    column->addSpacing(spacing + spaceAboveHint);
     column->addWidget(
         new Garden::TrackedLabel(
             //: The space bar.

@@ -8,6 +8,7 @@
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/Palette.hpp"
 #include "Garden/Widgets/ChoiceGroup.hpp"
+#include "Support/Look.hpp"
 #include "Support/Picture.hpp"
 
 namespace {
@@ -154,12 +155,20 @@ TEST_F(ChoiceGroup, ignoresClicksAndReturnWhileItsChoicesAreDisabled) {
     EXPECT_EQ(chosen.count(), 1);
 }
 
-TEST_F(ChoiceGroup, looksTheSameWhileDisabled) {
-    const QImage enabled = picture(group, 2);
+TEST_F(ChoiceGroup, dimsEachChoiceTo55PercentWhileDisabled) {
+    group.setCurrent(1);
+    const int letters = countOf(picture(group, 4), Garden::mint);
 
     group.setChoicesEnabled(false);
 
-    EXPECT_EQ(picture(group, 2), enabled);
+    const QImage disabled = picture(group, 4);
+    EXPECT_GT(letters, 100);
+    EXPECT_EQ(countOf(disabled, Garden::mint), 0);
+    const QColor plate = Look::over(Garden::withOpacity(Garden::mint, 0.16 * 0.55),
+                                    Look::over(Garden::withOpacity(Qt::white, 0.035), Qt::black));
+    const QRect current = choice(1)->geometry();
+    Look::expectColour(
+        Look::colourAt(disabled, current.center() - QPoint(current.width() / 2 - 8, 0)), plate, 1);
 }
 
 TEST_F(ChoiceGroup, hasEveryChoiceInTheTabOrder) {

@@ -43,9 +43,32 @@ TEST(RollingDigits, showsAtLeastThreeDigits) {
         return digits.sizeHint().width();
     };
 
-    EXPECT_EQ(width(0), qCeil(3 * cell));
-    EXPECT_EQ(width(999), qCeil(3 * cell));
-    EXPECT_EQ(width(1234), qCeil(4 * cell));
+    EXPECT_EQ(width(999), width(0));
+    EXPECT_NEAR(width(1234) - width(0), cell, 1);
+}
+
+TEST(RollingDigits, haveNoSpaceBesideThem) {
+    for (const Qt::Alignment side : {Qt::AlignLeft, Qt::AlignRight}) {
+        constexpr int scale = 4;
+        Garden::RollingDigits digits(side);
+        digits.setValue(0);
+        const QImage image = picture(digits, scale);
+
+        EXPECT_LE(inkOf(image).left(), 1.5 * scale);
+        EXPECT_GE(inkOf(image).right(), image.width() - 1 - 1.5 * scale);
+    }
+}
+
+TEST(RollingDigits, cutNothingOffAnyDigit) {
+    for (int digit = 0; digit <= 9; ++digit) {
+        constexpr int scale = 4;
+        Garden::RollingDigits digits(Qt::AlignLeft);
+        digits.setValue(111 * digit);
+        const QImage image = picture(digits, scale);
+
+        EXPECT_GT(inkOf(image).left(), 0) << digit;
+        EXPECT_LT(inkOf(image).right(), image.width() - 1) << digit;
+    }
 }
 
 TEST(RollingDigits, padsWithZerosInMint) {

@@ -32,6 +32,10 @@ protected:
         return both[0]->accessibleName() == tile ? *both[0] : *both[1];
     }
 
+    [[nodiscard]] QRectF labelInk(const QImage& seen, const QString& text) const {
+        return Look::inkOf(muted, seen, labelRect(text));
+    }
+
     [[nodiscard]] QRect numberRect(const QString& tile) const { return rectOf(number(tile)); }
 };
 
@@ -81,16 +85,23 @@ TEST_P(MainScreenLook, setsTheTaglineInSerif) {
                 Garden::withOpacity(Qt::white, 0.9));
 }
 
-TEST_P(MainScreenLook, placesEachNumber7BelowItsLabel) {
+TEST_P(MainScreenLook, placesEachNumber14BelowItsLabel) {
+    const QImage seen = picture();
     for (const QString& tile : {QStringLiteral("SCORE"), QStringLiteral("PERSONAL BEST")}) {
-        EXPECT_EQ(numberRect(tile).y() - bottomOf(labelRect(tile)), 7);
+        const QRectF digits = Look::inkOf(mint, seen, numberRect(tile));
+        EXPECT_NEAR(digits.top() - labelInk(seen, tile).bottom(), 14, 1);
         expectLabel(tile, smallType, muted);
         Look::expectType(number(tile), {Look::mono, 33, QFont::Light});
     }
 }
 
-TEST_P(MainScreenLook, alignsTheScoreLeftAndTheBestRight) {
-    EXPECT_EQ(labelRect("SCORE").x(), numberRect("SCORE").x());
+TEST_P(MainScreenLook, alignsTheDigitsOfTheScoreLeftAndOfTheBestRight) {
+    const QImage seen = picture();
+    const QRectF score = Look::inkOf(mint, seen, numberRect("SCORE"));
+    const QRectF best = Look::inkOf(mint, seen, numberRect("PERSONAL BEST"));
+
+    EXPECT_NEAR(score.left(), labelInk(seen, "SCORE").left(), 1);
+    EXPECT_NEAR(best.right(), labelInk(seen, "PERSONAL BEST").right(), 1);
     EXPECT_EQ(rightOf(labelRect("PERSONAL BEST")), rightEdge());
     EXPECT_EQ(rightOf(numberRect("PERSONAL BEST")), rightEdge());
 }
@@ -103,7 +114,9 @@ TEST_P(MainScreenLook, separatesTheTilesByARuleWith12OnEachSide) {
     EXPECT_EQ(rule.size(), QSize(1, 36));
     EXPECT_EQ(rule.x() - rightOf(scoreTile), 12);
     EXPECT_EQ(bestTile.x() - rightOf(rule), 12);
-    EXPECT_NEAR(QRectF(rule).center().y(), QRectF(rectOf<HeaderRow>()).center().y(), 0.5);
+    const QImage seen = picture();
+    const QRectF ink = labelInk(seen, "SCORE") | Look::inkOf(mint, seen, numberRect("SCORE"));
+    EXPECT_NEAR(QRectF(rule).center().y(), ink.center().y(), 1);
 }
 
 TEST_P(MainScreenLook, padsTheSpeedGroupBy4AndItsButtonsBy17And9) {
@@ -126,7 +139,7 @@ TEST_P(MainScreenLook, rightAlignsTheStatusAfterADotOf5) {
     const QRect dot = rectOf<Garden::StatusDot>();
     const QRect word = labelRect("THE CLASSIC, REPLANTED");
 
-    EXPECT_EQ(dot.size(), QSize(5, 5));
+    EXPECT_EQ(Look::inkOf(muted, picture(), dot).size(), QSizeF(5, 5));
     EXPECT_EQ(rightOf(word), rightEdge());
     EXPECT_LT(rightOf(dot), word.x());
     EXPECT_NEAR(QRectF(dot).center().y(), QRectF(word).center().y(), 0.5);
@@ -153,8 +166,8 @@ TEST_P(MainScreenLook, setsTheHintsInMonospacedFaintMint) {
     expectLabel(move, {Look::mono, 11, QFont::Normal}, faint);
     expectLabel(rest, {Look::mono, 11, QFont::Normal}, faint);
     EXPECT_EQ(labelRect("↑ ↓ ← →").x(), 38);
-    EXPECT_GT(labelRect(move).x(), rightOf(labelRect("↑ ↓ ← →")));
-    EXPECT_GT(labelRect(rest).x(), rightOf(labelRect(move)));
+    EXPECT_EQ(labelRect(move).x() - rightOf(labelRect("↑ ↓ ← →")), 9);
+    EXPECT_EQ(labelRect(rest).x() - rightOf(labelRect(move)), 20);
 }
 
 TEST_P(MainScreenLook, placesThreeIconButtonsOf26With8Between) {

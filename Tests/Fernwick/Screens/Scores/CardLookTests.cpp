@@ -94,13 +94,26 @@ TEST_P(OverlayLook, isCentredOnTheBoard) {
     expectVerticallyCentred(boardFrame(), column);
 }
 
-TEST_P(OverlayLook, adds13AboveTheButtonAnd2AboveTheHint) {
-    const QRect symbol = rectOf(*child<Overlay>().findChild<Garden::IconView*>());
+TEST_P(OverlayLook, leaves26AboveTheCapitalsOfTheTitleAnd19BelowItsBaseline) {
+    const QImage seen = picture();
+    const QRectF symbol =
+        Look::inkOf(mint, seen, rectOf(*child<Overlay>().findChild<Garden::IconView*>()));
     const QRect title = labelRect("Find your flow.");
     const QRect line = labelRect("Gather the fruit. Grow a little longer. Stay curious.");
-    const int spacing = title.y() - bottomOf(symbol);
+    // Neither the F nor the G has a descender.
+    const QRectF capital =
+        Look::inkOf(Garden::primaryText, seen, QRect(title.x(), title.y(), 18, 50));
+    const QRectF below = Look::inkOf(QColor::fromRgbF(0.56F, 0.57F, 0.56F), seen,
+                                     QRect(line.x() - 1, line.y(), 11, line.height()));
 
-    EXPECT_EQ(line.y() - bottomOf(title), spacing);
+    EXPECT_NEAR(capital.top() - symbol.bottom(), 26, 1);
+    EXPECT_NEAR(below.top() - capital.bottom(), 19, 1);
+}
+
+TEST_P(OverlayLook, adds13AboveTheButtonAnd2AboveTheHint) {
+    const QRect line = labelRect("Gather the fruit. Grow a little longer. Stay curious.");
+    constexpr int spacing = 12;
+
     EXPECT_EQ(buttonRect("Let's grow").y() - bottomOf(line), spacing + 13);
     EXPECT_EQ(labelRect("PRESS SPACE").y() - bottomOf(buttonRect("Let's grow")), spacing + 2);
 }
