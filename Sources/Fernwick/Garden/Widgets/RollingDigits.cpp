@@ -98,12 +98,26 @@ double RollingDigits::left(int fromRight) const {
     return right - cell * (fromRight + 1);
 }
 
+QBrush RollingDigits::fadedAtEdges(double opacity) const {
+    const double fade = (height() - QFontMetricsF(font()).capHeight()) / 2 / height();
+    QLinearGradient colours(0, 0, 0, height());
+    colours.setColorAt(0, Qt::transparent);
+    colours.setColorAt(fade, withOpacity(mint, opacity));
+    colours.setColorAt(1 - fade, withOpacity(mint, opacity));
+    colours.setColorAt(1, Qt::transparent);
+    return colours;
+}
+
 void RollingDigits::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const double distance = rollDistance * font().pixelSize();
     const double baseline = (height() + QFontMetricsF(font()).capHeight()) / 2;
     const auto draw = [&](int fromRight, QChar digit, double shift, double opacity) {
-        painter.setPen(withOpacity(mint, opacity));
+        if (shift == 0) {
+            painter.setPen(mint);
+        } else {
+            painter.setPen(QPen(fadedAtEdges(opacity), 1));
+        }
         painter.drawText(QPointF(left(fromRight), baseline + shift * distance), QString(digit));
     };
     const bool rolling = roll_.state() == QAbstractAnimation::Running;

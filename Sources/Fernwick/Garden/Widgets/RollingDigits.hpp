@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QBrush>
 #include <QString>
 #include <QVariantAnimation>
 #include <QWidget>
@@ -33,6 +34,9 @@ protected:
 private:
     /// Left edge of the cell of the digit with this index, counted from the right.
     [[nodiscard]] double left(int fromRight) const;
+    /// Mint that becomes transparent above and below the digits at rest, so that the edges of the
+    /// widget do not cut off digits that roll.
+    [[nodiscard]] QBrush fadedAtEdges(double opacity) const;
     void announce();
 
     Qt::Alignment alignment_;

@@ -128,6 +128,19 @@ TEST_F(VisibleRollingDigits, rollsOnlyTheDigitThatChanges) {
     }
 }
 
+TEST_F(VisibleRollingDigits, fadesRollingDigitsBeforeTheyReachAnEdge) {
+    digits.setValue(350);
+    for (int frame = 0; frame < 15; ++frame) {
+        QTest::qWait(Garden::digitRollDuration / 20);
+        const QImage rolling = picture(digits, 4);
+        for (const int edge : {0, rolling.height() - 1}) {
+            for (int x = 0; x < rolling.width(); ++x) {
+                EXPECT_LT(rolling.pixelColor(x, edge).green(), 16) << frame;
+            }
+        }
+    }
+}
+
 TEST_F(VisibleRollingDigits, endsTheAnimationOnTheNewValue) {
     digits.setValue(250);
     QTest::qWait(animationEnd);
