@@ -1,9 +1,12 @@
 #include "Screens/Scores/NameField.hpp"
 
+#include <QInputMethodEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QProxyStyle>
 #include <QValidator>
 #include <algorithm>
+#include <cmath>
 
 #include "Garden/Look/Contrast.hpp"
 #include "Garden/Look/Fonts.hpp"
@@ -16,6 +19,7 @@
 namespace {
 
 constexpr double fontSize = 18;
+constexpr int lineHeight = 22;
 constexpr int fullPadding = 14;
 // QLineEdit itself adds two points on both sides of the text.
 constexpr int lineEditMargin = 2;
@@ -25,6 +29,11 @@ constexpr double edgeOpacity = 0.4;
 constexpr double edgeWidth = 1;
 constexpr double placeholderOpacity = 0.25;
 constexpr double selectionOpacity = 0.3;
+constexpr double caretWidth = 1.5;
+// Between the caret and the placeholder.
+constexpr int caretClearance = 2;
+// QLineEdit::cursorRect() begins this far before the caret.
+constexpr int cursorRectMargin = 5;
 
 QString firstCharacters(const QString& text) {
     const std::string utf8 = text.toStdString();
@@ -47,9 +56,23 @@ public:
     }
 };
 
+/// Leaves the caret to NameField: that of QLineEdit inverts what it covers, whatever the palette.
+class CaretlessStyle : public QProxyStyle {
+public:
+    CaretlessStyle() : QProxyStyle("Fusion") {}
+
+    [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                                  const QWidget* widget) const override {
+        return metric == PM_TextCursorWidth ? 0 : QProxyStyle::pixelMetric(metric, option, widget);
+    }
+};
+
 }  // namespace
 
 NameField::NameField(QWidget* parent) : QLineEdit(parent) {
+    auto* style = new CaretlessStyle;
+    style->setParent(this);
+    setStyle(style);
     setValidator(new LongestName(this));
     // For text of an input method, which QLineEdit lays out before it asks the validator. It may
     // cut that text within a surrogate pair, but never in the part that the validator keeps.
@@ -59,17 +82,17 @@ NameField::NameField(QWidget* parent) : QLineEdit(parent) {
 
     QPalette colours = palette();
     colours.setColor(QPalette::Base, Qt::transparent);
-    colours.setColor(QPalette::Text, Garden::primaryText);
     colours.setColor(QPalette::Highlight, Garden::withOpacity(Garden::mint, selectionOpacity));
     colours.setColor(QPalette::HighlightedText, Qt::white);
     setPalette(colours);
-    setPlaceholderColour();
+    setTextColours();
     connect(&Garden::Contrast::shared(), &Garden::Contrast::changed, this,
-            &NameField::setPlaceholderColour);
+            &NameField::setTextColours);
 }
 
-void NameField::setPlaceholderColour() {
+void NameField::setTextColours() {
     QPalette colours = palette();
+    colours.setColor(QPalette::Text, Garden::legible(Garden::primaryText));
     // Dimmer than a typed name, even in high contrast.
     colours.setColor(QPalette::PlaceholderText,
                      Garden::Contrast::shared().isHigh()
@@ -87,20 +110,47 @@ void NameField::setDensity(const Garden::Density& density) {
 }
 
 QSize NameField::sizeHint() const {
+    const int line = std::max(fontMetrics().height(), Garden::scaled(lineHeight, density_.scale));
     const int padding = Garden::scaled(fullPadding, density_.air * density_.scale);
-    return {QLineEdit::sizeHint().width(), fontMetrics().height() + 2 * padding};
+    return {QLineEdit::sizeHint().width(), line + 2 * padding};
+}
+
+void NameField::inputMethodEvent(QInputMethodEvent* event) {
+    composing_ = !event->preeditString().isEmpty();
+    // An input method that marks the place in its text itself asks for a caret of no width.
+    caretHidden_ = std::ranges::any_of(event->attributes(), [](const auto& attribute) {
+        return attribute.type == QInputMethodEvent::Cursor && attribute.length == 0;
+    });
+    QLineEdit::inputMethodEvent(event);
 }
 
 void NameField::paintEvent(QPaintEvent* event) {
-    {
-        QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        const QPainterPath shape = Garden::continuousRoundedRect(
-            Garden::inset(rect(), edgeWidth / 2), cornerRadius * density_.scale);
-        painter.fillPath(shape, Garden::withOpacity(Qt::white, plateOpacity));
-        painter.strokePath(
-            shape,
-            QPen(Garden::legible(Garden::withOpacity(Garden::mint, edgeOpacity)), edgeWidth));
-    }
+    paintPlate();
     QLineEdit::paintEvent(event);
+    if (hasFocus() && !hasSelectedText() && !caretHidden_) {
+        paintCaret();
+    }
+}
+
+void NameField::paintPlate() {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QPainterPath shape = Garden::continuousRoundedRect(Garden::inset(rect(), edgeWidth / 2),
+                                                             cornerRadius * density_.scale);
+    painter.fillPath(shape, Garden::withOpacity(Qt::white, plateOpacity));
+    painter.strokePath(
+        shape, QPen(Garden::legible(Garden::withOpacity(Garden::mint, edgeOpacity)), edgeWidth));
+}
+
+void NameField::paintCaret() {
+    // Whole device pixels, so that it is equally sharp everywhere.
+    const double width = std::round(caretWidth * devicePixelRatioF()) / devicePixelRatioF();
+    double centre = cursorRect().left() + cursorRectMargin;
+    if (text().isEmpty() && !composing_) {
+        const double outside = textMargins().left() + lineEditMargin - caretClearance - width / 2;
+        centre = centre < this->width() / 2.0 ? outside : this->width() - outside;
+    }
+    const double height = fontMetrics().height();
+    const double top = (this->height() - height) / 2;
+    QPainter(this).fillRect(QRectF(centre - width / 2, top, width, height), Garden::mint);
 }

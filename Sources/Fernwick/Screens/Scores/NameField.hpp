@@ -5,8 +5,8 @@
 #include "Garden/Widgets/ContentDensity.hpp"
 
 /// The text field for the player's name: a faint plate with a mint edge. It keeps the beginning of
-/// a text that is longer than a name, however it is entered. Its height follows the font; the
-/// layout sets its width.
+/// a text that is longer than a name, however it is entered. Its caret is mint and keeps clear of
+/// the placeholder. The layout sets its width.
 class NameField : public QLineEdit, public Garden::Scalable {
     Q_OBJECT
 
@@ -19,10 +19,15 @@ public:
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
+    void inputMethodEvent(QInputMethodEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void setPlaceholderColour();
+    void setTextColours();
+    void paintPlate();
+    void paintCaret();
 
     Garden::Density density_;
+    bool composing_ = false;
+    bool caretHidden_ = false;
 };
