@@ -20,7 +20,7 @@ constexpr double resultTracking = 2;
 constexpr int widestCard = 400;
 constexpr int cardPadding = 24;
 constexpr int spacing = 14;
-constexpr Garden::ContentHeight entry{345, 160, 281};
+constexpr Garden::ContentHeight entry{343, 157, 280};
 constexpr Garden::ContentHeight saved{404, 132, 279};
 constexpr double leastWidth = 376;
 

@@ -18,6 +18,8 @@ constexpr int spacing = 14;
 constexpr double promptSize = 14;
 constexpr double hintSize = 10;
 constexpr double skipSize = 12;
+// Of "Skip saving", around its text: room for the focus ring, and a larger target to click.
+constexpr QSize skipPadding(8, 3);
 
 QString hint() {
 #ifdef Q_OS_MACOS
@@ -37,7 +39,8 @@ NameEntry::NameEntry(Session& session, QWidget* parent)
     //: Shown in the empty field.
     field_->setPlaceholderText(tr("Your name"));
     field_->setAccessibleName(tr("Player name"));
-    auto* skip = new Garden::QuietButton(tr("Skip saving"), Garden::sans(skipSize, QFont::Normal));
+    auto* skip = new Garden::QuietButton(tr("Skip saving"), Garden::sans(skipSize, QFont::Normal),
+                                         skipPadding);
 
     auto* column = Garden::layOut<QVBoxLayout>(this, spacing);
     column->addWidget(
@@ -48,8 +51,12 @@ NameEntry::NameEntry(Session& session, QWidget* parent)
     column->addWidget(
         new Garden::TrackedLabel(hint(), Garden::sans(hintSize, QFont::Normal), Garden::muted), 0,
         Qt::AlignHCenter);
-    column->addWidget(save_, 0, Qt::AlignHCenter);
-    column->addWidget(skip, 0, Qt::AlignHCenter);
+    // The padding above the text is part of the spacing.
+    auto* buttons = new QVBoxLayout;
+    buttons->setSpacing(spacing - skipPadding.height());
+    buttons->addWidget(save_, 0, Qt::AlignHCenter);
+    buttons->addWidget(skip, 0, Qt::AlignHCenter);
+    column->addLayout(buttons);
 
     connect(field_, &QLineEdit::textChanged, &session_, &Session::editName);
     connect(field_, &QLineEdit::returnPressed, &session_, &Session::saveScore);
