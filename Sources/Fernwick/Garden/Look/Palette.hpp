@@ -27,8 +27,8 @@ inline constexpr QColor night = srgb(0.035, 0.065, 0.053);
 inline constexpr QColor soil = srgb(0.055, 0.095, 0.076);
 /// Text on a mint fill.
 inline constexpr QColor ink = srgb(0.06, 0.15, 0.09);
-/// Default text colour, a softened white.
-inline constexpr QColor primaryText = srgb(1, 1, 1, 0.9);
+/// Default text colour, a softened white. `legible` turns it into full white with high contrast.
+inline constexpr QColor primaryText = srgb(1, 1, 1, 0.85);
 
 /// `colour` with this opacity, between 0 and 1.
 [[nodiscard]] inline QColor withOpacity(const QColor& colour, double opacity) {

@@ -21,6 +21,7 @@ TEST(Palette, storesComponentsWith16Bits) {
     expectComponents(Garden::night, 0.035F, 0.065F, 0.053F, 1);
     expectComponents(Garden::soil, 0.055F, 0.095F, 0.076F, 1);
     expectComponents(Garden::ink, 0.06F, 0.15F, 0.09F, 1);
+    expectComponents(Garden::primaryText, 1, 1, 1, 0.85F);
 }
 
 TEST(Palette, changesOnlyTheOpacity) {
