@@ -31,12 +31,17 @@ inline bool isElement(const QWidget& widget) {
            widget.objectName() == QLatin1String("rule");
 }
 
+inline bool isInsideRows(const QWidget& widget) {
+    const QWidget* around = widget.parentWidget();
+    return around != nullptr &&
+           (qobject_cast<const ScoreRows*>(around) != nullptr || isInsideRows(*around));
+}
+
 /// The visible elements in `root`; a list of scores counts as one.
 inline QList<QWidget*> visibleElements(const QWidget& root) {
     QList<QWidget*> elements;
     for (QWidget* widget : root.findChildren<QWidget*>()) {
-        const bool insideRows = qobject_cast<ScoreRows*>(widget->parentWidget()) != nullptr;
-        if (widget->isVisible() && isElement(*widget) && !insideRows) {
+        if (widget->isVisible() && isElement(*widget) && !isInsideRows(*widget)) {
             elements.append(widget);
         }
     }

@@ -113,8 +113,9 @@ void ScoreRow::paintEvent(QPaintEvent*) {
 
     QRectF name = line;
     name.setLeft(line.left() + ranks + spacing);
-    name.setRight(score.left() - spacing);
-    painter.setPen(Garden::primaryText);
+    // A gap of no width between the name and the score would have spacing on both sides.
+    name.setRight(score.left() - 2 * spacing);
+    painter.setPen(Garden::legible(Garden::primaryText));
     const int begin = isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
     // The name's own letters decide its direction, not the language of the program.
     painter.setLayoutDirection(name_.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);

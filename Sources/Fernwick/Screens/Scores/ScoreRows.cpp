@@ -43,12 +43,17 @@ QString scrollBarStyle() {
 
 ScoreRows::ScoreRows(QWidget* parent)
     : QWidget(parent),
-      empty_(new Garden::TrackedLabel(tr("A fresh start. Be the first on the board."),
-                                      Garden::sans(emptyTextSize, QFont::Normal), Garden::muted)),
+      empty_(new QWidget),
       scrollArea_(new QScrollArea),
       indicator_(new QScrollBar(Qt::Vertical, scrollArea_)),
       column_(nullptr) {
     Garden::setAccessibleRole(*this, QAccessible::List);
+    auto* padding = Garden::layOut<QVBoxLayout>(empty_, 0);
+    padding->setContentsMargins(0, emptyTextPadding, 0, emptyTextPadding);
+    padding->addWidget(
+        new Garden::TrackedLabel(tr("A fresh start. Be the first on the board."),
+                                 Garden::sans(emptyTextSize, QFont::Normal), Garden::muted),
+        0, Qt::AlignCenter);
     auto* list = new QWidget;
     column_ = Garden::layOut<QVBoxLayout>(list, rowSpacing);
     column_->addStretch();
@@ -64,9 +69,8 @@ ScoreRows::ScoreRows(QWidget* parent)
     list->setAutoFillBackground(false);
 
     auto* forms = Garden::layOut<QVBoxLayout>(this, 0);
-    forms->addWidget(empty_, 0, Qt::AlignCenter);
+    forms->addWidget(empty_);
     forms->addWidget(scrollArea_);
-    empty_->setContentsMargins(0, emptyTextPadding, 0, emptyTextPadding);
     showIndicator();
 }
 

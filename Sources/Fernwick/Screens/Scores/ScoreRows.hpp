@@ -14,10 +14,6 @@
 class QVBoxLayout;
 class ScoreRow;
 
-namespace Garden {
-class TrackedLabel;
-}
-
 /// A scrolling list of ranked scores, or a line of text when there are none. The layout sets its
 /// height.
 class ScoreRows : public QWidget, public Garden::Scalable {
@@ -60,7 +56,7 @@ private:
     int fullHeight_ = 0;
     int leastHeight_ = 0;
     Garden::Density density_;
-    Garden::TrackedLabel* empty_;
+    QWidget* empty_;
     QScrollArea* scrollArea_;
     // An overlay over the rows' padding, so that the rows keep the whole width.
     QScrollBar* indicator_;

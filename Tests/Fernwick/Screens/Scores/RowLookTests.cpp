@@ -91,7 +91,7 @@ TEST_F(RowLook, givesEveryDigitTheSameWidth) {
     EXPECT_EQ(ones, noughts);
 }
 
-TEST_F(RowLook, keepsALongNameBetweenTheRankAndTheScore) {
+TEST_F(RowLook, keepsALongNameBetweenTheRankAnd28PointsBeforeTheScore) {
     for (const QString& name : longNames) {
         SCOPED_TRACE(name.toStdString());
         const QImage withName = picture(1, name, 1234567);
@@ -100,7 +100,7 @@ TEST_F(RowLook, keepsALongNameBetweenTheRankAndTheScore) {
         const auto [scoreLeft, scoreRight] = inkBetween(without, rowWidth / 2, rowWidth);
 
         for (const auto& [left, right] :
-             {std::pair(0.0, nameLeft - 1.0), std::pair(scoreLeft - padding + 2, rowWidth * 1.0)}) {
+             {std::pair(0.0, nameLeft - 1.0), std::pair(scoreLeft - 28 + 2, rowWidth * 1.0)}) {
             const QRect part(qRound(left * scale), 0, qRound((right - left) * scale),
                              withName.height());
             EXPECT_EQ(withName.copy(part), without.copy(part)) << left;

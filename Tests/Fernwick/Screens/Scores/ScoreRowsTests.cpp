@@ -4,6 +4,7 @@
 #include <QScrollArea>
 
 #include "Fernwick/Session/SavedScores.hpp"
+#include "Garden/Widgets/TrackedLabel.hpp"
 #include "Screens/Scores/NameText.hpp"
 #include "Screens/Scores/ScoreRow.hpp"
 #include "Screens/Scores/ScoreRows.hpp"
@@ -43,6 +44,18 @@ TEST_F(ScoreRowsTest, showsOnlyTheInvitationWithoutEntries) {
 
     EXPECT_EQ(Screen::texts(rows), QStringList("A fresh start. Be the first on the board."));
     EXPECT_FALSE(rows.findChild<QScrollArea*>()->isVisibleTo(&rows));
+}
+
+TEST_F(ScoreRowsTest, padsTheInvitationBy28AndCentresIt) {
+    rows.setEntries({});
+    rows.show();
+    QCoreApplication::processEvents();
+
+    const auto& text = *rows.findChild<Garden::TrackedLabel*>();
+    const QRect shown(text.mapTo(&rows, QPoint()), text.size());
+    EXPECT_EQ(rows.minimumSizeHint().height(), text.sizeHint().height() + 2 * 28);
+    EXPECT_NEAR(shown.center().y(), rows.rect().center().y(), 1);
+    EXPECT_NEAR(shown.center().x(), rows.rect().center().x(), 1);
 }
 
 TEST_F(ScoreRowsTest, showsNoInvitationWithEntries) {
