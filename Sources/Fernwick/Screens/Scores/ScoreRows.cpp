@@ -4,11 +4,13 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyle>
+#include <algorithm>
 
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/Palette.hpp"
 #include "Garden/Look/RoundedShape.hpp"
 #include "Garden/Widgets/Accessibility.hpp"
+#include "Garden/Widgets/EdgeFade.hpp"
 #include "Garden/Widgets/Layout.hpp"
 #include "Garden/Widgets/TrackedLabel.hpp"
 #include "Screens/Scores/ScoreRow.hpp"
@@ -24,6 +26,7 @@ constexpr int scrollHandleMargin = (scrollBarWidth - scrollHandleWidth) / 2;
 constexpr int minimumScrollHandleHeight = 24;
 constexpr double scrollHandleOpacity = 0.4;
 constexpr double ringRadius = 9;
+constexpr int fadeLength = 10;
 
 QString scrollBarStyle() {
     return QStringLiteral(
@@ -45,6 +48,7 @@ ScoreRows::ScoreRows(QWidget* parent)
     : QWidget(parent),
       empty_(new QWidget),
       scrollArea_(new QScrollArea),
+      fade_(new Garden::EdgeFade),
       indicator_(new QScrollBar(Qt::Vertical, scrollArea_)),
       column_(nullptr) {
     Garden::setAccessibleRole(*this, QAccessible::List);
@@ -66,6 +70,7 @@ ScoreRows::ScoreRows(QWidget* parent)
     scrollArea_->setAccessibleName(tr("Scores"));
     scrollArea_->installEventFilter(this);
     scrollArea_->viewport()->setAutoFillBackground(false);
+    scrollArea_->viewport()->setGraphicsEffect(fade_);
     list->setAutoFillBackground(false);
 
     auto* forms = Garden::layOut<QVBoxLayout>(this, 0);
@@ -105,6 +110,7 @@ void ScoreRows::showIndicator() {
     indicator_->raise();
     connect(scrolling, &QScrollBar::rangeChanged, this, &ScoreRows::followRange);
     connect(scrolling, &QScrollBar::valueChanged, indicator_, &QScrollBar::setValue);
+    connect(scrolling, &QScrollBar::valueChanged, this, &ScoreRows::fadeCutRows);
     connect(indicator_, &QScrollBar::valueChanged, scrolling, &QScrollBar::setValue);
     followRange(scrolling->minimum(), scrolling->maximum());
 }
@@ -116,6 +122,9 @@ void ScoreRows::followRange(int minimum, int maximum) {
     indicator_->setVisible(scrolls);
     // Focusable only while there is something to scroll.
     scrollArea_->setFocusPolicy(scrolls ? Qt::TabFocus : Qt::NoFocus);
+    // The rows have got their places.
+    showHighlighted();
+    fadeCutRows();
 }
 
 bool ScoreRows::eventFilter(QObject* watched, QEvent* event) {
@@ -202,8 +211,24 @@ void ScoreRows::showHighlighted() {
     if (highlightedRow_ != nullptr) {
         scrollArea_->ensureWidgetVisible(highlightedRow_, 0, 0);
     }
-    if (showsWholeRows()) {
+    if (highlightedRow_ != nullptr || showsWholeRows()) {
         QScrollBar* scrolling = scrollArea_->verticalScrollBar();
         scrolling->setValue((scrolling->value() + pitch() - 1) / pitch() * pitch());
     }
+}
+
+void ScoreRows::fadeCutRows() {
+    const QScrollBar* scrolling = scrollArea_->verticalScrollBar();
+    if (scrolling->maximum() > 0 && !rows_.isEmpty()) {
+        const int top = scrolling->value();
+        fade_->setLengths(fadeAt(top), fadeAt(top + scrollArea_->viewport()->height()));
+    } else {
+        fade_->setLengths(0, 0);
+    }
+}
+
+int ScoreRows::fadeAt(int y) const {
+    const int above = y % pitch();
+    const int below = pitch() - column_->spacing() - above;
+    return std::max(0, std::min({fadeLength, above, below}));
 }

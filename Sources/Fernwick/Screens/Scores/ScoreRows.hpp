@@ -14,6 +14,10 @@
 class QVBoxLayout;
 class ScoreRow;
 
+namespace Garden {
+class EdgeFade;
+}
+
 /// A scrolling list of ranked scores, or a line of text when there are none. The layout sets its
 /// height.
 class ScoreRows : public QWidget, public Garden::Scalable {
@@ -27,7 +31,8 @@ public:
     void setHeights(int full, int least);
 
     /// Shows `entries` in their order, the first as rank 1; highlights the one with the id
-    /// `highlighted` and scrolls to it, then and when the height of the list changes.
+    /// `highlighted` and scrolls to it, then and when the height of the list changes, so that the
+    /// first row that shows is whole. Rows that are cut at an edge fade out towards it.
     void setEntries(const std::vector<SnakeCore::HighScore>& entries,
                     const std::optional<SnakeCore::UUID>& highlighted = std::nullopt);
 
@@ -52,12 +57,17 @@ private:
     void followRange(int lowest, int highest);
     void setRowCount(std::size_t count);
     void showHighlighted();
+    void fadeCutRows();
+    /// How far the row that is cut at `y`, in points below the top of the first row, fades; 0
+    /// between two rows.
+    [[nodiscard]] int fadeAt(int y) const;
 
     int fullHeight_ = 0;
     int leastHeight_ = 0;
     Garden::Density density_;
     QWidget* empty_;
     QScrollArea* scrollArea_;
+    Garden::EdgeFade* fade_;
     // An overlay over the rows' padding, so that the rows keep the whole width.
     QScrollBar* indicator_;
     Garden::FocusRing focusRing_;

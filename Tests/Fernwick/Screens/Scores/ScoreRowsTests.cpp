@@ -2,12 +2,16 @@
 
 #include <QCoreApplication>
 #include <QScrollArea>
+#include <QScrollBar>
+#include <algorithm>
 
 #include "Fernwick/Session/SavedScores.hpp"
+#include "Garden/Look/Palette.hpp"
 #include "Garden/Widgets/TrackedLabel.hpp"
 #include "Screens/Scores/NameText.hpp"
 #include "Screens/Scores/ScoreRow.hpp"
 #include "Screens/Scores/ScoreRows.hpp"
+#include "Support/Picture.hpp"
 #include "Support/Screen.hpp"
 
 namespace {
@@ -127,6 +131,62 @@ TEST_F(ScoreRowsTest, scrollsToTheHighlightedEntry) {
 
     const ScoreRow* last = rows.findChildren<ScoreRow*>().constLast();
     EXPECT_TRUE(rows.rect().contains(last->mapTo(&rows, last->rect().center())));
+}
+
+TEST_F(ScoreRowsTest, showsWholeRowsFromTheTopAfterScrollingToTheHighlightedEntry) {
+    const std::vector<SnakeCore::HighScore> ten = entries(10);
+    rows.show();
+
+    for (const std::size_t index : {3U, 4U, 5U, 6U, 7U}) {
+        rows.setEntries(ten, ten[index].id);
+        QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
+
+        const QList<ScoreRow*> shown = rows.findChildren<ScoreRow*>();
+        const auto topOf = [this](const ScoreRow* row) { return row->mapTo(&rows, QPoint()).y(); };
+        const ScoreRow* highlighted = shown[static_cast<qsizetype>(index)];
+        EXPECT_TRUE(std::ranges::any_of(shown, [&](auto* row) { return topOf(row) == 0; }))
+            << index;
+        EXPECT_LE(topOf(highlighted) + highlighted->height(), listHeight) << index;
+    }
+}
+
+TEST_F(ScoreRowsTest, fadesOnlyRowsThatAnEdgeCuts) {
+    rows.setEntries(entries(10));
+    rows.show();
+    QCoreApplication::processEvents();
+    QCoreApplication::processEvents();
+    QScrollBar& scrolling = *rows.findChild<QScrollArea*>()->verticalScrollBar();
+    const int pitch = rows.findChild<ScoreRow*>()->height() + 4;
+    const int plate = onBlack(Garden::withOpacity(Qt::white, 0.025)).red();
+    const auto brightness = [this](int y) {
+        return ::picture(rows).pixelColor(listWidth / 2, y).red();
+    };
+    constexpr int faded = 1;
+    constexpr int fade = 10;
+    constexpr int bottom = listHeight - 1;
+
+    scrolling.setValue(0);
+    EXPECT_EQ(brightness(0), plate);
+    EXPECT_LE(brightness(bottom), faded);
+    EXPECT_EQ(brightness(bottom - fade), plate);
+
+    scrolling.setValue(pitch / 2);
+    EXPECT_LE(brightness(0), faded);
+    EXPECT_EQ(brightness(fade), plate);
+
+    scrolling.setValue(2 * pitch);
+    EXPECT_EQ(brightness(0), plate);
+
+    scrolling.setValue(scrolling.maximum());
+    EXPECT_LE(brightness(0), faded);
+    EXPECT_EQ(brightness(bottom), plate);
+
+    rows.setEntries(entries(3));
+    QCoreApplication::processEvents();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(brightness(0), plate);
+    EXPECT_EQ(brightness(3 * pitch - 4 - 1), plate);
 }
 
 TEST_F(ScoreRowsTest, elidesALongNameAndKeepsTheScoreWhole) {
