@@ -6,7 +6,7 @@ TIMEOUT = 15  # seconds
 POLL_INTERVAL = 0.02  # seconds
 
 
-def eventually(condition, what, timeout=TIMEOUT):
+def eventually(condition, what, timeout=TIMEOUT, interval=POLL_INTERVAL):
     """Polls `condition` until it is true and returns its value; fails with `what` on a timeout."""
     deadline = time.monotonic() + timeout
     while True:
@@ -14,4 +14,4 @@ def eventually(condition, what, timeout=TIMEOUT):
         if value:
             return value
         assert time.monotonic() < deadline, f"{what}: not within {timeout} s"
-        time.sleep(POLL_INTERVAL)
+        time.sleep(interval)

@@ -3,22 +3,21 @@
 #include <QApplication>
 #include <QIcon>
 #include <QPalette>
-#include <QProxyStyle>
 #include <QToolTip>
 
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/Palette.hpp"
+#include "Window/MenuStyle.hpp"
 
 namespace {
 
 constexpr double fontSize = 13;
+constexpr double menuBarFontSize = 12;
 constexpr double toolTipFontSize = 12;
 constexpr double disabledOpacity = 0.45;
 
-class GardenStyle : public QProxyStyle {
+class GardenStyle : public MenuStyle {
 public:
-    GardenStyle() : QProxyStyle("Fusion") {}
-
     [[nodiscard]] QIcon standardIcon(StandardPixmap which, const QStyleOption* option,
                                      const QWidget* widget) const override {
         // Every QMenuBar asks for this icon when it is made, for the case that its titles do not
@@ -26,7 +25,7 @@ public:
         // nothing else at start-up needs.
         return which == SP_ToolBarHorizontalExtensionButton
                    ? QIcon()
-                   : QProxyStyle::standardIcon(which, option, widget);
+                   : MenuStyle::standardIcon(which, option, widget);
     }
 };
 
@@ -54,6 +53,7 @@ void applyGardenStyle() {
     const QPalette colours = gardenPalette();
     QApplication::setPalette(colours);
     QApplication::setFont(Garden::sans(fontSize, QFont::Normal));
+    QApplication::setFont(Garden::sans(menuBarFontSize, QFont::Normal), "QMenuBar");
     // No blinking caret: it would wake the CPU as long as the name field is shown.
     QApplication::setCursorFlashTime(0);
     QToolTip::setPalette(colours);

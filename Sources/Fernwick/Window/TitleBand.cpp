@@ -25,7 +25,6 @@ constexpr int buttonSpacing = 8;
 }  // namespace
 
 TitleBand::TitleBand(QWidget* window) : QWidget(window), menuBar_(new QMenuBar(this)) {
-    styleMenuBar(*menuBar_);
     menuBar_->installEventFilter(this);
     auto* row = new QHBoxLayout(this);
     row->setSpacing(buttonSpacing);
