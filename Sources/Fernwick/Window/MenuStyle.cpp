@@ -9,6 +9,7 @@
 #include "Garden/Look/Palette.hpp"
 #include "Garden/Look/Panel.hpp"
 #include "Garden/Look/RoundedShape.hpp"
+#include "Window/MenuFade.hpp"
 
 namespace {
 
@@ -125,6 +126,9 @@ void MenuStyle::polish(QWidget* widget) {
     QProxyStyle::polish(widget);
     if (auto* menu = qobject_cast<QMenu*>(widget)) {
         menu->setAttribute(Qt::WA_TranslucentBackground);
+        if (menu->findChild<MenuFade*>() == nullptr) {
+            new MenuFade(*menu);
+        }
     }
 }
 

@@ -15,6 +15,9 @@ inline constexpr int digitRollDuration = 300;
 /// How long the sheet takes to open or close, in milliseconds.
 inline constexpr int sheetDuration = 180;
 
+/// How long a menu takes to appear or disappear, in milliseconds.
+inline constexpr int menuDuration = 120;
+
 /// Whether the desktop or its style turns animations off. Follows changes while the program runs.
 [[nodiscard]] bool reducedMotion();
 
