@@ -22,8 +22,7 @@ constexpr int fullArrowSize = 13;
 
 constexpr double pressedFill = 0.7;
 constexpr double disabledFill = 0.3;
-constexpr double hoverEdgeOpacity = 0.7;
-constexpr double hoverEdgeInset = 0.75;
+constexpr double hoverVeil = 0.07;
 constexpr double ringInset = 3;
 
 }  // namespace
@@ -57,9 +56,8 @@ void GardenButton::paintEvent(QPaintEvent*) {
     const double radius = cornerRadius * scale();
     painter.fillPath(shape(0, radius),
                      withOpacity(mint, isEnabled() ? enabledOpacity : disabledFill));
-    if (hovered()) {
-        painter.strokePath(shape(hoverEdgeInset, radius),
-                           QPen(withOpacity(Qt::white, hoverEdgeOpacity), 2 * hoverEdgeInset));
+    if (hovered() && !isDown()) {
+        painter.fillPath(shape(0, radius), withOpacity(Qt::white, hoverVeil));
     }
     focusRing().paint(painter, shape(ringInset, radius - ringInset), ink);
     painter.setPen(ink);

@@ -11,6 +11,7 @@
 #include "Garden/Widgets/GardenButton.hpp"
 #include "Garden/Widgets/IconButton.hpp"
 #include "Garden/Widgets/QuietButton.hpp"
+#include "Support/Look.hpp"
 #include "Support/Picture.hpp"
 
 namespace {
@@ -43,6 +44,25 @@ TEST(GardenButton, changesOnlyTheOpacityOfItsFill) {
 
     button.setDown(false);
     EXPECT_TRUE(alike(fillOf(button), Garden::mint));
+}
+
+TEST(GardenButton, getsAWhiteVeilOf7PercentUnderThePointerUnlessPressedOrDisabled) {
+    for (const auto style :
+         {Garden::GardenButton::Style::capsule, Garden::GardenButton::Style::arrow}) {
+        Garden::GardenButton button(QStringLiteral("Save score"), nullptr, style);
+        button.setAttribute(Qt::WA_UnderMouse);
+        const QColor veiled = Look::over(Garden::withOpacity(Qt::white, 0.07), Garden::mint);
+        EXPECT_TRUE(alike(fillOf(button), veiled));
+        // The same up to its edge.
+        EXPECT_TRUE(alike(picture(button).pixelColor(button.width() / 2, 0), veiled));
+
+        button.setDown(true);
+        EXPECT_TRUE(alike(fillOf(button), onBlack(Garden::withOpacity(Garden::mint, 0.7))));
+
+        button.setDown(false);
+        button.setEnabled(false);
+        EXPECT_TRUE(alike(fillOf(button), onBlack(Garden::withOpacity(Garden::mint, 0.3))));
+    }
 }
 
 TEST(GardenButton, looksDisabledEvenWhilePressed) {
