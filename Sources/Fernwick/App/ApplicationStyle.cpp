@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QIcon>
 #include <QPalette>
-#include <QToolTip>
 
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/Palette.hpp"
@@ -13,7 +12,6 @@ namespace {
 
 constexpr double fontSize = 13;
 constexpr double menuBarFontSize = 12;
-constexpr double toolTipFontSize = 12;
 constexpr double disabledOpacity = 0.45;
 
 class GardenStyle : public MenuStyle {
@@ -33,8 +31,6 @@ QPalette gardenPalette() {
     QPalette colours(Garden::primaryText, Garden::night);
     colours.setColor(QPalette::Base, Garden::soil);
     colours.setColor(QPalette::Text, Garden::primaryText);
-    colours.setColor(QPalette::ToolTipBase, Garden::soil);
-    colours.setColor(QPalette::ToolTipText, Garden::primaryText);
     colours.setColor(QPalette::Highlight, Garden::mint);
     colours.setColor(QPalette::HighlightedText, Garden::ink);
     const QColor disabled = Garden::withOpacity(Garden::muted, disabledOpacity);
@@ -50,12 +46,9 @@ QPalette gardenPalette() {
 void applyGardenStyle() {
     // The same style on every desktop: a native one could bring light controls.
     QApplication::setStyle(new GardenStyle);
-    const QPalette colours = gardenPalette();
-    QApplication::setPalette(colours);
+    QApplication::setPalette(gardenPalette());
     QApplication::setFont(Garden::sans(fontSize, QFont::Normal));
     QApplication::setFont(Garden::sans(menuBarFontSize, QFont::Normal), "QMenuBar");
     // No blinking caret: it would wake the CPU as long as the name field is shown.
     QApplication::setCursorFlashTime(0);
-    QToolTip::setPalette(colours);
-    QToolTip::setFont(Garden::sans(toolTipFontSize, QFont::Normal));
 }

@@ -1,5 +1,5 @@
 #pragma once
 
-/// Sets a dark style, palette and font for the parts that Qt paints itself: menus, tool tips and
-/// text selection.
+/// Sets a dark style, palette and font for menus and for what Qt paints itself, such as selected
+/// text.
 void applyGardenStyle();

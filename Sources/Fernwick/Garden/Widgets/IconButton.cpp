@@ -1,9 +1,11 @@
 #include "Garden/Widgets/IconButton.hpp"
 
+#include <QEvent>
 #include <QPainter>
 
 #include "Garden/Look/Palette.hpp"
 #include "Garden/Look/RoundedShape.hpp"
+#include "Garden/Widgets/ToolTip.hpp"
 
 namespace Garden {
 
@@ -32,6 +34,14 @@ void IconButton::setIcon(Icon icon) {
 
 QSize IconButton::sizeHint() const {
     return {side, side};
+}
+
+bool IconButton::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip) {
+        ToolTip::showFor(*this);
+        return true;
+    }
+    return QuietButton::event(event);
 }
 
 void IconButton::paintEvent(QPaintEvent*) {

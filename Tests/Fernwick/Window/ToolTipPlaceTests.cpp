@@ -1,0 +1,56 @@
+#include <QHelpEvent>
+
+#include "Fernwick/Window/LookTest.hpp"
+#include "Garden/Widgets/IconButton.hpp"
+#include "Garden/Widgets/RollingDigits.hpp"
+#include "Garden/Widgets/ToolTip.hpp"
+
+namespace {
+
+class ToolTipPlaces : public LookTest {
+protected:
+    /// The places of all visible widgets of type `T`.
+    template <typename T>
+    [[nodiscard]] QList<QRect> places() const {
+        QList<QRect> found;
+        for (const T* widget : window.findChildren<T*>()) {
+            if (widget->isVisible()) {
+                found.append(rectOf(*widget));
+            }
+        }
+        return found;
+    }
+
+    /// The place of the tooltip of `control`.
+    [[nodiscard]] QRect toolTipOf(Garden::IconButton& control) const {
+        QHelpEvent event(QEvent::ToolTip, {}, control.mapToGlobal(QPoint()));
+        QCoreApplication::sendEvent(&control, &event);
+        return child<Garden::ToolTip>().geometry();
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Look, ToolTipPlaces,
+                         ::testing::Values(QSize(640, 360), QSize(820, 760), QSize(940, 860),
+                                           QSize(1920, 1080)),
+                         sizeName);
+
+}  // namespace
+
+TEST_P(ToolTipPlaces, coverNoTextDigitsOrControls) {
+    const QList<QRect> covered = places<Garden::TrackedLabel>() + places<Garden::RollingDigits>() +
+                                 places<QAbstractButton>();
+    int shown = 0;
+    for (auto* control : window.findChildren<Garden::IconButton*>()) {
+        if (control->isVisible()) {
+            SCOPED_TRACE(control->toolTip().toStdString());
+            const QRect place = toolTipOf(*control);
+            EXPECT_TRUE(window.rect().contains(place));
+            for (const QRect& other : covered) {
+                EXPECT_FALSE(place.intersects(other))
+                    << other.x() << " " << other.y() << " " << other.width();
+            }
+            ++shown;
+        }
+    }
+    EXPECT_EQ(shown, 6);
+}
