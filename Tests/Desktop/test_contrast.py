@@ -19,6 +19,9 @@ RANK_WIDTH = 40
 # Inside the name field, without its frame and cursor.
 INSET = 18
 PLACEHOLDER_WIDTH = 60
+# Inside a menu item, and around the items.
+SHORTCUT_WIDTH = 50
+MENU_MARGIN = 6
 
 # Below level AA by design; the desktop's high-contrast setting raises it.
 LOW_BY_DESIGN = {"Your name"}
@@ -159,3 +162,26 @@ def test_the_wall_stands_out_with_the_high_contrast_setting(high_contrast_settin
 
 def test_the_wall_is_faint_by_default(game):
     assert 1.2 < wall_contrast(game) < 2
+
+
+def menu_contrasts(game):
+    """The contrast of a shortcut with the first menu, and of the menu's left edge with it."""
+    item = game.find("New Game")
+    eventually(item.is_showing, "the first menu is open")
+    left, top, width, height = item.extents_on_screen()
+    picture = game.desktop.screen.picture()
+    return (contrast(picture, (left + width - SHORTCUT_WIDTH, top, SHORTCUT_WIDTH, height)),
+            contrast(picture, (left - MENU_MARGIN, top + height // 2, MENU_MARGIN, 1)))
+
+
+def test_shortcuts_in_the_menus_reach_level_aa(game):
+    game.press("F10")
+    eventually(lambda: menu_contrasts(game)[0] >= LEVEL_AA, "the shortcut is legible")
+    assert menu_contrasts(game)[1] < 2
+
+
+def test_menus_stand_out_with_the_high_contrast_setting(high_contrast_setting, launch):
+    game = launch()
+    game.press("F10")
+    eventually(lambda: menu_contrasts(game)[0] >= LEVEL_AAA, "the shortcut is legible")
+    assert menu_contrasts(game)[1] >= 3
