@@ -39,6 +39,7 @@ GameWindow::GameWindow(Session& session)
     connect(chrome, &WindowChrome::resizeBegins, bounds, &WindowBounds::beginResize);
     band_->watchWindow();
     connect(band_, &TitleBand::menuInUseChanged, &session, &Session::setHeld);
+    connect(content_, &ContentView::dimmed, band_, &TitleBand::setDimming);
     connect(content_, &ContentView::appeared, this, &GameWindow::appeared, Qt::QueuedConnection);
     // Rendering its eight sizes takes longer than a frame.
     connect(this, &GameWindow::appeared, this,

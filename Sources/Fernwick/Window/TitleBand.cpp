@@ -1,6 +1,7 @@
 #include "Window/TitleBand.hpp"
 
 #include <QApplication>
+#include <QGraphicsOpacityEffect>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QMenu>
@@ -24,7 +25,10 @@ constexpr int buttonSpacing = 8;
 
 }  // namespace
 
-TitleBand::TitleBand(QWidget* window) : QWidget(window), menuBar_(new QMenuBar(this)) {
+TitleBand::TitleBand(QWidget* window)
+    : QWidget(window), menuBar_(new QMenuBar(this)), dimming_(new QGraphicsOpacityEffect(this)) {
+    setGraphicsEffect(dimming_);
+    setDimming(0);
     menuBar_->installEventFilter(this);
     auto* row = new QHBoxLayout(this);
     row->setSpacing(buttonSpacing);
@@ -59,11 +63,24 @@ void TitleBand::paintEvent(QPaintEvent*) {
     }
 }
 
+void TitleBand::setDimming(double opacity) {
+    dimming_->setOpacity(1 - opacity);
+    dim();
+}
+
+void TitleBand::dim() {
+    dimming_->setEnabled(dimming_->opacity() < 1 && !fullScreen_ && !menuInUse_);
+}
+
 void TitleBand::watchWindow() {
     window()->installEventFilter(this);
     window()->windowHandle()->installEventFilter(this);
     menuUse_ = new MenuUse(*menuBar_);
-    connect(menuUse_, &MenuUse::changed, this, &TitleBand::menuInUseChanged);
+    connect(menuUse_, &MenuUse::changed, this, [this](bool inUse) {
+        menuInUse_ = inUse;
+        dim();
+        Q_EMIT menuInUseChanged(inUse);
+    });
     connect(new AltTap(this), &AltTap::tapped, this, [this] {
         // QMenuBar handles Alt itself while it is visible.
         if (menuBar_->isHidden()) {
@@ -121,6 +138,7 @@ void TitleBand::followWindowState() {
             menuUse_->leaveBar();
         }
         menuBar_->setVisible(!fullScreen);
+        dim();
     }
 }
 

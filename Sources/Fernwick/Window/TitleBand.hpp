@@ -3,6 +3,7 @@
 #include <QList>
 #include <QWidget>
 
+class QGraphicsOpacityEffect;
 class QMenuBar;
 class QKeyEvent;
 class MenuUse;
@@ -29,6 +30,10 @@ public:
     /// If `content` begins within the band, the menu bar of full screen covers it.
     void setContent(const QRect& content);
 
+    /// Dims the menus and the buttons as black of this opacity would, but no menus that are in use
+    /// and none in full screen, where they are shown only to be used.
+    void setDimming(double opacity);
+
     /// Starts to follow the pointer and the keys. The window must have a native handle.
     void watchWindow();
 
@@ -43,6 +48,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void dim();
     void followWindowState();
     void followPointer(int y);
     bool followKey(const QKeyEvent& event);
@@ -51,6 +57,8 @@ private:
 
     QMenuBar* menuBar_;
     MenuUse* menuUse_ = nullptr;
+    QGraphicsOpacityEffect* dimming_;
+    bool menuInUse_ = false;
     QList<Garden::IconButton*> buttons_;
     Garden::IconButton* maximize_ = nullptr;
     bool fullScreen_ = false;

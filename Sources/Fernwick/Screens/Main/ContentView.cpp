@@ -32,6 +32,7 @@ ContentView::ContentView(Session& session, QWidget* parent)
       sheetLayer_(new SheetLayer(session, this)) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     connect(boardArea_, &BoardArea::placed, this, &ContentView::placeBoard);
+    connect(sheetLayer_, &SheetLayer::dimmed, this, &ContentView::dimmed);
 }
 
 void ContentView::setBand(int height) {

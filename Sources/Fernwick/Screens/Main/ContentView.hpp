@@ -29,6 +29,9 @@ public:
 Q_SIGNALS:
     /// The first frame has been painted.
     void appeared();
+    /// The sheet of high scores dims what is behind it by black of this opacity. What lies on top
+    /// of this widget has to follow.
+    void dimmed(double opacity);
 
 protected:
     bool event(QEvent* event) override;

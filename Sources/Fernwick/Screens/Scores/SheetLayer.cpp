@@ -13,7 +13,6 @@
 
 namespace {
 
-constexpr double scrimOpacity = 0.48;
 // The least distance of the sheet from the edges of the window, in points.
 constexpr int margin = 8;
 // A sheet that reaches into the title band leaves this much for the menus and for the buttons.
@@ -42,6 +41,7 @@ SheetLayer::SheetLayer(Session& session, QWidget* parent)
         if (effect_ != nullptr) {
             effect_->setPresence(value.toDouble());
         }
+        Q_EMIT dimmed(scrim());
         update();
     });
     connect(&presence_, &QVariantAnimation::finished, this, &SheetLayer::finish);
@@ -146,6 +146,15 @@ bool SheetLayer::focusNextPrevChild(bool next) {
     return false;
 }
 
+double SheetLayer::scrim() const {
+    return scrimOpacity * presence_.currentValue().toDouble();
+}
+
+void SheetLayer::showEvent(QShowEvent*) {
+    // A sheet that is open before the window is shown has not been animated.
+    Q_EMIT dimmed(scrim());
+}
+
 void SheetLayer::mousePressEvent(QMouseEvent* event) {
     event->accept();
 }
@@ -153,7 +162,7 @@ void SheetLayer::mousePressEvent(QMouseEvent* event) {
 void SheetLayer::paintEvent(QPaintEvent*) {
     const double presence = presence_.currentValue().toDouble();
     QPainter painter(this);
-    painter.fillRect(rect(), Garden::withOpacity(Qt::black, scrimOpacity * presence));
+    painter.fillRect(rect(), Garden::withOpacity(Qt::black, scrim()));
     if (!picture_.isNull()) {
         painter.setOpacity(presence);
         painter.drawPixmap(sheet_->pos() + QPointF(0, Garden::RiseEffect::shift(presence)),

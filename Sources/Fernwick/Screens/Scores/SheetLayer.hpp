@@ -21,13 +21,21 @@ class SheetLayer : public QWidget {
     Q_OBJECT
 
 public:
+    /// Of the black over what is behind the sheet.
+    static constexpr double scrimOpacity = 0.48;
+
     SheetLayer(Session& session, QWidget* parent);
+
+Q_SIGNALS:
+    /// The scrim has got this opacity, from 0 to `scrimOpacity`.
+    void dimmed(double opacity);
 
 protected:
     bool focusNextPrevChild(bool next) override;
     void mousePressEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     void refresh();
@@ -37,6 +45,7 @@ private:
     void showSheet(bool shown);
     void animate(QAbstractAnimation::Direction direction);
     void finish();
+    [[nodiscard]] double scrim() const;
 
     Session& session_;
     HighScoresView* sheet_ = nullptr;

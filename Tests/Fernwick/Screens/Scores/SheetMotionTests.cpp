@@ -1,3 +1,4 @@
+#include <QMenuBar>
 #include <QTest>
 #include <QVariantAnimation>
 #include <QWindow>
@@ -41,6 +42,22 @@ protected:
         processEvents();
     }
 
+    [[nodiscard]] QList<QWidget*> bandElements() const {
+        return {&child<QMenuBar>(), button("Minimise"), button("Maximise"), button("Close")};
+    }
+
+    /// The green of the brightest pixel of `element`.
+    [[nodiscard]] double brightest(const QImage& seen, const QWidget& element) const {
+        const QRect area = rectOf(element);
+        int found = 0;
+        for (int y = area.top(); y <= area.bottom(); ++y) {
+            for (int x = area.left(); x <= area.right(); ++x) {
+                found = std::max(found, Look::colourAt(seen, QPoint(x, y)).green());
+            }
+        }
+        return found;
+    }
+
     /// The colour of an empty point of the score sheet.
     [[nodiscard]] QColor sheetColour(const QImage& seen) const {
         return Look::colourAt(seen, sheet().mapTo(&window, QPoint(14, sheet().height() / 2)));
@@ -62,6 +79,83 @@ TEST_F(SheetMotion, fadesInOverTheScreenBehind) {
     Look::expectColour(finished, Garden::night, 0);
     EXPECT_NE(halfway, behind);
     EXPECT_NE(halfway, finished);
+}
+
+TEST_F(SheetMotion, dimsTheTitleBandWithTheScreenBehind) {
+    constexpr int groundShowingThrough = 9;
+    leaveFullScreen();
+    const QImage before = grab();
+    session.openScores();
+    pauseHalfway();
+    const QImage halfway = grab();
+    motion().resume();
+    waitForAnimations();
+    const QImage finished = grab();
+    session.closeScores();
+    waitForAnimations();
+
+    for (const QWidget* element : bandElements()) {
+        const double bright = brightest(before, *element);
+        EXPECT_NEAR(brightest(finished, *element), bright * (1 - SheetLayer::scrimOpacity),
+                    groundShowingThrough);
+        EXPECT_LT(brightest(finished, *element), brightest(halfway, *element));
+        EXPECT_LT(brightest(halfway, *element), bright);
+    }
+    EXPECT_EQ(grab(), before);
+}
+
+TEST_F(SheetMotion, dimsTheTitleBandUnderReducedMotion) {
+    const StillStyle still;
+    leaveFullScreen();
+    const QImage before = grab();
+    openScores();
+
+    for (const QWidget* element : bandElements()) {
+        EXPECT_LT(brightest(grab(), *element), 0.6 * brightest(before, *element));
+    }
+    session.closeScores();
+    EXPECT_EQ(grab(), before);
+}
+
+TEST_F(SheetMotion, dimsNoMenusThatAreInUse) {
+    leaveFullScreen();
+    auto& bar = child<QMenuBar>();
+    const double bright = brightest(grab(), bar);
+    openAndWait();
+
+    bar.setActiveAction(bar.actions().constLast());
+    processEvents();
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    EXPECT_GE(brightest(grab(), bar), bright);
+
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+    QTest::keyClick(&bar, Qt::Key_Escape);
+    processEvents();
+    EXPECT_LT(brightest(grab(), bar), 0.6 * bright);
+}
+
+TEST_F(SheetMotion, dimsNoMenuBarOfFullScreen) {
+    leaveFullScreen();
+    auto& bar = child<QMenuBar>();
+    const double bright = brightest(grab(), bar);
+    window.showFullScreen();
+    waitForFullScreen(true);
+    openAndWait();
+
+    bar.show();
+    processEvents();
+
+    EXPECT_GE(brightest(grab(), bar), bright);
+}
+
+TEST_F(SheetMotion, leavesTheWindowButtonsUsable) {
+    leaveFullScreen();
+    openAndWait();
+
+    click(*button("Minimise"));
+
+    EXPECT_TRUE(QTest::qWaitFor([this] { return window.isMinimized(); }));
+    EXPECT_TRUE(session.showingScores());
 }
 
 TEST_F(SheetMotion, risesWhileFadingIn) {
