@@ -1,5 +1,6 @@
 #include "Screens/Scores/ScoreRows.hpp"
 
+#include <QCoreApplication>
 #include <QFocusEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -159,6 +160,10 @@ int ScoreRows::pitch() const {
 void ScoreRows::placeList() {
     scrollArea_->setMaximumHeight(listHeight());
     layout()->activate();
+    // At once: otherwise a frame could show the rows squeezed into the height of the rows before.
+    column_->activate();
+    QEvent fitToRows(QEvent::LayoutRequest);
+    QCoreApplication::sendEvent(scrollArea_, &fitToRows);
     QRect trailingEdge = scrollArea_->geometry();
     trailingEdge.setLeft(width() - scrollBarWidth);
     indicator_->setGeometry(QStyle::visualRect(layoutDirection(), rect(), trailingEdge));
@@ -185,6 +190,7 @@ void ScoreRows::setRowCount(std::size_t count) {
         row->setDensity(density_);
         // Insert before the final stretch, which aligns a short list to the top.
         column_->insertWidget(column_->count() - 1, row);
+        row->setVisible(true);
         rows_.append(row);
     }
 }
@@ -203,8 +209,7 @@ void ScoreRows::setEntries(const std::vector<SnakeCore::HighScore>& entries,
             highlightedRow_ = row;
         }
     }
-    // Queued: new rows have no geometry before the layout has run.
-    QMetaObject::invokeMethod(this, &ScoreRows::placeList, Qt::QueuedConnection);
+    placeList();
 }
 
 void ScoreRows::showHighlighted() {

@@ -151,6 +151,21 @@ TEST_F(ScoreRowsTest, showsWholeRowsFromTheTopAfterScrollingToTheHighlightedEntr
     }
 }
 
+TEST_F(ScoreRowsTest, placesOtherEntriesAtOnce) {
+    rows.show();
+    for (const std::int64_t count : {1, 10, 2, 0, 10}) {
+        SCOPED_TRACE(count);
+        rows.setEntries(entries(count));
+        const QImage first = picture();
+
+        QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
+
+        EXPECT_EQ(picture(), first);
+    }
+}
+
 TEST_F(ScoreRowsTest, fadesOnlyRowsThatAnEdgeCuts) {
     rows.setEntries(entries(10));
     rows.show();
