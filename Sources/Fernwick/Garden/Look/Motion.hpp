@@ -17,6 +17,8 @@ inline constexpr int sheetDuration = 180;
 
 /// How long a menu takes to appear or disappear, in milliseconds.
 inline constexpr int menuDuration = 120;
+/// How long the card over an ended run takes to appear, in milliseconds.
+inline constexpr int cardDuration = 150;
 
 /// Whether the desktop or its style turns animations off. Follows changes while the program runs.
 [[nodiscard]] bool reducedMotion();

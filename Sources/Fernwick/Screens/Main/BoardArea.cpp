@@ -24,6 +24,7 @@ BoardArea::BoardArea(Session& session, Painting::Backdrop& backdrop, QWidget* pa
       overlay_(new Overlay(session, this)),
       gameOver_(new GameOverView(session, this)) {
     connect(&session_, &Session::changed, this, &BoardArea::refresh);
+    connect(gameOver_, &GameOverView::scrimChanged, this, &BoardArea::refresh);
     refresh();
 }
 
@@ -42,7 +43,7 @@ void BoardArea::refresh() {
     const bool idle = !session_.running();
     board_->setGame(session_.game());
     board_->setIdle(idle);
-    board_->setScrim(!idle ? 0 : ended ? GameOverView::scrimOpacity : Overlay::scrimOpacity);
+    board_->setScrim(!idle ? 0 : ended ? gameOver_->scrim() : Overlay::scrimOpacity);
     showCard(*overlay_, idle && !ended);
     showCard(*gameOver_, idle && ended);
 }

@@ -1,8 +1,10 @@
 #include "Screens/Scores/GameOverView.hpp"
 
+#include <QGraphicsOpacityEffect>
 #include <algorithm>
 
 #include "Garden/Look/Fonts.hpp"
+#include "Garden/Look/Motion.hpp"
 #include "Garden/Look/NumberText.hpp"
 #include "Garden/Look/Palette.hpp"
 #include "Garden/Widgets/FocusRing.hpp"
@@ -29,15 +31,16 @@ constexpr double leastWidth = 376;
 GameOverView::GameOverView(Session& session, QWidget* parent)
     : QWidget(parent),
       session_(session),
+      presence_(this),
+      card_(new QWidget(this)),
       headline_(new Garden::TrackedLabel({}, Garden::serif(headlineSize, QFont::Normal),
                                          Garden::primaryText)),
       result_(new Garden::TrackedLabel({}, Garden::sans(resultSize, QFont::Medium, resultTracking),
                                        Garden::mint)),
       nameEntry_(new NameEntry(session)),
       savedBoard_(new SavedBoard(session)) {
-    auto* card = new QWidget(this);
-    card->setMaximumWidth(widestCard);
-    auto* column = Garden::layOut<QVBoxLayout>(card, spacing);
+    card_->setMaximumWidth(widestCard);
+    auto* column = Garden::layOut<QVBoxLayout>(card_, spacing);
     column->addWidget(headline_, 0, Qt::AlignHCenter);
     column->addWidget(result_, 0, Qt::AlignHCenter);
     column->addWidget(nameEntry_);
@@ -46,9 +49,21 @@ GameOverView::GameOverView(Session& session, QWidget* parent)
     auto* area = Garden::layOut<QHBoxLayout>(this, 0, cardPadding);
     area->addStretch();
     // The stretch factor lets the card grow to its maximum width before the margins grow.
-    area->addWidget(card, 1, Qt::AlignVCenter);
+    area->addWidget(card_, 1, Qt::AlignVCenter);
     area->addStretch();
     density_ = new Garden::ContentDensity(*this);
+
+    presence_.setStartValue(0.0);
+    presence_.setEndValue(1.0);
+    presence_.setDuration(Garden::cardDuration);
+    presence_.setEasingCurve(QEasingCurve::OutCubic);
+    connect(&presence_, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
+        if (fade_ != nullptr) {
+            fade_->setOpacity(value.toDouble());
+        }
+        Q_EMIT scrimChanged();
+    });
+    connect(&presence_, &QVariantAnimation::finished, this, &GameOverView::endFade);
     connect(&session_, &Session::changed, this, &GameOverView::refresh);
     refresh();
 }
@@ -63,8 +78,30 @@ void GameOverView::fit() {
     density_->set(density);
 }
 
+double GameOverView::scrim() const {
+    return fade_ == nullptr ? scrimOpacity : scrimOpacity * presence_.currentValue().toDouble();
+}
+
+void GameOverView::fadeIn() {
+    if (!window()->isVisible() || Garden::reducedMotion()) {
+        return;
+    }
+    fade_ = new QGraphicsOpacityEffect;
+    fade_->setOpacity(0);
+    card_->setGraphicsEffect(fade_);
+    presence_.start();
+}
+
+void GameOverView::endFade() {
+    presence_.stop();
+    card_->setGraphicsEffect(nullptr);
+}
+
 void GameOverView::refresh() {
-    if (!session_.game().ended()) {
+    const bool endsNow = session_.game().ended() && !ended_;
+    ended_ = session_.game().ended();
+    if (!ended_) {
+        endFade();
         return;
     }
     fit();
@@ -85,5 +122,8 @@ void GameOverView::refresh() {
         // Shown before it changes: screen readers announce changes of visible widgets only.
         savedBoard_->show();
         savedBoard_->refresh();
+    }
+    if (endsNow) {
+        fadeIn();
     }
 }
