@@ -36,7 +36,6 @@ SheetLayer::SheetLayer(Session& session, QWidget* parent)
     presence_.setStartValue(0.0);
     presence_.setEndValue(1.0);
     presence_.setDuration(Garden::sheetDuration);
-    presence_.setEasingCurve(QEasingCurve::OutCubic);
     connect(&presence_, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
         if (effect_ != nullptr) {
             effect_->setPresence(value.toDouble());
@@ -112,6 +111,10 @@ void SheetLayer::animate(QAbstractAnimation::Direction direction) {
     if (window()->isVisible() && !Garden::reducedMotion()) {
         // A running animation reverses from its current value.
         if (presence_.state() == QAbstractAnimation::Stopped) {
+            // Backwards, the curve of the appearance would end abruptly.
+            presence_.setEasingCurve(direction == QAbstractAnimation::Forward
+                                         ? QEasingCurve::OutCubic
+                                         : QEasingCurve::InOutQuad);
             presence_.start();
         }
     } else {

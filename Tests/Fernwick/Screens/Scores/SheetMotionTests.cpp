@@ -210,6 +210,22 @@ TEST_F(SheetMotion, startsFadingOutAtFullOpacity) {
     }
 }
 
+TEST_F(SheetMotion, endsSoftlyInBothDirections) {
+    const auto presenceNearTheEnd = [this](double share) {
+        motion().pause();
+        motion().setCurrentTime(qRound(motion().duration() * share));
+        const double presence = motion().currentValue().toDouble();
+        motion().resume();
+        waitForAnimations();
+        return presence;
+    };
+
+    session.openScores();
+    EXPECT_GT(presenceNearTheEnd(0.85), 0.95);
+    session.closeScores();
+    EXPECT_LT(presenceNearTheEnd(0.15), 0.05);
+}
+
 TEST_F(SheetMotion, restoresTheScreenBehind) {
     const QImage before = grab();
     openAndWait();
