@@ -213,13 +213,16 @@ void ScoreRows::setEntries(const std::vector<SnakeCore::HighScore>& entries,
 }
 
 void ScoreRows::showHighlighted() {
+    if (highlightedRow_ == nullptr && !showsWholeRows()) {
+        return;
+    }
+    QScrollBar* scrolling = scrollArea_->verticalScrollBar();
+    int top = scrolling->value();
     if (highlightedRow_ != nullptr) {
-        scrollArea_->ensureWidgetVisible(highlightedRow_, 0, 0);
+        const QRect row = highlightedRow_->geometry();
+        top = std::max(0, row.top() + row.height() - scrollArea_->viewport()->height());
     }
-    if (highlightedRow_ != nullptr || showsWholeRows()) {
-        QScrollBar* scrolling = scrollArea_->verticalScrollBar();
-        scrolling->setValue((scrolling->value() + pitch() - 1) / pitch() * pitch());
-    }
+    scrolling->setValue((top + pitch() - 1) / pitch() * pitch());
 }
 
 void ScoreRows::fadeCutRows() {

@@ -2,7 +2,10 @@
 #include <QWindow>
 
 #include "Fernwick/Window/WindowTest.hpp"
+#include "Screens/Scores/GameOverView.hpp"
 #include "Screens/Scores/NameField.hpp"
+#include "Screens/Scores/ScoreRow.hpp"
+#include "Screens/Scores/ScoreRows.hpp"
 
 namespace {
 
@@ -18,6 +21,15 @@ protected:
         QTest::keyClicks(&field(), text);
         processEvents();
     }
+};
+
+const SavedScores sevenHighAndThreeLow{{"A", 9000}, {"B", 9000}, {"C", 9000}, {"D", 9000},
+                                       {"E", 9000}, {"F", 9000}, {"G", 9000}, {"H", 0},
+                                       {"I", 0},    {"J", 0}};
+
+class CardOverAFullTable : public WindowTest {
+protected:
+    CardOverAFullTable() : WindowTest(sevenHighAndThreeLow) {}
 };
 
 }  // namespace
@@ -214,4 +226,13 @@ TEST_F(GameOverCard, startsANewRunOnSpaceRightAfterSkippingWithTheKeyboard) {
     QTest::keyClick(&window, Qt::Key_Space);
 
     EXPECT_TRUE(session.running());
+}
+
+TEST_F(CardOverAFullTable, scrollsByWholeRowsAsFarAsTheNewRowNeeds) {
+    playAndSaveAs("Ada");
+
+    const auto& list = *child<GameOverView>().findChild<ScoreRows*>();
+    const QList<ScoreRow*> rows = list.findChildren<ScoreRow*>();
+    ASSERT_TRUE(Screen::nameOf(rows[7]).contains(QStringLiteral("Ada")));
+    EXPECT_EQ(rows[5]->mapTo(&list, QPoint()).y(), 0);
 }

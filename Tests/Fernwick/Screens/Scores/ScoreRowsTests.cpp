@@ -166,6 +166,20 @@ TEST_F(ScoreRowsTest, placesOtherEntriesAtOnce) {
     }
 }
 
+TEST_F(ScoreRowsTest, scrollsOnlyAsFarAsTheHighlightedEntryNeedsOnceItHasItsHeight) {
+    const std::vector<SnakeCore::HighScore> ten = entries(10);
+    rows.show();
+    rows.setFixedHeight(listHeight / 3);
+    rows.setEntries(ten, ten[7].id);
+    QCoreApplication::processEvents();
+    ASSERT_GT(rows.findChildren<ScoreRow*>()[7]->mapTo(&rows, QPoint()).y(), -1);
+
+    rows.setFixedHeight(listHeight);
+    QCoreApplication::processEvents();
+
+    EXPECT_EQ(rows.findChildren<ScoreRow*>()[5]->mapTo(&rows, QPoint()).y(), 0);
+}
+
 TEST_F(ScoreRowsTest, fadesOnlyRowsThatAnEdgeCuts) {
     rows.setEntries(entries(10));
     rows.show();
