@@ -44,6 +44,7 @@ SavedBoard::SavedBoard(Session& session, QWidget* parent)
 
 void SavedBoard::clear() {
     title_->setText({});
+    rows_->setEntries({}, std::nullopt);
 }
 
 void SavedBoard::refresh() {

@@ -19,7 +19,8 @@ public:
 
     void refresh();
 
-    /// Clears the title, so that the next one is announced to screen readers as a change.
+    /// Clears the title, so that the next one is announced to screen readers as a change, and the
+    /// list, which is scrolled anew then.
     void clear();
 
 private:

@@ -59,6 +59,7 @@ ScoreRows::ScoreRows(QWidget* parent)
         new Garden::TrackedLabel(tr("A fresh start. Be the first on the board."),
                                  Garden::sans(emptyTextSize, QFont::Normal), Garden::muted),
         0, Qt::AlignCenter);
+    scrollArea_->hide();
     auto* list = new QWidget;
     column_ = Garden::layOut<QVBoxLayout>(list, rowSpacing);
     column_->addStretch();
@@ -197,6 +198,11 @@ void ScoreRows::setRowCount(std::size_t count) {
 
 void ScoreRows::setEntries(const std::vector<SnakeCore::HighScore>& entries,
                            const std::optional<SnakeCore::UUID>& highlighted) {
+    if (entries == entries_ && highlighted == highlighted_) {
+        return;
+    }
+    entries_ = entries;
+    highlighted_ = highlighted;
     empty_->setVisible(entries.empty());
     scrollArea_->setVisible(!entries.empty());
     setRowCount(entries.size());

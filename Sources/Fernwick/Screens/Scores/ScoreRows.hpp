@@ -73,5 +73,7 @@ private:
     Garden::FocusRing focusRing_;
     QVBoxLayout* column_;
     QList<ScoreRow*> rows_;
+    std::vector<SnakeCore::HighScore> entries_;
+    std::optional<SnakeCore::UUID> highlighted_;
     QPointer<ScoreRow> highlightedRow_;
 };

@@ -1,3 +1,5 @@
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 #include <QWindow>
 
@@ -235,4 +237,16 @@ TEST_F(CardOverAFullTable, scrollsByWholeRowsAsFarAsTheNewRowNeeds) {
     const QList<ScoreRow*> rows = list.findChildren<ScoreRow*>();
     ASSERT_TRUE(Screen::nameOf(rows[7]).contains(QStringLiteral("Ada")));
     EXPECT_EQ(rows[5]->mapTo(&list, QPoint()).y(), 0);
+}
+
+TEST_F(CardOverAFullTable, staysWhereItIsScrolledWhenTheSoundIsTurnedOff) {
+    playAndSaveAs("Ada");
+    auto& scrolling = *child<GameOverView>().findChild<QScrollArea*>()->verticalScrollBar();
+    ASSERT_GT(scrolling.value(), 0);
+    scrolling.setValue(0);
+
+    session.setSound(!session.sound());
+    processEvents();
+
+    EXPECT_EQ(scrolling.value(), 0);
 }
