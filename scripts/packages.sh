@@ -18,7 +18,8 @@ libicu-dev           ICU: finds the user-perceived characters of a name
 uuid-dev             libuuid: one UUID per run
 libwayland-dev       Wayland client library, for the activation token of a second start
 wayland-protocols    the description of that protocol
-libxcb1-dev          X11 client library, for a request to the window manager
+libxcb1-dev          X11 client library, for requests that Qt does not make
+libxcb-shape0-dev    its SHAPE extension: where the window takes the pointer
 libpulse-dev         PulseAudio client library for the two sounds
 fonts-inter          embedded font of the texts
 fonts-elstob         embedded font of the headlines
