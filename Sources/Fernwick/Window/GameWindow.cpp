@@ -2,8 +2,10 @@
 
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QPainter>
 #include <QResizeEvent>
 
+#include "Desktop/X11Compositor.hpp"
 #include "Garden/Look/Icons.hpp"
 #include "Garden/Widgets/Accessibility.hpp"
 #include "Screens/Main/ContentView.hpp"
@@ -14,6 +16,7 @@
 #include "Window/TitleBand.hpp"
 #include "Window/WindowBounds.hpp"
 #include "Window/WindowChrome.hpp"
+#include "Window/WindowFrame.hpp"
 
 GameWindow::GameWindow(Session& session)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint),
@@ -24,7 +27,8 @@ GameWindow::GameWindow(Session& session)
     setObjectName(QStringLiteral("main"));
     //: The name of the game. Stays as it is in every language.
     setWindowTitle(tr("Fernwick"));
-    // The content paints every pixel.
+    setAttribute(Qt::WA_TranslucentBackground, Desktop::isComposited());
+    // The content and the shadow around it paint every pixel.
     setAttribute(Qt::WA_OpaquePaintEvent);
 
     band_->raise();
@@ -34,13 +38,16 @@ GameWindow::GameWindow(Session& session)
     new LaunchView(this);
     new MenuCommands(session, band_->menuBar(), *this);
     create();
-    auto* bounds = new WindowBounds(*this);
-    auto* chrome = new WindowChrome(*this, TitleBand::height);
+    frame_ = new WindowFrame(*this);
+    auto* bounds = new WindowBounds(*this, *frame_);
+    auto* chrome = new WindowChrome(*this, *frame_, TitleBand::height);
+    connect(frame_, &WindowFrame::marginsChanged, this, &GameWindow::placeContent);
     connect(chrome, &WindowChrome::resizeBegins, bounds, &WindowBounds::beginResize);
     band_->watchWindow();
     connect(band_, &TitleBand::menuInUseChanged, &session, &Session::setHeld);
     connect(content_, &ContentView::dimmed, band_, &TitleBand::setDimming);
     connect(content_, &ContentView::appeared, this, &GameWindow::appeared, Qt::QueuedConnection);
+    connect(this, &GameWindow::appeared, frame_, &WindowFrame::begin);
     // Rendering its eight sizes takes longer than a frame.
     connect(this, &GameWindow::appeared, this,
             [this] { setWindowIcon(Garden::applicationIcon()); });
@@ -59,12 +66,18 @@ void GameWindow::resizeEvent(QResizeEvent* event) {
     placeContent();
 }
 
+void GameWindow::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    frame_->paintShadow(painter, rect());
+}
+
 void GameWindow::placeContent() {
-    content_->setGeometry(rect());
+    const QRect visible = frame_ == nullptr ? rect() : frame_->visibleArea();
+    content_->setGeometry(visible);
     content_->setBand(isFullScreen() ? 0 : TitleBand::height);
     band_->setContent(content_->contentArea());
     // A resize event's size is stale if an event filter has resized the window again.
-    band_->setGeometry(0, 0, width(), TitleBand::height);
+    band_->setGeometry(QRect(visible.topLeft(), QSize(visible.width(), TitleBand::height)));
 }
 
 void GameWindow::closeEvent(QCloseEvent* event) {

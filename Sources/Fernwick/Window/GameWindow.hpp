@@ -5,8 +5,10 @@
 class ContentView;
 class TitleBand;
 class Session;
+class WindowFrame;
 
-/// The main window: frameless, filled by the main screen, with the title band on top of it.
+/// The main window: without a system frame, filled by the main screen, with the title band on top
+/// of it. Where it draws a shadow, all of that lies within the shadow's margins.
 class GameWindow : public QWidget {
     Q_OBJECT
 
@@ -20,6 +22,7 @@ Q_SIGNALS:
 protected:
     void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
@@ -27,4 +30,5 @@ private:
 
     TitleBand* band_;
     ContentView* content_;
+    WindowFrame* frame_ = nullptr;
 };

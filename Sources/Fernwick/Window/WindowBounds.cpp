@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "Desktop/Environment.hpp"
+#include "Window/WindowFrame.hpp"
 
 namespace {
 
@@ -36,8 +37,10 @@ bool coversScreen(const QWidget& window) {
 
 }  // namespace
 
-WindowBounds::WindowBounds(QWidget& window) : QObject(&window), window_(window) {
+WindowBounds::WindowBounds(QWidget& window, const WindowFrame& frame)
+    : QObject(&window), window_(window), frame_(frame) {
     window.resize(defaultSizeOn(*window.screen()));
+    normalSize_ = window.size();
     // Some X11 window managers would put it into the top left corner. On Wayland the compositor
     // alone decides.
     window.move(window.screen()->availableGeometry().center() - window.rect().center());
@@ -50,6 +53,7 @@ WindowBounds::WindowBounds(QWidget& window) : QObject(&window), window_(window) 
     // Queued, so that Qt has already moved the window to a remaining screen.
     connect(qGuiApp, &QGuiApplication::screenRemoved, this, &WindowBounds::fitToChangedScreen,
             Qt::QueuedConnection);
+    connect(&frame, &WindowFrame::marginsChanged, this, &WindowBounds::followMargins);
     followScreen();
 }
 
@@ -60,7 +64,7 @@ void WindowBounds::followScreen() {
     setMinimum();
     // Only the size: the player may be dragging the window from another screen.
     if (!coversScreen(window_)) {
-        window_.resize(window_.size().boundedTo(screen.availableSize()));
+        window_.resize(window_.size().boundedTo(screen.availableSize().grownBy(frame_.margins())));
     }
 }
 
@@ -68,7 +72,36 @@ void WindowBounds::setMinimum() {
     // Qt's Wayland plugin never makes a window smaller than its minimum size. A tile of a tiling
     // compositor would be cut off, and a smaller output in full screen would be a protocol error.
     const QSize minimum = Desktop::isOnWayland() ? minimumTile : minimumSize;
-    window_.setMinimumSize(minimum.boundedTo(window_.screen()->availableSize()));
+    window_.setMinimumSize(
+        minimum.boundedTo(window_.screen()->availableSize()).grownBy(frame_.margins()));
+}
+
+void WindowBounds::followMargins() {
+    if (!frame_.fillsScreen() && isAsRemembered()) {
+        window_.setGeometry(visiblePlace().marginsAdded(frame_.margins()));
+    }
+    setMinimum();
+}
+
+bool WindowBounds::isAsRemembered() const {
+    return window_.size() == normalSize_.grownBy(normalMargins_);
+}
+
+// When the margins change or a window leaves full screen, mutter and KWin keep the size of its
+// visible part. The other window managers keep its whole size, with the margins of before.
+QRect WindowBounds::visiblePlace() const {
+    return window_.geometry().marginsRemoved(isAsRemembered() ? normalMargins_ : frame_.margins());
+}
+
+void WindowBounds::rememberSize() {
+    const QSize size = frame_.visibleArea().size();
+    // The size may change before the state.
+    const bool covers =
+        frame_.fillsScreen() || size.expandedTo(window_.screen()->availableSize()) == size;
+    if (!covers && !fitsAtNextResize_) {
+        normalSize_ = size;
+        normalMargins_ = frame_.margins();
+    }
 }
 
 void WindowBounds::beginResize() {
@@ -115,10 +148,12 @@ void WindowBounds::fit() {
         return;
     }
     const QRect room = window_.screen()->availableGeometry();
-    QRect place(window_.pos(), window_.size().boundedTo(room.size()));
+    QRect place = visiblePlace();
+    place.setSize(place.size().boundedTo(room.size()));
     place.moveLeft(std::clamp(place.left(), room.left(), room.right() + 1 - place.width()));
     place.moveTop(std::clamp(place.top(), room.top(), room.bottom() + 1 - place.height()));
-    window_.setGeometry(place);
+    window_.setGeometry(place.marginsAdded(frame_.margins()));
+    rememberSize();
 }
 
 bool WindowBounds::eventFilter(QObject* watched, QEvent* event) {
@@ -127,6 +162,7 @@ bool WindowBounds::eventFilter(QObject* watched, QEvent* event) {
             followState();
             break;
         case QEvent::Resize:
+            rememberSize();
             if (fitsAtNextResize_) {
                 QMetaObject::invokeMethod(this, &WindowBounds::fit, Qt::QueuedConnection);
             }

@@ -7,6 +7,8 @@
 #include <QWidget>
 #include <QWindow>
 
+#include "Window/WindowFrame.hpp"
+
 namespace {
 
 // In points: easy to hit, and still inside the window's empty margins.
@@ -24,8 +26,12 @@ Qt::CursorShape cursorFor(Qt::Edges edges) {
 
 }  // namespace
 
-WindowChrome::WindowChrome(QWidget& window, int bandHeight)
-    : QObject(&window), window_(window), handle_(window.windowHandle()), bandHeight_(bandHeight) {
+WindowChrome::WindowChrome(QWidget& window, const WindowFrame& frame, int bandHeight)
+    : QObject(&window),
+      window_(window),
+      frame_(frame),
+      handle_(window.windowHandle()),
+      bandHeight_(bandHeight) {
     // The QWindow gets pointer events before any child widget.
     handle_->installEventFilter(this);
 }
@@ -34,16 +40,21 @@ Qt::Edges WindowChrome::edgesAt(const QPoint& position) const {
     if (window_.isFullScreen() || window_.isMaximized()) {
         return {};
     }
+    const QRect visible = frame_.visibleArea();
     Qt::Edges edges;
-    edges.setFlag(Qt::LeftEdge, position.x() < gripWidth);
-    edges.setFlag(Qt::RightEdge, position.x() >= window_.width() - gripWidth);
-    edges.setFlag(Qt::TopEdge, position.y() < gripWidth);
-    edges.setFlag(Qt::BottomEdge, position.y() >= window_.height() - gripWidth);
+    if (frame_.inputArea().contains(position)) {
+        edges.setFlag(Qt::LeftEdge, position.x() < visible.left() + gripWidth);
+        edges.setFlag(Qt::RightEdge, position.x() > visible.right() - gripWidth);
+        edges.setFlag(Qt::TopEdge, position.y() < visible.top() + gripWidth);
+        edges.setFlag(Qt::BottomEdge, position.y() > visible.bottom() - gripWidth);
+    }
     return edges;
 }
 
 bool WindowChrome::isBand(const QPoint& position) const {
-    if (window_.isFullScreen() || position.y() >= bandHeight_) {
+    QRect band = frame_.visibleArea();
+    band.setHeight(bandHeight_);
+    if (window_.isFullScreen() || !band.contains(position)) {
         return false;
     }
     const QWidget* child = window_.childAt(position);

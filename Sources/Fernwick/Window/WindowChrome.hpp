@@ -8,6 +8,7 @@
 class QMouseEvent;
 class QWidget;
 class QWindow;
+class WindowFrame;
 
 /// Moves and resizes a frameless window: its top band drags it, a double click there maximises it,
 /// its edges resize it. Does nothing in full screen.
@@ -16,7 +17,7 @@ class WindowChrome : public QObject {
 
 public:
     /// `window` must have a native handle; `bandHeight` is in points.
-    WindowChrome(QWidget& window, int bandHeight);
+    WindowChrome(QWidget& window, const WindowFrame& frame, int bandHeight);
 
     /// The edges that a press at `position` (in points, in the window) would resize; none in full
     /// screen, when maximised, or away from the edges.
@@ -35,6 +36,7 @@ private:
     bool drag(const QMouseEvent& event);
 
     QWidget& window_;
+    const WindowFrame& frame_;
     QPointer<QWindow> handle_;
     int bandHeight_;
     Qt::Edges hovered_;
