@@ -21,11 +21,11 @@ from steps import SCRIPT
 from sway import Sway
 from trial import Trial
 from wayland import KwinWayland, Weston
-from x11 import Fluxbox, I3, Icewm, KwinX11, Marco, Metacity, Openbox, Xfwm4
+from x11 import Fluxbox, I3, Icewm, KwinX11, Marco, Metacity, Openbox, Xfwm4, Xfwm4Composited
 
 DESKTOPS = {kind.NAME: kind for kind in (
-    GnomeWayland, GnomeX11, KwinWayland, KwinX11, Xfwm4, Marco, Metacity, Openbox, Icewm, Fluxbox,
-    I3, Sway, Weston)}
+    GnomeWayland, GnomeX11, KwinWayland, KwinX11, Xfwm4, Xfwm4Composited, Marco, Metacity,
+    Openbox, Icewm, Fluxbox, I3, Sway, Weston)}
 PASSED = "pass"
 UNWIND_SECONDS = 5
 SIGNALS = signal.SIGINT, signal.SIGTERM, signal.SIGHUP

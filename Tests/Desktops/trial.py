@@ -92,18 +92,23 @@ class Trial:
                                  f"size is {self.size()}") from None
 
     def size(self):
-        """The window's width and height as the game reports them."""
+        """The window's width and height as the game reports them, without its shadow."""
         window, = self.game.top().children()
-        return tuple(window.extents_on_screen()[2:])
+        _, _, width, height = window.extents_on_screen()
+        left, right, top, bottom = self.desktop.margins(self.game)
+        scale = self.desktop.scale
+        return (width - round((left + right) / scale), height - round((top + bottom) / scale))
 
     def place_of(self, element):
         """Left, top, width and height of an element on the X server's screen."""
         left, top, _, _ = self.desktop.bounds(self.game)
+        margin_left, _, margin_top, _ = self.desktop.margins(self.game)
         x, y, _, _ = element.extents_in_window()
         # Qt 6.4 reports a wrong size with that place.
         _, _, width, height = element.extents_on_screen()
         scale = self.desktop.scale
-        return left + x * scale, top + y * scale, width * scale, height * scale
+        return (left - margin_left + x * scale, top - margin_top + y * scale,
+                width * scale, height * scale)
 
     # Pointer and keys.
 

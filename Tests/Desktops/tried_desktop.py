@@ -43,8 +43,14 @@ class TriedDesktop(Desktop):
         raise NotImplementedError
 
     def bounds(self, game):
-        """Left, top, width and height of the game's window in pixels of the X server."""
+        """Left, top, width and height of the game's window in pixels of the X server, without its
+        shadow."""
         raise NotImplementedError
+
+    def margins(self, game):
+        """How far the window's shadow reaches to the left, right, top and bottom, if it is a part
+        of the window, in pixels of the X server."""
+        return 0, 0, 0, 0
 
     def work_area(self):
         """What panels leave free of the screen, like `bounds`."""

@@ -21,7 +21,17 @@ class X11Desktop(TriedDesktop):
         """Writes its settings."""
 
     def bounds(self, game):
-        return self.bounds_of(game.window)
+        bounds = self.bounds_of(game.window)
+        if bounds is None:
+            return None
+        whole_left, whole_top, width, height = bounds
+        left, right, top, bottom = self.margins(game)
+        return whole_left + left, whole_top + top, width - left - right, height - top - bottom
+
+    def margins(self, game):
+        numbers = re.findall(r"\d+", self.property_lines(game.window, "_GTK_FRAME_EXTENTS")
+                             .partition("=")[2])
+        return tuple(map(int, numbers)) or super().margins(game)
 
     def bounds_of(self, window):
         lines = subprocess.run(["xwininfo", "-id", str(window)], env=self.environment,
@@ -69,6 +79,14 @@ class Xfwm4(X11Desktop):
     NAME = "xfwm4"
     PROGRAMS = ("xfwm4",)
     COMMAND = ("xfwm4", "--compositor=off")
+
+
+class Xfwm4Composited(X11Desktop):
+    """Where the game's window has a shadow and is larger than its visible part."""
+
+    NAME = "xfwm4-composited"
+    PROGRAMS = ("xfwm4",)
+    COMMAND = ("xfwm4", "--compositor=on")
 
 
 class Marco(X11Desktop):
