@@ -39,12 +39,15 @@ class Composited(LightDesktop):
 
 
 class NotComposited(LightDesktop):
-    WINDOW_MANAGER = ("openbox",)
+    WINDOW_MANAGER = "xfwm4", "--compositor=off"
 
 
-def launched_on(desktop, home, folder):
-    game = Game(desktop, folder, desktop.environment | home.environment | ACCESSIBLE)
+def launched_on(desktop, home, folder, **environment):
+    game = Game(desktop, folder,
+                desktop.environment | home.environment | ACCESSIBLE | environment)
     game.wait_until_shown()
+    # xfwm4 marks the window as active before it gets the keys.
+    eventually(lambda: game.top().children()[0].is_active(), "the game has the focus")
     return game
 
 
@@ -55,12 +58,25 @@ def composited():
 
 
 @pytest.fixture
-def game(composited, home, tmp_path):
-    """The game on the composited desktop, in full screen."""
-    game = launched_on(composited, home, tmp_path)
-    yield game
-    game.kill()
-    assert game.printed() == ""
+def launch(composited, home, tmp_path):
+    """Starts the game on the composited desktop, in full screen.
+
+    Keyword arguments are environment variables."""
+    games = []
+
+    def launch(**environment):
+        games.append(launched_on(composited, home, tmp_path, **environment))
+        return games[-1]
+
+    yield launch
+    for game in games:
+        game.kill()
+        assert game.printed() == ""
+
+
+@pytest.fixture
+def game(launch):
+    return launch()
 
 
 def margins(game):
@@ -116,9 +132,8 @@ def test_the_shadow_is_soft_and_grey(game):
 def test_full_screen_has_no_shadow_and_square_corners(game):
     assert game.geometry() == WHOLE_SCREEN
     assert margins(game) == (0, 0, 0, 0)
-    for x in (0, Screen.WIDTH - 1):
-        for y in (0, Screen.HEIGHT - 1):
-            assert is_dark(game, x, y)
+    eventually(lambda: all(is_dark(game, x, y) for x in (0, Screen.WIDTH - 1)
+                           for y in (0, Screen.HEIGHT - 1)), "the corners are dark")
     leave_full_screen(game)
     game.press("F11")
     eventually(lambda: game.geometry() == WHOLE_SCREEN and is_dark(game, 0, 0),
@@ -141,6 +156,14 @@ def test_the_window_stands_in_the_middle(game):
     left, top, width, height = visible(game)
     assert abs(left + width / 2 - Screen.WIDTH / 2) <= 1
     assert abs(top + height / 2 - Screen.HEIGHT / 2) <= 1
+
+
+def test_without_room_for_the_shadow_the_window_still_has_its_size(launch):
+    game = launch(QT_SCALE_FACTOR="2")
+    game.press("F11")
+    eventually(lambda: visible(game)[2:] == (2 * DEFAULT_SIZE[0], Screen.HEIGHT)
+               and margins(game) == (72, 72, 64, 80),
+               "the window is as high as the screen, without its shadow")
 
 
 def pointed_window(desktop):

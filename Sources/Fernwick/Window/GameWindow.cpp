@@ -5,7 +5,6 @@
 #include <QPainter>
 #include <QResizeEvent>
 
-#include "Desktop/X11Compositor.hpp"
 #include "Garden/Look/Icons.hpp"
 #include "Garden/Widgets/Accessibility.hpp"
 #include "Screens/Main/ContentView.hpp"
@@ -27,7 +26,7 @@ GameWindow::GameWindow(Session& session)
     setObjectName(QStringLiteral("main"));
     //: The name of the game. Stays as it is in every language.
     setWindowTitle(tr("Fernwick"));
-    setAttribute(Qt::WA_TranslucentBackground, Desktop::isComposited());
+    setAttribute(Qt::WA_TranslucentBackground, WindowFrame::isSupported());
     // The content and the shadow around it paint every pixel.
     setAttribute(Qt::WA_OpaquePaintEvent);
 

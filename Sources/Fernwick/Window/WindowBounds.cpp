@@ -72,8 +72,9 @@ void WindowBounds::setMinimum() {
     // Qt's Wayland plugin never makes a window smaller than its minimum size. A tile of a tiling
     // compositor would be cut off, and a smaller output in full screen would be a protocol error.
     const QSize minimum = Desktop::isOnWayland() ? minimumTile : minimumSize;
+    // Never larger than the window is in full screen: Qt would resize it before it has left that.
     window_.setMinimumSize(
-        minimum.boundedTo(window_.screen()->availableSize()).grownBy(frame_.margins()));
+        minimum.grownBy(frame_.margins()).boundedTo(window_.screen()->availableSize()));
 }
 
 void WindowBounds::followMargins() {

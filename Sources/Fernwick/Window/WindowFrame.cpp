@@ -31,6 +31,10 @@ constexpr QColor edgeColourInHighContrast = Garden::srgb(1, 1, 1, 0.7);
 
 }  // namespace
 
+bool WindowFrame::isSupported() {
+    return Desktop::isComposited() && Desktop::supportsFrameMargins();
+}
+
 WindowFrame::WindowFrame(QWidget& window) : QWidget(&window), window_(window) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     hide();
@@ -45,13 +49,11 @@ void WindowFrame::begin() {
 
 void WindowFrame::followDesktop() {
     // The window keeps the pixel format that it was created with.
-    const bool translucent =
-        window_.testAttribute(Qt::WA_TranslucentBackground) && Desktop::isComposited();
-    setSupport({translucent, translucent && Desktop::supportsFrameMargins()});
+    setSupported(window_.testAttribute(Qt::WA_TranslucentBackground) && isSupported());
 }
 
-void WindowFrame::setSupport(const Support& support) {
-    support_ = support;
+void WindowFrame::setSupported(bool supported) {
+    supported_ = supported;
     refresh();
 }
 
@@ -65,11 +67,10 @@ QRect WindowFrame::inputArea() const {
 
 void WindowFrame::refresh() {
     fillsScreen_ = window_.isFullScreen() || window_.isMaximized() ||
-                   (support_.transparency && Desktop::isHalfMaximized(*window_.windowHandle()));
-    rounded_ = support_.transparency && !fillsScreen_;
+                   (supported_ && Desktop::isHalfMaximized(*window_.windowHandle()));
     const QMargins before =
-        std::exchange(margins_, rounded_ && support_.margins ? WindowShadow::margins : QMargins());
-    setVisible(rounded_);
+        std::exchange(margins_, supported_ && !fillsScreen_ ? WindowShadow::margins : QMargins());
+    setVisible(!margins_.isNull());
     if (margins_ != before) {
         const QMarginsF inPixels = QMarginsF(margins_) * window_.devicePixelRatioF();
         Desktop::setFrameMargins(*window_.windowHandle(), inPixels.toMargins());
@@ -95,7 +96,8 @@ void WindowFrame::tellDesktop() {
     };
     const QRect visible = visibleArea();
     // At odd scales, pixels at the edge are partly shadow.
-    QRegion opaque(inPixels(rounded_ ? visible.marginsRemoved(QMargins() + edgeWidth) : visible));
+    QRegion opaque(
+        inPixels(margins_.isNull() ? visible : visible.marginsRemoved(QMargins() + edgeWidth)));
     for (const QRect& part : corners()) {
         opaque -= inPixels(part);
     }
@@ -105,7 +107,7 @@ void WindowFrame::tellDesktop() {
 }
 
 QRegion WindowFrame::corners() const {
-    if (!rounded_) {
+    if (margins_.isNull()) {
         return {};
     }
     const QRect visible = visibleArea();

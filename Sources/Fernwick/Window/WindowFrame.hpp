@@ -5,24 +5,22 @@
 
 #include "Painting/Ground/WindowShadow.hpp"
 
-/// The frame that the window draws itself on a composited X11 desktop: rounded corners with a fine
-/// edge, and the shadow in a margin around the visible part of the window. Square and without a
-/// margin elsewhere, and while the window fills the screen or a part of it.
+/// The frame that the window draws itself where neighbouring windows have one: rounded corners with
+/// a fine edge, and the shadow in a margin around the visible part of the window. There is none
+/// while the window fills the screen or a part of it.
 ///
 /// It lies on top of everything else in the window and paints only the corners and the edge.
 class WindowFrame : public QWidget {
     Q_OBJECT
 
 public:
-    /// What the desktop does for a window with a frame of its own.
-    struct Support {
-        bool transparency = false;
-        /// The window manager places and sizes windows without their margin.
-        bool margins = false;
-    };
+    /// Whether the desktop is X11 with a compositor and with a window manager that places and sizes
+    /// windows without their margin. Other window managers leave shadows to the compositor, which
+    /// draws them around a rectangle.
+    [[nodiscard]] static bool isSupported();
 
-    /// `window` must have a native handle, which is translucent if the desktop was composited when
-    /// it was created.
+    /// `window` must have a native handle, which is translucent if a frame was supported when it
+    /// was created. Otherwise there never is one.
     explicit WindowFrame(QWidget& window);
 
     /// Follows the desktop from now on. Until then the window is square: if it had a margin when it
@@ -30,7 +28,7 @@ public:
     /// the window to which it returns.
     void begin();
 
-    void setSupport(const Support& support);
+    void setSupported(bool supported);
 
     /// Whether the window fills the screen, or its height or width beside another window.
     [[nodiscard]] bool fillsScreen() const { return fillsScreen_; }
@@ -64,9 +62,8 @@ private:
     [[nodiscard]] QRegion corners() const;
 
     QWidget& window_;
-    Support support_;
+    bool supported_ = false;
     bool fillsScreen_ = false;
     QMargins margins_;
-    bool rounded_ = false;
     Painting::WindowShadow shadow_;
 };

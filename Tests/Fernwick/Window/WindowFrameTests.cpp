@@ -6,16 +6,14 @@
 
 namespace {
 
-constexpr WindowFrame::Support full{.transparency = true, .margins = true};
-constexpr WindowFrame::Support withoutMargins{.transparency = true, .margins = false};
 constexpr QMargins shadow(36, 32, 36, 40);
 
 class Frame : public WindowTest {
 protected:
     Frame() { leaveFullScreen(); }
 
-    void support(const WindowFrame::Support& support) {
-        child<WindowFrame>().setSupport(support);
+    void support(bool supported) {
+        child<WindowFrame>().setSupported(supported);
         processEvents();
     }
 
@@ -46,28 +44,27 @@ protected:
 TEST_F(Frame, hasAMarginAroundTheUnchangedVisiblePart) {
     const QRect before = window.geometry();
 
-    support(full);
+    support(true);
     EXPECT_EQ(window.geometry(), before.marginsAdded(shadow));
     EXPECT_EQ(visiblePlace(), before);
     EXPECT_EQ(rectOf<TitleBand>().topLeft(), visible().topLeft());
     EXPECT_EQ(rectOf<TitleBand>().width(), before.width());
 
-    support({});
+    support(false);
     EXPECT_EQ(window.geometry(), before);
     EXPECT_EQ(visiblePlace(), before);
 }
 
-TEST_F(Frame, countsTheMinimumSizeWithoutItsMargin) {
-    const QSize before = window.minimumSize();
+TEST_F(Frame, countsTheMinimumSizeWithoutItsMarginAsFarAsTheScreenHasRoom) {
+    support(true);
 
-    support(full);
-
-    EXPECT_EQ(window.minimumSize(), before.grownBy(shadow));
+    EXPECT_EQ(window.minimumSize(),
+              QSize(820, 760).grownBy(shadow).boundedTo(window.screen()->availableSize()));
 }
 
 TEST_F(Frame, hasNoMarginInFullScreen) {
     const QRect before = window.geometry();
-    support(full);
+    support(true);
 
     window.showFullScreen();
     processEvents();
@@ -81,7 +78,7 @@ TEST_F(Frame, hasNoMarginInFullScreen) {
 }
 
 TEST_F(Frame, hasNoMarginWhenMaximised) {
-    support(full);
+    support(true);
 
     window.showMaximized();
     processEvents();
@@ -95,7 +92,7 @@ TEST_F(Frame, restoresTheVisibleSizeIfTheMarginAppearsInFullScreen) {
     window.showFullScreen();
     processEvents();
 
-    support(full);
+    support(true);
     leaveFullScreen();
 
     EXPECT_TRUE(QTest::qWaitFor([&] { return visiblePlace() == before; }))
@@ -104,43 +101,27 @@ TEST_F(Frame, restoresTheVisibleSizeIfTheMarginAppearsInFullScreen) {
 
 TEST_F(Frame, restoresTheVisibleSizeIfTheMarginVanishesInFullScreen) {
     const QRect before = window.geometry();
-    support(full);
+    support(true);
     window.showFullScreen();
     processEvents();
 
-    support({});
+    support(false);
     leaveFullScreen();
 
     EXPECT_TRUE(QTest::qWaitFor([&] { return window.geometry() == before; }))
         << ::testing::PrintToString(window.geometry());
 }
 
-TEST_F(Frame, isSquareAndOpaqueWithoutACompositor) {
-    support({});
+TEST_F(Frame, isSquareAndOpaqueWhereTheDesktopDoesNotSupportAFrame) {
+    support(false);
 
     EXPECT_EQ(visible(), window.rect());
     EXPECT_EQ(opacityAt({0, 0}), 255);
     EXPECT_EQ(opacityAt({visible().width() - 1, visible().height() - 1}), 255);
 }
 
-TEST_F(Frame, hasRoundedCornersWithoutAShadowIfTheWindowManagerKnowsNoMargins) {
-    const QRect before = window.geometry();
-
-    support(withoutMargins);
-
-    EXPECT_EQ(window.geometry(), before);
-    EXPECT_EQ(opacityAt({0, 0}), 0);
-    EXPECT_EQ(opacityAt({visible().width() - 1, 0}), 0);
-    EXPECT_EQ(opacityAt({0, visible().height() - 1}), 0);
-    EXPECT_EQ(opacityAt({visible().width() - 1, visible().height() - 1}), 0);
-    // Where the corner crosses the diagonal, and on the edges beside it.
-    EXPECT_EQ(opacityAt({5, 5}), 255);
-    EXPECT_EQ(opacityAt({20, 0}), 255);
-    EXPECT_EQ(opacityAt({0, 20}), 255);
-}
-
 TEST_F(Frame, hasAShadowThatFadesOutWithinTheMargin) {
-    support(full);
+    support(true);
 
     const QImage all = picture();
     const int middle = all.height() / 2;
@@ -160,7 +141,7 @@ TEST_F(Frame, hasAShadowThatFadesOutWithinTheMargin) {
 }
 
 TEST_F(Frame, hasTheSameShadowAllAlongAnEdgeAndInTheCornersOfTheWindow) {
-    support(full);
+    support(true);
 
     const QImage all = picture();
     const int above = visible().top() - 3;
@@ -168,6 +149,10 @@ TEST_F(Frame, hasTheSameShadowAllAlongAnEdgeAndInTheCornersOfTheWindow) {
     for (int x = visible().left() + 60; x < visible().right() - 60; ++x) {
         EXPECT_EQ(qAlpha(all.pixel(x, above)), expected) << x;
     }
+    // Where a corner crosses the diagonal, and on the edges beside it.
+    EXPECT_EQ(opacityAt({5, 5}), 255);
+    EXPECT_EQ(opacityAt({20, 0}), 255);
+    EXPECT_EQ(opacityAt({0, 20}), 255);
     // There is no step where the rounded corner leaves the rectangle of the visible part.
     const QPoint corner = visible().topLeft();
     EXPECT_NEAR(qAlpha(all.pixel(corner)), qAlpha(all.pixel(corner - QPoint(1, 1))), 8);
@@ -176,7 +161,7 @@ TEST_F(Frame, hasTheSameShadowAllAlongAnEdgeAndInTheCornersOfTheWindow) {
 }
 
 TEST_F(Frame, roundsTheCornersOfWhateverIsShown) {
-    support(full);
+    support(true);
 
     inEveryPhase([this](Session::Phase) { EXPECT_LT(opacityAt({0, 0}), 128); });
     openScores();
@@ -186,7 +171,7 @@ TEST_F(Frame, roundsTheCornersOfWhateverIsShown) {
 }
 
 TEST_F(Frame, hasAFineEdge) {
-    support(full);
+    support(true);
 
     const QImage all = picture();
     const QPoint edge(visible().left(), visible().center().y());
@@ -196,7 +181,7 @@ TEST_F(Frame, hasAFineEdge) {
 }
 
 TEST_F(Frame, canBeDraggedAtTheEdgesAndAFewPointsOutside) {
-    support(full);
+    support(true);
 
     const auto edges = [this](int x) {
         return child<WindowChrome>().edgesAt({x, window.height() / 2});
@@ -211,7 +196,7 @@ TEST_F(Frame, canBeDraggedAtTheEdgesAndAFewPointsOutside) {
 }
 
 TEST_F(Frame, isMaximisedByADoubleClickOnTheBandButNotOnTheShadow) {
-    support(full);
+    support(true);
     const int middle = window.width() / 2;
 
     QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, {}, {middle, 10});
