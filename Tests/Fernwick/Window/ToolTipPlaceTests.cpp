@@ -36,15 +36,18 @@ INSTANTIATE_TEST_SUITE_P(Look, ToolTipPlaces,
 
 }  // namespace
 
-TEST_P(ToolTipPlaces, coverNoTextDigitsOrControls) {
-    const QList<QRect> covered = places<Garden::TrackedLabel>() + places<Garden::RollingDigits>() +
-                                 places<QAbstractButton>();
+TEST_P(ToolTipPlaces, areNextToTheirControlAndCoverNoDigitsOrOtherControls) {
+    QList<QRect> covered = places<QAbstractButton>();
+    for (const auto* digits : window.findChildren<Garden::RollingDigits*>()) {
+        covered.append(digits->restArea().translated(rectOf(*digits).topLeft()));
+    }
     int shown = 0;
     for (auto* control : window.findChildren<Garden::IconButton*>()) {
         if (control->isVisible()) {
             SCOPED_TRACE(control->toolTip().toStdString());
             const QRect place = toolTipOf(*control);
             EXPECT_TRUE(window.rect().contains(place));
+            EXPECT_TRUE(place.adjusted(0, -7, 0, 7).intersects(rectOf(*control)));
             for (const QRect& other : covered) {
                 EXPECT_FALSE(place.intersects(other))
                     << other.x() << " " << other.y() << " " << other.width();

@@ -89,6 +89,12 @@ QSize RollingDigits::sizeHint() const {
     return {static_cast<int>(std::ceil(width)), static_cast<int>(std::ceil(metrics.height()))};
 }
 
+QRect RollingDigits::restArea() const {
+    const auto digits = static_cast<int>(std::ceil(QFontMetricsF(font()).capHeight()));
+    const int room = (height() - digits) / 2;
+    return rect().adjusted(0, room, 0, -room);
+}
+
 double RollingDigits::left(int fromRight) const {
     const double cell = QFontMetricsF(font()).horizontalAdvance(u'0');
     const double bearing = sideBearing * font().pixelSize();

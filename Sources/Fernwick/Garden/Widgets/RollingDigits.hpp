@@ -25,6 +25,9 @@ public:
 
     void setDensity(const Density& density) override;
 
+    /// The part of the widget that digits at rest fill. Above and below it they only roll.
+    [[nodiscard]] QRect restArea() const;
+
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 

@@ -26,17 +26,24 @@ constexpr int distance = 6;
 constexpr int windowMargin = 6;
 
 QRect rectInWindow(const QWidget& widget) {
-    return {widget.mapTo(widget.window(), QPoint()), widget.size()};
+    const auto* digits = qobject_cast<const RollingDigits*>(&widget);
+    const QRect area = digits != nullptr ? digits->restArea() : widget.rect();
+    return area.translated(widget.mapTo(widget.window(), QPoint()));
 }
 
+/// Texts that say the same all the time may be covered for a moment, rather than that a tooltip is
+/// so far from its control that it seems to name another one.
+enum class Labels { covered, kept };
+
 /// What a tooltip of `control` must not cover.
-QList<QRect> obstacles(const QWidget& control) {
+QList<QRect> obstacles(const QWidget& control, Labels labels) {
     QList<QRect> found;
     for (const QWidget* widget : control.window()->findChildren<QWidget*>()) {
-        const bool matters = qobject_cast<const TrackedLabel*>(widget) != nullptr ||
-                             qobject_cast<const RollingDigits*>(widget) != nullptr ||
-                             qobject_cast<const QAbstractButton*>(widget) != nullptr ||
-                             qobject_cast<const QLineEdit*>(widget) != nullptr;
+        const bool matters =
+            (labels == Labels::kept && qobject_cast<const TrackedLabel*>(widget) != nullptr) ||
+            qobject_cast<const RollingDigits*>(widget) != nullptr ||
+            qobject_cast<const QAbstractButton*>(widget) != nullptr ||
+            qobject_cast<const QLineEdit*>(widget) != nullptr;
         if (matters && widget != &control && widget->isVisible()) {
             found.append(rectInWindow(*widget));
         }
@@ -53,15 +60,9 @@ QRect movedInto(QRect rect, const QRect& room) {
 }
 
 QRect placeFor(const QWidget& control, const QSize& size) {
-    const QRect room =
-        control.window()->rect().adjusted(windowMargin, windowMargin, -windowMargin, -windowMargin);
+    // Not the shadow around a window with rounded corners.
+    const QRect room = control.window()->childrenRect().marginsRemoved(QMargins() + windowMargin);
     const QRect from = rectInWindow(control);
-    const QList<QRect> covered = obstacles(control);
-    const auto obstacleAt = [&](const QRect& place) {
-        return std::ranges::find_if(covered,
-                                    [&](const QRect& rect) { return rect.intersects(place); });
-    };
-
     QRect place(QPoint(), size);
     place.moveCenter(from.center());
     const QRect level = place;
@@ -69,9 +70,17 @@ QRect placeFor(const QWidget& control, const QSize& size) {
     const QRect above = movedInto(place, room);
     place.moveTop(from.bottom() + 1 + distance);
     const QRect below = movedInto(place, room);
-    for (const QRect& candidate : {above, below}) {
-        if (!candidate.intersects(from) && obstacleAt(candidate) == covered.end()) {
-            return candidate;
+    QList<QRect> covered;
+    const auto obstacleAt = [&](const QRect& rect) {
+        return std::ranges::find_if(covered,
+                                    [&](const QRect& other) { return other.intersects(rect); });
+    };
+    for (const Labels labels : {Labels::kept, Labels::covered}) {
+        covered = obstacles(control, labels);
+        for (const QRect& candidate : {above, below}) {
+            if (!candidate.intersects(from) && obstacleAt(candidate) == covered.end()) {
+                return candidate;
+            }
         }
     }
     // Beside the control and its neighbours, towards the middle of the window.

@@ -15,7 +15,7 @@ constexpr double wordmarkTracking = 6;
 constexpr int wordmarkSpacing = 9;
 constexpr double taglineSize = 27;
 constexpr double taglineOpacity = 0.9;
-constexpr int titleBlockSpacing = 7;
+constexpr int titleBlockSpacing = 8;
 constexpr double labelSize = 9;
 constexpr double labelTracking = 2;
 // The digits are drawn at the middle of a line with room for them to roll: from the label to the

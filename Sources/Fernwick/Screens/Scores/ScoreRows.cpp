@@ -112,7 +112,7 @@ void ScoreRows::showIndicator() {
     indicator_->raise();
     connect(scrolling, &QScrollBar::rangeChanged, this, &ScoreRows::followRange);
     connect(scrolling, &QScrollBar::valueChanged, indicator_, &QScrollBar::setValue);
-    connect(scrolling, &QScrollBar::valueChanged, this, &ScoreRows::fadeCutRows);
+    connect(scrolling, &QScrollBar::valueChanged, this, &ScoreRows::fadeEdges);
     connect(indicator_, &QScrollBar::valueChanged, scrolling, &QScrollBar::setValue);
     followRange(scrolling->minimum(), scrolling->maximum());
 }
@@ -126,7 +126,7 @@ void ScoreRows::followRange(int minimum, int maximum) {
     scrollArea_->setFocusPolicy(scrolls ? Qt::TabFocus : Qt::NoFocus);
     // The rows have got their places.
     showHighlighted();
-    fadeCutRows();
+    fadeEdges();
 }
 
 bool ScoreRows::eventFilter(QObject* watched, QEvent* event) {
@@ -226,23 +226,17 @@ void ScoreRows::showHighlighted() {
     int top = scrolling->value();
     if (highlightedRow_ != nullptr) {
         const QRect row = highlightedRow_->geometry();
-        top = std::max(0, row.top() + row.height() - scrollArea_->viewport()->height());
+        top = std::max(0, row.center().y() - scrollArea_->viewport()->height() / 2);
     }
-    scrolling->setValue((top + pitch() - 1) / pitch() * pitch());
+    if (showsWholeRows()) {
+        top = (top + pitch() / 2) / pitch() * pitch();
+    }
+    scrolling->setValue(top);
 }
 
-void ScoreRows::fadeCutRows() {
+void ScoreRows::fadeEdges() {
     const QScrollBar* scrolling = scrollArea_->verticalScrollBar();
-    if (scrolling->maximum() > 0 && !rows_.isEmpty()) {
-        const int top = scrolling->value();
-        fade_->setLengths(fadeAt(top), fadeAt(top + scrollArea_->viewport()->height()));
-    } else {
-        fade_->setLengths(0, 0);
-    }
-}
-
-int ScoreRows::fadeAt(int y) const {
-    const int above = y % pitch();
-    const int below = pitch() - column_->spacing() - above;
-    return std::max(0, std::min({fadeLength, above, below}));
+    const int above = scrolling->value() - scrolling->minimum();
+    const int below = scrolling->maximum() - scrolling->value();
+    fade_->setLengths(std::min(fadeLength, above), std::min(fadeLength, below));
 }

@@ -31,8 +31,8 @@ public:
     void setHeights(int full, int least);
 
     /// Shows `entries` in their order, the first as rank 1; highlights the one with the id
-    /// `highlighted` and scrolls to it, then and when the height of the list changes, so that the
-    /// first row that shows is whole. Rows that are cut at an edge fade out towards it.
+    /// `highlighted` and scrolls it to the middle, then and when the height of the list changes.
+    /// The list fades out towards an edge beyond which it continues.
     void setEntries(const std::vector<SnakeCore::HighScore>& entries,
                     const std::optional<SnakeCore::UUID>& highlighted = std::nullopt);
 
@@ -57,10 +57,7 @@ private:
     void followRange(int lowest, int highest);
     void setRowCount(std::size_t count);
     void showHighlighted();
-    void fadeCutRows();
-    /// How far the row that is cut at `y`, in points below the top of the first row, fades; 0
-    /// between two rows.
-    [[nodiscard]] int fadeAt(int y) const;
+    void fadeEdges();
 
     int fullHeight_ = 0;
     int leastHeight_ = 0;

@@ -8,6 +8,7 @@
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/Palette.hpp"
 #include "Garden/Widgets/IconButton.hpp"
+#include "Garden/Widgets/RollingDigits.hpp"
 #include "Garden/Widgets/ToolTip.hpp"
 #include "Garden/Widgets/TrackedLabel.hpp"
 #include "Support/Look.hpp"
@@ -20,6 +21,7 @@ class ToolTips : public ::testing::Test {
 protected:
     ToolTips() {
         window.resize(400, 300);
+        content.resize(window.size());
         button.move(187, 137);
         window.show();
     }
@@ -44,6 +46,13 @@ protected:
         label->show();
     }
 
+    void putDigitsAt(const QRect& place) {
+        auto* digits = new Garden::RollingDigits(Qt::AlignLeft, &window);
+        digits->setValue(0);
+        digits->setGeometry(place);
+        digits->show();
+    }
+
     template <typename Event>
     void expectGoneAfter(QObject& receiver, Event&& event) {
         ASSERT_NE(pointAt(button), nullptr);
@@ -52,6 +61,7 @@ protected:
     }
 
     QWidget window;
+    QWidget& content = *new QWidget(&window);
     Garden::IconButton& button =
         *new Garden::IconButton(Garden::Icon::trophy, QStringLiteral("High scores"), &window);
 };
@@ -71,9 +81,16 @@ TEST_F(ToolTips, areBelowTheControlIfThereIsAText) {
     EXPECT_EQ(pointAt(button)->y(), Look::bottomOf(button.geometry()) + 6);
 }
 
-TEST_F(ToolTips, areBesideTheControlAndItsNeighboursIfThereAreTextsOnBothSides) {
+TEST_F(ToolTips, coverATextIfThereAreTextsOnBothSides) {
     putTextAt({100, 110, 200, 20});
     putTextAt({100, 170, 200, 20});
+
+    EXPECT_EQ(Look::bottomOf(pointAt(button)->geometry()), button.y() - 6);
+}
+
+TEST_F(ToolTips, areBesideTheControlAndItsNeighboursIfThereAreDigitsOnBothSides) {
+    putDigitsAt({100, 110, 200, 20});
+    putDigitsAt({100, 170, 200, 20});
     Garden::IconButton neighbour(Garden::Icon::pause, QStringLiteral("Pause"), &window);
     button.move(240, 137);
     neighbour.move(210, 137);
