@@ -1,7 +1,10 @@
 """The frame that the window draws itself: rounded corners and a shadow under a compositor."""
 
 import itertools
+import pathlib
 import re
+import subprocess
+import sys
 
 import pytest
 from accessible_desktop import accessible_desktop
@@ -97,7 +100,7 @@ def leave_full_screen(game):
     eventually(lambda: not game.is_full_screen() and visible(game)[2:] == DEFAULT_SIZE,
                "the visible window has its default size")
     game.wait_for("Minimise")
-    eventually(lambda: is_dark(game, 100, 0), "the window is drawn")
+    eventually(lambda: is_dark(game, 100, 3), "the window is drawn")
 
 
 def colour(game, x, y):
@@ -164,6 +167,26 @@ def test_without_room_for_the_shadow_the_window_still_has_its_size(launch):
     eventually(lambda: visible(game)[2:] == (2 * DEFAULT_SIZE[0], Screen.HEIGHT)
                and margins(game) == (72, 72, 64, 80),
                "the window is as high as the screen, without its shadow")
+
+
+def test_the_edge_stands_out_with_the_high_contrast_setting(composited, launch):
+    portal = subprocess.Popen(
+        [sys.executable, pathlib.Path(__file__).parent / "portal.py",
+         "org.freedesktop.appearance", "contrast", "uint32 1"],
+        env=composited.environment, stdout=subprocess.PIPE, text=True)
+    try:
+        assert portal.stdout.readline() == "ready\n"
+        game = launch()
+        leave_full_screen(game)
+        eventually(lambda: min(colour(game, 0, DEFAULT_SIZE[1] // 2)) > 150, "the edge is bright")
+    finally:
+        portal.terminate()
+        portal.wait()
+
+
+def test_the_edge_is_faint_by_default(game):
+    leave_full_screen(game)
+    assert 30 < max(colour(game, 0, DEFAULT_SIZE[1] // 2)) < 80
 
 
 def pointed_window(desktop):
