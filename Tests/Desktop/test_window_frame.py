@@ -28,13 +28,18 @@ class LightDesktop(Desktop):
 
     def start(self):
         super().start()
-        self._spawn(*self.WINDOW_MANAGER)
+        self._window_manager = self._spawn("setpriv", "--pdeathsig", "KILL", *self.WINDOW_MANAGER)
         eventually(lambda: "# 0x" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"),
                    "the window manager has started")
         self._spawn("xmessage", "-bg", "white", "-fg", "white", "-geometry",
                     f"{Screen.WIDTH}x{Screen.HEIGHT}", "")
         eventually(lambda: self.screen.picture().colour(*POINT_OF_WALL) == WHITE,
                    "the white window is shown")
+
+    def stop(self):
+        # xfwm4 sometimes hangs in its handler of SIGTERM.
+        self._window_manager.kill()
+        super().stop()
 
 
 class Composited(LightDesktop):

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QProxyStyle>
+#include <QStyle>
 #include <QValidator>
 #include <algorithm>
 #include <cmath>
@@ -93,11 +94,8 @@ NameField::NameField(QWidget* parent) : QLineEdit(parent) {
 void NameField::setTextColours() {
     QPalette colours = palette();
     colours.setColor(QPalette::Text, Garden::legible(Garden::primaryText));
-    // Dimmer than a typed name, even in high contrast.
-    colours.setColor(QPalette::PlaceholderText,
-                     Garden::Contrast::shared().isHigh()
-                         ? Garden::legible(Garden::muted)
-                         : Garden::withOpacity(Qt::white, placeholderOpacity));
+    // Qt rounds its baseline differently from that of a typed text, which jumped by a pixel.
+    colours.setColor(QPalette::PlaceholderText, Qt::transparent);
     setPalette(colours);
 }
 
@@ -126,6 +124,9 @@ void NameField::inputMethodEvent(QInputMethodEvent* event) {
 
 void NameField::paintEvent(QPaintEvent* event) {
     paintPlate();
+    if (text().isEmpty() && !composing_) {
+        paintPlaceholder();
+    }
     QLineEdit::paintEvent(event);
     if (hasFocus() && !hasSelectedText() && !caretHidden_) {
         paintCaret();
@@ -140,6 +141,25 @@ void NameField::paintPlate() {
     painter.fillPath(shape, Garden::withOpacity(Qt::white, plateOpacity));
     painter.strokePath(
         shape, QPen(Garden::legible(Garden::withOpacity(Garden::mint, edgeOpacity)), edgeWidth));
+}
+
+void NameField::paintPlaceholder() {
+    const QFontMetricsF metrics(font());
+    const int margin = textMargins().left() + lineEditMargin;
+    const QString shown =
+        metrics.elidedText(placeholderText(), Qt::ElideRight, width() - 2 * margin);
+    const bool atRight =
+        QStyle::visualAlignment(layoutDirection(), alignment()).testFlag(Qt::AlignRight);
+    const double left = atRight ? width() - margin - metrics.horizontalAdvance(shown) : margin;
+    QPainter painter(this);
+    // Dimmer than a typed name, even in high contrast.
+    painter.setPen(Garden::Contrast::shared().isHigh()
+                       ? Garden::legible(Garden::muted)
+                       : Garden::withOpacity(Qt::white, placeholderOpacity));
+    // As QLineEdit places a text: it rounds the ascent of the line up, that of the font down.
+    const double top = (height() - fontMetrics().height() + 1) / 2 + fontMetrics().ascent() -
+                       std::ceil(metrics.ascent());
+    painter.drawText(QPointF(left, top + metrics.ascent()), shown);
 }
 
 void NameField::paintCaret() {

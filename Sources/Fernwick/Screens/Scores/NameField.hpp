@@ -25,6 +25,7 @@ protected:
 private:
     void setTextColours();
     void paintPlate();
+    void paintPlaceholder();
     void paintCaret();
 
     Garden::Density density_;

@@ -85,6 +85,30 @@ TEST_F(Caret, staysTwoPointsClearOfThePlaceholder) {
     EXPECT_LE(textColumns().constFirst() - right, 3.5);
 }
 
+TEST_F(Caret, placeholderStandsOnTheBaselineOfTheText) {
+    // The rows through the stem of the first letter that are lighter than the plate.
+    const auto rows = [this] {
+        const QImage seen = picture(field, field.devicePixelRatioF());
+        const int stem = qRound(16.5 * field.devicePixelRatioF());
+        const int plate = seen.pixelColor(seen.width() / 2, seen.height() / 2).red();
+        QList<int> found;
+        for (int y = seen.height() / 5; y < seen.height() * 4 / 5; ++y) {
+            if (seen.pixelColor(stem, y).red() > plate + 10) {
+                found.append(y);
+            }
+        }
+        return found;
+    };
+    field.clearFocus();
+    field.setPlaceholderText(QStringLiteral("HHH"));
+    const QList<int> placeholder = rows();
+
+    field.setText(QStringLiteral("HHH"));
+
+    EXPECT_GT(placeholder.size(), 10);
+    EXPECT_EQ(rows().last(), placeholder.last());
+}
+
 TEST_F(Caret, staysTwoPointsClearOfAPlaceholderAtTheRight) {
     field.setPlaceholderText(QStringLiteral("Your name"));
     field.setAlignment(Qt::AlignRight);
