@@ -20,6 +20,9 @@ INSIDE = 8
 # How much greener the frame is than the ground; at a fractional scale it is blurred.
 FRAME_CONTRAST = 5
 
+# An eye is three pixels wide on a small board, whose place is known to a pixel.
+NEARBY = [(dx, dy) for dx in (0, -1, 1) for dy in (0, -1, 1)]
+
 # The eyes' offsets from the centre of the head, in cells, by direction.
 EYES = {
     "up": ((-0.16, -0.15), (0.16, -0.15)),
@@ -72,12 +75,13 @@ class Board:
                                         (x, self._top, 0, -1), (x, bottom, 0, 1)))
 
     def _has_eyes(self, picture, cell, direction):
-        return all(self._colour(picture, *cell, *eye)[1] <= EYE_MAXIMUM_GREEN
+        return all(any(self._colour(picture, *cell, *eye, by)[1] <= EYE_MAXIMUM_GREEN
+                       for by in NEARBY)
                    for eye in EYES[direction])
 
-    def _colour(self, picture, x, y, dx=0, dy=0):
-        return picture.colour(self._left + (x + 0.5 + dx) * self._cell,
-                              self._top + (y + 0.5 + dy) * self._cell)
+    def _colour(self, picture, x, y, dx=0, dy=0, by=(0, 0)):
+        return picture.colour(self._left + (x + 0.5 + dx) * self._cell + by[0],
+                              self._top + (y + 0.5 + dy) * self._cell + by[1])
 
     @staticmethod
     def _is_snake(colour):

@@ -58,7 +58,7 @@ void paintTitle(QPainter& painter, const QStyleOptionMenuItem& option) {
 }
 
 void paintSeparator(QPainter& painter, const QRect& rect) {
-    const double top = rect.top() + (separatorHeight - 1) / 2;
+    const int top = rect.top() + (separatorHeight - 1) / 2;
     const QRectF place(rect.left() + itemPaddingX, top, rect.width() - 2 * itemPaddingX, 1);
     QRectF line = Garden::alignedToPixels(painter, place);
     line.setHeight(Garden::hairline(painter));

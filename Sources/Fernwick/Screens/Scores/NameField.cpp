@@ -157,8 +157,8 @@ void NameField::paintPlaceholder() {
                        ? Garden::legible(Garden::muted)
                        : Garden::withOpacity(Qt::white, placeholderOpacity));
     // As QLineEdit places a text: it rounds the ascent of the line up, that of the font down.
-    const double top = (height() - fontMetrics().height() + 1) / 2 + fontMetrics().ascent() -
-                       std::ceil(metrics.ascent());
+    const int line = (height() - fontMetrics().height() + 1) / 2;
+    const double top = line + fontMetrics().ascent() - std::ceil(metrics.ascent());
     painter.drawText(QPointF(left, top + metrics.ascent()), shown);
 }
 
