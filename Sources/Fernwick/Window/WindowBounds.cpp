@@ -23,7 +23,8 @@ constexpr QSize minimumTile(640, 360);
 constexpr int panelHeight = 64;
 
 /// Two, because the compositor may be slow.
-constexpr std::array repaintDelays{std::chrono::milliseconds(200), std::chrono::milliseconds(1000)};
+constexpr std::array settlingDelays{std::chrono::milliseconds(200),
+                                    std::chrono::milliseconds(1000)};
 
 /// Bounded by the available area of `screen`.
 QSize defaultSizeOn(const QScreen& screen) {
@@ -121,7 +122,7 @@ void WindowBounds::fitToChangedScreen() {
 // changed, and Qt does not paint all of the new one: parts of the window stay black.
 void WindowBounds::repaintLater() {
     if (Desktop::isOnWayland()) {
-        for (const std::chrono::milliseconds delay : repaintDelays) {
+        for (const std::chrono::milliseconds delay : settlingDelays) {
             QTimer::singleShot(delay, &window_, [this] {
                 // Updating the window alone would not paint the children that cover it.
                 for (QWidget* widget : window_.findChildren<QWidget*>()) {
@@ -132,8 +133,26 @@ void WindowBounds::repaintLater() {
     }
 }
 
+// If the compositor is late with a frame while the state changes, Qt's Wayland plugin regards the
+// window as hidden and does not send its new size, and mutter keeps that of full screen. Only a
+// change of the size makes Qt send it.
+void WindowBounds::sendSizeLater() {
+    if (Desktop::isOnWayland()) {
+        for (const std::chrono::milliseconds delay : settlingDelays) {
+            QTimer::singleShot(delay, &window_, [this] {
+                QWindow& handle = *window_.windowHandle();
+                const QSize size = handle.size();
+                handle.resize(size - QSize(0, 1));
+                handle.resize(size);
+                window_.update();
+            });
+        }
+    }
+}
+
 // Qt also reports a state that has not changed.
 void WindowBounds::followState() {
+    sendSizeLater();
     const bool covered = std::exchange(covers_, coversScreen(window_));
     if (covers_) {
         fitsAtNextResize_ = false;

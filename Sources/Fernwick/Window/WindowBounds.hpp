@@ -26,6 +26,7 @@ private:
     void followState();
     void fitToChangedScreen();
     void repaintLater();
+    void sendSizeLater();
     void setMinimum();
     void followMargins();
     void rememberSize();
