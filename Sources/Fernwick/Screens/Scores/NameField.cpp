@@ -3,7 +3,6 @@
 #include <QInputMethodEvent>
 #include <QPainter>
 #include <QPainterPath>
-#include <QProxyStyle>
 #include <QStyle>
 #include <QValidator>
 #include <algorithm>
@@ -57,23 +56,24 @@ public:
     }
 };
 
-/// Leaves the caret to NameField: that of QLineEdit inverts what it covers, whatever the palette.
-class CaretlessStyle : public QProxyStyle {
-public:
-    CaretlessStyle() : QProxyStyle("Fusion") {}
-
-    [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption* option,
-                                  const QWidget* widget) const override {
-        return metric == PM_TextCursorWidth ? 0 : QProxyStyle::pixelMetric(metric, option, widget);
+/// The attributes of the event with a caret of no length, which hides that of QLineEdit: it inverts
+/// what it covers, whatever the palette, and at fractional scales has a width even where the style
+/// says 0.
+QList<QInputMethodEvent::Attribute> withoutCaret(const QInputMethodEvent& event) {
+    auto attributes = event.attributes();
+    int place = static_cast<int>(event.preeditString().size());
+    for (const auto& attribute : event.attributes()) {
+        if (attribute.type == QInputMethodEvent::Cursor) {
+            place = attribute.start;
+        }
     }
-};
+    attributes.append({QInputMethodEvent::Cursor, place, 0});
+    return attributes;
+}
 
 }  // namespace
 
 NameField::NameField(QWidget* parent) : QLineEdit(parent) {
-    auto* style = new CaretlessStyle;
-    style->setParent(this);
-    setStyle(style);
     setValidator(new LongestName(this));
     // For text of an input method, which QLineEdit lays out before it asks the validator. It may
     // cut that text within a surrogate pair, but never in the part that the validator keeps.
@@ -89,6 +89,8 @@ NameField::NameField(QWidget* parent) : QLineEdit(parent) {
     setTextColours();
     connect(&Garden::Contrast::shared(), &Garden::Contrast::changed, this,
             &NameField::setTextColours);
+    QInputMethodEvent nothing;
+    NameField::inputMethodEvent(&nothing);
 }
 
 void NameField::setTextColours() {
@@ -119,7 +121,11 @@ void NameField::inputMethodEvent(QInputMethodEvent* event) {
     caretHidden_ = std::ranges::any_of(event->attributes(), [](const auto& attribute) {
         return attribute.type == QInputMethodEvent::Cursor && attribute.length == 0;
     });
-    QLineEdit::inputMethodEvent(event);
+    QInputMethodEvent changed(event->preeditString(), withoutCaret(*event));
+    changed.setCommitString(event->commitString(), event->replacementStart(),
+                            event->replacementLength());
+    QLineEdit::inputMethodEvent(&changed);
+    event->setAccepted(changed.isAccepted());
 }
 
 void NameField::paintEvent(QPaintEvent* event) {

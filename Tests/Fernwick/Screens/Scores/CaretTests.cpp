@@ -52,6 +52,22 @@ protected:
         });
     }
 
+    /// The columns that differ between the focused field and the same without the focus, in points.
+    [[nodiscard]] QList<double> columnsChangedByFocus() {
+        const double scale = field.devicePixelRatioF();
+        const QImage focused = picture(field, scale);
+        field.clearFocus();
+        const QImage unfocused = picture(field, scale);
+        QList<double> changed;
+        for (int x = 0; x < focused.width(); ++x) {
+            if (focused.copy(x, 0, 1, focused.height()) !=
+                unfocused.copy(x, 0, 1, focused.height())) {
+                changed.append(x / scale);
+            }
+        }
+        return changed;
+    }
+
     void compose(const QString& text, int caretLength) {
         QInputMethodEvent event(
             text, {{QInputMethodEvent::Cursor, static_cast<int>(text.size()), caretLength, {}}});
@@ -118,6 +134,31 @@ TEST_F(Caret, staysTwoPointsClearOfAPlaceholderAtTheRight) {
 
     EXPECT_GE(left - (textColumns().constLast() + pixel), 2 - pixel / 2);
     EXPECT_LE(left - (textColumns().constLast() + pixel), 3.5);
+}
+
+TEST_F(Caret, isTheOnlyThingThatTheFocusAdds) {
+    const QString text = QStringLiteral("Mira Field");
+    field.setText(text);
+    for (int position = 0; position <= text.size(); ++position) {
+        field.setFocus();
+        field.setCursorPosition(position);
+        const QList<double> caret = caretColumns();
+        EXPECT_FALSE(caret.isEmpty());
+
+        for (const double changed : columnsChangedByFocus()) {
+            EXPECT_TRUE(caret.contains(changed)) << "at " << changed << " for " << position;
+        }
+    }
+}
+
+TEST_F(Caret, isAtNeitherEndOfASelection) {
+    field.setText(QStringLiteral("Mira Field"));
+    field.setSelection(5, 2);
+    const QImage caretAtTheEnd = picture(field, field.devicePixelRatioF());
+
+    field.setSelection(7, -2);
+
+    EXPECT_EQ(picture(field, field.devicePixelRatioF()), caretAtTheEnd);
 }
 
 TEST_F(Caret, isHiddenWithoutTheFocusAndOverASelection) {
