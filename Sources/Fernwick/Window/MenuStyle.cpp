@@ -154,7 +154,9 @@ QSize MenuStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
                                   const QWidget* widget) const {
     const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
     if (type == CT_MenuBarItem) {
-        return size + 2 * QSize(menuItemPadding, titlePaddingY + menuDistance);
+        // Not the height of the text, which can be that of a fallback font.
+        const int line = option->fontMetrics.height();
+        return {size.width() + 2 * menuItemPadding, line + 2 * (titlePaddingY + menuDistance)};
     }
     if (type == CT_MenuItem && item != nullptr) {
         return itemSize(*item, size);

@@ -79,6 +79,18 @@ protected:
 
 }  // namespace
 
+TEST_F(MenuLook, givesAllTitlesTheSameHeightWhateverTheirScript) {
+    auto& bar = child<QMenuBar>();
+    QFont font = bar.font();
+    font.setFamilies(font.families() + QStringList(QStringLiteral("Noto Sans Arabic")));
+    bar.setFont(font);
+    const int latin = bar.actionGeometry(bar.actions().constFirst()).height();
+
+    QAction* arabic = bar.addAction(QStringLiteral("ملف"));
+
+    EXPECT_EQ(bar.actionGeometry(arabic).height(), latin);
+}
+
 TEST_F(MenuLook, hasRoundCornersAndAHairlineEdgeOnSoil) {
     const QColor edge = Look::over(Garden::withOpacity(Garden::mint, 0.16), Garden::soil);
     for (const double scale : scales) {

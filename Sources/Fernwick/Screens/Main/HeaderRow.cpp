@@ -24,8 +24,9 @@ constexpr int tileSpacing = 2;
 constexpr QSize ruleSize(1, 36);
 constexpr double ruleOpacity = 0.25;
 constexpr int rulePadding = 12;
-// From the top of the labels, so that the middle of the rule is that of the labels and digits.
-constexpr int spaceAboveRule = 6;
+// What the digits' line has more below its ink than the label's has above, so that the middle of the
+// rule is that of the label and the digits in every script.
+constexpr int spaceBelowRule = 9;
 constexpr int columnSpacing = 18;
 // In a column, so that it stays on one line in all languages.
 constexpr double columnTaglineScale = 0.68;
@@ -65,9 +66,10 @@ QBoxLayout* HeaderRow::scoreTiles() {
     rule->setPalette(Garden::withOpacity(Garden::muted, ruleOpacity));
     rule->setAutoFillBackground(true);
     auto* ruleColumn = new QVBoxLayout;
-    ruleColumn->addSpacing(spaceAboveRule);
+    ruleColumn->addStretch();
     ruleColumn->addWidget(rule);
     ruleColumn->addStretch();
+    ruleColumn->addSpacing(spaceBelowRule);
     auto* tiles = new QHBoxLayout;
     tiles->setSpacing(0);
     //: A tiny label above a number; so is the next. In capitals where the script has them.

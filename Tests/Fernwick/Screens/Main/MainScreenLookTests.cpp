@@ -119,6 +119,21 @@ TEST_P(MainScreenLook, separatesTheTilesByARuleWith12OnEachSide) {
     EXPECT_NEAR(QRectF(rule).center().y(), ink.center().y(), 1);
 }
 
+TEST_P(MainScreenLook, centresTheRuleBesideALabelOfTallerLetters) {
+    const QString arabic = QStringLiteral("أفضل نتيجة لك");
+    for (auto* label : window.findChildren<Garden::TrackedLabel*>()) {
+        if (label->text() == QStringLiteral("PERSONAL BEST")) {
+            label->setText(arabic);
+        }
+    }
+    QCoreApplication::processEvents();
+
+    const QImage seen = picture();
+    const QRectF rule = rectOf(*window.findChild<QWidget*>("rule"));
+    const QRectF ink = labelInk(seen, arabic) | Look::inkOf(mint, seen, numberRect("PERSONAL BEST"));
+    EXPECT_NEAR(rule.center().y(), ink.center().y(), 2);
+}
+
 TEST_P(MainScreenLook, padsTheSpeedGroupBy4AndItsButtonsBy17And9) {
     const QRect group = rectOf<Garden::ChoiceGroup>();
     EXPECT_EQ(group.topLeft(), rectOf<ControlRow>().topLeft());
