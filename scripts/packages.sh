@@ -13,7 +13,6 @@ qt6-tools-dev        CMake files of Qt Linguist
 qt6-l10n-tools       Qt Linguist's lupdate and lrelease, for the translations
 librsvg2-bin         rsvg-convert, which renders the application icon to PNG
 qt6-wayland          Qt's Wayland plugin
-nlohmann-json3-dev   JSON parser for the high scores
 libicu-dev           ICU: finds the user-perceived characters of a name
 uuid-dev             libuuid: one UUID per run
 libwayland-dev       Wayland client library, for the activation token of a second start

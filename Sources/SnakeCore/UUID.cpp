@@ -8,13 +8,20 @@ namespace {
 constexpr std::size_t textLength = UUID_STR_LEN - 1;
 constexpr int notADigit = -1;
 
-constexpr int hexadecimalDigit(char character) {
-    if (character >= '0' && character <= '9') {
-        return character - '0';
+/// The value of each character as a hexadecimal digit. Comparing characters instead would branch on
+/// random data, which took a fifth of the time to load a table.
+constexpr std::array<signed char, 256> hexadecimalDigits = [] {
+    std::array<signed char, 256> values{};
+    values.fill(notADigit);
+    for (signed char value = 0; value < 16; ++value) {
+        values[static_cast<unsigned char>("0123456789ABCDEF"[value])] = value;
+        values[static_cast<unsigned char>("0123456789abcdef"[value])] = value;
     }
-    // Bit 5 distinguishes upper from lower case in ASCII.
-    const char lower = static_cast<char>(character | 0x20);
-    return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : notADigit;
+    return values;
+}();
+
+constexpr int hexadecimalDigit(char character) {
+    return hexadecimalDigits[static_cast<unsigned char>(character)];
 }
 
 /// Whether the text has a "-" before this byte.

@@ -118,6 +118,12 @@ TEST(TableReading, acceptsAnyNumberAsDate) {
     EXPECT_EQ(dateWritten("5e-324"), std::numeric_limits<double>::denorm_min());
 }
 
+TEST(TableReading, readsADateTooSmallForADoubleAsZero) {
+    EXPECT_EQ(dateWritten("1.5e-400"), 0);
+    EXPECT_EQ(dateWritten("-0.00001e-99999999999"), 0);
+    EXPECT_EQ(dateWritten("2.6e-324"), std::numeric_limits<double>::denorm_min());
+}
+
 TEST(TableReading, decodesEscapeSequences) {
     EntryText escaped;
     escaped.name = R"("\u0050ip\/\ud83d\ude00\"\\\u00e9")";

@@ -2,6 +2,8 @@
 
 #include <unicode/utf8.h>
 
+#include <algorithm>
+#include <array>
 #include <cstddef>
 
 namespace SnakeCore::Detail {
@@ -22,12 +24,25 @@ UChar32 nextCodePoint(std::string_view bytes, std::size_t& index) {
 }  // namespace
 
 bool isUtf8(std::string_view bytes) {
-    for (std::size_t index = 0; index < bytes.size();) {
+    constexpr auto isAscii = [](char byte) { return static_cast<unsigned char>(byte) < 0x80; };
+    const auto firstOther = std::ranges::find_if_not(bytes, isAscii);
+    for (auto index = static_cast<std::size_t>(firstOther - bytes.begin()); index < bytes.size();) {
         if (nextCodePoint(bytes, index) < 0) {
             return false;
         }
     }
     return true;
+}
+
+void appendUtf8(std::string& text, char32_t codePoint) {
+    std::array<char, U8_MAX_LENGTH> bytes{};
+    std::size_t length = 0;
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wconversion"
+#pragma GCC diagnostic ignored "-Wsign-conversion"
+    U8_APPEND_UNSAFE(bytes, length, codePoint);
+#pragma GCC diagnostic pop
+    text.append(bytes.data(), length);
 }
 
 std::string repairedUtf8(std::string_view bytes) {

@@ -7,6 +7,9 @@ namespace SnakeCore::Detail {
 
 [[nodiscard]] bool isUtf8(std::string_view bytes);
 
+/// `codePoint` is not a surrogate and at most U+10FFFF.
+void appendUtf8(std::string& text, char32_t codePoint);
+
 /// `bytes` with each ill-formed sequence replaced by U+FFFD, one per maximal subpart as Unicode
 /// recommends.
 [[nodiscard]] std::string repairedUtf8(std::string_view bytes);
