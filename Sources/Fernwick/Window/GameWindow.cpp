@@ -19,8 +19,8 @@
 
 GameWindow::GameWindow(Session& session)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint),
-      band_(new TitleBand(this)),
-      content_(new ContentView(session, this)) {
+      session_(session),
+      launch_(new LaunchView(this)) {
     // Screen readers follow windows; by default Qt reports a plain QWidget as a filler.
     Garden::setAccessibleRole(*this, QAccessible::Window);
     setObjectName(QStringLiteral("main"));
@@ -29,27 +29,36 @@ GameWindow::GameWindow(Session& session)
     setAttribute(Qt::WA_TranslucentBackground, WindowFrame::isSupported());
     // The content and the shadow around it paint every pixel.
     setAttribute(Qt::WA_OpaquePaintEvent);
-
-    band_->raise();
     // No control has the focus until the player presses Tab.
     setFocus();
 
-    new LaunchView(this);
-    new MenuCommands(session, band_->menuBar(), *this);
     create();
     frame_ = new WindowFrame(*this);
     auto* bounds = new WindowBounds(*this, *frame_);
     auto* chrome = new WindowChrome(*this, *frame_, TitleBand::height);
-    connect(frame_, &WindowFrame::marginsChanged, this, &GameWindow::placeContent);
+    connect(frame_, &WindowFrame::marginsChanged, this, [this] { placeContent(); });
     connect(chrome, &WindowChrome::resizeBegins, bounds, &WindowBounds::beginResize);
-    band_->watchWindow();
-    connect(band_, &TitleBand::menuInUseChanged, &session, &Session::setHeld);
-    connect(content_, &ContentView::dimmed, band_, &TitleBand::setDimming);
-    connect(content_, &ContentView::appeared, this, &GameWindow::appeared, Qt::QueuedConnection);
+    connect(launch_, &LaunchView::waiting, this, &GameWindow::makeContent);
+    connect(launch_, &LaunchView::sizeKept, this, [this] { placeContent(); });
     connect(this, &GameWindow::appeared, frame_, &WindowFrame::begin);
     // Rendering its eight sizes takes longer than a frame.
     connect(this, &GameWindow::appeared, this,
             [this] { setWindowIcon(Garden::applicationIcon()); });
+}
+
+void GameWindow::makeContent(const QSize& size) {
+    band_ = new TitleBand(this);
+    content_ = new ContentView(session_, this);
+    band_->stackUnder(frame_);
+    content_->stackUnder(band_);
+    new MenuCommands(session_, band_->menuBar(), *this);
+    band_->watchWindow();
+    connect(band_, &TitleBand::menuInUseChanged, &session_, &Session::setHeld);
+    connect(content_, &ContentView::dimmed, band_, &TitleBand::setDimming);
+    connect(content_, &ContentView::appeared, this, &GameWindow::appeared, Qt::QueuedConnection);
+    placeContent(isFullScreen() ? QRect(QPoint(), size) : frame_->visibleArea());
+    band_->show();
+    content_->show();
 }
 
 void GameWindow::changeEvent(QEvent* event) {
@@ -71,7 +80,13 @@ void GameWindow::paintEvent(QPaintEvent*) {
 }
 
 void GameWindow::placeContent() {
-    const QRect visible = frame_ == nullptr ? rect() : frame_->visibleArea();
+    placeContent(frame_ == nullptr ? rect() : frame_->visibleArea());
+}
+
+void GameWindow::placeContent(const QRect& visible) {
+    if (content_ == nullptr) {
+        return;
+    }
     content_->setGeometry(visible);
     content_->setBand(isFullScreen() ? 0 : TitleBand::height);
     band_->setContent(content_->contentArea());

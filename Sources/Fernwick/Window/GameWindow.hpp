@@ -3,12 +3,14 @@
 #include <QWidget>
 
 class ContentView;
+class LaunchView;
 class TitleBand;
 class Session;
 class WindowFrame;
 
 /// The main window: without a system frame, filled by the main screen, with the title band on top
-/// of it. Where it draws a shadow, all of that lies within the shadow's margins.
+/// of it. Where it draws a shadow, all of that lies within the shadow's margins. It is shown empty
+/// and unpainted; the screen and the band are made while the window manager works.
 class GameWindow : public QWidget {
     Q_OBJECT
 
@@ -26,9 +28,15 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void makeContent(const QSize& size);
     void placeContent();
+    /// Within `visible`, all of the window but its shadow.
+    void placeContent(const QRect& visible);
 
-    TitleBand* band_;
-    ContentView* content_;
+    Session& session_;
+    LaunchView* launch_;
     WindowFrame* frame_ = nullptr;
+    // Null until they are made.
+    TitleBand* band_ = nullptr;
+    ContentView* content_ = nullptr;
 };

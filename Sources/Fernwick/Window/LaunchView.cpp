@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <QPainter>
-#include <QPointer>
 #include <QScreen>
 #include <QShowEvent>
 #include <QTimer>
@@ -18,49 +17,16 @@
 
 namespace {
 
-/// Suspends painting until the window has its full-screen size, or until a timeout: a frame in the
-/// initial size would be discarded and would delay the first visible one.
-class PaintAfterResize : public QObject {
-public:
-    explicit PaintAfterResize(QWidget& window) : QObject(&window), window_(window) {
-        window.setUpdatesEnabled(false);
-        window.installEventFilter(this);
-        QTimer::singleShot(timeout, this, &PaintAfterResize::paintAfterTimeout);
-    }
+/// How long a window manager gets to resize the window.
+constexpr std::chrono::milliseconds longestWait{100};
 
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::Resize) {
-            paint();
-        }
-        return QObject::eventFilter(watched, event);
-    }
-
-private:
-    static constexpr std::chrono::milliseconds timeout{100};
-
-    void paintAfterTimeout() {
-        qCDebug(windowLog) << "no full-screen size after" << timeout.count() << "ms";
-        paint();
-        // The pending update was dropped while updates were disabled.
-        window_.repaint();
-    }
-
-    void paint() {
-        window_.removeEventFilter(this);
-        window_.setUpdatesEnabled(true);
-        deleteLater();
-    }
-
-    QWidget& window_;
-};
-
-/// Covers the window with the ground's colour and calls `shown` once the Wayland compositor has
-/// presented that frame. mutter gives a window its place only then; one that enters full screen
-/// earlier has no place to go back to.
+/// Covers the window with the ground's colour. Calls `painted` when that frame has been committed
+/// and `shown` once the Wayland compositor has presented it. mutter gives a window its place only
+/// then; one that enters full screen earlier has no place to go back to.
 class FirstFrame : public QWidget {
 public:
-    FirstFrame(QWidget& window, std::function<void()> shown)
-        : QWidget(&window), shown_(std::move(shown)) {
+    FirstFrame(QWidget& window, std::function<void()> painted, std::function<void()> shown)
+        : QWidget(&window), onPainted_(std::move(painted)), shown_(std::move(shown)) {
         setAttribute(Qt::WA_OpaquePaintEvent);
         setGeometry(window.rect());
         raise();
@@ -85,6 +51,9 @@ protected:
             [this] {
                 painted_ = true;
                 window()->windowHandle()->requestUpdate();
+                if (onPainted_) {
+                    std::exchange(onPainted_, nullptr)();
+                }
             },
             Qt::QueuedConnection);
         // Qt drops the request if the compositor takes longer than 0.1 s for the frame.
@@ -102,20 +71,10 @@ private:
         }
     }
 
+    std::function<void()> onPainted_;
     std::function<void()> shown_;
     bool painted_ = false;
 };
-
-void enterFullScreen(QWidget& window) {
-    assertMainThread();
-    if (!window.isFullScreen()) {
-        qCDebug(windowLog) << "requesting full screen";
-        if (window.size() != window.screen()->size()) {
-            new PaintAfterResize(window);
-        }
-        window.setWindowState(window.windowState() | Qt::WindowFullScreen);
-    }
-}
 
 }  // namespace
 
@@ -126,21 +85,65 @@ LaunchView::LaunchView(QWidget* parent) : QWidget(parent) {
 
 void LaunchView::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
-    if (configured_) {
+    if (window_ != nullptr) {
         return;
     }
-    configured_ = true;
+    window_ = window();
     if (Desktop::isOnWayland()) {
-        new FirstFrame(*window(), [this] { enterFullScreen(*window()); });
+        new FirstFrame(
+            *window_, [this] { Q_EMIT waiting(fullScreenSize()); }, [this] { enterFullScreen(); });
         return;
     }
+    // A frame in the initial size would be discarded and would delay the first visible one.
+    window_->setUpdatesEnabled(false);
     // Queued, so that the window is shown before it changes its state.
     QMetaObject::invokeMethod(
-        QCoreApplication::instance(),
-        [window = QPointer<QWidget>(this->window())] {
-            if (!window.isNull()) {
-                enterFullScreen(*window);
-            }
+        this,
+        [this] {
+            enterFullScreen();
+            Q_EMIT waiting(fullScreenSize());
         },
         Qt::QueuedConnection);
+}
+
+QSize LaunchView::fullScreenSize() const {
+    return window_->screen()->size();
+}
+
+void LaunchView::enterFullScreen() {
+    assertMainThread();
+    if (window_->isFullScreen() || window_->size() == fullScreenSize()) {
+        window_->setUpdatesEnabled(true);
+    } else {
+        window_->setUpdatesEnabled(false);
+        window_->installEventFilter(this);
+        QTimer::singleShot(longestWait, this, &LaunchView::paintAfterTimeout);
+    }
+    if (!window_->isFullScreen()) {
+        qCDebug(windowLog) << "requesting full screen";
+        window_->setWindowState(window_->windowState() | Qt::WindowFullScreen);
+    }
+}
+
+bool LaunchView::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Resize) {
+        paint();
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void LaunchView::paint() {
+    window_->removeEventFilter(this);
+    window_->setUpdatesEnabled(true);
+}
+
+void LaunchView::paintAfterTimeout() {
+    if (window_->updatesEnabled()) {
+        return;
+    }
+    qCDebug(windowLog) << "no full-screen size after" << longestWait.count() << "ms";
+    Q_EMIT sizeKept();
+    paint();
+    // The pending update was dropped while updates were disabled.
+    window_->repaint();
 }

@@ -9,9 +9,12 @@
 #include <vector>
 
 #include "Fernwick/Window/WindowTest.hpp"
+#include "Screens/Main/ContentView.hpp"
 #include "Support/LogCapture.hpp"
 #include "Window/FullScreen.hpp"
 #include "Window/LaunchView.hpp"
+#include "Window/TitleBand.hpp"
+#include "Window/WindowFrame.hpp"
 
 TEST(LaunchView, makesItsWindowFullScreenInTheNextEventLoopIteration) {
     QWidget window;
@@ -108,6 +111,35 @@ TEST(LaunchView, delaysPaintingUntilTheWindowIsFullScreen) {
     EXPECT_EQ(window.sizes.front(), window.screen()->size());
 }
 
+TEST(LaunchView, doesNotPaintBeforeItHasRequestedFullScreen) {
+    PaintedWindow window;
+    new LaunchView(&window);
+
+    window.show();
+    window.repaint();
+
+    EXPECT_TRUE(window.sizes.empty());
+}
+
+TEST(LaunchView, announcesTheSizeOfFullScreenAfterItHasRequestedThat) {
+    QWidget window;
+    window.resize(300, 200);
+    auto* view = new LaunchView(&window);
+    QSize announced;
+    bool requested = false;
+    QObject::connect(view, &LaunchView::waiting, [&](const QSize& size) {
+        announced = size;
+        requested = window.isFullScreen();
+    });
+
+    window.show();
+    EXPECT_FALSE(announced.isValid());
+    QCoreApplication::processEvents();
+
+    EXPECT_EQ(announced, window.screen()->size());
+    EXPECT_TRUE(requested);
+}
+
 TEST(LaunchView, doesNotDelayPaintingIfTheWindowIsAsLargeAsTheScreen) {
     QWidget window;
     window.resize(window.screen()->size());
@@ -129,14 +161,17 @@ TEST(LaunchView, paintsEvenIfTheWindowIsNotResized) {
     } ignoreResize;
     PaintedWindow window;
     window.resize(300, 200);
-    new LaunchView(&window);
+    auto* view = new LaunchView(&window);
     const LogCapture log("fernwick.window");
+    bool sizeKept = false;
+    QObject::connect(view, &LaunchView::sizeKept, [&] { sizeKept = window.sizes.empty(); });
 
     window.show();
     QCoreApplication::sendPostedEvents();
     window.installEventFilter(&ignoreResize);
 
     EXPECT_TRUE(QTest::qWaitFor([&window] { return !window.sizes.empty(); }));
+    EXPECT_TRUE(sizeKept);
     EXPECT_TRUE(log.contains("no full-screen size"));
 }
 
@@ -192,8 +227,35 @@ TEST(ToggleFullScreen, ignoresAMinimisedWindow) {
 namespace {
 
 class Window : public WindowTest {};
+class NewWindow : public SessionTest {};
 
 }  // namespace
+
+TEST_F(NewWindow, isShownBeforeItsContentIsMadeForFullScreen) {
+    GameWindow window(session);
+
+    window.show();
+    EXPECT_EQ(window.findChild<ContentView*>(), nullptr);
+    QCoreApplication::sendPostedEvents();
+
+    const auto* content = window.findChild<ContentView*>();
+    ASSERT_NE(content, nullptr);
+    EXPECT_TRUE(content->isVisible());
+    EXPECT_EQ(content->geometry(), QRect(QPoint(), window.screen()->size()));
+    EXPECT_TRUE(window.hasFocus() || window.focusWidget() == &window);
+}
+
+TEST_F(NewWindow, hasTheBandAboveTheContentAndTheFrameAboveBoth) {
+    GameWindow window(session);
+    window.show();
+    QCoreApplication::processEvents();
+
+    const QObjectList& fromBelow = window.children();
+    const auto place = [&](QObject* child) { return fromBelow.indexOf(child); };
+
+    EXPECT_LT(place(window.findChild<ContentView*>()), place(window.findChild<TitleBand*>()));
+    EXPECT_LT(place(window.findChild<TitleBand*>()), place(window.findChild<WindowFrame*>()));
+}
 
 TEST_F(Window, isTitledFernwickAndFrameless) {
     EXPECT_EQ(window.windowTitle(), "Fernwick");

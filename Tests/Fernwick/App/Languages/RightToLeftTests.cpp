@@ -121,7 +121,9 @@ TEST_F(RightToLeft, doesNotReorderTheArrowKeyHint) {
     auto& arrows = *Screen::find<Garden::TrackedLabel>(window, keys);
     const QImage mirrored = pictureOf(arrows);
     const Language english{QString()};
-    const GameWindow other(session);
+    GameWindow other(session);
+    other.show();
+    processEvents();
     auto& otherArrows = *Screen::find<Garden::TrackedLabel>(other, keys);
 
     EXPECT_EQ(mirrored, pictureOf(otherArrows));
