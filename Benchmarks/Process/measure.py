@@ -1,7 +1,7 @@
 """measure.py BUILD [PART]...: measures the whole program on a private X server.
 
-Its screen has 1920 x 1080 pixels. PART is one of startup, gameplay, idle and slow_disk; all of them
-by default.
+Its screen has 1920 x 1080 pixels, for the part `large` 3840 x 2160. PART is one of startup, cold,
+large, gameplay, idle and slow_disk; all of them by default.
 Prints one JSON object of named figures in seconds, bytes, shares of one core, or counts.
 """
 
@@ -9,13 +9,16 @@ import json
 import pathlib
 import sys
 
+import cold
 import gameplay
 import idle
+import large
 import slow_disk
 import startup
 from testbed import Testbed
 
-PARTS = {"startup": startup, "gameplay": gameplay, "idle": idle, "slow_disk": slow_disk}
+PARTS = {"startup": startup, "cold": cold, "large": large, "gameplay": gameplay, "idle": idle,
+         "slow_disk": slow_disk}
 
 
 def main():

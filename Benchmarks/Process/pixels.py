@@ -16,9 +16,15 @@ FRUIT_TOLERANCE = 40
 VECTORS = {"up": (0, -1), "left": (-1, 0), "right": (1, 0), "down": (0, 1)}
 
 
+# Sample positions all over the screen.
+GRID_COLUMNS, GRID_ROWS = 32, 18
+
+
 class Pixels(Screen):
-    # Sample positions all over the screen.
-    GRID = [(x, y) for y in range(30, Screen.HEIGHT, 60) for x in range(30, Screen.WIDTH, 60)]
+    def __init__(self, path, width, height):
+        super().__init__(path)
+        self._grid = [((column + 0.5) * width / GRID_COLUMNS, (row + 0.5) * height / GRID_ROWS)
+                      for row in range(GRID_ROWS) for column in range(GRID_COLUMNS)]
 
     def colour(self, x, y):
         """Red, green and blue of a pixel, 0 to 255 each."""
@@ -28,11 +34,11 @@ class Pixels(Screen):
 
     def shows_nowhere(self, colour):
         """Whether no sampled pixel has this colour."""
-        return all(self.colour(*point) != colour for point in self.GRID)
+        return all(self.colour(*point) != colour for point in self._grid)
 
     def shows_everywhere(self, colour):
         """Whether every sampled pixel has this colour."""
-        return all(self.colour(*point) == colour for point in self.GRID)
+        return all(self.colour(*point) == colour for point in self._grid)
 
     def shows_head(self, cell, direction):
         """Whether the snake's head is in this cell and looks in this direction."""

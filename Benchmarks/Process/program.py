@@ -39,6 +39,17 @@ class Program:
         """Voluntary context switches of all threads: each time one went to sleep."""
         return sum(self._voluntary_switches(each) for each in (self._folder / "task").iterdir())
 
+    def cpu_time(self):
+        """User and system time of all threads so far, in seconds."""
+        # What clock_getcpuclockid() returns: the scheduler's clock of the process.
+        return time.clock_gettime(~self._process.pid << 3 | 2)
+
+    def mapped_files(self):
+        """The program, its libraries, and the fonts and caches that it has mapped."""
+        lines = (self._folder / "maps").read_text().splitlines()
+        paths = {line.split(maxsplit=5)[5] for line in lines if "/" in line}
+        return {path for path in paths if pathlib.Path(path).is_file()}
+
     @staticmethod
     def _voluntary_switches(thread):
         lines = (thread / "status").read_text().splitlines()

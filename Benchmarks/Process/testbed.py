@@ -22,16 +22,18 @@ PACE_BUTTONS = {"Gentle": (78, 152), "Classic": (152, 152), "Swift": (222, 152)}
 class Testbed:
     """Starts a private desktop, which runs until `close`."""
 
-    def __init__(self, build):
+    def __init__(self, build, width=1920, height=1080):
+        self.build = build
         self.hello = build / "Benchmarks/Process/Hello"
         self.play = build / "Benchmarks/Process/Play"
         self.game = build / "fernwick"
         self.delayed_flush = build / "Benchmarks/Process/DelayedFlush.so"
         # Directly below /tmp, because the path of a Unix socket is limited to 107 bytes.
         self.desktop = Desktop(pathlib.Path(tempfile.mkdtemp(prefix="fernwick-")))
+        self.desktop.X_SERVER_OPTIONS = ("--size", f"{width}x{height}")
         self.desktop.start()
         self.input = XTest(self.desktop.environment["DISPLAY"])
-        self.pixels = Pixels(self.desktop.folder / "Xvfb_screen0")
+        self.pixels = Pixels(self.desktop.folder / "Xvfb_screen0", width, height)
 
     def close(self):
         self.desktop.stop()

@@ -57,6 +57,12 @@ def test_returns_the_status_of_the_command(launch):
     assert launcher.wait(TIMEOUT) == 7
 
 
+def test_the_screen_has_the_size_asked_for(launch):
+    launcher = launch("--no-window-manager", "--size", "640x480", "xwininfo", "-root")
+    output, _ = launcher.communicate(timeout=TIMEOUT)
+    assert "Width: 640" in output and "Height: 480" in output
+
+
 def test_the_window_manager_is_up_before_the_command_starts(launch):
     launcher = launch("xprop", "-root", "_NET_SUPPORTING_WM_CHECK")
     printed, _ = launcher.communicate(timeout=TIMEOUT)
