@@ -72,11 +72,10 @@ void straightforwardFrame(benchmark::State& state) {
 }
 
 void pauseBlur(benchmark::State& state) {
-    const double scale = scaleOf(state);
-    Painting::BoardPicture picture(Screens::grid(scale));
-    picture.show(Games::ofLength(60));
+    const Painting::PixelGrid grid = Screens::grid(scaleOf(state));
+    const Game game = Games::ofLength(60);
     for (auto _ : state) {
-        benchmark::DoNotOptimize(Painting::idlePicture(picture.image(), 5 * scale));
+        benchmark::DoNotOptimize(Painting::idlePicture(game, grid));
     }
 }
 

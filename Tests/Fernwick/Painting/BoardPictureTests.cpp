@@ -1,11 +1,18 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <future>
+#include <vector>
+
 #include "Fernwick/Painting/Games.hpp"
 #include "Fernwick/Painting/Grids.hpp"
 #include "Fernwick/Painting/PictureDifference.hpp"
 #include "Fernwick/Painting/ReferencePainter.hpp"
+#include "Garden/Look/Palette.hpp"
 #include "Painting/Board/BoardPicture.hpp"
 #include "Painting/Board/IdlePicture.hpp"
+#include "Painting/Raster/GaussianBlur.hpp"
+#include "Painting/Raster/Upsampling.hpp"
 
 namespace {
 
@@ -69,10 +76,74 @@ TEST(BoardPicture, isBlurredAndDimmedLikeTheReferencePainterWhileIdle) {
         const Game game = Games::ofLength(60);
         const Painting::PixelGrid grid = Grids::usual(cell, scale);
 
-        const QImage idle = Painting::idlePicture(paintedAnew(game, grid), 5 * scale);
+        const QImage idle = Painting::idlePicture(game, grid);
 
         expectLikeReference(idle, ReferencePainter::paintIdle(game, grid));
     }
+}
+
+// One channel of the sharp picture minus the plain fill, averaged over blocks of `step` pixels.
+Painting::Plane<float> averaged(const QImage& sharp, int shift, int step) {
+    const int fill = static_cast<int>((Garden::soil.rgb() >> shift) & 0xFFU);
+    Painting::Plane<float> samples((sharp.width() + step - 1) / step,
+                                   (sharp.height() + step - 1) / step);
+    for (int y = 0; y < sharp.height(); ++y) {
+        for (int x = 0; x < sharp.width(); ++x) {
+            samples.at(x / step, y / step) +=
+                static_cast<float>(channelOf(sharp, x, y, shift) - fill) /
+                static_cast<float>(step * step);
+        }
+    }
+    return samples;
+}
+
+// The largest difference of a channel of the idle picture from the sharp one, blurred and dimmed.
+double differenceFromBlurred(const QImage& idle, const QImage& sharp, int shift, int step,
+                             double sigma) {
+    const auto fill = static_cast<float>((Garden::soil.rgb() >> shift) & 0xFFU);
+    Painting::Plane<float> samples = averaged(sharp, shift, step);
+    Painting::gaussianBlur(samples, std::sqrt(sigma * sigma / (step * step) - 0.25));
+    const Painting::SampleAxis columns(idle.width(), samples.width(), step);
+    const Painting::SampleAxis rows(idle.height(), samples.height(), step);
+    Painting::UpsampledRows<float> blurred(samples, columns, 0, idle.width());
+    double largest = 0;
+    for (int y = 0; y < idle.height(); ++y) {
+        const auto [sample, weight] = rows[y];
+        blurred.seek(sample);
+        for (int x = 0; x < idle.width(); ++x) {
+            const float value = std::lerp(blurred.upper()[x], blurred.lower()[x], weight);
+            const double apart = channelOf(idle, x, y, shift) - (fill + 0.4 * value);
+            largest = std::max(largest, std::abs(apart));
+        }
+    }
+    return largest;
+}
+
+TEST(IdlePicture, isWithinOneStepOfTheFullSizePictureBlurred) {
+    for (const auto& [scale, step] : {std::pair(1.0, 3), std::pair(1.5, 5), std::pair(2.0, 6)}) {
+        for (const double edge : {cell, 30.2}) {
+            const Game game = Games::ofLength(60);
+            const Painting::PixelGrid grid = Grids::usual(edge, scale);
+            const QImage sharp = paintedAnew(game, grid);
+
+            const QImage idle = Painting::idlePicture(game, grid);
+
+            for (const int shift : {16, 8, 0}) {
+                // Rounding with dither may add one step.
+                EXPECT_LE(differenceFromBlurred(idle, sharp, shift, step, 5 * scale), 2)
+                    << scale << ", " << edge << ", " << shift;
+            }
+        }
+    }
+}
+
+TEST(IdlePicture, isTheSameFromAnyThread) {
+    const Game game = Games::ofLength(60);
+    const Painting::PixelGrid grid = Grids::usual(cell, 1);
+
+    auto other = std::async(std::launch::async, [&] { return Painting::idlePicture(game, grid); });
+
+    EXPECT_EQ(Painting::idlePicture(game, grid), other.get());
 }
 
 QRegion differingPixels(const QImage& left, const QImage& right) {

@@ -21,6 +21,9 @@ BoardPicture::BoardPicture(const PixelGrid& grid)
       links_(grid.columns, grid.rows) {}
 
 QRegion BoardPicture::show(const SnakeCore::Game& game) {
+    if (shown_ == game) {
+        return {};
+    }
     QRegion changed;
     if (!shown_) {
         changed = ground_.rect();

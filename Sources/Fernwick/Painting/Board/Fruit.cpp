@@ -102,11 +102,32 @@ CoverageLayer makeGlow(const PixelGrid& grid, const QPointF& centre) {
             }};
 }
 
+// Everything within `halfWidth` of a line or point, given the squared distance of a position.
+template <typename SquaredDistance>
+CoverageLayer makeLayer(const QColor& colour, const QRect& bounds, const PixelGrid& grid,
+                        double halfWidth, SquaredDistance squaredDistanceOf) {
+    // At a fraction of the size the fruit is only a few pixels wide, and coverageWithin() makes it
+    // too large.
+    const int perPixel = grid.scale < 1 ? 4 : 1;
+    return {
+        colour, bounds, [&, perPixel](int x, int y) {
+            double sum = 0;
+            for (int row = 0; row < perPixel; ++row) {
+                for (int column = 0; column < perPixel; ++column) {
+                    const QPointF inside(column + 0.5, row + 0.5);
+                    sum += Painting::coverageWithin(
+                        halfWidth * perPixel,
+                        perPixel * perPixel * squaredDistanceOf(QPointF(x, y) + inside / perPixel));
+                }
+            }
+            return sum / (perPixel * perPixel);
+        }};
+}
+
 CoverageLayer makeBall(const PixelGrid& grid, const QPointF& centre) {
     const double radius = ballRadius * grid.cell;
-    return {fruitColour, Painting::discBounds(centre, radius), [&](int x, int y) {
-                return Painting::coverageWithin(radius, squaredLength(pixelCentre(x, y) - centre));
-            }};
+    return makeLayer(fruitColour, Painting::discBounds(centre, radius), grid, radius,
+                     [&](const QPointF& point) { return squaredLength(point - centre); });
 }
 
 CoverageLayer makeStem(const PixelGrid& grid, const QPointF& centre) {
@@ -116,10 +137,8 @@ CoverageLayer makeStem(const PixelGrid& grid, const QPointF& centre) {
     const QPointF around(halfWidth, halfWidth);
     const QRectF hull(centre + QPointF(stemStart.x(), stemControl.y()) * grid.cell - around,
                       centre + QPointF(stemEnd.x(), stemStart.y()) * grid.cell + around);
-    return {Garden::mint, hull.toAlignedRect(), [&](int x, int y) {
-                return Painting::coverageWithin(halfWidth,
-                                                squaredDistance(pixelCentre(x, y), line));
-            }};
+    return makeLayer(Garden::mint, hull.toAlignedRect(), grid, halfWidth,
+                     [&](const QPointF& point) { return squaredDistance(point, line); });
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "Garden/Look/Palette.hpp"
+#include "Painting/Board/BoardPicture.hpp"
 #include "Painting/Raster/GaussianBlur.hpp"
 #include "Painting/Raster/Pixels.hpp"
 #include "Painting/Raster/Upsampling.hpp"
@@ -16,42 +17,42 @@ using Painting::Rgb;
 using Painting::SampleAxis;
 
 constexpr float opacity = 0.4F;
+/// Of the blur, in points.
+constexpr double sigma = 5;
 
 // Red, green and blue, as differences from the plain fill: the blur takes zeros beyond the edges.
 using Planes = std::array<Plane<float>, 3>;
 
 constexpr std::array<int, 3> shifts{16, 8, 0};
 
-int channelOf(quint32 pixel, int shift) {
-    return static_cast<int>((pixel >> shift) & 0xFFU);
+// The same board at 1 / step of the size. Its last column and row may extend beyond the picture.
+Painting::PixelGrid reduced(const Painting::PixelGrid& grid, int step) {
+    const auto samples = [step](int pixels) { return (pixels + step - 1) / step; };
+    return {{samples(grid.size.width()), samples(grid.size.height())},
+            grid.origin / step,
+            grid.cell / step,
+            grid.scale / step,
+            grid.columns,
+            grid.rows};
 }
 
-// Averages blocks of `step` by `step` pixels. Blocks that cross the edge are filled up with zeros.
-Planes downsample(const QImage& picture, int step) {
-    const Plane<float> empty((picture.width() + step - 1) / step,
-                             (picture.height() + step - 1) / step);
+// `part` is how much of the last column and row lies inside the picture.
+Planes planesOf(const QImage& picture, const QSizeF& part) {
+    const Plane<float> empty(picture.width(), picture.height());
     Planes planes{empty, empty, empty};
-    const float share = 1.0F / static_cast<float>(step * step);
-    const int wholeBlocks = picture.width() / step;
-    for (int y = 0; y < picture.height(); ++y) {
-        const quint32* const pixels = Painting::pixelsAt(picture, 0, y);
-        for (std::size_t channel = 0; channel < planes.size(); ++channel) {
-            float* const samples = planes[channel].row(y / step);
-            const int shift = shifts[channel];
-            const int fill = channelOf(Garden::soil.rgb(), shift);
-            const auto difference = [&](int x) {
-                return static_cast<float>(channelOf(pixels[x], shift) - fill);
-            };
-            for (int i = 0; i < wholeBlocks; ++i) {
-                float sum = 0;
-                for (int x = i * step; x < (i + 1) * step; ++x) {
-                    sum += difference(x);
-                }
-                samples[i] += sum * share;
+    for (std::size_t channel = 0; channel < planes.size(); ++channel) {
+        const auto channelOf = [shift = shifts[channel]](quint32 pixel) {
+            return static_cast<int>((pixel >> shift) & 0xFFU);
+        };
+        const int fill = channelOf(Garden::soil.rgb());
+        for (int y = 0; y < picture.height(); ++y) {
+            const quint32* const pixels = Painting::pixelsAt(picture, 0, y);
+            float* const samples = planes[channel].row(y);
+            const auto rowPart = static_cast<float>(y + 1 < picture.height() ? 1 : part.height());
+            for (int x = 0; x < picture.width(); ++x) {
+                samples[x] = static_cast<float>(channelOf(pixels[x]) - fill) * rowPart;
             }
-            for (int x = wholeBlocks * step; x < picture.width(); ++x) {
-                samples[wholeBlocks] += difference(x) * share;
-            }
+            samples[picture.width() - 1] *= static_cast<float>(part.width());
         }
     }
     return planes;
@@ -86,16 +87,20 @@ QImage upsample(const Planes& planes, const QSize& size, int step) {
 
 }  // namespace
 
-QImage Painting::idlePicture(const QImage& picture, double sigma) {
+QImage Painting::idlePicture(const SnakeCore::Game& game, const PixelGrid& grid) {
     // Three samples per two sigmas are enough for a blurred picture.
-    const int step = std::max(static_cast<int>(sigma / 1.5), 1);
-    const double samples = sigma / step;
+    const int step = std::max(static_cast<int>(sigma * grid.scale / 1.5), 1);
+    const PixelGrid small = reduced(grid, step);
+    BoardPicture picture(small);
+    picture.show(game);
+    const QSizeF part(QSizeF(grid.size) / step - QSizeF(small.size) + QSizeF(1, 1));
+    Planes planes = planesOf(picture.image(), part);
+    const double samples = sigma * small.scale;
     // Averaging and linear interpolation blur as well. Their variances, 1/12 and 1/6 of a squared
     // sample, are taken off that of the Gaussian.
     const double resampling = step > 1 ? 0.25 : 0;
-    Planes planes = downsample(picture, step);
     for (Plane<float>& plane : planes) {
         gaussianBlur(plane, std::sqrt(std::max(samples * samples - resampling, 0.01)));
     }
-    return upsample(planes, picture.size(), step);
+    return upsample(planes, grid.size, step);
 }

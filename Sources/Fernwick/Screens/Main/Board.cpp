@@ -9,13 +9,6 @@
 #include "Painting/Board/IdlePicture.hpp"
 #include "Screens/Main/WidgetPixels.hpp"
 
-namespace {
-
-/// Sigma of the blur while the snake does not move, in points.
-constexpr double idleSigma = 5;
-
-}  // namespace
-
 Board::Board(Painting::Backdrop& backdrop, const SnakeCore::Game& game, QWidget* parent)
     : QWidget(parent), backdrop_(backdrop), game_(game) {
     Garden::setAccessibleRole(*this, QAccessible::Graphic);
@@ -26,11 +19,31 @@ Board::Board(Painting::Backdrop& backdrop, const SnakeCore::Game& game, QWidget*
 void Board::place(const Painting::BoardGeometry& inWindow, const QRect& widget,
                   qreal devicePixelRatio) {
     if (inWindow != inWindow_ || widget != widget_ || devicePixelRatio != scale_) {
+        const Painting::PixelGrid before = grid();
         inWindow_ = inWindow;
         widget_ = widget;
         scale_ = devicePixelRatio;
+        if (grid() != before) {
+            idlePicture_ = {};
+        }
         update();
     }
+}
+
+Painting::PixelGrid Board::gridOf(const Painting::BoardGeometry& inWindow, const QRect& widget,
+                                  qreal devicePixelRatio, const SnakeCore::Game& game) {
+    const QRect pixels = WidgetPixels::inWindow(widget, devicePixelRatio);
+    return {pixels.size(),
+            inWindow.frame.topLeft() * devicePixelRatio - pixels.topLeft(),
+            inWindow.cell * devicePixelRatio,
+            devicePixelRatio,
+            static_cast<int>(game.width()),
+            static_cast<int>(game.height())};
+}
+
+void Board::offerIdlePicture(const SnakeCore::Game& game, const Painting::PixelGrid& grid,
+                             std::future<QImage> picture) {
+    offered_ = {game, grid, std::move(picture)};
 }
 
 void Board::setGame(const SnakeCore::Game& game) {
@@ -43,9 +56,8 @@ void Board::setGame(const SnakeCore::Game& game) {
         announceScore();
     }
     idlePicture_ = {};
-    if (picture_ && picture_->grid() == grid()) {
-        const QRegion changed = toPoints(picture_->show(game));
-        idle_ ? update() : update(changed);
+    if (!idle_ && picture_ && picture_->grid() == grid()) {
+        update(toPoints(picture_->show(game)));
     } else {
         update();
     }
@@ -68,7 +80,7 @@ void Board::setScrim(double opacity) {
 
 void Board::paintEvent(QPaintEvent* event) {
     prepareEdge();
-    preparePicture();
+    idle_ ? prepareIdlePicture() : preparePicture();
     QPainter painter(this);
     const WidgetPixels pixels(painter, widget_, scale_);
     const QColor scrim = Garden::withOpacity(Qt::black, scrim_);
@@ -89,14 +101,7 @@ void Board::paintEvent(QPaintEvent* event) {
 }
 
 Painting::PixelGrid Board::grid() const {
-    const QRectF& frame = inWindow_.frame;
-    const QRect pixels = WidgetPixels::inWindow(widget_, scale_);
-    return {pixels.size(),
-            frame.topLeft() * scale_ - pixels.topLeft(),
-            inWindow_.cell * scale_,
-            scale_,
-            static_cast<int>(game_.width()),
-            static_cast<int>(game_.height())};
+    return gridOf(inWindow_, widget_, scale_, game_);
 }
 
 QRegion Board::toPoints(const QRegion& pixels) const {
@@ -122,15 +127,25 @@ void Board::prepareEdge() {
     edgeRevision_ = backdrop_.revision();
 }
 
+void Board::prepareIdlePicture() {
+    if (!idlePicture_.isNull()) {
+        return;
+    }
+    if (offered_ && offered_->game == game_ && offered_->grid == grid()) {
+        idlePicture_ = offered_->picture.get();
+        offered_.reset();
+    } else {
+        idlePicture_ = Painting::idlePicture(game_, grid());
+    }
+}
+
 void Board::preparePicture() {
+    offered_.reset();
     if (!picture_ || picture_->grid() != grid()) {
         picture_.emplace(grid());
-        picture_->show(game_);
-        idlePicture_ = {};
     }
-    if (idle_ && idlePicture_.isNull()) {
-        idlePicture_ = Painting::idlePicture(picture_->image(), idleSigma * scale_);
-    }
+    // Changes nothing unless the game has changed while the board was idle.
+    picture_->show(game_);
 }
 
 void Board::announceScore() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QWidget>
+#include <future>
 #include <optional>
 
 #include "Painting/Board/BoardGeometry.hpp"
@@ -24,6 +25,16 @@ public:
     void place(const Painting::BoardGeometry& inWindow, const QRect& widget,
                qreal devicePixelRatio);
 
+    /// The grid of the picture of a board that is placed like this; see place().
+    [[nodiscard]] static Painting::PixelGrid gridOf(const Painting::BoardGeometry& inWindow,
+                                                    const QRect& widget, qreal devicePixelRatio,
+                                                    const SnakeCore::Game& game);
+    /// Gives the board the result of Painting::idlePicture(), which may still be under way in
+    /// another thread. The board uses it if it has to show that game on that grid while idle.
+    /// Otherwise it paints its own.
+    void offerIdlePicture(const SnakeCore::Game& game, const Painting::PixelGrid& grid,
+                          std::future<QImage> picture);
+
     /// Shows `game`. Repaints only the differences from the game shown before.
     void setGame(const SnakeCore::Game& game);
     /// Blurs and dims the picture, for the time when the snake does not move.
@@ -31,13 +42,23 @@ public:
     /// Draws black of this opacity, from 0 to 1, over the picture inside the rounded frame.
     void setScrim(double opacity);
 
+    /// Whether the sharp picture has been painted. It is not needed before the first run.
+    [[nodiscard]] bool hasSharpPicture() const { return picture_.has_value(); }
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    struct OfferedPicture {
+        SnakeCore::Game game;
+        Painting::PixelGrid grid;
+        std::future<QImage> picture;
+    };
+
     [[nodiscard]] Painting::PixelGrid grid() const;
     [[nodiscard]] QRegion toPoints(const QRegion& pixels) const;
     void prepareEdge();
+    void prepareIdlePicture();
     void preparePicture();
     void announceScore();
 
@@ -48,9 +69,10 @@ private:
     qreal scale_ = 1;
     bool idle_ = false;
     double scrim_ = 0;
+    // Made when they are needed: each takes as long as the rest of a frame, or longer.
     std::optional<Painting::BoardPicture> picture_;
-    // Null until it is needed.
     QImage idlePicture_;
+    std::optional<OfferedPicture> offered_;
     Painting::FrameEdge edge_;
     // The backdrop's revision that the edge was made from.
     int edgeRevision_ = 0;

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
+#include <future>
 
 #include "Fernwick/Painting/Games.hpp"
 #include "Fernwick/Painting/PictureDifference.hpp"
@@ -121,6 +122,79 @@ TEST(Board, isBlurredAndDimmedWhileIdleAndSharpAgainAfterwards) {
     EXPECT_LT(channelOf(idle, band.x(), band.y(), 8), 24 + 0.4 * (bright - 24));
     EXPECT_GT(channelOf(idle, band.x(), band.y(), 8), 24 + 0.2 * (bright - 24));
     EXPECT_EQ(window.picture(), sharp);
+}
+
+TEST(Board, paintsNoSharpPictureBeforeTheSnakeMoves) {
+    BoardWindow window(QSize(700, 560), true);
+    window.board().setGame(Games::ofLength(30));
+    window.board().setScrim(0.48);
+    window.settle();
+    const bool beforeTheRun = window.board().hasSharpPicture();
+
+    window.board().setIdle(false);
+    window.settle();
+
+    EXPECT_FALSE(beforeTheRun);
+    EXPECT_TRUE(window.board().hasSharpPicture());
+}
+
+TEST(Board, showsAGameThatChangedWhileItWasIdle) {
+    BoardWindow window;
+    window.board().setIdle(true);
+    window.settle();
+    window.board().setGame(Games::ofLength(30));
+    window.settle();
+    BoardWindow another;
+    another.board().setGame(Games::ofLength(30));
+
+    window.board().setIdle(false);
+    window.board().setScrim(0);
+
+    EXPECT_EQ(window.picture(), another.picture());
+}
+
+std::future<QImage> ready(const QImage& picture) {
+    std::promise<QImage> promise;
+    promise.set_value(picture);
+    return promise.get_future();
+}
+
+// An idle picture that no game has.
+QImage redPicture(const QSize& size) {
+    QImage picture(size, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    return picture;
+}
+
+TEST(Board, showsAnOfferedIdlePictureOfItsGameAndGrid) {
+    BoardWindow window;
+    const Game game = Games::ofLength(30);
+    window.board().setGame(game);
+    const Painting::PixelGrid grid = window.grid(game);
+
+    window.board().offerIdlePicture(game, grid, ready(redPicture(grid.size)));
+    window.board().setIdle(true);
+
+    EXPECT_EQ(window.picture().pixel(window.middleOf({13, 11})), QColor(Qt::red).rgb());
+}
+
+TEST(Board, ignoresAnOfferedIdlePictureOfAnotherGameOrGrid) {
+    const Game game = Games::ofLength(30);
+    BoardWindow plain;
+    plain.board().setGame(game);
+    plain.board().setIdle(true);
+    for (const bool anotherGame : {true, false}) {
+        BoardWindow window;
+        window.board().setGame(game);
+        Painting::PixelGrid grid = window.grid(game);
+        grid.scale *= anotherGame ? 1 : 2;
+
+        window.board().offerIdlePicture(anotherGame ? Game(28, 22) : game, grid,
+                                        ready(redPicture(grid.size)));
+        window.board().setIdle(true);
+
+        EXPECT_EQ(window.picture(), plain.picture());
+    }
 }
 
 TEST(Board, showsANewGameWhileIdle) {

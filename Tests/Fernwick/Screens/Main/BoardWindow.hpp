@@ -12,9 +12,10 @@
 /// A window with a board in front of the backdrop, placed as on the main screen.
 class BoardWindow : public QWidget {
 public:
-    explicit BoardWindow(const QSize& size = {700, 560})
+    explicit BoardWindow(const QSize& size = {700, 560}, bool idle = false)
         : board_(new Board(backdrop_, SnakeCore::Game(28, 22), this)) {
         board_->installEventFilter(this);
+        board_->setIdle(idle);
         QWidget::resize(size);
         show();
         settle();
@@ -24,6 +25,10 @@ public:
 
     /// The frame in points of the window. Odd margins make its edges fractions.
     [[nodiscard]] QRectF frame() const { return fitted().frame; }
+
+    [[nodiscard]] Painting::PixelGrid grid(const SnakeCore::Game& game) const {
+        return Board::gridOf(fitted(), frame().toAlignedRect(), devicePixelRatioF(), game);
+    }
 
     [[nodiscard]] QPoint middleOf(const SnakeCore::Cell& cell) const {
         const QPointF offset(static_cast<double>(cell.x) + 0.5, static_cast<double>(cell.y) + 0.5);
