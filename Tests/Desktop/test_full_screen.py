@@ -6,6 +6,12 @@ from screen import Screen
 from waiting import eventually
 
 WHOLE_SCREEN = 0, 0, Screen.WIDTH, Screen.HEIGHT
+# A colour that the game does not draw.
+BACKGROUND = (255, 0, 255)
+BUTTON_COLOUR = (166, 240, 163)
+INSIDE_THE_BUTTON = Screen.WIDTH // 2 - 60, 650
+# All over the screen.
+SAMPLES = [(x, y) for y in range(30, Screen.HEIGHT, 60) for x in range(30, Screen.WIDTH, 60)]
 
 
 def leave_by_key(game, keys):
@@ -30,6 +36,33 @@ def test_starts_in_full_screen(game):
     assert game.is_full_screen()
     eventually(lambda: game.geometry() == WHOLE_SCREEN, "the window covers the screen")
     assert game.is_active()
+
+
+@pytest.fixture
+def background(desktop):
+    desktop.run("xsetroot", "-solid", "#ff00ff")
+    yield BACKGROUND
+    desktop.run("xsetroot", "-solid", "black")
+
+
+def sampled_colours(desktop):
+    picture = desktop.screen.picture()
+    return [picture.colour(*point) for point in SAMPLES]
+
+
+def test_the_first_picture_is_complete(desktop, start, background):
+    eventually(lambda: set(sampled_colours(desktop)) == {background}, "the screen is empty")
+
+    start()
+    seen = [sampled_colours(desktop)]
+    while background in seen[-1]:
+        seen.append(sampled_colours(desktop))
+    eventually(lambda: desktop.screen.picture().colour(*INSIDE_THE_BUTTON) == BUTTON_COLOUR,
+               "the start card is shown")
+    complete = sampled_colours(desktop)
+
+    for colours in seen:
+        assert all(colour in (background, expected) for colour, expected in zip(colours, complete))
 
 
 @pytest.mark.parametrize("keys", ["F11", "ctrl+super+f"])

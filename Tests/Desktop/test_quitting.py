@@ -4,6 +4,7 @@ import os
 import pathlib
 import signal
 import socket
+import time
 
 import pytest
 from game import ACCESSIBLE, Game
@@ -103,6 +104,15 @@ def test_a_signal_before_there_is_a_window_gives_status_0(start, silent_bus, num
     game = start(DBUS_SESSION_BUS_ADDRESS=f"unix:path={silent_bus.getsockname()}")
     silent_bus.accept()
     game.process.send_signal(number)
+    assert game.exit_status() == 0
+
+
+@pytest.mark.parametrize("milliseconds", range(20, 160, 10))
+def test_a_signal_at_any_moment_of_the_start_gives_status_0(start, milliseconds):
+    """The window is shown before its content is made, and a thread paints the board."""
+    game = start()
+    time.sleep(milliseconds / 1000)
+    game.process.send_signal(signal.SIGTERM)
     assert game.exit_status() == 0
 
 

@@ -51,14 +51,15 @@ void GameWindow::makeContent(const QSize& size) {
     content_ = new ContentView(session_, this);
     band_->stackUnder(frame_);
     content_->stackUnder(band_);
-    new MenuCommands(session_, band_->menuBar(), *this);
-    band_->watchWindow();
-    connect(band_, &TitleBand::menuInUseChanged, &session_, &Session::setHeld);
     connect(content_, &ContentView::dimmed, band_, &TitleBand::setDimming);
     connect(content_, &ContentView::appeared, this, &GameWindow::appeared, Qt::QueuedConnection);
     placeContent(isFullScreen() ? QRect(QPoint(), size) : frame_->visibleArea());
-    band_->show();
     content_->show();
+    content_->paintAhead();
+    new MenuCommands(session_, band_->menuBar(), *this);
+    band_->watchWindow();
+    connect(band_, &TitleBand::menuInUseChanged, &session_, &Session::setHeld);
+    band_->show();
 }
 
 void GameWindow::changeEvent(QEvent* event) {

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "Fernwick/Window/WindowTest.hpp"
+#include "Screens/Main/Board.hpp"
 #include "Screens/Main/ContentView.hpp"
 #include "Support/LogCapture.hpp"
 #include "Window/FullScreen.hpp"
@@ -242,6 +243,29 @@ TEST_F(NewWindow, isShownBeforeItsContentIsMadeForFullScreen) {
     EXPECT_TRUE(content->isVisible());
     EXPECT_EQ(content->geometry(), QRect(QPoint(), window.screen()->size()));
     EXPECT_TRUE(window.hasFocus() || window.focusWidget() == &window);
+}
+
+TEST_F(NewWindow, paintsTheBoardAheadWhereItIsInTheFirstFrame) {
+    GameWindow window(session);
+    window.show();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
+    auto& board = *window.findChild<Board*>();
+    const auto place = [&] { return QRect(board.mapTo(&window, QPoint()), board.size()); };
+    const QRect paintedAhead = place();
+    EXPECT_TRUE(board.isPaintingAhead());
+
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !board.isPaintingAhead(); }));
+
+    EXPECT_EQ(place(), paintedAhead);
+}
+
+TEST_F(NewWindow, canBeClosedWhileTheBoardIsPaintedAhead) {
+    for (int run = 0; run < 10; ++run) {
+        GameWindow window(session);
+        window.show();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
+        EXPECT_TRUE(window.findChild<Board*>()->isPaintingAhead());
+    }
 }
 
 TEST_F(NewWindow, hasTheBandAboveTheContentAndTheFrameAboveBoth) {

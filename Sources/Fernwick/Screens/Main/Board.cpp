@@ -46,6 +46,15 @@ void Board::offerIdlePicture(const SnakeCore::Game& game, const Painting::PixelG
     offered_ = {game, grid, std::move(picture)};
 }
 
+void Board::paintAhead() {
+    if (idle_) {
+        // Deferred to the paint event if there can be no further thread.
+        offerIdlePicture(game_, grid(),
+                         std::async(std::launch::async | std::launch::deferred,
+                                    Painting::idlePicture, game_, grid()));
+    }
+}
+
 void Board::setGame(const SnakeCore::Game& game) {
     if (game_ == game) {
         return;
@@ -133,10 +142,10 @@ void Board::prepareIdlePicture() {
     }
     if (offered_ && offered_->game == game_ && offered_->grid == grid()) {
         idlePicture_ = offered_->picture.get();
-        offered_.reset();
     } else {
         idlePicture_ = Painting::idlePicture(game_, grid());
     }
+    offered_.reset();
 }
 
 void Board::preparePicture() {

@@ -35,6 +35,12 @@ public:
     void offerIdlePicture(const SnakeCore::Game& game, const Painting::PixelGrid& grid,
                           std::future<QImage> picture);
 
+    /// Starts painting the idle picture in another thread, for the first paint event. Does nothing
+    /// while the snake moves.
+    void paintAhead();
+    /// Whether paintAhead() has started and no paint event has come since.
+    [[nodiscard]] bool isPaintingAhead() const { return offered_.has_value(); }
+
     /// Shows `game`. Repaints only the differences from the game shown before.
     void setGame(const SnakeCore::Game& game);
     /// Blurs and dims the picture, for the time when the snake does not move.

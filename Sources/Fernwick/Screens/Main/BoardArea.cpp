@@ -38,6 +38,10 @@ void BoardArea::placeBoard(const Painting::BoardGeometry& inArea, const QPoint& 
     gameOver_->setGeometry(boardRect);
 }
 
+void BoardArea::paintAhead() {
+    board_->paintAhead();
+}
+
 void BoardArea::refresh() {
     const bool ended = session_.game().ended();
     const bool idle = !session_.running();

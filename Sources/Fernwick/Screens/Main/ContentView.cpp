@@ -24,6 +24,7 @@ Painting::BoardGeometry fitBoard(const QRect& space) {
 
 ContentView::ContentView(Session& session, QWidget* parent)
     : QWidget(parent),
+      scale_(devicePixelRatioF()),
       // From top to bottom: Tab follows the order in which they are created.
       header_(new HeaderRow(session, this)),
       controls_(new ControlRow(session, this)),
@@ -58,6 +59,10 @@ void ContentView::paintEvent(QPaintEvent* event) {
         hasAppeared_ = true;
         Q_EMIT appeared();
     }
+}
+
+void ContentView::paintAhead() {
+    boardArea_->paintAhead();
 }
 
 QRect ContentView::contentArea() const {

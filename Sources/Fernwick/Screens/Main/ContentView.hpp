@@ -23,6 +23,9 @@ public:
 
     /// The uppermost `height` points are covered; 0 if none are.
     void setBand(int height);
+    /// Starts painting the board in another thread, at the place that it has now. Call it when this
+    /// widget is visible and laid out.
+    void paintAhead();
     /// The part that the rows and the board fill, in points.
     [[nodiscard]] QRect contentArea() const;
 
@@ -48,7 +51,7 @@ private:
 
     bool hasAppeared_ = false;
     // Device pixels per point.
-    qreal scale_ = 1;
+    qreal scale_;
     Painting::Backdrop backdrop_;
     int band_ = 0;
     Arrangement arrangement_;

@@ -197,6 +197,51 @@ TEST(Board, ignoresAnOfferedIdlePictureOfAnotherGameOrGrid) {
     }
 }
 
+TEST(Board, showsTheSameWhetherItIsPaintedAheadOrNot) {
+    BoardWindow ahead({700, 560}, true);
+    BoardWindow notAhead({700, 560}, true);
+    const Game game = Games::ofLength(9);
+    ahead.board().setGame(game);
+    notAhead.board().setGame(game);
+
+    ahead.board().paintAhead();
+    EXPECT_TRUE(ahead.board().isPaintingAhead());
+
+    EXPECT_EQ(ahead.picture(), notAhead.picture());
+    EXPECT_FALSE(ahead.board().isPaintingAhead());
+}
+
+TEST(Board, isRightIfItChangesWhileItIsPaintedAhead) {
+    BoardWindow window({700, 560}, true);
+    window.board().setGame(Games::ofLength(9));
+    window.board().paintAhead();
+
+    window.resize(640, 500);
+    window.board().setGame(Games::ofLength(3));
+
+    BoardWindow other({640, 500}, true);
+    other.board().setGame(Games::ofLength(3));
+    EXPECT_EQ(window.picture(), other.picture());
+    EXPECT_FALSE(window.board().isPaintingAhead());
+}
+
+TEST(Board, isNotPaintedAheadWhileTheSnakeMoves) {
+    BoardWindow window;
+
+    window.board().paintAhead();
+
+    EXPECT_FALSE(window.board().isPaintingAhead());
+}
+
+TEST(Board, canBeDestroyedWhileItIsPaintedAhead) {
+    for (int run = 0; run < 5; ++run) {
+        BoardWindow window({700, 560}, true);
+        window.board().setGame(Games::ofLength(9));
+        window.board().paintAhead();
+        EXPECT_TRUE(window.board().isPaintingAhead());
+    }
+}
+
 TEST(Board, showsANewGameWhileIdle) {
     BoardWindow window;
     window.board().setIdle(true);
