@@ -1,7 +1,9 @@
 """Full screen: entered at launch, and not again once the player has left it."""
 
 import pytest
-from game import MOVING, PAUSED
+from accessible_desktop import accessible_desktop
+from desktop import Desktop
+from game import MOVING, PAUSED, Game
 from screen import Screen
 from waiting import eventually
 
@@ -10,6 +12,8 @@ WHOLE_SCREEN = 0, 0, Screen.WIDTH, Screen.HEIGHT
 BACKGROUND = (255, 0, 255)
 BUTTON_COLOUR = (166, 240, 163)
 INSIDE_THE_BUTTON = Screen.WIDTH // 2 - 60, 650
+# The same place in a window of 940 x 860 in the middle of the screen.
+INSIDE_THE_BUTTON_IN_A_WINDOW = 905, 653
 # All over the screen.
 SAMPLES = [(x, y) for y in range(30, Screen.HEIGHT, 60) for x in range(30, Screen.WIDTH, 60)]
 
@@ -63,6 +67,21 @@ def test_the_first_picture_is_complete(desktop, start, background):
 
     for colours in seen:
         assert all(colour in (background, expected) for colour, expected in zip(colours, complete))
+
+
+class WithoutWindowManager(Desktop):
+    X_SERVER_OPTIONS = ("--no-window-manager",)
+
+
+# Nobody gives the window the size that its content is made for.
+def test_the_content_fits_the_window_without_a_window_manager(home, tmp_path):
+    with accessible_desktop(WithoutWindowManager) as desktop:
+        game = Game(desktop, tmp_path, desktop.environment | home.environment)
+        try:
+            eventually(lambda: desktop.screen.picture().colour(*INSIDE_THE_BUTTON_IN_A_WINDOW)
+                       == BUTTON_COLOUR, "the start card is in the middle of the window")
+        finally:
+            game.kill()
 
 
 @pytest.mark.parametrize("keys", ["F11", "ctrl+super+f"])
