@@ -83,7 +83,7 @@ double GameOverView::scrim() const {
 }
 
 void GameOverView::fadeIn() {
-    if (!window()->isVisible() || Garden::reducedMotion()) {
+    if (!parentWidget()->isVisible() || Garden::reducedMotion()) {
         return;
     }
     fade_ = new QGraphicsOpacityEffect;

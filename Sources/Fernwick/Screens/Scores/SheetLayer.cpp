@@ -108,7 +108,7 @@ void SheetLayer::showSheet(bool shown) {
 
 void SheetLayer::animate(QAbstractAnimation::Direction direction) {
     presence_.setDirection(direction);
-    if (window()->isVisible() && !Garden::reducedMotion()) {
+    if (parentWidget()->isVisible() && !Garden::reducedMotion()) {
         // A running animation reverses from its current value.
         if (presence_.state() == QAbstractAnimation::Stopped) {
             // Backwards, the curve of the appearance would end abruptly.
