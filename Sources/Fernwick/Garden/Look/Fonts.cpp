@@ -1,31 +1,39 @@
 #include "Garden/Look/Fonts.hpp"
 
+#include <EmbeddedFonts.hpp>
 #include <QChar>
 #include <QFontDatabase>
 #include <QLocale>
-#include <QRawFont>
 #include <QResource>
 #include <algorithm>
+#include <string_view>
 
 namespace Garden {
 
 namespace {
 
-// One font file. The names are read from it, as they vary between distributions. The style name is
-// needed because the same family may also be installed with several styles of one weight.
-struct Face {
-    QString family;
-    QString style;
-};
+// The style name is needed because the same family may also be installed with several styles of one
+// weight.
+consteval const EmbeddedFont& face(std::string_view file) {
+    return *std::ranges::find(embeddedFonts, file, &EmbeddedFont::file);
+}
 
-Face load(const char* file) {
-    // Stored uncompressed, so FreeType reads the mapped executable without a copy.
-    const QByteArray data =
-        QResource(QStringLiteral(":/fonts/") + QLatin1String(file)).uncompressedData();
-    const int id = QFontDatabase::addApplicationFontFromData(data);
-    constexpr double anySize = 16;
-    return {QFontDatabase::applicationFontFamilies(id).value(0),
-            QRawFont(data, anySize).styleName()};
+// All at once, before the first font is used: for each one that is added, Qt discards every font
+// that it has looked up.
+void addEmbeddedFonts() {
+    for (const EmbeddedFont& font : embeddedFonts) {
+        // Stored uncompressed, so FreeType reads the mapped executable without a copy.
+        QFontDatabase::addApplicationFontFromData(
+            QResource(QStringLiteral(":/fonts/") + QLatin1String(font.file)).uncompressedData());
+    }
+}
+
+void provideEmbeddedFonts() {
+    static bool isDone = false;
+    if (!isDone) {
+        isDone = true;
+        addEmbeddedFonts();
+    }
 }
 
 // Fallback families that match the embedded fonts, for the script of the language.
@@ -57,10 +65,11 @@ QStringList fallbacks(QFont::StyleHint design) {
     }
 }
 
-QFont make(const Face& face, QFont::StyleHint design, double size, QFont::Weight weight) {
-    QFont font(QStringList(face.family) + fallbacks(design));
+QFont make(const EmbeddedFont& face, QFont::StyleHint design, double size, QFont::Weight weight) {
+    provideEmbeddedFonts();
+    QFont font(QStringList(QString::fromUtf8(face.family)) + fallbacks(design));
     font.setStyleHint(design);
-    font.setStyleName(face.style);
+    font.setStyleName(QString::fromUtf8(face.style));
     font.setPixelSize(qRound(size));
     font.setWeight(weight);
     font.setHintingPreference(QFont::PreferNoHinting);
@@ -83,13 +92,10 @@ constexpr int minimumComplexSize = 11;
 }  // namespace
 
 QFont sans(double size, QFont::Weight weight, double tracking) {
-    static const Face regular = load("Inter-Regular.otf");
-    static const Face medium = load("Inter-Medium.otf");
-    static const Face semiBold = load("Inter-SemiBold.otf");
-    const Face& face = weight >= QFont::DemiBold ? semiBold
-                       : weight == QFont::Medium ? medium
-                                                 : regular;
-    QFont font = make(face, QFont::SansSerif, size, weight);
+    const EmbeddedFont& cut = weight >= QFont::DemiBold ? face("Inter-SemiBold.otf")
+                              : weight == QFont::Medium ? face("Inter-Medium.otf")
+                                                        : face("Inter-Regular.otf");
+    QFont font = make(cut, QFont::SansSerif, size, weight);
     if (tracking != 0) {
         font.setLetterSpacing(QFont::AbsoluteSpacing, tracking);
     }
@@ -97,16 +103,16 @@ QFont sans(double size, QFont::Weight weight, double tracking) {
 }
 
 QFont serif(double size, QFont::Weight weight) {
-    static const Face extraLight = load("ElstobD-ExtraLight.otf");
-    // The cut for large sizes. The regular cut has no kerning before the full stop.
-    static const Face regular = load("ElstobD-18pt.otf");
-    return make(weight <= QFont::ExtraLight ? extraLight : regular, QFont::Serif, size, weight);
+    // Normal is the cut for large sizes: the regular cut has no kerning before the full stop.
+    return make(
+        weight <= QFont::ExtraLight ? face("ElstobD-ExtraLight.otf") : face("ElstobD-18pt.otf"),
+        QFont::Serif, size, weight);
 }
 
 QFont mono(double size, QFont::Weight weight) {
-    static const Face light = load("JetBrainsMono-Light.ttf");
-    static const Face regular = load("JetBrainsMono-Regular.ttf");
-    return make(weight <= QFont::Light ? light : regular, QFont::Monospace, size, weight);
+    return make(weight <= QFont::Light ? face("JetBrainsMono-Light.ttf")
+                                       : face("JetBrainsMono-Regular.ttf"),
+                QFont::Monospace, size, weight);
 }
 
 QFont fittedTo(const QString& text, const QFont& font) {

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QFontMetricsF>
+#include <QGuiApplication>
 #include <QRawFont>
 #include <QResource>
 
@@ -45,6 +46,21 @@ TEST(Fonts, comeFromTheEmbeddedFiles) {
     expectEmbedded("ElstobD-18pt.otf", Garden::serif(27, QFont::Normal));
     expectEmbedded("JetBrainsMono-Light.ttf", Garden::mono(33, QFont::Light));
     expectEmbedded("JetBrainsMono-Regular.ttf", Garden::mono(33, QFont::Normal));
+}
+
+TEST(Fonts, areAllAddedBeforeTheFirstIsUsed) {
+    const QFont first = Garden::sans(13, QFont::Normal);
+    int additions = 0;
+    const auto counting = QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged,
+                                           [&additions] { ++additions; });
+
+    for (const QFont& next : {Garden::sans(13, QFont::Medium), Garden::serif(27, QFont::ExtraLight),
+                              Garden::mono(11, QFont::Normal)}) {
+        static_cast<void>(QFontMetricsF(next).height());
+    }
+
+    EXPECT_EQ(additions, 0);
+    QObject::disconnect(counting);
 }
 
 TEST(Fonts, kernTheFullStopOfHeadlines) {
