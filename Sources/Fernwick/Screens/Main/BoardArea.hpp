@@ -40,10 +40,12 @@ protected:
 
 private:
     void refresh();
+    void createGameOver();
 
     Session& session_;
     QRectF frame_;
     Board* board_;
     Overlay* overlay_;
-    GameOverView* gameOver_;
+    // Null until the first run ends.
+    GameOverView* gameOver_ = nullptr;
 };

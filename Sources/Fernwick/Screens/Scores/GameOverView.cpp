@@ -28,7 +28,7 @@ constexpr double leastWidth = 376;
 
 }  // namespace
 
-GameOverView::GameOverView(Session& session, QWidget* parent)
+GameOverView::GameOverView(Session& session, const QRect& area, QWidget* parent)
     : QWidget(parent),
       session_(session),
       presence_(this),
@@ -39,6 +39,7 @@ GameOverView::GameOverView(Session& session, QWidget* parent)
                                        Garden::mint)),
       nameEntry_(new NameEntry(session)),
       savedBoard_(new SavedBoard(session)) {
+    setGeometry(area);
     card_->setMaximumWidth(widestCard);
     auto* column = Garden::layOut<QVBoxLayout>(card_, spacing);
     column->addWidget(headline_, 0, Qt::AlignHCenter);
@@ -46,11 +47,11 @@ GameOverView::GameOverView(Session& session, QWidget* parent)
     column->addWidget(nameEntry_);
     column->addWidget(savedBoard_);
 
-    auto* area = Garden::layOut<QHBoxLayout>(this, 0, cardPadding);
-    area->addStretch();
+    auto* row = Garden::layOut<QHBoxLayout>(this, 0, cardPadding);
+    row->addStretch();
     // The stretch factor lets the card grow to its maximum width before the margins grow.
-    area->addWidget(card_, 1, Qt::AlignVCenter);
-    area->addStretch();
+    row->addWidget(card_, 1, Qt::AlignVCenter);
+    row->addStretch();
     density_ = new Garden::ContentDensity(*this);
 
     presence_.setStartValue(0.0);

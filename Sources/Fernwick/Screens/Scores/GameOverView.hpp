@@ -26,7 +26,8 @@ public:
     /// Of the black over the board, once the card has appeared.
     static constexpr double scrimOpacity = 0.65;
 
-    explicit GameOverView(Session& session, QWidget* parent = nullptr);
+    /// `area` is its geometry, known before there are texts to fit into it.
+    GameOverView(Session& session, const QRect& area, QWidget* parent);
 
     /// The opacity of the black over the board, from 0 to `scrimOpacity`.
     [[nodiscard]] double scrim() const;

@@ -44,6 +44,20 @@ TEST_F(GameOverCard, showsTheScoreAndPaceOfTheRun) {
     EXPECT_TRUE(shows(resultLine("Swift")));
 }
 
+TEST_F(GameOverCard, isCreatedWhenTheFirstRunEnds) {
+    EXPECT_EQ(window.findChild<GameOverView*>(), nullptr);
+    startRun();
+    EXPECT_EQ(window.findChild<GameOverView*>(), nullptr);
+
+    endRun();
+
+    auto* card = window.findChild<GameOverView*>();
+    ASSERT_NE(card, nullptr);
+    session.skipSaving();
+    playToNameEntry();
+    EXPECT_EQ(window.findChildren<GameOverView*>(), QList{card});
+}
+
 TEST_F(GameOverCard, asksForAName) {
     playToNameEntry();
 
