@@ -23,6 +23,7 @@ libpulse-dev         PulseAudio client library for the two sounds
 fonts-inter          embedded font of the texts
 fonts-elstob         embedded font of the headlines
 fonts-jetbrains-mono embedded font of numbers and keys
+libfontconfig-dev    fontconfig, which finds the fonts that Qt uses
 fontconfig           fc-query, which reads the names of the embedded fonts
 LIST
 }

@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <string_view>
 
+#include "Desktop/SystemFonts.hpp"
+
 namespace Garden {
 
 namespace {
@@ -28,10 +30,15 @@ void addEmbeddedFonts() {
     }
 }
 
+enum class Supply { none, embedded, all };
+
+// Which fonts Qt can use.
+Supply supply = Supply::none;
+
 void provideEmbeddedFonts() {
-    static bool isDone = false;
-    if (!isDone) {
-        isDone = true;
+    if (supply == Supply::none) {
+        supply = Supply::embedded;
+        Desktop::leaveOutSystemFonts();
         addEmbeddedFonts();
     }
 }
@@ -66,8 +73,9 @@ QStringList fallbacks(QFont::StyleHint design) {
 }
 
 QFont make(const EmbeddedFont& face, QFont::StyleHint design, double size, QFont::Weight weight) {
-    provideEmbeddedFonts();
-    QFont font(QStringList(QString::fromUtf8(face.family)) + fallbacks(design));
+    const QStringList systemFamilies = fallbacks(design);
+    systemFamilies.isEmpty() ? provideEmbeddedFonts() : provideSystemFonts();
+    QFont font(QStringList(QString::fromUtf8(face.family)) + systemFamilies);
     font.setStyleHint(design);
     font.setStyleName(QString::fromUtf8(face.style));
     font.setPixelSize(qRound(size));
@@ -90,6 +98,18 @@ bool isComplex(QChar::Script script) {
 constexpr int minimumComplexSize = 11;
 
 }  // namespace
+
+void provideSystemFonts() {
+    if (supply == Supply::embedded) {
+        Desktop::takeInSystemFonts();
+        // Makes Qt look up all fonts anew.
+        QFontDatabase::removeAllApplicationFonts();
+    }
+    if (supply != Supply::all) {
+        supply = Supply::all;
+        addEmbeddedFonts();
+    }
+}
 
 QFont sans(double size, QFont::Weight weight, double tracking) {
     const EmbeddedFont& cut = weight >= QFont::DemiBold ? face("Inter-SemiBold.otf")

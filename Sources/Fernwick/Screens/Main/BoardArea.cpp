@@ -2,6 +2,7 @@
 
 #include <QScrollArea>
 
+#include "Garden/Look/Fonts.hpp"
 #include "Garden/Widgets/FocusRing.hpp"
 #include "Screens/Main/Board.hpp"
 #include "Screens/Main/Overlay.hpp"
@@ -82,6 +83,8 @@ void BoardArea::refresh() {
 
 // When the first run ends, so that it does not delay the first frame.
 void BoardArea::createGameOver() {
+    // For the names of players.
+    Garden::provideSystemFonts();
     gameOver_ = new GameOverView(session_, overlay_->geometry(), this);
     connect(gameOver_, &GameOverView::scrimChanged, this, &BoardArea::refresh);
     orderTabStops(*this);

@@ -47,6 +47,8 @@ HighScoresView::HighScoresView(Session& session, QWidget* parent)
       //: Read aloud for the choice between the speeds.
       speed_(new Garden::ChoiceGroup(paceNames(), tr("Speed"))),
       rows_(new ScoreRows) {
+    // For the names of players.
+    Garden::provideSystemFonts();
     Garden::setAccessibleRole(*this, QAccessible::Dialog);
     setAccessibleName(tr("The high scores."));
     rows_->setHeights(listHeight, leastListHeight);

@@ -1,3 +1,5 @@
+#include <QAction>
+
 #include "Fernwick/App/Languages/LanguageTest.hpp"
 #include "Fernwick/Window/Layout.hpp"
 #include "Garden/Look/Fonts.hpp"
@@ -70,6 +72,14 @@ TEST_P(LanguageLayout, everyCharacterHasAGlyph) {
         for (const auto* button : window.findChildren<QAbstractButton*>()) {
             EXPECT_TRUE(Look::hasEveryLetter(button->text(), button->font()))
                 << button->text().toStdString();
+        }
+        for (const auto* widget : window.findChildren<QWidget*>()) {
+            EXPECT_TRUE(Look::hasEveryLetter(widget->toolTip(), Garden::sans(12, QFont::Normal)))
+                << widget->toolTip().toStdString();
+        }
+        for (const auto* action : window.findChildren<QAction*>()) {
+            EXPECT_TRUE(Look::hasEveryLetter(action->text(), Garden::sans(13, QFont::Normal)))
+                << action->text().toStdString();
         }
     }
 }
