@@ -24,7 +24,7 @@ def launched(launch, **environment):
 def test_the_environment_selects_the_language(launch, environment):
     game = launched(launch, **environment)
     game.wait_for(IN_GERMAN, "Finde deinen Rhythmus.", "Lass uns wachsen")
-    assert game.find("Spielername") is not None
+    assert game.find("Klänge ein- oder ausschalten") is not None
 
 
 @pytest.mark.parametrize("environment", [
