@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <random>
 #include <vector>
 
@@ -90,6 +91,59 @@ TEST_F(PixelKernelsOfThisProcessor, fillGradientsLikeTheGenericOnes) {
 
         genericPixelKernels().fillGradient(scanlineOf(expected, at, count), gradient);
         pixelKernels().fillGradient(scanlineOf(actual, at, count), gradient);
+
+        EXPECT_EQ(actual, expected) << count;
+    }
+}
+
+TEST_F(PixelKernelsOfThisProcessor, fillInterpolatedColoursLikeTheGenericOnes) {
+    for (int count = 0; count <= longest; ++count) {
+        std::array<std::vector<float>, 6> rows;
+        for (auto& row : rows) {
+            row = samples();
+            std::ranges::transform(row, row.begin(), [](float value) { return value / 512; });
+        }
+        const PixelKernels::BilinearColour colour{0xFF0E1813U,
+                                                  {rows[0].data(), rows[1].data(), rows[2].data()},
+                                                  {rows[3].data(), rows[4].data(), rows[5].data()},
+                                                  0.3F};
+        const QPoint at = point();
+        Row expected = pixels();
+        Row actual = expected;
+
+        genericPixelKernels().fillBilinear(scanlineOf(expected, at, count), colour, 0.4F);
+        pixelKernels().fillBilinear(scanlineOf(actual, at, count), colour, 0.4F);
+
+        EXPECT_EQ(actual, expected) << count;
+    }
+}
+
+TEST_F(PixelKernelsOfThisProcessor, blendLightLikeTheGenericOnes) {
+    for (int count = 0; count <= longest; ++count) {
+        const PixelKernels::Light light{static_cast<float>(number()), 3.25F, 1 / 3000.0F, 0.3F};
+        const Painting::Rgb colour{166, 240, 163};
+        const QPoint at = point();
+        Row expected = pixels();
+        Row actual = expected;
+
+        genericPixelKernels().blendLight(scanlineOf(expected, at, count), colour, light);
+        pixelKernels().blendLight(scanlineOf(actual, at, count), colour, light);
+
+        EXPECT_EQ(actual, expected) << count;
+    }
+}
+
+TEST_F(PixelKernelsOfThisProcessor, interpolateAndAddSamplesLikeTheGenericOnes) {
+    const Painting::SampleAxis axis(longest, longest / 3, 3);
+    for (int count = 0; count <= longest; ++count) {
+        const std::vector<float> row = samples();
+        std::vector<float> expected = samples();
+        std::vector<float> actual = expected;
+
+        genericPixelKernels().interpolate(expected.data(), row.data(), axis.from(0), count);
+        genericPixelKernels().addScaled(expected.data(), row.data(), 0.7F, count);
+        pixelKernels().interpolate(actual.data(), row.data(), axis.from(0), count);
+        pixelKernels().addScaled(actual.data(), row.data(), 0.7F, count);
 
         EXPECT_EQ(actual, expected) << count;
     }

@@ -7,13 +7,12 @@
 #include "Garden/Look/Palette.hpp"
 #include "Painting/Board/BoardPicture.hpp"
 #include "Painting/Raster/GaussianBlur.hpp"
-#include "Painting/Raster/Pixels.hpp"
+#include "Painting/Raster/PixelKernels.hpp"
 #include "Painting/Raster/Upsampling.hpp"
 
 namespace {
 
 using Painting::Plane;
-using Painting::Rgb;
 using Painting::SampleAxis;
 
 constexpr float opacity = 0.4F;
@@ -38,21 +37,23 @@ Painting::PixelGrid reduced(const Painting::PixelGrid& grid, int step) {
 
 // `part` is how much of the last column and row lies inside the picture.
 Planes planesOf(const QImage& picture, const QSizeF& part) {
-    const Plane<float> empty(picture.width(), picture.height());
+    const int width = picture.width();
+    const int height = picture.height();
+    const Plane<float> empty(width, height);
     Planes planes{empty, empty, empty};
     for (std::size_t channel = 0; channel < planes.size(); ++channel) {
         const auto channelOf = [shift = shifts[channel]](quint32 pixel) {
             return static_cast<int>((pixel >> shift) & 0xFFU);
         };
         const int fill = channelOf(Garden::soil.rgb());
-        for (int y = 0; y < picture.height(); ++y) {
+        for (int y = 0; y < height; ++y) {
             const quint32* const pixels = Painting::pixelsAt(picture, 0, y);
             float* const samples = planes[channel].row(y);
-            const auto rowPart = static_cast<float>(y + 1 < picture.height() ? 1 : part.height());
-            for (int x = 0; x < picture.width(); ++x) {
+            const auto rowPart = static_cast<float>(y + 1 < height ? 1 : part.height());
+            for (int x = 0; x < width; ++x) {
                 samples[x] = static_cast<float>(channelOf(pixels[x]) - fill) * rowPart;
             }
-            samples[picture.width() - 1] *= static_cast<float>(part.width());
+            samples[width - 1] *= static_cast<float>(part.width());
         }
     }
     return planes;
@@ -66,21 +67,18 @@ QImage upsample(const Planes& planes, const QSize& size, int step) {
     std::array<Upsampled, 3> upsampled{Upsampled(planes[0], columns, 0, size.width()),
                                        Upsampled(planes[1], columns, 0, size.width()),
                                        Upsampled(planes[2], columns, 0, size.width())};
-    const Rgb fill = Rgb::of(Garden::soil);
+    const auto& [red, green, blue] = upsampled;
     for (int y = 0; y < size.height(); ++y) {
         const auto [sample, rowWeight] = rows[y];
         for (Upsampled& channel : upsampled) {
             channel.seek(sample);
         }
-        const auto value = [&upsampled, weight = rowWeight](std::size_t channel, int x) {
-            const float upper = upsampled[channel].upper()[x];
-            return upper + (upsampled[channel].lower()[x] - upper) * weight;
-        };
-        Painting::fillBlended(Painting::scanline(picture, picture.rect(), y), Garden::soil.rgb(),
-                              opacity, [&](int x) {
-                                  return Rgb{fill.red + value(0, x), fill.green + value(1, x),
-                                             fill.blue + value(2, x)};
-                              });
+        Painting::pixelKernels().fillBilinear(Painting::scanline(picture, picture.rect(), y),
+                                              {Garden::soil.rgb(),
+                                               {red.upper(), green.upper(), blue.upper()},
+                                               {red.lower(), green.lower(), blue.lower()},
+                                               rowWeight},
+                                              opacity);
     }
     return picture;
 }

@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "Garden/Look/Palette.hpp"
-#include "Painting/Raster/Pixels.hpp"
+#include "Painting/Raster/PixelKernels.hpp"
 
 namespace Painting {
 namespace {
@@ -27,14 +27,10 @@ void paintLight(const Scanline& line, int corner, double scale) {
     if (begin >= end) {
         return;
     }
-    blendColour(line.part(begin, end), Rgb::of(Garden::mint),
-                [first = static_cast<float>(begin - corner) + 0.5F,
-                 square = static_cast<float>(below * below),
-                 perPixel = static_cast<float>(1 / radius)](int i) {
-                    const float across = first + static_cast<float>(i);
-                    const float distance = std::sqrt(across * across + square);
-                    return std::max(1 - distance * perPixel, 0.0F) * lightOpacity;
-                });
+    pixelKernels().blendLight(
+        line.part(begin, end), Rgb::of(Garden::mint),
+        {static_cast<float>(begin - corner) + 0.5F, static_cast<float>(below * below),
+         static_cast<float>(1 / radius), lightOpacity});
 }
 
 // `mask` is the coverage of each pixel from 0 to 255; its first pixel lies at `corner`.

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <numeric>
 
+#include "Painting/Raster/PixelKernels.hpp"
+
 namespace {
 
 using FloatPlane = Painting::Plane<float>;
@@ -25,25 +27,20 @@ std::vector<float> halfKernel(double sigma) {
     return weights;
 }
 
-void addScaled(float* to, const float* from, float weight, int count) {
-    for (int i = 0; i < count; ++i) {
-        to[i] += from[i] * weight;
-    }
-}
-
 // Blurs along one axis: (1, 0) or (0, 1). Adds whole rows, which vectorizes; summing up column by
 // column would not.
 void blurAlong(const QPoint& axis, const FloatPlane& from, FloatPlane& to,
                const std::vector<float>& weights) {
+    const Painting::PixelKernels& kernels = Painting::pixelKernels();
     const int radius = static_cast<int>(weights.size()) - 1;
     for (int y = 0; y < to.height(); ++y) {
         for (int distance = -radius; distance <= radius; ++distance) {
             const QPoint shift = axis * distance;
             if (y + shift.y() >= 0 && y + shift.y() < to.height()) {
                 const int first = std::max(-shift.x(), 0);
-                addScaled(to.row(y) + first, from.row(y + shift.y()) + first + shift.x(),
-                          weights[static_cast<std::size_t>(std::abs(distance))],
-                          to.width() - std::abs(shift.x()));
+                kernels.addScaled(to.row(y) + first, from.row(y + shift.y()) + first + shift.x(),
+                                  weights[static_cast<std::size_t>(std::abs(distance))],
+                                  to.width() - std::abs(shift.x()));
             }
         }
     }

@@ -1,9 +1,13 @@
 #include "Painting/Raster/PixelKernels.hpp"
 
+#include <algorithm>
+#include <cmath>
+
 namespace {
 
 using Painting::PixelKernels;
 using Painting::Rgb;
+using Painting::SampleAxis;
 using Painting::Scanline;
 
 // Each loop is written once and also inlined into a function for AVX2. No set may include
@@ -51,7 +55,49 @@ using Painting::Scanline;
     }
 }
 
-constexpr PixelKernels generic{blendBilinear, blendMasked, fillGradient};
+[[gnu::always_inline]] inline void fillBilinear(const Scanline& line,
+                                                const PixelKernels::BilinearColour& colour,
+                                                float opacity) {
+    const auto [pixels, x, y, count] = line;
+    const auto [upperRed, upperGreen, upperBlue] = colour.upper;
+    const auto [lowerRed, lowerGreen, lowerBlue] = colour.lower;
+    const quint32 under = colour.under;
+    const float weight = colour.lowerWeight;
+    const Rgb plain = Rgb::of(under);
+    const quint32 phase = Painting::ditherPhase(x, y);
+    for (int i = 0; i < count; ++i) {
+        const Rgb over{plain.red + (upperRed[i] + (lowerRed[i] - upperRed[i]) * weight),
+                       plain.green + (upperGreen[i] + (lowerGreen[i] - upperGreen[i]) * weight),
+                       plain.blue + (upperBlue[i] + (lowerBlue[i] - upperBlue[i]) * weight)};
+        const float threshold =
+            Painting::ditherThreshold(phase + static_cast<quint32>(i) * Painting::ditherStepX);
+        pixels[i] = Painting::blendPixel(under, over, opacity, threshold);
+    }
+}
+
+[[gnu::always_inline]] inline void blendLight(const Scanline& line, const Rgb& colour,
+                                              const PixelKernels::Light& light) {
+    Painting::blendColour(line, colour, [light](int i) {
+        const float across = light.across + static_cast<float>(i);
+        const float distance = std::sqrt(across * across + light.squaredBelow);
+        return std::max(1 - distance * light.perPixel, 0.0F) * light.opacity;
+    });
+}
+
+[[gnu::always_inline]] inline void interpolate(float* pixels, const float* samples,
+                                               const SampleAxis::Position* positions, int count) {
+    Painting::interpolateRow(pixels, samples, positions, count);
+}
+
+[[gnu::always_inline]] inline void addScaled(float* __restrict to, const float* __restrict from,
+                                             float weight, int count) {
+    for (int i = 0; i < count; ++i) {
+        to[i] += from[i] * weight;
+    }
+}
+
+constexpr PixelKernels generic{blendBilinear, blendMasked, fillGradient, fillBilinear,
+                               blendLight,    interpolate, addScaled};
 
 #if defined(__x86_64__)
 
@@ -70,7 +116,28 @@ constexpr PixelKernels generic{blendBilinear, blendMasked, fillGradient};
     fillGradient(line, gradient);
 }
 
-constexpr PixelKernels avx2{blendBilinearAvx2, blendMaskedAvx2, fillGradientAvx2};
+[[gnu::target("avx2")]] void fillBilinearAvx2(const Scanline& line,
+                                              const PixelKernels::BilinearColour& colour,
+                                              float opacity) {
+    fillBilinear(line, colour, opacity);
+}
+
+[[gnu::target("avx2")]] void blendLightAvx2(const Scanline& line, const Rgb& colour,
+                                            const PixelKernels::Light& light) {
+    blendLight(line, colour, light);
+}
+
+[[gnu::target("avx2")]] void interpolateAvx2(float* pixels, const float* samples,
+                                             const SampleAxis::Position* positions, int count) {
+    interpolate(pixels, samples, positions, count);
+}
+
+[[gnu::target("avx2")]] void addScaledAvx2(float* to, const float* from, float weight, int count) {
+    addScaled(to, from, weight, count);
+}
+
+constexpr PixelKernels avx2{blendBilinearAvx2, blendMaskedAvx2, fillGradientAvx2, fillBilinearAvx2,
+                            blendLightAvx2,    interpolateAvx2, addScaledAvx2};
 
 #endif
 

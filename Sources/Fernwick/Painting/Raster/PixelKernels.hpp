@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "Painting/Raster/Pixels.hpp"
+#include "Painting/Raster/SampleAxis.hpp"
 
 namespace Painting {
 
@@ -25,6 +26,24 @@ struct PixelKernels {
         std::array<quint32, 3> change;
     };
 
+    /// A colour between two rows of samples, as a difference from `under`.
+    struct BilinearColour {
+        quint32 under;
+        std::array<const float*, 3> upper;
+        std::array<const float*, 3> lower;
+        float lowerWeight;
+    };
+
+    /// Light that fades linearly with the distance from a point, up to no light at 1 / perPixel
+    /// pixels: the first pixel lies `across` pixels from it along the row, and the square of the
+    /// row's distance is `squaredBelow`.
+    struct Light {
+        float across;
+        float squaredBelow;
+        float perPixel;
+        float opacity;
+    };
+
     /// Blends `colour` over the scanline in place.
     void (*blendBilinear)(const Scanline& line, const Rgb& colour,
                           const BilinearCoverage& coverage);
@@ -33,6 +52,15 @@ struct PixelKernels {
     void (*blendMasked)(const Scanline& line, const quint32* under, const std::uint8_t* mask);
     /// Fills the scanline with a linear gradient.
     void (*fillGradient)(const Scanline& line, const Gradient& gradient);
+    /// Fills the scanline with an interpolated colour at `opacity` over `colour.under`.
+    void (*fillBilinear)(const Scanline& line, const BilinearColour& colour, float opacity);
+    /// Blends light of `colour` over the scanline in place.
+    void (*blendLight)(const Scanline& line, const Rgb& colour, const Light& light);
+    /// Interpolates `count` pixels of a row between its samples.
+    void (*interpolate)(float* pixels, const float* samples, const SampleAxis::Position* positions,
+                        int count);
+    /// Adds `weight` times `from` to `to`; both have `count` values.
+    void (*addScaled)(float* to, const float* from, float weight, int count);
 };
 
 /// Runs on every processor.

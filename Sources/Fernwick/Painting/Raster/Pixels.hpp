@@ -16,9 +16,10 @@ struct Rgb {
     float green = 0;
     float blue = 0;
 
-    [[nodiscard]] static Rgb of(const QColor& colour) {
-        return {static_cast<float>(colour.red()), static_cast<float>(colour.green()),
-                static_cast<float>(colour.blue())};
+    [[nodiscard]] static Rgb of(const QColor& colour) { return of(colour.rgb()); }
+    [[nodiscard]] static Rgb of(QRgb colour) {
+        return {static_cast<float>(qRed(colour)), static_cast<float>(qGreen(colour)),
+                static_cast<float>(qBlue(colour))};
     }
 };
 
@@ -72,24 +73,15 @@ inline constexpr quint32 ditherStepY = 2447445414U;
 }
 
 /// Blends `colour` over a scanline in place. `coverage(i)` is from 0 to 1.
+/// Always inlined, so that a kernel for an instruction set gets its own copy of the loop.
 template <typename Coverage>
-void blendColour(const Scanline& line, const Rgb& colour, Coverage coverage) {
+[[gnu::always_inline]] inline void blendColour(const Scanline& line, const Rgb& colour,
+                                               Coverage coverage) {
     quint32* const pixels = line.pixels;
     const quint32 phase = ditherPhase(line.x, line.y);
     for (int i = 0, count = line.count; i < count; ++i) {
         const float threshold = ditherThreshold(phase + static_cast<quint32>(i) * ditherStepX);
         pixels[i] = blendPixel(pixels[i], colour, coverage(i), threshold);
-    }
-}
-
-/// Fills a scanline with `colour(i)` over the pixel `under`, at the same coverage everywhere.
-template <typename Colour>
-void fillBlended(const Scanline& line, quint32 under, float coverage, Colour colour) {
-    quint32* const pixels = line.pixels;
-    const quint32 phase = ditherPhase(line.x, line.y);
-    for (int i = 0, count = line.count; i < count; ++i) {
-        const float threshold = ditherThreshold(phase + static_cast<quint32>(i) * ditherStepX);
-        pixels[i] = blendPixel(under, colour(i), coverage, threshold);
     }
 }
 

@@ -1,42 +1,14 @@
 #pragma once
 
-#include <algorithm>
-#include <cmath>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
+#include "Painting/Raster/PixelKernels.hpp"
 #include "Painting/Raster/Plane.hpp"
+#include "Painting/Raster/SampleAxis.hpp"
 
 namespace Painting {
-
-/// Maps the pixels of one axis to positions between the samples of a coarser grid.
-class SampleAxis {
-public:
-    struct Position {
-        int sample;    ///< the last sample at or before the pixel's centre
-        float weight;  ///< of the next sample, from 0 to 1
-    };
-
-    /// The first sample begins at `origin`, in pixels. There are at least two samples; pixels
-    /// outside of them take the value of the nearest one.
-    SampleAxis(int pixels, int samples, double pixelsPerSample, double origin = 0) {
-        const double samplesPerPixel = 1 / pixelsPerSample;
-        const double first = (0.5 - origin) * samplesPerPixel - 0.5;
-        positions_.reserve(static_cast<std::size_t>(pixels));
-        for (int pixel = 0; pixel < pixels; ++pixel) {
-            const double at = std::clamp(first + pixel * samplesPerPixel, 0.0, samples - 1.0);
-            const int sample = std::min(static_cast<int>(std::floor(at)), samples - 2);
-            positions_.push_back({sample, static_cast<float>(at - sample)});
-        }
-    }
-
-    [[nodiscard]] const Position& operator[](int pixel) const {
-        return positions_[static_cast<std::size_t>(pixel)];
-    }
-
-private:
-    std::vector<Position> positions_;
-};
 
 /// Bilinear upsampling, row by row: two adjacent rows of samples, each interpolated horizontally.
 /// The caller interpolates between the two. Going down the picture, each row of samples is
@@ -72,12 +44,12 @@ public:
 private:
     void interpolate(int row, std::vector<float>& pixels) const {
         const Sample* const samples = samples_.row(row);
-        int pixel = first_;
-        for (float& value : pixels) {
-            const auto [sample, weight] = columns_[pixel++];
-            const auto before = static_cast<float>(samples[sample]);
-            const auto after = static_cast<float>(samples[sample + 1]);
-            value = before + (after - before) * weight;
+        const SampleAxis::Position* const positions = columns_.from(first_);
+        const auto count = static_cast<int>(pixels.size());
+        if constexpr (std::is_same_v<Sample, float>) {
+            pixelKernels().interpolate(pixels.data(), samples, positions, count);
+        } else {
+            interpolateRow(pixels.data(), samples, positions, count);
         }
     }
 
