@@ -76,7 +76,7 @@ TEST(BoardPicture, isBlurredAndDimmedLikeTheReferencePainterWhileIdle) {
         const Game game = Games::ofLength(60);
         const Painting::PixelGrid grid = Grids::usual(cell, scale);
 
-        const QImage idle = Painting::idlePicture(game, grid);
+        const QImage idle = Painting::idlePicture(game, grid).image();
 
         expectLikeReference(idle, ReferencePainter::paintIdle(game, grid));
     }
@@ -102,7 +102,7 @@ double differenceFromBlurred(const QImage& idle, const QImage& sharp, int shift,
                              double sigma) {
     const auto fill = static_cast<float>((Garden::soil.rgb() >> shift) & 0xFFU);
     Painting::Plane<float> samples = averaged(sharp, shift, step);
-    Painting::gaussianBlur(samples, std::sqrt(sigma * sigma / (step * step) - 0.25));
+    Painting::gaussianBlur({&samples, 1}, std::sqrt(sigma * sigma / (step * step) - 0.25));
     const Painting::SampleAxis columns(idle.width(), samples.width(), step);
     const Painting::SampleAxis rows(idle.height(), samples.height(), step);
     Painting::UpsampledRows<float> blurred(samples, columns, 0, idle.width());
@@ -126,7 +126,7 @@ TEST(IdlePicture, isWithinOneStepOfTheFullSizePictureBlurred) {
             const Painting::PixelGrid grid = Grids::usual(edge, scale);
             const QImage sharp = paintedAnew(game, grid);
 
-            const QImage idle = Painting::idlePicture(game, grid);
+            const QImage idle = Painting::idlePicture(game, grid).image();
 
             for (const int shift : {16, 8, 0}) {
                 // Rounding with dither may add one step.
@@ -137,13 +137,29 @@ TEST(IdlePicture, isWithinOneStepOfTheFullSizePictureBlurred) {
     }
 }
 
+TEST(IdlePicture, isTheSameWhenPaintedInPieces) {
+    const Painting::PixelGrid grid = Grids::usual(cell, 1.5);
+    const Painting::IdlePicture idle(Games::ofLength(60), grid);
+    QImage inPieces(grid.size, QImage::Format_RGB32);
+    QPainter painter(&inPieces);
+    for (int y = 0; y < grid.size.height(); y += 45) {
+        for (int x = 0; x < grid.size.width(); x += 71) {
+            idle.paint(painter, QRect(x, y, 71, 45));
+        }
+    }
+    painter.end();
+
+    EXPECT_EQ(inPieces, idle.image());
+}
+
 TEST(IdlePicture, isTheSameFromAnyThread) {
     const Game game = Games::ofLength(60);
     const Painting::PixelGrid grid = Grids::usual(cell, 1);
 
-    auto other = std::async(std::launch::async, [&] { return Painting::idlePicture(game, grid); });
+    auto other =
+        std::async(std::launch::async, [&] { return Painting::idlePicture(game, grid).image(); });
 
-    EXPECT_EQ(Painting::idlePicture(game, grid), other.get());
+    EXPECT_EQ(Painting::idlePicture(game, grid).image(), other.get());
 }
 
 QRegion differingPixels(const QImage& left, const QImage& right) {

@@ -8,12 +8,12 @@
 #include "Painting/Board/BandShape.hpp"
 #include "Painting/Board/Eyes.hpp"
 #include "Painting/Board/Fruit.hpp"
+#include "Painting/Raster/Composing.hpp"
 
 namespace Painting {
 
 BoardPicture::BoardPicture(const PixelGrid& grid)
     : grid_(grid),
-      buffer_(grid.size.width(), rowsPerBatch, QImage::Format_RGB32),
       ground_(grid.size, QImage::Format_RGB32),
       dots_(grid),
       glow_(grid),
@@ -45,8 +45,8 @@ QRegion BoardPicture::show(const SnakeCore::Game& game) {
     return changed;
 }
 
-void BoardPicture::paint(QPainter& painter, const QRect& area) {
-    drawComposed(painter, area, buffer_, [this](const Scanline& line) { compose(line); });
+void BoardPicture::paint(QPainter& painter, const QRect& area) const {
+    drawComposed(painter, area, [this](const Scanline& line) { compose(line); });
 }
 
 QImage BoardPicture::image() const {

@@ -29,7 +29,7 @@ public:
     QRegion show(const SnakeCore::Game& game);
 
     /// Paints the pixels of `area` at the same coordinates of the painter. Call show() first.
-    void paint(QPainter& painter, const QRect& area);
+    void paint(QPainter& painter, const QRect& area) const;
     /// The whole picture. Call show() first.
     [[nodiscard]] QImage image() const;
 
@@ -43,8 +43,6 @@ private:
     [[nodiscard]] QRegion bandRegion() const;
 
     PixelGrid grid_;
-    // A batch of composed rows.
-    QImage buffer_;
     // Everything below the band.
     QImage ground_;
     Dots dots_;

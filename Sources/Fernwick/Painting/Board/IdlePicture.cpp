@@ -6,6 +6,7 @@
 
 #include "Garden/Look/Palette.hpp"
 #include "Painting/Board/BoardPicture.hpp"
+#include "Painting/Raster/Composing.hpp"
 #include "Painting/Raster/GaussianBlur.hpp"
 #include "Painting/Raster/PixelKernels.hpp"
 #include "Painting/Raster/Upsampling.hpp"
@@ -13,13 +14,11 @@
 namespace {
 
 using Painting::Plane;
-using Painting::SampleAxis;
 
 constexpr float opacity = 0.4F;
 /// Of the blur, in points.
 constexpr double sigma = 5;
 
-// Red, green and blue, as differences from the plain fill: the blur takes zeros beyond the edges.
 using Planes = std::array<Plane<float>, 3>;
 
 constexpr std::array<int, 3> shifts{16, 8, 0};
@@ -39,8 +38,8 @@ Painting::PixelGrid reduced(const Painting::PixelGrid& grid, int step) {
 Planes planesOf(const QImage& picture, const QSizeF& part) {
     const int width = picture.width();
     const int height = picture.height();
-    const Plane<float> empty(width, height);
-    Planes planes{empty, empty, empty};
+    using Channel = Plane<float>;
+    Planes planes{Channel(width, height), Channel(width, height), Channel(width, height)};
     for (std::size_t channel = 0; channel < planes.size(); ++channel) {
         const auto channelOf = [shift = shifts[channel]](quint32 pixel) {
             return static_cast<int>((pixel >> shift) & 0xFFU);
@@ -59,37 +58,14 @@ Planes planesOf(const QImage& picture, const QSizeF& part) {
     return planes;
 }
 
-QImage upsample(const Planes& planes, const QSize& size, int step) {
-    QImage picture(size, QImage::Format_RGB32);
-    const SampleAxis columns(size.width(), planes[0].width(), step);
-    const SampleAxis rows(size.height(), planes[0].height(), step);
-    using Upsampled = Painting::UpsampledRows<float>;
-    std::array<Upsampled, 3> upsampled{Upsampled(planes[0], columns, 0, size.width()),
-                                       Upsampled(planes[1], columns, 0, size.width()),
-                                       Upsampled(planes[2], columns, 0, size.width())};
-    const auto& [red, green, blue] = upsampled;
-    for (int y = 0; y < size.height(); ++y) {
-        const auto [sample, rowWeight] = rows[y];
-        for (Upsampled& channel : upsampled) {
-            channel.seek(sample);
-        }
-        Painting::pixelKernels().fillBilinear(Painting::scanline(picture, picture.rect(), y),
-                                              {Garden::soil.rgb(),
-                                               {red.upper(), green.upper(), blue.upper()},
-                                               {red.lower(), green.lower(), blue.lower()},
-                                               rowWeight},
-                                              opacity);
-    }
-    return picture;
+// Three samples per two sigmas are enough for a blurred picture.
+int stepOf(const Painting::PixelGrid& grid) {
+    return std::max(static_cast<int>(sigma * grid.scale / 1.5), 1);
 }
 
-}  // namespace
-
-QImage Painting::idlePicture(const SnakeCore::Game& game, const PixelGrid& grid) {
-    // Three samples per two sigmas are enough for a blurred picture.
-    const int step = std::max(static_cast<int>(sigma * grid.scale / 1.5), 1);
-    const PixelGrid small = reduced(grid, step);
-    BoardPicture picture(small);
+Planes blurred(const SnakeCore::Game& game, const Painting::PixelGrid& grid, int step) {
+    const Painting::PixelGrid small = reduced(grid, step);
+    Painting::BoardPicture picture(small);
     picture.show(game);
     const QSizeF part(QSizeF(grid.size) / step - QSizeF(small.size) + QSizeF(1, 1));
     Planes planes = planesOf(picture.image(), part);
@@ -97,8 +73,58 @@ QImage Painting::idlePicture(const SnakeCore::Game& game, const PixelGrid& grid)
     // Averaging and linear interpolation blur as well. Their variances, 1/12 and 1/6 of a squared
     // sample, are taken off that of the Gaussian.
     const double resampling = step > 1 ? 0.25 : 0;
-    for (Plane<float>& plane : planes) {
-        gaussianBlur(plane, std::sqrt(std::max(samples * samples - resampling, 0.01)));
-    }
-    return upsample(planes, grid.size, step);
+    Painting::gaussianBlur(planes, std::sqrt(std::max(samples * samples - resampling, 0.01)));
+    return planes;
 }
+
+}  // namespace
+
+namespace Painting {
+
+/// Enlarges the rows of one rectangle, from top to bottom.
+class IdlePicture::Rows {
+public:
+    Rows(const IdlePicture& picture, const QRect& area)
+        : picture_(picture),
+          left_(area.left()),
+          channels_{row(0, area), row(1, area), row(2, area)} {}
+
+    void operator()(const Scanline& line) {
+        const auto [sample, weight] = picture_.rows_[line.y];
+        PixelKernels::BilinearColour colour{Garden::soil.rgb(), {}, {}, weight};
+        for (std::size_t channel = 0; channel < channels_.size(); ++channel) {
+            channels_[channel].seek(sample);
+            colour.upper[channel] = channels_[channel].upper() + (line.x - left_);
+            colour.lower[channel] = channels_[channel].lower() + (line.x - left_);
+        }
+        pixelKernels().fillBilinear(line, colour, opacity);
+    }
+
+private:
+    [[nodiscard]] UpsampledRows<float> row(std::size_t channel, const QRect& area) const {
+        return {picture_.planes_[channel], picture_.columns_, area.left(), area.width()};
+    }
+
+    const IdlePicture& picture_;
+    int left_;
+    std::array<UpsampledRows<float>, 3> channels_;
+};
+
+IdlePicture::IdlePicture(const SnakeCore::Game& game, const PixelGrid& grid)
+    : IdlePicture(game, grid, stepOf(grid)) {}
+
+IdlePicture::IdlePicture(const SnakeCore::Game& game, const PixelGrid& grid, int step)
+    : bounds_(QPoint(), grid.size),
+      planes_(blurred(game, grid, step)),
+      columns_(grid.size.width(), planes_[0].width(), step),
+      rows_(grid.size.height(), planes_[0].height(), step) {}
+
+void IdlePicture::paint(QPainter& painter, const QRect& area) const {
+    drawComposed(painter, area & bounds_, Rows(*this, area & bounds_));
+}
+
+QImage IdlePicture::image() const {
+    return composedImage(bounds_, Rows(*this, bounds_));
+}
+
+}  // namespace Painting

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "Garden/Look/Palette.hpp"
+#include "Painting/Raster/Composing.hpp"
 #include "Painting/Raster/PixelKernels.hpp"
 
 namespace Painting {
@@ -63,8 +64,7 @@ void Backdrop::fit(const QSize& window, qreal devicePixelRatio, const QRectF& fr
 }
 
 void Backdrop::paint(QPainter& painter, const QRect& area) {
-    QImage buffer(area.width(), std::min(area.height(), rowsPerBatch), QImage::Format_RGB32);
-    drawComposed(painter, area, buffer, rowsOf(area));
+    drawComposed(painter, area, rowsOf(area));
 }
 
 QImage Backdrop::image(const QRect& area) {

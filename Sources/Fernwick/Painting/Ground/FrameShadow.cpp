@@ -43,7 +43,7 @@ FrameShadow::FrameShadow(const FrameShape& shape, const QRectF& frame, double sc
         std::transform(mask.constScanLine(y), mask.constScanLine(y) + samples_.width(),
                        samples_.row(y), [](uchar value) { return value / 255.0F; });
     }
-    gaussianBlur(samples_, samplesPerSigma);
+    gaussianBlur({&samples_, 1}, samplesPerSigma);
 }
 
 int FrameShadow::samplesAlong(int pixels) const {
@@ -63,9 +63,10 @@ void FrameShadow::Rows::paint(const Scanline& line) {
     }
     const auto [sample, weight] = shadow_.rows_[part.y - shadow_.area_.top()];
     samples_.seek(sample);
-    pixelKernels().blendBilinear(
-        part, Rgb{},
-        {samples_.upper(), samples_.lower(), (1 - weight) * opacity, weight * opacity});
+    const int first = part.x - area_.left();
+    pixelKernels().blendBilinear(part, Rgb{},
+                                 {samples_.upper() + first, samples_.lower() + first,
+                                  (1 - weight) * opacity, weight * opacity});
 }
 
 }  // namespace Painting

@@ -40,7 +40,7 @@ Painting::Plane<float> blurred(const QSize& size, const QRect& window, const Lay
     for (int y = 0; y < size.height(); ++y) {
         std::copy_n(mask.constScanLine(y), size.width(), plane.row(y));
     }
-    Painting::gaussianBlur(plane, layer.sigma * scale);
+    Painting::gaussianBlur({&plane, 1}, layer.sigma * scale);
     return plane;
 }
 

@@ -48,10 +48,14 @@ void blurAlong(const QPoint& axis, const FloatPlane& from, FloatPlane& to,
 
 }  // namespace
 
-void Painting::gaussianBlur(Plane<float>& plane, double sigma) {
+void Painting::gaussianBlur(std::span<Plane<float>> planes, double sigma) {
     const std::vector<float> weights = halfKernel(sigma);
-    FloatPlane blurred(plane.width(), plane.height());
-    blurAlong({1, 0}, plane, blurred, weights);
-    plane.fill(0);
-    blurAlong({0, 1}, blurred, plane, weights);
+    // One for all planes: at 4K each is a megabyte of memory that the kernel has to clear.
+    FloatPlane blurred(planes.front().width(), planes.front().height());
+    for (FloatPlane& plane : planes) {
+        blurred.fill(0);
+        blurAlong({1, 0}, plane, blurred, weights);
+        plane.fill(0);
+        blurAlong({0, 1}, blurred, plane, weights);
+    }
 }

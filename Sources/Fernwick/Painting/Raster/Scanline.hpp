@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QImage>
-#include <QPainter>
 #include <QRect>
 #include <algorithm>
 
@@ -37,39 +36,6 @@ struct Scanline {
 [[nodiscard]] inline Scanline scanline(QImage& image, const QRect& area, int y) {
     auto* const pixels = reinterpret_cast<quint32*>(image.scanLine(y));
     return {pixels + area.left(), area.left(), y, area.width()};
-}
-
-/// Calls `compose(scanline)` for each row of `area`; the pixels are those of `image` from its top
-/// left corner on. The image has 32 bits a pixel.
-template <typename Compose>
-void composeRows(QImage& image, const QRect& area, Compose& compose) {
-    for (int row = 0; row < area.height(); ++row) {
-        auto* const pixels = reinterpret_cast<quint32*>(image.scanLine(row));
-        compose(Scanline{pixels, area.left(), area.top() + row, area.width()});
-    }
-}
-
-/// Rows per `drawImage` call: few enough for the buffer to stay in the CPU cache.
-inline constexpr int rowsPerBatch = 16;
-
-/// Draws `area` of the painter. `compose(scanline)` writes the pixels of
-/// one of its rows. `buffer` is at least as wide as `area`; its height is the number of rows drawn
-/// at once.
-template <typename Compose>
-void drawComposed(QPainter& painter, const QRect& area, QImage& buffer, Compose compose) {
-    for (int top = area.top(); top <= area.bottom(); top += buffer.height()) {
-        const QRect rows = area & QRect(area.left(), top, area.width(), buffer.height());
-        composeRows(buffer, rows, compose);
-        painter.drawImage(rows.topLeft(), buffer, QRect(QPoint(), rows.size()));
-    }
-}
-
-/// Returns what `drawComposed` would draw, as an image of the size of `area`.
-template <typename Compose>
-[[nodiscard]] QImage composedImage(const QRect& area, Compose compose) {
-    QImage image(area.size(), QImage::Format_RGB32);
-    composeRows(image, area, compose);
-    return image;
 }
 
 }  // namespace Painting

@@ -6,7 +6,6 @@
 #include "Garden/Look/NumberText.hpp"
 #include "Garden/Look/Palette.hpp"
 #include "Garden/Widgets/Accessibility.hpp"
-#include "Painting/Board/IdlePicture.hpp"
 #include "Screens/Main/WidgetPixels.hpp"
 
 Board::Board(Painting::Backdrop& backdrop, const SnakeCore::Game& game, QWidget* parent)
@@ -24,7 +23,7 @@ void Board::place(const Painting::BoardGeometry& inWindow, const QRect& widget,
         widget_ = widget;
         scale_ = devicePixelRatio;
         if (grid() != before) {
-            idlePicture_ = {};
+            idlePicture_.reset();
         }
         update();
     }
@@ -42,7 +41,7 @@ Painting::PixelGrid Board::gridOf(const Painting::BoardGeometry& inWindow, const
 }
 
 void Board::offerIdlePicture(const SnakeCore::Game& game, const Painting::PixelGrid& grid,
-                             std::future<QImage> picture) {
+                             std::future<Painting::IdlePicture> picture) {
     offered_ = {game, grid, std::move(picture)};
 }
 
@@ -64,7 +63,7 @@ void Board::setGame(const SnakeCore::Game& game) {
     if (scored) {
         announceScore();
     }
-    idlePicture_ = {};
+    idlePicture_.reset();
     if (!idle_ && picture_ && picture_->grid() == grid()) {
         update(toPoints(picture_->show(game)));
     } else {
@@ -75,7 +74,7 @@ void Board::setGame(const SnakeCore::Game& game) {
 void Board::setIdle(bool idle) {
     if (idle != idle_) {
         idle_ = idle;
-        idlePicture_ = {};
+        idlePicture_.reset();
         update();
     }
 }
@@ -98,7 +97,7 @@ void Board::paintEvent(QPaintEvent* event) {
         // QPainter copies images faster when it clips to one rectangle than to a region.
         painter.setClipRect(area);
         if (idle_) {
-            painter.drawImage(area.topLeft(), idlePicture_, area);
+            idlePicture_->paint(painter, area);
         } else {
             picture_->paint(painter, area);
         }
@@ -137,7 +136,7 @@ void Board::prepareEdge() {
 }
 
 void Board::prepareIdlePicture() {
-    if (!idlePicture_.isNull()) {
+    if (idlePicture_) {
         return;
     }
     if (offered_ && offered_->game == game_ && offered_->grid == grid()) {

@@ -6,6 +6,7 @@
 
 #include "Painting/Board/BoardGeometry.hpp"
 #include "Painting/Board/BoardPicture.hpp"
+#include "Painting/Board/IdlePicture.hpp"
 #include "Painting/Ground/Backdrop.hpp"
 #include "Painting/Ground/FrameEdge.hpp"
 #include "SnakeCore/Game.hpp"
@@ -33,7 +34,7 @@ public:
     /// another thread. The board uses it if it has to show that game on that grid while idle.
     /// Otherwise it paints its own.
     void offerIdlePicture(const SnakeCore::Game& game, const Painting::PixelGrid& grid,
-                          std::future<QImage> picture);
+                          std::future<Painting::IdlePicture> picture);
 
     /// Starts painting the idle picture in another thread, for the first paint event. Does nothing
     /// while the snake moves.
@@ -58,7 +59,7 @@ private:
     struct OfferedPicture {
         SnakeCore::Game game;
         Painting::PixelGrid grid;
-        std::future<QImage> picture;
+        std::future<Painting::IdlePicture> picture;
     };
 
     [[nodiscard]] Painting::PixelGrid grid() const;
@@ -77,7 +78,7 @@ private:
     double scrim_ = 0;
     // Made when they are needed: each takes as long as the rest of a frame, or longer.
     std::optional<Painting::BoardPicture> picture_;
-    QImage idlePicture_;
+    std::optional<Painting::IdlePicture> idlePicture_;
     std::optional<OfferedPicture> offered_;
     Painting::FrameEdge edge_;
     // The backdrop's revision that the edge was made from.

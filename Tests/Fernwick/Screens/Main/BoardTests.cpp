@@ -153,29 +153,24 @@ TEST(Board, showsAGameThatChangedWhileItWasIdle) {
     EXPECT_EQ(window.picture(), another.picture());
 }
 
-std::future<QImage> ready(const QImage& picture) {
-    std::promise<QImage> promise;
-    promise.set_value(picture);
-    return promise.get_future();
-}
-
-// An idle picture that no game has.
-QImage redPicture(const QSize& size) {
-    QImage picture(size, QImage::Format_RGB32);
-    picture.fill(Qt::red);
-    return picture;
+std::future<Painting::IdlePicture> ready(const Game& game, const Painting::PixelGrid& grid) {
+    return std::async(std::launch::deferred, Painting::idlePicture, game, grid);
 }
 
 TEST(Board, showsAnOfferedIdlePictureOfItsGameAndGrid) {
     BoardWindow window;
     const Game game = Games::ofLength(30);
+    const Game other = Games::ofLength(9);
+    BoardWindow expected;
+    expected.board().setGame(other);
+    expected.board().setIdle(true);
     window.board().setGame(game);
-    const Painting::PixelGrid grid = window.grid(game);
 
-    window.board().offerIdlePicture(game, grid, ready(redPicture(grid.size)));
+    // A picture of another game, so that it can be told from the board's own.
+    window.board().offerIdlePicture(game, window.grid(game), ready(other, window.grid(game)));
     window.board().setIdle(true);
 
-    EXPECT_EQ(window.picture().pixel(window.middleOf({13, 11})), QColor(Qt::red).rgb());
+    EXPECT_EQ(window.picture(), expected.picture());
 }
 
 TEST(Board, ignoresAnOfferedIdlePictureOfAnotherGameOrGrid) {
@@ -190,7 +185,7 @@ TEST(Board, ignoresAnOfferedIdlePictureOfAnotherGameOrGrid) {
         grid.scale *= anotherGame ? 1 : 2;
 
         window.board().offerIdlePicture(anotherGame ? Game(28, 22) : game, grid,
-                                        ready(redPicture(grid.size)));
+                                        ready(Games::ofLength(9), window.grid(game)));
         window.board().setIdle(true);
 
         EXPECT_EQ(window.picture(), plain.picture());

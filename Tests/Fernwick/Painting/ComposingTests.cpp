@@ -1,0 +1,91 @@
+#include <gtest/gtest.h>
+
+#include "Painting/Raster/Composing.hpp"
+
+namespace {
+
+constexpr QRect area(3, 4, 20, 40);
+
+// Every pixel tells its own coordinates.
+void composeCoordinates(const Painting::Scanline& line) {
+    for (int i = 0; i < line.count; ++i) {
+        line.pixels[i] = qRgb(line.x + i, line.y, 7);
+    }
+}
+
+QImage blank(QImage::Format format) {
+    QImage image(60, 50, format);
+    image.fill(Qt::black);
+    return image;
+}
+
+template <typename Prepare>
+bool isWrittenDirectly(QImage& image, Prepare prepare) {
+    QPainter painter(&image);
+    prepare(painter);
+    return Painting::paintedMemory(painter, area).has_value();
+}
+
+TEST(Composing, writesThePixelsOfTheAreaWhereThePainterWouldDrawThem) {
+    for (const QPoint& offset : {QPoint(0, 0), QPoint(11, -2), QPoint(50, 30)}) {
+        QImage direct = blank(QImage::Format_ARGB32_Premultiplied);
+        QImage drawn = direct;
+        QPainter painter(&direct);
+        painter.translate(offset);
+        ASSERT_TRUE(Painting::paintedMemory(painter, area));
+        Painting::drawComposed(painter, area, composeCoordinates);
+        painter.end();
+
+        QPainter(&drawn).drawImage(area.topLeft() + offset,
+                                   Painting::composedImage(area, composeCoordinates));
+
+        EXPECT_EQ(direct, drawn) << offset.x();
+    }
+}
+
+TEST(Composing, drawsTheSameWithABufferWhereItCannotWriteDirectly) {
+    QImage direct = blank(QImage::Format_RGB32);
+    QImage buffered = direct;
+    QPainter painter(&buffered);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    ASSERT_FALSE(Painting::paintedMemory(painter, area));
+    Painting::drawComposed(painter, area, composeCoordinates);
+    painter.end();
+
+    QPainter directPainter(&direct);
+    Painting::drawComposed(directPainter, area, composeCoordinates);
+    directPainter.end();
+
+    EXPECT_EQ(buffered, direct);
+}
+
+TEST(Composing, writesDirectlyOnlyWhereThatEqualsDrawing) {
+    const auto unchanged = [](QPainter&) {};
+    QImage image = blank(QImage::Format_RGB32);
+    QImage sixteenBits = blank(QImage::Format_RGB16);
+
+    EXPECT_TRUE(isWrittenDirectly(image, unchanged));
+    EXPECT_TRUE(isWrittenDirectly(image, [](QPainter& painter) {
+        painter.scale(1.5, 1.5);
+        painter.scale(1 / 1.5, 1 / 1.5);
+    }));
+    EXPECT_FALSE(isWrittenDirectly(image, [](QPainter& painter) { painter.setOpacity(0.5); }));
+    EXPECT_FALSE(isWrittenDirectly(image, [](QPainter& painter) { painter.scale(2, 2); }));
+    EXPECT_FALSE(isWrittenDirectly(image, [](QPainter& painter) { painter.rotate(90); }));
+    EXPECT_FALSE(isWrittenDirectly(image, [](QPainter& painter) { painter.translate(0.5, 0); }));
+    EXPECT_FALSE(isWrittenDirectly(sixteenBits, unchanged));
+}
+
+TEST(Composing, leavesCopiesOfAnImageAlone) {
+    QImage image = blank(QImage::Format_RGB32);
+    QPainter painter(&image);
+    const QImage copy = image;
+
+    Painting::drawComposed(painter, area, composeCoordinates);
+    painter.end();
+
+    EXPECT_EQ(copy, blank(QImage::Format_RGB32));
+    EXPECT_EQ(image.pixel(5, 6), qRgb(5, 6, 7));
+}
+
+}  // namespace
