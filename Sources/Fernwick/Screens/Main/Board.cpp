@@ -23,7 +23,7 @@ void Board::place(const Painting::BoardGeometry& inWindow, const QRect& widget,
         widget_ = widget;
         scale_ = devicePixelRatio;
         if (grid() != before) {
-            idlePicture_.reset();
+            resetIdlePicture();
         }
         update();
     }
@@ -63,7 +63,7 @@ void Board::setGame(const SnakeCore::Game& game) {
     if (scored) {
         announceScore();
     }
-    idlePicture_.reset();
+    resetIdlePicture();
     if (!idle_ && picture_ && picture_->grid() == grid()) {
         update(toPoints(picture_->show(game)));
     } else {
@@ -74,7 +74,7 @@ void Board::setGame(const SnakeCore::Game& game) {
 void Board::setIdle(bool idle) {
     if (idle != idle_) {
         idle_ = idle;
-        idlePicture_.reset();
+        resetIdlePicture();
         update();
     }
 }
@@ -88,7 +88,13 @@ void Board::setScrim(double opacity) {
 
 void Board::paintEvent(QPaintEvent* event) {
     prepareEdge();
-    idle_ ? prepareIdlePicture() : preparePicture();
+    if (!idle_) {
+        preparePicture();
+    } else if (!idlePicture_) {
+        prepareIdlePicture();
+    } else if (enlarged_.isNull() && event->rect() == rect()) {
+        enlarged_ = idlePicture_->image();
+    }
     QPainter painter(this);
     const WidgetPixels pixels(painter, widget_, scale_);
     const QColor scrim = Garden::withOpacity(Qt::black, scrim_);
@@ -96,10 +102,12 @@ void Board::paintEvent(QPaintEvent* event) {
         const QRect area = pixels.of(part);
         // QPainter copies images faster when it clips to one rectangle than to a region.
         painter.setClipRect(area);
-        if (idle_) {
+        if (!idle_) {
+            picture_->paint(painter, area);
+        } else if (enlarged_.isNull()) {
             idlePicture_->paint(painter, area);
         } else {
-            picture_->paint(painter, area);
+            painter.drawImage(area.topLeft(), enlarged_, area);
         }
         if (scrim_ > 0) {
             painter.fillRect(area, scrim);
@@ -136,15 +144,17 @@ void Board::prepareEdge() {
 }
 
 void Board::prepareIdlePicture() {
-    if (idlePicture_) {
-        return;
-    }
     if (offered_ && offered_->game == game_ && offered_->grid == grid()) {
         idlePicture_ = offered_->picture.get();
     } else {
         idlePicture_ = Painting::idlePicture(game_, grid());
     }
     offered_.reset();
+}
+
+void Board::resetIdlePicture() {
+    idlePicture_.reset();
+    enlarged_ = {};
 }
 
 void Board::preparePicture() {

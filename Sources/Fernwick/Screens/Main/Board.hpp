@@ -66,6 +66,7 @@ private:
     [[nodiscard]] QRegion toPoints(const QRegion& pixels) const;
     void prepareEdge();
     void prepareIdlePicture();
+    void resetIdlePicture();
     void preparePicture();
     void announceScore();
 
@@ -79,6 +80,9 @@ private:
     // Made when they are needed: each takes as long as the rest of a frame, or longer.
     std::optional<Painting::BoardPicture> picture_;
     std::optional<Painting::IdlePicture> idlePicture_;
+    // Null until the whole board is painted for a second time, as in the animation of a card or of
+    // the sheet. At the start it would be the largest allocation next to the window.
+    QImage enlarged_;
     std::optional<OfferedPicture> offered_;
     Painting::FrameEdge edge_;
     // The backdrop's revision that the edge was made from.

@@ -153,6 +153,23 @@ TEST(Board, showsAGameThatChangedWhileItWasIdle) {
     EXPECT_EQ(window.picture(), another.picture());
 }
 
+TEST(Board, showsTheSameIdlePictureHoweverOftenItIsPainted) {
+    BoardWindow window(QSize(701, 563), true);
+    window.board().setGame(Games::ofLength(30));
+    window.settle();
+    const QImage first = window.onScreen();
+    for (int paint = 0; paint < 2; ++paint) {
+        window.board().update();
+        window.settle();
+
+        EXPECT_EQ(window.onScreen(), first);
+    }
+    window.board().setGame(Games::ofLength(9));
+    window.settle();
+
+    EXPECT_NE(window.onScreen(), first);
+}
+
 std::future<Painting::IdlePicture> ready(const Game& game, const Painting::PixelGrid& grid) {
     return std::async(std::launch::deferred, Painting::idlePicture, game, grid);
 }
