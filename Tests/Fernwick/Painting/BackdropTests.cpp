@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QPaintEngine>
 #include <cmath>
 
 #include "Fernwick/Painting/PictureDifference.hpp"
@@ -199,6 +200,19 @@ TEST(Backdrop, isTheSameWhenPaintedInPieces) {
     painter.end();
 
     EXPECT_EQ(inPieces, backdrop.image(backdrop.bounds()));
+}
+
+TEST(Backdrop, isTheSameWhenThePaintEventIsClipped) {
+    Painting::Backdrop backdrop;
+    backdrop.fit(window, 1, frame);
+    const QRect clip(470, 610, 300, 120);
+    QImage clipped(window, QImage::Format_RGB32);
+    QPainter painter(&clipped);
+    painter.paintEngine()->setSystemClip(clip);
+    backdrop.paint(painter, backdrop.bounds());
+    painter.end();
+
+    EXPECT_EQ(clipped.copy(clip), backdrop.image(backdrop.bounds()).copy(clip));
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QPaintEngine>
 #include <cmath>
 #include <future>
 #include <vector>
@@ -150,6 +151,19 @@ TEST(IdlePicture, isTheSameWhenPaintedInPieces) {
     painter.end();
 
     EXPECT_EQ(inPieces, idle.image());
+}
+
+TEST(IdlePicture, isTheSameWhenThePaintEventIsClipped) {
+    const Painting::PixelGrid grid = Grids::usual(cell, 1.5);
+    const Painting::IdlePicture idle(Games::ofLength(60), grid);
+    const QRect clip(150, 130, 220, 190);
+    QImage clipped(grid.size, QImage::Format_RGB32);
+    QPainter painter(&clipped);
+    painter.paintEngine()->setSystemClip(clip);
+    idle.paint(painter, clipped.rect());
+    painter.end();
+
+    EXPECT_EQ(clipped.copy(clip), idle.image().copy(clip));
 }
 
 TEST(IdlePicture, isTheSameFromAnyThread) {

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <QPaintEngine>
+
 #include "Painting/Raster/Composing.hpp"
 
 namespace {
@@ -76,16 +78,18 @@ TEST(Composing, writesDirectlyOnlyWhereThatEqualsDrawing) {
     EXPECT_FALSE(isWrittenDirectly(sixteenBits, unchanged));
 }
 
-TEST(Composing, leavesCopiesOfAnImageAlone) {
+TEST(Composing, writesOnlyInsideTheClipOfThePaintEvent) {
     QImage image = blank(QImage::Format_RGB32);
     QPainter painter(&image);
-    const QImage copy = image;
+    painter.paintEngine()->setSystemClip(QRect(10, 0, 8, 20));
 
     Painting::drawComposed(painter, area, composeCoordinates);
     painter.end();
 
-    EXPECT_EQ(copy, blank(QImage::Format_RGB32));
-    EXPECT_EQ(image.pixel(5, 6), qRgb(5, 6, 7));
+    EXPECT_EQ(image.pixel(10, 19), qRgb(10, 19, 7));
+    for (const QPoint& outside : {QPoint(9, 19), QPoint(18, 19), QPoint(10, 20), QPoint(10, 3)}) {
+        EXPECT_EQ(image.pixel(outside), qRgb(0, 0, 0)) << outside.x() << ", " << outside.y();
+    }
 }
 
 }  // namespace

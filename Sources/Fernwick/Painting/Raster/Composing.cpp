@@ -41,8 +41,7 @@ std::optional<Painting::PaintedMemory> Painting::paintedMemory(const QPainter& p
     }
     auto* const image = static_cast<QImage*>(device);
     const auto offset = wholeTranslation(painter.deviceTransform());
-    // A shared image would be copied, and the painter would go on drawing on the other copy.
-    if (!offset || !isOpaque32Bit(image->format()) || !image->isDetached()) {
+    if (!offset || !isOpaque32Bit(image->format())) {
         return std::nullopt;
     }
     QRegion region = image->rect() & area.translated(*offset);
