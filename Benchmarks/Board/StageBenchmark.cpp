@@ -124,13 +124,11 @@ void backdropAndEdge(benchmark::State& state) {
     const QRectF frame =
         Painting::fitBoard(Screens::space, Screens::cells).frame.translated(38, 195);
     const QRect boardRect = QRectF(frame.topLeft() * scale, frame.size() * scale).toAlignedRect();
-    const QRectF frameInBoard(frame.topLeft() * scale - boardRect.topLeft(), frame.size() * scale);
     for (auto _ : state) {
         Painting::Backdrop backdrop;
         backdrop.fit({1920, 1080}, scale, frame);
         benchmark::DoNotOptimize(backdrop.image(backdrop.bounds()));
-        benchmark::DoNotOptimize(
-            Painting::FrameEdge(backdrop, boardRect, Painting::FrameShape(frameInBoard, scale)));
+        benchmark::DoNotOptimize(Painting::FrameEdge(backdrop, boardRect));
     }
 }
 

@@ -65,16 +65,20 @@ Kernel makeKernel(Links links) {
             band.at(x, y) = sampleCoverage(links, x, y);
         }
     }
+    Plane<double> lines(kernelSize, samplesPerCell);
+    for (int y = 0; y < samplesPerCell; ++y) {
+        for (int column = 0; column < kernelSize; ++column) {
+            for (int x = 0; x < samplesPerCell; ++x) {
+                lines.at(column, y) += band.at(x, y) * weight(x, column);
+            }
+        }
+    }
     Kernel kernel(kernelSize, kernelSize);
     for (int row = 0; row < kernelSize; ++row) {
         for (int column = 0; column < kernelSize; ++column) {
             double sum = 0;
             for (int y = 0; y < samplesPerCell; ++y) {
-                double line = 0;
-                for (int x = 0; x < samplesPerCell; ++x) {
-                    line += band.at(x, y) * weight(x, column);
-                }
-                sum += line * weight(y, row);
+                sum += lines.at(column, y) * weight(y, row);
             }
             kernel.at(column, row) = static_cast<std::uint16_t>(std::lround(sum * fullSample));
         }

@@ -71,11 +71,13 @@ QImage Backdrop::image(const QRect& area) {
     return composedImage(area, rowsOf(area));
 }
 
+const std::vector<Backdrop::Edge>& Backdrop::edges() {
+    prepare();
+    return edges_;
+}
+
 std::function<void(const Scanline&)> Backdrop::rowsOf(const QRect& area) {
-    if (!prepared_) {
-        prepareFrame();
-        prepared_ = true;
-    }
+    prepare();
     std::optional<FrameShadow::Rows> shadow;
     if (shadow_) {
         shadow.emplace(*shadow_, area);
@@ -97,6 +99,13 @@ std::function<void(const Scanline&)> Backdrop::rowsOf(const QRect& area) {
                       static_cast<float>(strokeOpacity_));
         }
     };
+}
+
+void Backdrop::prepare() {
+    if (!prepared_) {
+        prepareFrame();
+        prepared_ = true;
+    }
 }
 
 void Backdrop::prepareFrame() {

@@ -41,15 +41,19 @@ public:
     /// The picture of `area`, inside `bounds()`.
     [[nodiscard]] QImage image(const QRect& area);
 
-private:
+    /// A part of the frame's edge: the coverage of each pixel of `area` by the fill and by the
+    /// stroke, from 0 to 255.
     struct Edge {
         QRect area;
         QImage fill;
         QImage stroke;
     };
+    /// The frame's edge, in disjoint parts.
+    [[nodiscard]] const std::vector<Edge>& edges();
 
     /// A function that composes the rows of `area`, from top to bottom.
     [[nodiscard]] std::function<void(const Scanline&)> rowsOf(const QRect& area);
+    void prepare();
     void prepareFrame();
 
     int revision_ = 0;

@@ -7,7 +7,7 @@
 
 namespace {
 
-using Painting::FrameShape;
+using Painting::Backdrop;
 
 // A pixel of the backdrop is outside + fill * share, where `share` is the part of the fill that
 // shows under the stroke. Without that part it is a premultiplied pixel with an alpha of 1 - share,
@@ -21,18 +21,19 @@ quint32 withoutFill(quint32 ground, double share) {
         channel(qBlue(ground), Garden::soil.blue()), static_cast<int>(255 * (1 - share) + 0.5));
 }
 
-// `ground` is the backdrop of `area`.
-QImage stripImage(const QImage& ground, const QRect& area, const FrameShape& shape,
+// The part of `edge` that lies in `area`; `ground` is the backdrop there.
+QImage stripImage(const Backdrop::Edge& edge, const QRect& area, const QImage& ground,
                   double strokeOpacity) {
-    const QImage fill = shape.fill(area);
-    const QImage stroke = shape.stroke(area);
+    const QPoint first = area.topLeft() - edge.area.topLeft();
     QImage image(area.size(), QImage::Format_ARGB32_Premultiplied);
     for (int y = 0; y < image.height(); ++y) {
         const Painting::Scanline line = Painting::scanline(image, image.rect(), y);
         const quint32* const behind = Painting::pixelsAt(ground, 0, y);
+        const uchar* const fill = edge.fill.constScanLine(first.y() + y) + first.x();
+        const uchar* const stroke = edge.stroke.constScanLine(first.y() + y) + first.x();
         for (int x = 0; x < line.count; ++x) {
-            const double stroked = stroke.constScanLine(y)[x] / 255.0 * strokeOpacity;
-            const double share = fill.constScanLine(y)[x] / 255.0 * (1 - stroked);
+            const double stroked = stroke[x] / 255.0 * strokeOpacity;
+            const double share = fill[x] / 255.0 * (1 - stroked);
             line.pixels[x] = withoutFill(behind[x], share);
         }
     }
@@ -41,14 +42,12 @@ QImage stripImage(const QImage& ground, const QRect& area, const FrameShape& sha
 
 }  // namespace
 
-Painting::FrameEdge::FrameEdge(Backdrop& ground, const QRect& boardRect, const FrameShape& shape) {
-    const QRect visible = (boardRect & ground.bounds()).translated(-boardRect.topLeft());
-    for (const QRect& edge : shape.edges()) {
-        const QRect area = edge & visible;
+Painting::FrameEdge::FrameEdge(Backdrop& ground, const QRect& boardRect) {
+    for (const Backdrop::Edge& edge : ground.edges()) {
+        const QRect area = edge.area & boardRect & ground.bounds();
         if (!area.isEmpty()) {
-            const QImage behind = ground.image(area.translated(boardRect.topLeft()));
-            strips_.push_back(
-                {area.topLeft(), stripImage(behind, area, shape, ground.strokeOpacity())});
+            strips_.push_back({area.topLeft() - boardRect.topLeft(),
+                               stripImage(edge, area, ground.image(area), ground.strokeOpacity())});
         }
     }
 }

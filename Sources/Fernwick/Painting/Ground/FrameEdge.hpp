@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "Painting/Ground/Backdrop.hpp"
-#include "Painting/Ground/FrameShape.hpp"
 
 namespace Painting {
 
@@ -16,9 +15,8 @@ class FrameEdge {
 public:
     FrameEdge() = default;
 
-    /// `boardRect` is the board among the backdrop's device pixels; `shape` is the frame in device
-    /// pixels relative to the corner of `boardRect`.
-    FrameEdge(Backdrop& ground, const QRect& boardRect, const FrameShape& shape);
+    /// `boardRect` is the board among the backdrop's device pixels.
+    FrameEdge(Backdrop& ground, const QRect& boardRect);
 
     /// Draws what lies inside `area`, in pixels of the board's picture.
     void paint(QPainter& painter, const QRect& area) const;

@@ -136,10 +136,7 @@ void Board::prepareEdge() {
     if (backdrop_.revision() == edgeRevision_) {
         return;
     }
-    const QRectF& frame = inWindow_.frame;
-    const QRect pixels = WidgetPixels::inWindow(widget_, scale_);
-    const QRectF inPicture(frame.topLeft() * scale_ - pixels.topLeft(), frame.size() * scale_);
-    edge_ = Painting::FrameEdge(backdrop_, pixels, Painting::FrameShape(inPicture, scale_));
+    edge_ = Painting::FrameEdge(backdrop_, WidgetPixels::inWindow(widget_, scale_));
     edgeRevision_ = backdrop_.revision();
 }
 
