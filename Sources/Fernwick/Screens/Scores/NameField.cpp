@@ -149,14 +149,17 @@ void NameField::paintPlate() {
         shape, QPen(Garden::legible(Garden::withOpacity(Garden::mint, edgeOpacity)), edgeWidth));
 }
 
+bool NameField::startsAtRight() const {
+    return QStyle::visualAlignment(layoutDirection(), alignment()).testFlag(Qt::AlignRight);
+}
+
 void NameField::paintPlaceholder() {
     const QFontMetricsF metrics(font());
     const int margin = textMargins().left() + lineEditMargin;
     const QString shown =
         metrics.elidedText(placeholderText(), Qt::ElideRight, width() - 2 * margin);
-    const bool atRight =
-        QStyle::visualAlignment(layoutDirection(), alignment()).testFlag(Qt::AlignRight);
-    const double left = atRight ? width() - margin - metrics.horizontalAdvance(shown) : margin;
+    const double left =
+        startsAtRight() ? width() - margin - metrics.horizontalAdvance(shown) : margin;
     QPainter painter(this);
     // Dimmer than a typed name, even in high contrast.
     painter.setPen(Garden::Contrast::shared().isHigh()
@@ -174,7 +177,7 @@ void NameField::paintCaret() {
     double centre = cursorRect().left() + cursorRectMargin;
     if (text().isEmpty() && !composing_) {
         const double outside = textMargins().left() + lineEditMargin - caretClearance - width / 2;
-        centre = centre < this->width() / 2.0 ? outside : this->width() - outside;
+        centre = startsAtRight() ? this->width() - outside : outside;
     }
     const double height = fontMetrics().height();
     const double top = (this->height() - height) / 2;

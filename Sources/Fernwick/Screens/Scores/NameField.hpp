@@ -24,6 +24,7 @@ protected:
 
 private:
     void setTextColours();
+    [[nodiscard]] bool startsAtRight() const;
     void paintPlate();
     void paintPlaceholder();
     void paintCaret();

@@ -45,6 +45,17 @@ void drawDigits(QPainter& painter, const QRectF& line, const QString& digits) {
     }
 }
 
+// The name's own letters decide its direction, not the language of the program, unless it has none.
+Qt::LayoutDirection directionOf(const QString& name, Qt::LayoutDirection otherwise) {
+    const auto letters = name.toUcs4();
+    const bool hasLetter =
+        std::ranges::any_of(letters, [](char32_t letter) { return QChar::isLetter(letter); });
+    if (!hasLetter) {
+        return otherwise;
+    }
+    return name.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight;
+}
+
 }  // namespace
 
 ScoreRow::ScoreRow(QWidget* parent) : QWidget(parent) {
@@ -117,8 +128,7 @@ void ScoreRow::paintEvent(QPaintEvent*) {
     name.setRight(score.left() - 2 * spacing);
     painter.setPen(Garden::legible(Garden::primaryText));
     const int begin = isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
-    // The name's own letters decide its direction, not the language of the program.
-    painter.setLayoutDirection(name_.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+    painter.setLayoutDirection(directionOf(name_, layoutDirection()));
     painter.drawText(asRead(name),
                      begin | Qt::AlignAbsolute | Qt::AlignVCenter | Qt::TextSingleLine,
                      metrics.elidedText(name_, Qt::ElideRight, name.width()));

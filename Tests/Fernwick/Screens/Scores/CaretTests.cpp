@@ -136,6 +136,13 @@ TEST_F(Caret, staysTwoPointsClearOfAPlaceholderAtTheRight) {
     EXPECT_LE(left - (textColumns().constLast() + pixel), 3.5);
 }
 
+TEST_F(Caret, isBesideThePlaceholderInARightToLeftLayout) {
+    field.setPlaceholderText(QStringLiteral("Your name"));
+    field.setLayoutDirection(Qt::RightToLeft);
+
+    EXPECT_GT(caretColumns().constFirst(), textColumns().constLast());
+}
+
 TEST_F(Caret, isTheOnlyThingThatTheFocusAdds) {
     const QString text = QStringLiteral("Mira Field");
     field.setText(text);

@@ -11,6 +11,7 @@
 #include "Screens/Scores/NameText.hpp"
 #include "Screens/Scores/ScoreRow.hpp"
 #include "Screens/Scores/ScoreRows.hpp"
+#include "Support/Look.hpp"
 #include "Support/Picture.hpp"
 #include "Support/Screen.hpp"
 
@@ -235,6 +236,20 @@ TEST_F(ScoreRowsTest, elidesALongNameAndKeepsTheScoreWhole) {
                       QSize(40, row->height()));
     EXPECT_EQ(withShortName.copy(score), withLongName.copy(score));
     EXPECT_EQ(row->height(), row->sizeHint().height());
+}
+
+TEST_F(ScoreRowsTest, elidesANameWithoutLettersAtItsEndInTheLayout) {
+    rows.setEntries(entries({{std::string(24, '@'), 10}}));
+    rows.setLayoutDirection(Qt::RightToLeft);
+    const QImage seen = ::picture(rows, 1);
+    const ScoreRow* row = rows.findChild<ScoreRow*>();
+    const QRect area(row->mapTo(&rows, QPoint(0, 0)), row->size());
+    // Between the score at the left and the rank at the right.
+    const QRectF name = Look::inkOf(Garden::primaryText, seen, area.adjusted(50, 0, -50, 0));
+
+    const QRectF lastLetters =
+        Look::inkOf(Garden::primaryText, seen, QRectF(name.left(), area.top(), 8, area.height()));
+    EXPECT_LT(lastLetters.height(), name.height() / 2) << "no ellipsis at the left end";
 }
 
 TEST_F(ScoreRowsTest, cutsAnEndlessNameBeforeItIsLaidOut) {
