@@ -4,7 +4,7 @@ from board import COLUMNS, EYE_MAXIMUM_GREEN, EYES, FRUIT, ROWS
 from screen import BYTES_PER_PIXEL, Screen
 
 # The area of the board on the main screen of 1920 x 1080 points.
-LEFT, TOP, WIDTH, HEIGHT = 38, 195, 1844, 810
+LEFT, TOP, WIDTH, HEIGHT = 38, 190, 1844, 815
 CELL = min(WIDTH / COLUMNS, HEIGHT / ROWS)
 CELLS = [(x, y) for y in range(ROWS) for x in range(COLUMNS)]
 FIRST_X = LEFT + (WIDTH - COLUMNS * CELL) / 2

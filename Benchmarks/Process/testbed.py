@@ -16,7 +16,7 @@ from desktop import Desktop
 # right after a click could reach the window first.
 CLICK_SECONDS = 0.5
 # Screen positions of the pace buttons, in pixels.
-PACE_BUTTONS = {"Gentle": (78, 152), "Classic": (152, 152), "Swift": (222, 152)}
+PACE_BUTTONS = {"Gentle": (78, 147), "Classic": (152, 147), "Swift": (222, 147)}
 
 
 class Testbed:
