@@ -24,8 +24,8 @@ constexpr int tileSpacing = 2;
 constexpr QSize ruleSize(1, 36);
 constexpr double ruleOpacity = 0.25;
 constexpr int rulePadding = 12;
-// What the digits' line has more below its ink than the label's has above, so that the middle of the
-// rule is that of the label and the digits in every script.
+// What the digits' line has more below its ink than the label's has above, so that the middle of
+// the rule is that of the label and the digits in every script.
 constexpr int spaceBelowRule = 9;
 constexpr int columnSpacing = 18;
 // In a column, so that it stays on one line in all languages.

@@ -130,7 +130,8 @@ TEST_P(MainScreenLook, centresTheRuleBesideALabelOfTallerLetters) {
 
     const QImage seen = picture();
     const QRectF rule = rectOf(*window.findChild<QWidget*>("rule"));
-    const QRectF ink = labelInk(seen, arabic) | Look::inkOf(mint, seen, numberRect("PERSONAL BEST"));
+    const QRectF ink =
+        labelInk(seen, arabic) | Look::inkOf(mint, seen, numberRect("PERSONAL BEST"));
     EXPECT_NEAR(rule.center().y(), ink.center().y(), 2);
 }
 
