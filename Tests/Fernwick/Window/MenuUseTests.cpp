@@ -44,12 +44,13 @@ TEST_P(MenusInUse, holdTheRunUntilTheyAreLeft) {
     startRun();
     press(firstMenu);
     expectHeld(true);
+    const SnakeCore::Cell held = session.game().snake()[0];
 
     leaveMenus();
 
     expectHeld(false);
     fireTimer();
-    EXPECT_EQ(session.game().snake()[0], (SnakeCore::Cell{15, 11}));
+    EXPECT_EQ(session.game().snake()[0], (SnakeCore::Cell{held.x + 1, held.y}));
 }
 
 TEST_P(MenusInUse, holdTheRunWithoutABreakWhileMenusAreSwitched) {
