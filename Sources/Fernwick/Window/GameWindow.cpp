@@ -60,6 +60,9 @@ void GameWindow::makeContent(const QSize& size) {
     band_->watchWindow();
     connect(band_, &TitleBand::menuInUseChanged, &session_, &Session::setHeld);
     band_->show();
+    // Qt posts one for each widget that is shown. Handled after the first frame, they would paint
+    // the whole window a second time.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateLater);
 }
 
 void GameWindow::changeEvent(QEvent* event) {

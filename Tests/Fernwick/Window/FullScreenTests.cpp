@@ -316,3 +316,22 @@ TEST_F(Window, staysOutOfFullScreenWhenANewRunStarts) {
 
     EXPECT_FALSE(window.isFullScreen());
 }
+
+TEST_F(NewWindow, paintsItsContentOnceAtTheStart) {
+    struct CountPaints : QObject {
+        bool eventFilter(QObject* watched, QEvent* event) override {
+            const bool isContent = qobject_cast<ContentView*>(watched) != nullptr;
+            count += isContent && event->type() == QEvent::Paint ? 1 : 0;
+            return false;
+        }
+        int count = 0;
+    } paints;
+    qApp->installEventFilter(&paints);
+    GameWindow window(session);
+
+    window.show();
+    EXPECT_TRUE(QTest::qWaitFor([&paints] { return paints.count > 0; }));
+    QTest::qWait(50);
+
+    EXPECT_EQ(paints.count, 1);
+}
