@@ -45,6 +45,39 @@ TEST(Composing, writesThePixelsOfTheAreaWhereThePainterWouldDrawThem) {
     }
 }
 
+// More than one thread composes as many pixels as these.
+constexpr QRect largeArea(2, 1, 700, 601);
+
+TEST(Composing, composesEachRowOfALargeAreaOnce) {
+    const QImage large = Painting::composedImage(largeArea, composeCoordinates);
+
+    for (int y = 0; y < large.height(); ++y) {
+        const QImage row = Painting::composedImage(
+            {largeArea.left(), largeArea.top() + y, largeArea.width(), 1}, composeCoordinates);
+        ASSERT_EQ(large.copy(0, y, large.width(), 1), row) << y;
+    }
+}
+
+TEST(Composing, givesAFunctionAdjacentRowsFromTopToBottomAlsoInALargeArea) {
+    struct DistanceFromLastRow {
+        void operator()(const Painting::Scanline& line) {
+            line.fill(static_cast<quint32>(line.y - last));
+            last = line.y;
+        }
+        int last = largeArea.top() - 1;
+    };
+
+    const QImage distances = Painting::composedImage(largeArea, DistanceFromLastRow());
+
+    int jumps = 0;
+    for (int y = 0; y < distances.height(); ++y) {
+        const auto distance = static_cast<int>(distances.pixel(0, y) & 0xFFFFFFU);
+        EXPECT_GE(distance, 1) << y;
+        jumps += distance != 1 ? 1 : 0;
+    }
+    EXPECT_LE(jumps, 1);
+}
+
 TEST(Composing, drawsTheSameWithABufferWhereItCannotWriteDirectly) {
     QImage direct = blank(QImage::Format_RGB32);
     QImage buffered = direct;
