@@ -18,8 +18,11 @@ namespace {
 // Between two lines, in font sizes.
 constexpr double lineSpacing = 0.35;
 
-// How far descenders extend below the descent that a font reports: Elstob's "g" does.
+// How far descenders extend below the descent that a font reports: those of the serif font do.
 double overhang(const QFont& font) {
+    if (font.styleHint() != QFont::Serif) {
+        return 0;
+    }
     QPainterPath deepest;
     deepest.addText(0, 0, font, QStringLiteral("gjpqy"));
     return std::max(0.0,

@@ -2,6 +2,7 @@
 
 #include <QFontMetricsF>
 #include <QGuiApplication>
+#include <QPainterPath>
 #include <QRawFont>
 #include <QResource>
 
@@ -69,6 +70,23 @@ TEST(Fonts, kernTheFullStopOfHeadlines) {
     // The arm of the "r" hangs over the full stop.
     EXPECT_LT(metrics.horizontalAdvance(QStringLiteral("r.")),
               metrics.horizontalAdvance(u'r') + metrics.horizontalAdvance(u'.') - 2);
+}
+
+// Labels measure descenders in the serif font only.
+TEST(Fonts, drawDescendersBelowTheirDescentOnlyInSerif) {
+    const auto depthBelowDescent = [](const QFont& font) {
+        QPainterPath letters;
+        letters.addText(0, 0, font, QStringLiteral("gjpqy"));
+        return letters.boundingRect().bottom() - QFontMetricsF(font).descent();
+    };
+    for (int size = 8; size <= 40; ++size) {
+        for (const QFont::Weight weight : {QFont::Normal, QFont::Medium, QFont::DemiBold}) {
+            EXPECT_LE(depthBelowDescent(Garden::sans(size, weight)), 0) << size;
+        }
+        EXPECT_LE(depthBelowDescent(Garden::mono(size, QFont::Light)), 0) << size;
+        EXPECT_LE(depthBelowDescent(Garden::mono(size, QFont::Normal)), 0) << size;
+    }
+    EXPECT_GT(depthBelowDescent(Garden::serif(34, QFont::Normal)), 0);
 }
 
 TEST(Fonts, haveTheSizeInPixelsAndNoHinting) {
