@@ -71,6 +71,7 @@ int main(int argc, char* argv[]) {
     const QString wanted = argc == 6 ? QString::fromLocal8Bit(argv[5]) : QString();
     const Language language(Language::bestFor({wanted}));
     applyGardenStyle();
+    applyGardenFonts();
     if (!QDir().mkpath(folder.path())) {
         std::fputs("cannot create the folder\n", stderr);
         return 1;

@@ -15,6 +15,7 @@ int main(int argc, char* argv[]) {
     }
     const QApplication application(argc, argv);
     applyGardenStyle();
+    applyGardenFonts();
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

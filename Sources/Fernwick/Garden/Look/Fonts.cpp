@@ -6,6 +6,7 @@
 #include <QLocale>
 #include <QResource>
 #include <algorithm>
+#include <future>
 #include <string_view>
 
 #include "Desktop/SystemFonts.hpp"
@@ -27,19 +28,6 @@ void addEmbeddedFonts() {
         // Stored uncompressed, so FreeType reads the mapped executable without a copy.
         QFontDatabase::addApplicationFontFromData(
             QResource(QStringLiteral(":/fonts/") + QLatin1String(font.file)).uncompressedData());
-    }
-}
-
-enum class Supply { none, embedded, all };
-
-// Which fonts Qt can use.
-Supply supply = Supply::none;
-
-void provideEmbeddedFonts() {
-    if (supply == Supply::none) {
-        supply = Supply::embedded;
-        Desktop::leaveOutSystemFonts();
-        addEmbeddedFonts();
     }
 }
 
@@ -72,10 +60,44 @@ QStringList fallbacks(QFont::StyleHint design) {
     }
 }
 
+// Which fonts Qt can use, from none to all of them.
+enum class Supply { none, embedded, all };
+
+Supply supply = Supply::none;
+// What another thread is loading.
+std::future<Supply> ahead;
+
+Supply load(Supply wanted) {
+    wanted == Supply::all ? Desktop::takeInSystemFonts() : Desktop::leaveOutSystemFonts();
+    return wanted;
+}
+
+void provide(Supply wanted) {
+    if (wanted <= supply) {
+        return;
+    }
+    const bool replaces = supply != Supply::none;
+    if (ahead.valid()) {
+        supply = ahead.get();
+    }
+    if (wanted > supply) {
+        supply = load(wanted);
+    }
+    if (replaces) {
+        // Makes Qt look up all fonts anew.
+        QFontDatabase::removeAllApplicationFonts();
+    }
+    addEmbeddedFonts();
+}
+
+// What the texts of the language need.
+Supply neededSupply() {
+    return fallbacks(QFont::SansSerif).isEmpty() ? Supply::embedded : Supply::all;
+}
+
 QFont make(const EmbeddedFont& face, QFont::StyleHint design, double size, QFont::Weight weight) {
-    const QStringList systemFamilies = fallbacks(design);
-    systemFamilies.isEmpty() ? provideEmbeddedFonts() : provideSystemFonts();
-    QFont font(QStringList(QString::fromUtf8(face.family)) + systemFamilies);
+    provide(neededSupply());
+    QFont font(QStringList(QString::fromUtf8(face.family)) + fallbacks(design));
     font.setStyleHint(design);
     font.setStyleName(QString::fromUtf8(face.style));
     font.setPixelSize(qRound(size));
@@ -99,16 +121,13 @@ constexpr int minimumComplexSize = 11;
 
 }  // namespace
 
+void loadFontsAhead() {
+    // Deferred to the first use of a font if there can be no further thread.
+    ahead = std::async(std::launch::async | std::launch::deferred, load, neededSupply());
+}
+
 void provideSystemFonts() {
-    if (supply == Supply::embedded) {
-        Desktop::takeInSystemFonts();
-        // Makes Qt look up all fonts anew.
-        QFontDatabase::removeAllApplicationFonts();
-    }
-    if (supply != Supply::all) {
-        supply = Supply::all;
-        addEmbeddedFonts();
-    }
+    provide(Supply::all);
 }
 
 QFont sans(double size, QFont::Weight weight, double tracking) {
