@@ -21,10 +21,11 @@ SECONDS = {"ns": 1e-9, "us": 1e-6, "ms": 1e-3, "s": 1}
 def medians(results):
     """CPU seconds of each Google Benchmark, by name."""
     found = {}
-    for name in ("game", "table", "board"):
-        for run in json.loads((results / f"{name}.json").read_text())["benchmarks"]:
+    for program in ("game", "table", "board"):
+        for run in json.loads((results / f"{program}.json").read_text())["benchmarks"]:
             if run["aggregate_name"] == "median":
-                found[run["run_name"]] = run["cpu_time"] * SECONDS[run["time_unit"]]
+                name = run["run_name"].removesuffix("/process_time")
+                found[name] = run["cpu_time"] * SECONDS[run["time_unit"]]
     return found
 
 

@@ -57,7 +57,10 @@ void glowOverTheBoard(benchmark::State& state) {
     glow.change(9, 9, {}, Link::left | Link::down);
     QImage picture = blank(grid);
     for (auto _ : state) {
-        glow.paint(picture, picture.rect());
+        Painting::GlowField::Rows rows(glow, picture.rect());
+        for (int y = 0; y < picture.height(); ++y) {
+            rows.paint(Painting::scanline(picture, picture.rect(), y));
+        }
     }
 }
 
@@ -88,7 +91,9 @@ void dotsOverTheBoard(benchmark::State& state) {
     const Painting::Dots dots(grid);
     QImage picture = blank(grid);
     for (auto _ : state) {
-        dots.paint(picture, picture.rect());
+        for (int y = 0; y < picture.height(); ++y) {
+            dots.paint(Painting::scanline(picture, picture.rect(), y));
+        }
     }
 }
 

@@ -8,13 +8,49 @@
 #include "Painting/Board/BandShape.hpp"
 #include "Painting/Board/Eyes.hpp"
 #include "Painting/Board/Fruit.hpp"
+#include "Painting/Raster/ByteRuns.hpp"
 #include "Painting/Raster/Composing.hpp"
 
 namespace Painting {
 
+/// Composes the rows of one rectangle, from top to bottom.
+class BoardPicture::Rows {
+public:
+    Rows(const BoardPicture& picture, const QRect& area)
+        : picture_(picture),
+          glow_(picture.glow_, area),
+          ground_(static_cast<std::size_t>(area.width())) {}
+
+    void operator()(const Scanline& line) {
+        constexpr std::uint8_t full = 255;
+        const std::uint8_t* const mask = picture_.mask_.row(line.y) + line.x;
+        if (endOfEqual(mask, full, 0, line.count) < line.count) {
+            paintGround({ground_.data(), line.x, line.y, line.count});
+        }
+        picture_.gradient_->paint(line, ground_.data(), mask);
+        for (const CoverageLayer& eye : picture_.eyes_) {
+            eye.paint(line);
+        }
+    }
+
+private:
+    void paintGround(const Scanline& ground) {
+        ground.fill(Garden::soil.rgb());
+        picture_.dots_.paint(ground);
+        for (const CoverageLayer& layer : picture_.fruit_) {
+            layer.paint(ground);
+        }
+        glow_.paint(ground);
+    }
+
+    const BoardPicture& picture_;
+    GlowField::Rows glow_;
+    // What is below the band, in a buffer of one row, which stays in the CPU cache.
+    std::vector<quint32> ground_;
+};
+
 BoardPicture::BoardPicture(const PixelGrid& grid)
     : grid_(grid),
-      ground_(grid.size, QImage::Format_RGB32),
       dots_(grid),
       glow_(grid),
       mask_(grid.size.width(), grid.size.height()),
@@ -26,13 +62,10 @@ QRegion BoardPicture::show(const SnakeCore::Game& game) {
     }
     QRegion changed;
     if (!shown_) {
-        changed = ground_.rect();
+        changed = bounds();
     }
     updateFruit(game.food(), changed);
     updateBand(game, changed);
-    for (const QRect& area : changed) {
-        paintGround(area);
-    }
     // The gradient runs from tail to head: when either moves, the whole band changes its colours.
     const auto& snake = game.snake();
     if (!shown_ || shown_->snake().front() != snake.front() ||
@@ -46,11 +79,11 @@ QRegion BoardPicture::show(const SnakeCore::Game& game) {
 }
 
 void BoardPicture::paint(QPainter& painter, const QRect& area) const {
-    drawComposed(painter, area, [this](const Scanline& line) { compose(line); });
+    drawComposed(painter, area, Rows(*this, area));
 }
 
 QImage BoardPicture::image() const {
-    return composedImage(ground_.rect(), [this](const Scanline& line) { compose(line); });
+    return composedImage(bounds(), Rows(*this, bounds()));
 }
 
 void BoardPicture::updateFruit(const SnakeCore::Cell& cell, QRegion& changed) {
@@ -59,7 +92,7 @@ void BoardPicture::updateFruit(const SnakeCore::Cell& cell, QRegion& changed) {
     }
     const auto addFruit = [&] {
         for (const CoverageLayer& layer : fruit_) {
-            changed += layer.bounds() & ground_.rect();
+            changed += layer.bounds() & bounds();
         }
     };
     addFruit();
@@ -76,29 +109,11 @@ void BoardPicture::updateBand(const SnakeCore::Game& game, QRegion& changed) {
             if (before != after) {
                 glow_.change(column, row, before, after);
                 Band::drawTile(mask_, grid_, column, row, after);
-                changed += glow_.reach(column, row) & ground_.rect();
+                changed += glow_.reach(column, row) & bounds();
             }
         }
     }
     links_ = std::move(links);
-}
-
-void BoardPicture::paintGround(const QRect& area) {
-    for (int y = area.top(); y <= area.bottom(); ++y) {
-        scanline(ground_, area, y).fill(Garden::soil.rgb());
-    }
-    dots_.paint(ground_, area);
-    for (const CoverageLayer& layer : fruit_) {
-        layer.paint(ground_, area);
-    }
-    glow_.paint(ground_, area);
-}
-
-void BoardPicture::compose(const Scanline& line) const {
-    gradient_->paint(line, pixelsAt(ground_, line.x, line.y), mask_.row(line.y) + line.x);
-    for (const CoverageLayer& eye : eyes_) {
-        eye.paint(line);
-    }
 }
 
 QRegion BoardPicture::bandRegion() const {

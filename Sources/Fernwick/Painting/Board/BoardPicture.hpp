@@ -16,10 +16,9 @@
 
 namespace Painting {
 
-/// The picture of a game at one size, on the board's plain fill. Dots, fruit and glow are cached in
-/// an image and updated where they change. The snake's band and eyes change colour on nearly every
-/// step and are composed over that image when they are painted. Every pixel depends only on the
-/// current game, neither on earlier games nor on the areas that are painted.
+/// The picture of a game at one size, on the board's plain fill. Its pixels are composed each time
+/// they are painted, from layers that are updated where they change. Every pixel depends only on
+/// the current game, neither on earlier games nor on the areas that are painted.
 class BoardPicture {
 public:
     explicit BoardPicture(const PixelGrid& grid);
@@ -36,15 +35,14 @@ public:
     [[nodiscard]] const PixelGrid& grid() const { return grid_; }
 
 private:
+    class Rows;
+
+    [[nodiscard]] QRect bounds() const { return {QPoint(), grid_.size}; }
     void updateFruit(const SnakeCore::Cell& cell, QRegion& changed);
     void updateBand(const SnakeCore::Game& game, QRegion& changed);
-    void paintGround(const QRect& area);
-    void compose(const Scanline& line) const;
     [[nodiscard]] QRegion bandRegion() const;
 
     PixelGrid grid_;
-    // Everything below the band.
-    QImage ground_;
     Dots dots_;
     GlowField glow_;
     // The band's coverage of each pixel, from 0 to 255.

@@ -1,5 +1,6 @@
 #include "Painting/Board/Dots.hpp"
 
+#include <algorithm>
 #include <cmath>
 
 #include "Garden/Look/Palette.hpp"
@@ -35,12 +36,17 @@ Dots::Dots(const PixelGrid& grid) : grid_(grid), dots_(grid.columns, grid.rows) 
     }
 }
 
-void Dots::paint(QImage& picture, const QRect& area) const {
-    const QRect cells = grid_.cellsAt(area);
-    for (int row = cells.top(); row <= cells.bottom(); ++row) {
-        for (int column = cells.left(); column <= cells.right(); ++column) {
-            dots_.at(column, row).paint(picture, area);
-        }
+void Dots::paint(const Scanline& line) const {
+    // Dots lie in the middle of their cells, so most rows of pixels touch none.
+    const double middle = (line.y + 0.5 - grid_.origin.y()) / grid_.cell;
+    const int row = std::clamp(static_cast<int>(std::floor(middle)), 0, grid_.rows - 1);
+    const QRect bounds = dots_.at(0, row).bounds();
+    if (line.y < bounds.top() || line.y > bounds.bottom()) {
+        return;
+    }
+    const QRect cells = grid_.cellsAt({line.x, line.y, line.count, 1});
+    for (int column = cells.left(); column <= cells.right(); ++column) {
+        dots_.at(column, row).paint(line);
     }
 }
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QImage>
-
 #include "Painting/Board/PixelGrid.hpp"
 #include "Painting/Raster/CoverageLayer.hpp"
 #include "Painting/Raster/Plane.hpp"
@@ -13,8 +11,8 @@ class Dots {
 public:
     explicit Dots(const PixelGrid& grid);
 
-    /// Paints the parts of the dots that lie inside `area`.
-    void paint(QImage& picture, const QRect& area) const;
+    /// Paints the parts of the dots that lie on `line`.
+    void paint(const Scanline& line) const;
 
 private:
     PixelGrid grid_;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QImage>
+#include <QRect>
 #include <cstdint>
 
 #include "Painting/Board/PixelGrid.hpp"
@@ -23,8 +23,19 @@ public:
     /// The pixels that the kernel of a cell reaches; some may lie outside of the picture.
     [[nodiscard]] QRect reach(int column, int row) const;
 
-    /// Blends the glow over the pixels of `area`.
-    void paint(QImage& picture, const QRect& area) const;
+    /// Blends the glow over the rows of one rectangle, from top to bottom.
+    class Rows {
+    public:
+        /// `field` has to outlive this object.
+        Rows(const GlowField& field, const QRect& area);
+        /// `line` lies in a row of the rectangle.
+        void paint(const Scanline& line);
+
+    private:
+        const GlowField& field_;
+        int left_;
+        UpsampledRows<std::uint16_t> samples_;
+    };
 
 private:
     PixelGrid grid_;

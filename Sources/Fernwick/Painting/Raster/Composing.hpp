@@ -29,8 +29,9 @@ struct PaintedMemory {
 /// `offset`. Large areas are composed in two threads, the lower half by a copy of `compose`.
 template <typename Compose>
 void composeRows(QImage& image, const QPoint& offset, const QRect& area, Compose& compose) {
-    // In pixels. A thread starts and ends within 0.1 ms, in which about this many are composed.
-    constexpr int worthAThread = 128 * 1024;
+    // In pixels: more than change in a step of the snake on a 4K screen, where a thread would start
+    // many times a second.
+    constexpr int worthAThread = 300 * 1024;
     // Once, because QImage::bits() may be called in one thread only.
     uchar* const bits = image.bits();
     const qsizetype bytesPerLine = image.bytesPerLine();
