@@ -96,9 +96,9 @@ LIST
 check_packages() {
     package_packages
     cat <<'LIST'
-clang-14             second compiler, for sanitizers and fuzzers
-libclang-rt-14-dev   run-time library of the sanitizers and of libFuzzer
-llvm-14              llvm-symbolizer: line numbers in the sanitizers' reports
+clang                second compiler, for sanitizers and fuzzers
+libclang-rt-dev      run-time library of the sanitizers and of libFuzzer
+llvm                 llvm-symbolizer: line numbers in the sanitizers' reports
 clang-format         checks the formatting of the code
 clang-tidy           static analysis
 libgtest-dev         GoogleTest, for the unit tests
