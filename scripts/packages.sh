@@ -20,11 +20,7 @@ wayland-protocols    the description of that protocol
 libxcb1-dev          X11 client library, for requests that Qt does not make
 libxcb-shape0-dev    its SHAPE extension: where the window takes the pointer
 libpulse-dev         PulseAudio client library for the two sounds
-fonts-inter          embedded font of the texts
-fonts-elstob         embedded font of the headlines
-fonts-jetbrains-mono embedded font of numbers and keys
 libfontconfig-dev    fontconfig, which finds the fonts that Qt uses
-fontconfig           fc-query, which reads the names of the embedded fonts
 LIST
 }
 

@@ -2,32 +2,41 @@
 
 #include <fontconfig/fontconfig.h>
 
+#include <string>
+
 namespace Desktop {
 
 namespace {
 
-// Makes `config` the one that Qt uses. Null if fontconfig could not load one.
-void install(FcConfig* config) {
-    if (config != nullptr) {
-        FcConfigSetCurrent(config);
-        FcConfigDestroy(config);
+// Makes Qt use the rules of the user and, after them, `rule`.
+void install(const std::string& rule) {
+    FcConfig* const config = FcInitLoadConfig();
+    if (config == nullptr) {
+        return;
     }
+    const std::string document = "<fontconfig>" + rule + "</fontconfig>";
+    FcConfigParseAndLoadFromMemory(config, reinterpret_cast<const FcChar8*>(document.c_str()),
+                                   FcFalse);
+    // Looks for fonts in the folders of this configuration.
+    FcConfigSetCurrent(config);
+    FcConfigDestroy(config);
 }
 
 }  // namespace
 
 void leaveOutSystemFonts() {
     // Removes the folders to search for fonts.
-    constexpr const char* noFolders = "<fontconfig><reset-dirs/></fontconfig>";
-    FcConfig* const rules = FcInitLoadConfig();
-    if (rules != nullptr) {
-        FcConfigParseAndLoadFromMemory(rules, reinterpret_cast<const FcChar8*>(noFolders), FcFalse);
-    }
-    install(rules);
+    install("<reset-dirs/>");
 }
 
-void takeInSystemFonts() {
-    install(FcInitLoadConfigAndFonts());
+void takeInSystemFonts(std::span<const char* const> leftOut) {
+    std::string patterns;
+    for (const char* family : leftOut) {
+        patterns.append("<pattern><patelt name='family'><string>")
+            .append(family)
+            .append("</string></patelt></pattern>");
+    }
+    install("<selectfont><rejectfont>" + patterns + "</rejectfont></selectfont>");
 }
 
 }  // namespace Desktop

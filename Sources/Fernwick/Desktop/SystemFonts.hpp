@@ -1,5 +1,7 @@
 #pragma once
 
+#include <span>
+
 /// Whether fontconfig finds the fonts that are installed. The user's fontconfig rules, as for
 /// antialiasing and sub-pixel rendering, apply in either case. Fonts that the program has added to
 /// fontconfig itself are lost at each change. Either function may be called in any thread.
@@ -9,7 +11,8 @@ namespace Desktop {
 /// Before Qt uses the first font.
 void leaveOutSystemFonts();
 
-/// Takes them in again. Qt has to look up its fonts anew then.
-void takeInSystemFonts();
+/// Takes them in, except those of the families `leftOut`, which are plain names without XML's
+/// special characters. Qt has to look up its fonts anew then.
+void takeInSystemFonts(std::span<const char* const> leftOut);
 
 }  // namespace Desktop

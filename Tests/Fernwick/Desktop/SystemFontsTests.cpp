@@ -24,6 +24,14 @@ protected:
 
     [[nodiscard]] static int count() { return FcConfigGetFonts(nullptr, FcSetSystem)->nfont; }
 
+    [[nodiscard]] static bool hasFamily(const char* family) {
+        const Pattern pattern(FcPatternCreate(), FcPatternDestroy);
+        FcPatternAddString(pattern.get(), FC_FAMILY, reinterpret_cast<const FcChar8*>(family));
+        const std::unique_ptr<FcFontSet, decltype(&FcFontSetDestroy)> found(
+            FcFontList(nullptr, pattern.get(), nullptr), FcFontSetDestroy);
+        return found->nfont > 0;
+    }
+
     [[nodiscard]] static int subPixelRendering() {
         const Pattern pattern(FcPatternCreate(), FcPatternDestroy);
         FcConfigSubstitute(nullptr, pattern.get(), FcMatchPattern);
@@ -44,7 +52,7 @@ TEST_F(SystemFonts, areNotFoundWhileLeftOut) {
     Desktop::leaveOutSystemFonts();
     EXPECT_EQ(count(), 0);
 
-    Desktop::takeInSystemFonts();
+    Desktop::takeInSystemFonts({});
     EXPECT_GT(count(), 0);
 }
 
@@ -52,7 +60,7 @@ TEST_F(SystemFonts, followTheRulesOfTheUser) {
     Desktop::leaveOutSystemFonts();
     EXPECT_EQ(subPixelRendering(), FC_RGBA_VRGB);
 
-    Desktop::takeInSystemFonts();
+    Desktop::takeInSystemFonts({});
     EXPECT_EQ(subPixelRendering(), FC_RGBA_VRGB);
 }
 
@@ -60,7 +68,18 @@ TEST_F(SystemFonts, areAllFoundAgain) {
     const int all = count();
 
     Desktop::leaveOutSystemFonts();
-    Desktop::takeInSystemFonts();
+    Desktop::takeInSystemFonts({});
 
     EXPECT_EQ(count(), all);
+}
+
+TEST_F(SystemFonts, areFoundWithoutTheFamiliesToLeaveOut) {
+    ASSERT_TRUE(hasFamily("Noto Sans"));
+    constexpr const char* leftOut[] = {"Noto Sans Arabic", "Noto Sans"};
+
+    Desktop::takeInSystemFonts(leftOut);
+
+    EXPECT_FALSE(hasFamily("Noto Sans"));
+    EXPECT_FALSE(hasFamily("Noto Sans Arabic"));
+    EXPECT_TRUE(hasFamily("Noto Sans Devanagari"));
 }

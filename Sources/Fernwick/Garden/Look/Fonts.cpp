@@ -1,13 +1,14 @@
 #include "Garden/Look/Fonts.hpp"
 
-#include <EmbeddedFonts.hpp>
 #include <QChar>
 #include <QFontDatabase>
 #include <QLocale>
 #include <QResource>
 #include <algorithm>
 #include <future>
+#include <iterator>
 #include <string_view>
+#include <vector>
 
 #include "Desktop/SystemFonts.hpp"
 
@@ -15,8 +16,23 @@ namespace Garden {
 
 namespace {
 
-// The style name is needed because the same family may also be installed with several styles of one
-// weight.
+/// A font file in the resource folder ":/fonts", and its names as fontconfig reads them.
+struct EmbeddedFont {
+    const char* file;
+    const char* family;
+    const char* style;
+};
+
+constexpr EmbeddedFont embeddedFonts[] = {
+    {"Inter-Regular.otf", "Inter", "Regular"},
+    {"Inter-Medium.otf", "Inter", "Medium"},
+    {"Inter-SemiBold.otf", "Inter", "Semi Bold"},
+    {"ElstobD-ExtraLight.otf", "ElstobD", "ExtraLight"},
+    {"ElstobD-18pt.otf", "ElstobD", "18pt"},
+    {"JetBrainsMono-Light.ttf", "JetBrains Mono", "Light"},
+    {"JetBrainsMono-Regular.ttf", "JetBrains Mono", "Regular"},
+};
+
 consteval const EmbeddedFont& face(std::string_view file) {
     return *std::ranges::find(embeddedFonts, file, &EmbeddedFont::file);
 }
@@ -68,7 +84,15 @@ Supply supply = Supply::none;
 std::future<Supply> ahead;
 
 Supply load(Supply wanted) {
-    wanted == Supply::all ? Desktop::takeInSystemFonts() : Desktop::leaveOutSystemFonts();
+    if (wanted == Supply::all) {
+        // Of two fonts with the same names, Qt may prefer the one of the system, which may look
+        // different in another version.
+        std::vector<const char*> families;
+        std::ranges::transform(embeddedFonts, std::back_inserter(families), &EmbeddedFont::family);
+        Desktop::takeInSystemFonts(families);
+    } else {
+        Desktop::leaveOutSystemFonts();
+    }
     return wanted;
 }
 
