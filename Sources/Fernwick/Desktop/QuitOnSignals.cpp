@@ -48,7 +48,7 @@ void exitNow(int) {
 }
 
 void install(void (*handler)(int)) {
-    struct sigaction action {};
+    struct sigaction action = {};
     action.sa_handler = handler;
     action.sa_flags = SA_RESTART;
     sigset_t blocked{};

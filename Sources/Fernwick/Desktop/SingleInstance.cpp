@@ -37,7 +37,7 @@ QByteArray socketName(const fs::path& settings) {
     if (error) {
         folder = settings.parent_path();
     }
-    struct stat root {};
+    struct stat root = {};
     ::stat("/", &root);
     QCryptographicHash hash(QCryptographicHash::Sha256);
     hash.addData(QByteArray::fromStdString(folder.native()));

@@ -45,9 +45,8 @@ constexpr bool isTypewriterKey(quint32 scanCode) {
     return scanCode >= firstTypewriterKey && scanCode <= lastTypewriterKey;
 }
 
-template <typename Row, std::size_t size, typename Value>
-std::optional<GameKey> find(const std::array<Row, size>& rows, const Value& value,
-                            Value Row::*column) {
+template <typename Row, std::size_t size>
+std::optional<GameKey> find(const std::array<Row, size>& rows, const auto& value, auto column) {
     const auto* const row = std::ranges::find(rows, value, column);
     return row == rows.end() ? std::nullopt : std::optional(row->gameKey);
 }

@@ -71,7 +71,7 @@ bool writeAll(int file, const QByteArray& bytes) {
 
 /// The last check before the file becomes the only copy.
 bool hasSize(int file, qsizetype size) {
-    struct stat status {};
+    struct stat status = {};
     const bool equal = ::fstat(file, &status) == 0 && status.st_size == size;
     if (!equal) {
         qCWarning(storageLog, "the temporary file does not have the size written");
@@ -112,8 +112,8 @@ bool createFolders(const fs::path& folder) {
 }
 
 bool sameFile(const fs::path& one, const fs::path& other) {
-    struct stat first {};
-    struct stat second {};
+    struct stat first = {};
+    struct stat second = {};
     return ::lstat(one.c_str(), &first) == 0 && ::lstat(other.c_str(), &second) == 0 &&
            first.st_dev == second.st_dev && first.st_ino == second.st_ino;
 }
@@ -129,7 +129,7 @@ DurableFile::Reading DurableFile::read(qsizetype maximumSize) const {
         logFailure(state == State::absent, "open");
         return {state, {}};
     }
-    struct stat status {};
+    struct stat status = {};
     if (!logFailure(::fstat(file.number(), &status) == 0, "fstat")) {
         return {State::failed, {}};
     }

@@ -6,6 +6,7 @@
 #include <QSignalSpy>
 #include <cerrno>
 #include <csignal>
+#include <memory>
 
 #include "Desktop/QuitOnSignals.hpp"
 
@@ -65,8 +66,8 @@ protected:
 TEST_P(QuitOnSignalsTest, quitsTheEventLoopWithStatus0) {
     const Desktop::QuitOnSignals quitOnSignals;
 
-    QMetaObject::invokeMethod(
-        qApp, [] { std::raise(GetParam()); }, Qt::QueuedConnection);
+    const auto raise = [] { std::raise(GetParam()); };
+    QMetaObject::invokeMethod(qApp, raise, Qt::QueuedConnection);
 
     EXPECT_EQ(QCoreApplication::exec(), 0);
 }
@@ -82,7 +83,7 @@ TEST_P(QuitOnSignalsTest, exitsImmediatelyBeforeThereIsAnEventLoop) {
 }
 
 TEST_P(QuitOnSignalsTest, ignoresTheSignalOnceDestroyed) {
-    { const Desktop::QuitOnSignals quitOnSignals; }
+    std::make_unique<Desktop::QuitOnSignals>().reset();
 
     std::raise(GetParam());
 }

@@ -2,6 +2,8 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 
+#include <memory>
+
 #include "Fernwick/Storage/StoreNow.hpp"
 #include "Storage/PreferencesFile.hpp"
 #include "Support/AsOrdinaryUser.hpp"
@@ -244,7 +246,7 @@ TEST_F(PreferencesFault, writesUnsavedValuesOnDestruction) {
 }
 
 TEST_F(PreferencesFault, writesNothingOnDestructionWithoutUnsavedValues) {
-    { const PreferencesFile preferences(path()); }
+    std::make_unique<PreferencesFile>(path()).reset();
 
     EXPECT_FALSE(fs::exists(path()));
 }

@@ -26,7 +26,7 @@ private:
 };
 
 mode_t permissionsOf(const fs::path& path) {
-    struct stat status {};
+    struct stat status = {};
     ::stat(path.c_str(), &status);
     return status.st_mode & 0777;
 }

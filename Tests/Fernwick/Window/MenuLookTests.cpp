@@ -1,6 +1,7 @@
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
+#include <QTransform>
 #include <functional>
 
 #include "Fernwick/Window/WindowTest.hpp"
@@ -43,7 +44,7 @@ protected:
     [[nodiscard]] static QImage part(QMenu& menu, QAction* item, double scale, int from, int to) {
         QImage image = picture(menu, scale);
         if (menu.isRightToLeft()) {
-            image = image.mirrored(true, false);
+            image = image.transformed(QTransform::fromScale(-1, 1));
         }
         const QRect row = menu.actionGeometry(item);
         const QRectF place(from, row.top(), to - from, row.height());

@@ -113,7 +113,8 @@ TEST_F(ChoiceGroup, emitsNothingWhenTheCurrentChoiceIsSet) {
 
 TEST_F(ChoiceGroup, movesFocusWithTheArrowKeysAndStopsAtTheEnds) {
     group.show();
-    QApplication::setActiveWindow(&group);
+    group.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&group));
     const QSignalSpy chosen(&group, &Garden::ChoiceGroup::chosen);
     choice(1)->setFocus(Qt::TabFocusReason);
 

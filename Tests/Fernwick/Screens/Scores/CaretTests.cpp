@@ -1,7 +1,8 @@
 #include <gtest/gtest.h>
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QInputMethodEvent>
+#include <QTest>
 
 #include "Garden/Look/Palette.hpp"
 #include "Screens/Scores/NameField.hpp"
@@ -18,7 +19,8 @@ protected:
     Caret() {
         field.resize(fieldWidth, field.sizeHint().height());
         field.show();
-        QApplication::setActiveWindow(&field);
+        field.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&field));
         field.setFocus();
         QCoreApplication::processEvents();
     }

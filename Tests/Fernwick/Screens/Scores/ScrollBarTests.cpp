@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QScrollArea>
 #include <QTest>
 
@@ -23,7 +23,8 @@ protected:
     RowsScrollBar() {
         rows.resize(areaWidth, areaHeight);
         rows.show();
-        QApplication::setActiveWindow(&rows);
+        rows.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&rows));
     }
 
     void fill(std::size_t count) {
