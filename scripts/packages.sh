@@ -28,6 +28,11 @@ private_display_packages() {
     cat <<'LIST'
 xvfb                 X server without a screen
 openbox              window manager
+LIST
+}
+
+viewer_packages() {
+    cat <<'LIST'
 x11vnc               shows that X server to a VNC viewer
 LIST
 }
