@@ -21,18 +21,23 @@ constexpr const char* rules =
     "qt.xkb.compose.warning=false\n"
     "qt.qpa.plugin.info=false\n";
 
-/// Messages without a category. The runtime folder is missing or has unusual permissions; a font
-/// lacks a script that another font provides.
+/// The runtime folder is missing or has unusual permissions; a font lacks a script that another
+/// font provides (since Qt 6.5 without the two spaces); the locale is not UTF-8, and Qt uses one
+/// that is; a screen reader asks about an object that no longer exists.
 constexpr std::array harmlessPrefixes{
     QLatin1String("QStandardPaths: "),
     QLatin1String("  OpenType support missing for "),
+    QLatin1String("OpenType support missing for "),
+    QLatin1String("Detected locale "),
+    QLatin1String("Could not find accessible on path: "),
 };
 
 /// Messages about one of the displays that Qt tries.
 constexpr QLatin1String waylandFailure("Failed to create wl_display");
 constexpr QLatin1String xServerFailure("could not connect to display");
 constexpr QLatin1String missingPlugin("Could not find the Qt platform plugin");
-constexpr std::array displayFailures{waylandFailure, xServerFailure, missingPlugin};
+constexpr QLatin1String xServerHint("From 6.5.0, xcb-cursor0 or libxcb-cursor0 is needed");
+constexpr std::array displayFailures{waylandFailure, xServerFailure, missingPlugin, xServerHint};
 
 /// After these messages Qt calls _exit().
 constexpr std::array waylandLosses{

@@ -50,6 +50,11 @@ TEST_F(QtMessagesTest, hidesHarmlessMessages) {
     EXPECT_EQ(printed("  OpenType support missing for \"Inter\", script 11"), "");
     EXPECT_EQ(printed("Failed to create wl_display (No such file or directory)"), "");
     EXPECT_EQ(printed("failed to create compose table", "qt.xkb.compose"), "");
+    EXPECT_EQ(printed("OpenType support missing for \"Inter\", script 11", "qt.text.font.db"), "");
+    EXPECT_EQ(printed("Could not find accessible on path: \"/1\"", "qt.accessibility.atspi"), "");
+    EXPECT_EQ(printed("Detected locale \"C\" with character encoding \"ANSI_X3.4-1968\", which is "
+                      "not UTF-8.\nQt depends on a UTF-8 locale, and has switched to \"C.UTF-8\"."),
+              "");
 }
 
 TEST_F(QtMessagesTest, showsEverythingElse) {
@@ -94,7 +99,9 @@ TEST_F(QtMessagesTest, namesTheDisplaysThatCannotBeOpened) {
     const EnvironmentVariable waylandDisplay("WAYLAND_DISPLAY", "");
 
     EXPECT_EXIT(openNoDisplay({"Failed to create wl_display (No such file or directory)",
-                               "could not connect to display :4711"}),
+                               "could not connect to display :4711",
+                               "From 6.5.0, xcb-cursor0 or libxcb-cursor0 is needed to load the Qt "
+                               "xcb platform plugin."}),
                 exitsWithStatus1,
                 "^fernwick: cannot open a display: DISPLAY=\":4711\", WAYLAND_DISPLAY=\"\"\n$");
 }
