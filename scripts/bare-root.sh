@@ -30,9 +30,11 @@ in_root_apt() {
     }
 }
 
+# make_bare_root [RELEASE]: of this system's release unless another one is named.
 make_bare_root() {
-    local codename mirror
+    local codename release mirror
     codename=$(. /etc/os-release && echo "$VERSION_CODENAME")
+    release=${1:-$codename}
     mirror=$(archives | grep " $codename main$" | cut -d ' ' -f 2 | head -n 1)
     [ -n "$mirror" ] || {
         echo "apt lists no archive of $codename; run apt-get update first." >&2
@@ -41,7 +43,7 @@ make_bare_root() {
     export_proxy
     mkdir -p /tmp/.X11-unix
     # In a mount namespace, so that debootstrap's mounts vanish with it.
-    unshare --mount debootstrap --variant=minbase "$codename" "$root" "$mirror" || return 1
-    archives >"$root/etc/apt/sources.list"
+    unshare --mount debootstrap --variant=minbase "$release" "$root" "$mirror" || return 1
+    archives | sed "s/ $codename/ $release/" >"$root/etc/apt/sources.list"
     in_root_apt update
 }

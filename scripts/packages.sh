@@ -45,11 +45,17 @@ file                 lets cpack find the binaries to strip
 LIST
 }
 
-bare_root_packages() {
-    package_packages
+root_packages() {
     cat <<'LIST'
 debootstrap          makes a minimal Debian in a folder
 util-linux           unshare, for mount and PID namespaces
+LIST
+}
+
+bare_root_packages() {
+    package_packages
+    root_packages
+    cat <<'LIST'
 xvfb                 X server without a screen
 openbox              window manager
 xdotool              sends key presses
@@ -62,7 +68,7 @@ desktops_packages() {
     cat <<'LIST'
 libqt6widgets6       run-time libraries of the game
 libqt6svg6           .
-libicu72             .
+^libicu[0-9]+$       .
 libuuid1             .
 libpulse0            .
 qt6-wayland          Qt's Wayland plugin
