@@ -1,5 +1,6 @@
-"""The command line: --help, --version, and arguments that are refused."""
+"""The command line: the options, and arguments that are refused."""
 
+import json
 import subprocess
 import time
 
@@ -39,6 +40,27 @@ def test_fails_when_help_cannot_be_written(desktop):
     with open("/dev/full", "w") as full:
         done = subprocess.run([PROGRAM, "--help"], env=desktop.environment, stdout=full)
     assert done.returncode == 1
+
+
+def test_exports_no_scores_before_the_first_start_and_without_a_display(run, home):
+    done = run("--export-scores", DISPLAY=None)
+    assert (done.returncode, done.stdout, done.stderr) == (0, "[]\n", "")
+    assert home.preferences() == {}
+
+
+def test_exports_the_scores_while_the_game_is_running(game, other_window, run, home):
+    game.save_a_run("Zoë")
+    home.saved()
+    other_window.take_focus_from(game)
+    done = run("--export-scores", DISPLAY=None)
+    assert (done.returncode, done.stderr) == (0, "")
+    entry, = json.loads(done.stdout)
+    assert set(entry) == {"id", "name", "score", "pace", "date"}
+    assert (entry["name"], entry["pace"]) == ("Zoë", "Classic")
+    assert json.loads(done.stdout) == home.high_scores()
+    # Give the window time to become active, if it wrongly does.
+    time.sleep(0.5)
+    assert not game.is_active()
 
 
 @pytest.mark.parametrize("arguments", [

@@ -8,25 +8,12 @@
 #include "Session/MainThread.hpp"
 #include "Session/Preferences.hpp"
 #include "Session/SoundEffects.hpp"
+#include "Session/StoredScores.hpp"
 
 namespace {
 
-const QString highScoresKey = QStringLiteral("high-scores-v1");
 const QString playerNameKey = QStringLiteral("player-name");
 const QString soundKey = QStringLiteral("sound");
-
-SnakeCore::HighScores storedScores(const Preferences& preferences) {
-    const std::optional<QByteArray> bytes = preferences.bytes(highScoresKey);
-    return bytes ? SnakeCore::HighScores(std::string_view(bytes->constData(),
-                                                          static_cast<std::size_t>(bytes->size())))
-                 : SnakeCore::HighScores();
-}
-
-/// Whether there is a stored table that was read as an empty one but is not.
-bool isDamaged(const Preferences& preferences, const SnakeCore::HighScores& read) {
-    return preferences.contains(highScoresKey) && read.entries().empty() &&
-           preferences.bytes(highScoresKey) != QByteArray::fromStdString(read.encoded());
-}
 
 }  // namespace
 
@@ -38,7 +25,7 @@ Session::Session(Preferences& preferences, SoundEffects& soundEffects, Step step
       best_(preferences.integer(bestKey(pace_))),
       sound_(preferences.boolean(soundKey).value_or(true)),
       scores_(storedScores(preferences)),
-      storedScoresAreDamaged_(isDamaged(preferences, scores_)),
+      storedScoresAreDamaged_(storedScoresAreDamaged(preferences, scores_)),
       playerName_(preferences.text(playerNameKey).value_or(QString())),
       runID_(SnakeCore::UUID::random()) {}
 

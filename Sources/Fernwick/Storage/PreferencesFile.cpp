@@ -45,6 +45,8 @@ PreferencesFile::PreferencesFile(const fs::path& path, std::chrono::milliseconds
     writer_ = std::make_unique<PreferencesWriter>(std::move(file), retryInterval);
 }
 
+PreferencesFile::PreferencesFile(PreferencesDocument document) : known_(std::move(document)) {}
+
 PreferencesFile::~PreferencesFile() = default;
 
 fs::path PreferencesFile::defaultPath() {

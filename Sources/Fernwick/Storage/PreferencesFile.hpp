@@ -20,6 +20,8 @@ public:
     /// kept in memory only.
     explicit PreferencesFile(const std::filesystem::path& path,
                              std::chrono::milliseconds retryInterval = std::chrono::seconds(3));
+    /// Starts with the settings in `document`, and keeps them in memory only.
+    explicit PreferencesFile(PreferencesDocument document);
     PreferencesFile(const PreferencesFile&) = delete;
     PreferencesFile& operator=(const PreferencesFile&) = delete;
     ~PreferencesFile() override;

@@ -57,6 +57,12 @@ SettingsFile::SettingsFile(fs::path path) : path_(std::move(path)) {
                      : "unreadable, starting with defaults");
 }
 
+std::optional<PreferencesDocument> SettingsFile::peek(const fs::path& path) {
+    const auto reading = DurableFile(path).read(PreferencesDocument::maximumSize);
+    return reading.state == DurableFile::State::absent ? PreferencesDocument()
+                                                       : documentOf(reading);
+}
+
 bool SettingsFile::write(const SettingsChanges& changes) {
     constexpr std::chrono::seconds lockTimeout{1};
     const DurableFile file(path_);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 
 #include "Storage/PreferencesDocument.hpp"
 
@@ -26,6 +27,10 @@ class SettingsFile {
 public:
     /// Reads the file, which need not exist.
     explicit SettingsFile(std::filesystem::path path);
+
+    /// What the file at `path` holds; an empty document if there is none, nothing if it cannot be
+    /// read. Changes no file and takes no lock.
+    [[nodiscard]] static std::optional<PreferencesDocument> peek(const std::filesystem::path& path);
 
     /// All settings, as last read or written.
     [[nodiscard]] const PreferencesDocument& document() const { return document_; }

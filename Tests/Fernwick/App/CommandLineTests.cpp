@@ -1,11 +1,19 @@
 #include <getopt.h>
 #include <gtest/gtest.h>
 
+#include <QCborMap>
+#include <QCborValue>
 #include <cstdio>
+#include <filesystem>
 #include <string>
 #include <vector>
 
 #include "App/CommandLine.hpp"
+#include "Support/EnvironmentVariable.hpp"
+#include "Support/FileContent.hpp"
+#include "Support/TemporaryFolder.hpp"
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -69,6 +77,7 @@ TEST(CommandLine, printsHelpWithEveryOption) {
     EXPECT_TRUE(help.out.starts_with("Usage: fernwick [OPTION]\n")) << help.out;
     EXPECT_NE(help.out.find("-h, --help "), std::string::npos) << help.out;
     EXPECT_NE(help.out.find("-v, --version "), std::string::npos) << help.out;
+    EXPECT_NE(help.out.find(" --export-scores "), std::string::npos) << help.out;
     EXPECT_EQ(outcomeOf({"-h"}), help);
 }
 
@@ -82,10 +91,35 @@ TEST(CommandLine, fitsHelpInto80Columns) {
     }
 }
 
+TEST(CommandLine, printsTheScoresOfTheSettingsFile) {
+    const TemporaryFolder folder;
+    const EnvironmentVariable config("XDG_CONFIG_HOME", folder.path().c_str());
+    const fs::path settings = folder.path() / "fernwick" / "preferences.cbor";
+    const QByteArray table = "[]";
+    writeFile(settings, QCborMap{{QStringLiteral("high-scores-v1"), table}}.toCborValue().toCbor());
+    const Outcome printsTable{0, "[]\n", ""};
+
+    EXPECT_EQ(outcomeOf({"--export-scores"}), printsTable);
+
+    fs::remove(settings);
+    EXPECT_EQ(outcomeOf({"--export-scores"}), printsTable);
+}
+
+TEST(CommandLine, namesASettingsFileWhoseScoresCannotBeRead) {
+    const TemporaryFolder folder;
+    const EnvironmentVariable config("XDG_CONFIG_HOME", folder.path().c_str());
+    const fs::path settings = folder.path() / "fernwick" / "preferences.cbor";
+    writeFile(settings, "not CBOR");
+
+    const Outcome refused{1, "", "fernwick: cannot read the scores in " + settings.string() + "\n"};
+    EXPECT_EQ(outcomeOf({"--export-scores"}), refused);
+}
+
 TEST(CommandLine, refusesAnUnknownOption) {
     expectRefused({"--windowed"}, "--windowed");
     expectRefused({"-x"}, "'x'");
     expectRefused({"--version=2"}, "--version");
+    expectRefused({"--export-scores=all"}, "--export-scores");
     expectRefused({"--windowed", "--help"}, "--windowed");
 }
 
