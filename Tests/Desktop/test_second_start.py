@@ -7,7 +7,7 @@ import time
 
 import pytest
 from accessibility import call, connect
-from game import PAUSED, PROGRAM
+from game import MOVING, PAUSED, PROGRAM
 from gi.repository import GLib
 from waiting import TIMEOUT, eventually
 
@@ -162,6 +162,39 @@ def test_the_desktop_activates_the_window_over_d_bus(
     call(bus, (BUS_NAME, "/org/fernwick/fernwick"), "org.freedesktop.Application", method,
          signature, *arguments)
     eventually(game.is_active, "the window is active")
+
+
+def choose_action(bus, action):
+    call(bus, (BUS_NAME, "/org/fernwick/fernwick"), "org.freedesktop.Application", "ActivateAction",
+         "(sava{sv})", action, [], {"desktop-startup-id": GLib.Variant("s", "launcher_TIME0")})
+
+
+def test_the_new_game_action_activates_the_window_and_starts_a_run(game, bus, other_window):
+    eventually(lambda: has_owner(bus), "the game owns its bus name")
+    other_window.take_focus_from(game)
+    choose_action(bus, "new-game")
+    eventually(game.is_active, "the window is active")
+    game.wait_for(MOVING)
+
+
+def test_the_new_game_action_does_not_discard_a_score_that_waits_for_a_name(game, bus):
+    eventually(lambda: has_owner(bus), "the game owns its bus name")
+    game.start_run()
+    game.press("Up")
+    game.wait_for("Game over.")
+    choose_action(bus, "new-game")
+    # The reply to the next call comes after the action has been handled.
+    call(bus, (BUS_NAME, "/org/fernwick/fernwick"), "org.freedesktop.DBus.Peer", "Ping", "()")
+    assert game.shows("Game over.")
+
+
+def test_ignores_an_action_that_it_does_not_have(game, bus, other_window):
+    eventually(lambda: has_owner(bus), "the game owns its bus name")
+    other_window.take_focus_from(game)
+    choose_action(bus, "old-game")
+    # Give the window time to become active, if it wrongly does.
+    time.sleep(0.5)
+    assert not game.is_active()
 
 
 def test_releases_its_bus_name_on_exit(game, bus):

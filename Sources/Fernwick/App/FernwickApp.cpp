@@ -44,3 +44,9 @@ void FernwickApp::bringForward(const QByteArray& activationToken) {
         }
     }
 }
+
+void FernwickApp::startNewGame(const QByteArray& activationToken) {
+    assertMainThread();
+    bringForward(activationToken);
+    session_.start();
+}

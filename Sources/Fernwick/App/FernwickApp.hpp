@@ -25,6 +25,9 @@ public:
     /// notification); may be empty.
     void bringForward(const QByteArray& activationToken);
 
+    /// Brings the window to the front as above, and starts a run if that is allowed.
+    void startNewGame(const QByteArray& activationToken);
+
     [[nodiscard]] Session& session() { return session_; }
     [[nodiscard]] Desktop::KeyboardFocus& keyboardFocus() { return keyboardFocus_; }
     [[nodiscard]] GameWindow& window() { return window_; }

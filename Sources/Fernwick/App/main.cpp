@@ -80,7 +80,9 @@ int main(int argc, char* argv[]) {
         fernwick.keyboardFocus().followOverview(bus);
         new Desktop::DBusActivation(
             bus, applicationID, &fernwick,
-            [&fernwick](const QByteArray& token) { fernwick.bringForward(token); });
+            [&fernwick](const QByteArray& token) { fernwick.bringForward(token); },
+            {{QStringLiteral("new-game"),
+              [&fernwick](const QByteArray& token) { fernwick.startNewGame(token); }}});
         trimHeap();
     });
     QObject::connect(&singleInstance, &Desktop::SingleInstance::activationRequested, &fernwick,

@@ -6,9 +6,25 @@
 
 namespace Desktop {
 
+namespace {
+
+QByteArray tokenIn(const QVariantMap& platformData) {
+    // Wayland desktops send the first key, X11 desktops the second.
+    QString token = platformData.value(QStringLiteral("activation-token")).toString();
+    if (token.isEmpty()) {
+        token = platformData.value(QStringLiteral("desktop-startup-id")).toString();
+    }
+    return token.toUtf8();
+}
+
+}  // namespace
+
 DBusActivation::DBusActivation(QDBusConnection bus, const QString& applicationID,
-                               QObject* application, Activated activated)
-    : QDBusAbstractAdaptor(application), activated_(std::move(activated)) {
+                               QObject* application, Activated activated,
+                               QMap<QString, Activated> actions)
+    : QDBusAbstractAdaptor(application),
+      activated_(std::move(activated)),
+      actions_(std::move(actions)) {
     const QString path = u'/' + QString(applicationID).replace(u'.', u'/');
     // Register the object before the name: clients may call as soon as they see the name.
     if (bus.isConnected() && bus.registerObject(path, application)) {
@@ -21,18 +37,18 @@ DBusActivation::DBusActivation(QDBusConnection bus, const QString& applicationID
 }
 
 void DBusActivation::Activate(const QVariantMap& platformData) {
-    // Wayland desktops send the first key, X11 desktops the second.
-    QString token = platformData.value(QStringLiteral("activation-token")).toString();
-    if (token.isEmpty()) {
-        token = platformData.value(QStringLiteral("desktop-startup-id")).toString();
-    }
-    activated_(token.toUtf8());
+    activated_(tokenIn(platformData));
 }
 
 void DBusActivation::Open(const QStringList&, const QVariantMap& platformData) {
     Activate(platformData);
 }
 
-void DBusActivation::ActivateAction(const QString&, const QVariantList&, const QVariantMap&) {}
+void DBusActivation::ActivateAction(const QString& action, const QVariantList&,
+                                    const QVariantMap& platformData) {
+    if (const Activated& run = actions_.value(action)) {
+        run(tokenIn(platformData));
+    }
+}
 
 }  // namespace Desktop

@@ -95,3 +95,25 @@ TEST_F(Application, restoresItsMinimisedWindowWhenBroughtForward) {
     EXPECT_FALSE(fernwick.window().isMinimized());
     EXPECT_TRUE(fernwick.window().isVisible());
 }
+
+TEST_F(Application, startsARunWithItsWindowInFrontWhenANewGameIsAskedFor) {
+    fernwick.show();
+    fernwick.window().showMinimized();
+    QCoreApplication::processEvents();
+
+    fernwick.startNewGame({});
+    QCoreApplication::processEvents();
+
+    EXPECT_FALSE(fernwick.window().isMinimized());
+    EXPECT_TRUE(session.running());
+}
+
+TEST_F(Application, startsNoRunOverTheHighScoresWhenANewGameIsAskedFor) {
+    fernwick.show();
+    session.openScores();
+
+    fernwick.startNewGame({});
+
+    EXPECT_EQ(session.phase(), Session::Phase::fresh);
+    EXPECT_TRUE(session.showingScores());
+}
