@@ -18,7 +18,7 @@ export_proxy() {
 in_root() {
     unshare --mount --pid --fork --kill-child bash -c '
         mount -t proc proc "$0/proc" && mount --rbind /dev "$0/dev" &&
-            mkdir -p "$0/tmp/.X11-unix" && mount --rbind /tmp/.X11-unix "$0/tmp/.X11-unix" &&
+            mkdir -p -m 1777 "$0/tmp/.X11-unix" && mount --rbind /tmp/.X11-unix "$0/tmp/.X11-unix" &&
             exec chroot "$0" "$@"' "$root" "$@"
 }
 

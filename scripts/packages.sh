@@ -40,8 +40,9 @@ LIST
 package_packages() {
     build_packages
     cat <<'LIST'
-dpkg-dev             dpkg-shlibdeps, which finds the dependencies of the package
-file                 lets cpack find the binaries to strip
+build-essential      what dpkg-buildpackage takes for granted
+debhelper            builds the package by the files in debian
+dpkg-dev             dpkg-buildpackage
 LIST
 }
 
@@ -56,10 +57,8 @@ bare_root_packages() {
     package_packages
     root_packages
     cat <<'LIST'
-xvfb                 X server without a screen
-openbox              window manager
-xdotool              sends key presses
-imagemagick          takes screenshots
+autopkgtest          runs the tests of the package in a minimal Debian
+piuparts             installs, purges and looks for what is left behind
 LIST
 }
 

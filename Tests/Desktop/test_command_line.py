@@ -49,14 +49,14 @@ def test_exports_no_scores_before_the_first_start_and_without_a_display(run, hom
 
 
 def test_exports_the_scores_while_the_game_is_running(game, other_window, run, home):
-    game.save_a_run("Zoë")
+    game.save_a_run("Ada")
     home.saved()
     other_window.take_focus_from(game)
     done = run("--export-scores", DISPLAY=None)
     assert (done.returncode, done.stderr) == (0, "")
     entry, = json.loads(done.stdout)
     assert set(entry) == {"id", "name", "score", "pace", "date"}
-    assert (entry["name"], entry["pace"]) == ("Zoë", "Classic")
+    assert (entry["name"], entry["pace"]) == ("Ada", "Classic")
     assert json.loads(done.stdout) == home.high_scores()
     # Give the window time to become active, if it wrongly does.
     time.sleep(0.5)

@@ -11,7 +11,7 @@ BUILD = pathlib.Path(os.environ.get("FERNWICK_BUILD", ROOT / "build/release")).r
 @pytest.fixture(scope="session")
 def package():
     """The Debian package that scripts/package built."""
-    package, = (BUILD / "package").glob("*.deb")
+    package, = (ROOT / "build/package").glob("*.deb")
     return package
 
 
