@@ -164,6 +164,28 @@ def test_the_desktop_activates_the_window_over_d_bus(
     eventually(game.is_active, "the window is active")
 
 
+def test_ends_the_busy_cursor_of_an_activation_over_d_bus(game, bus, desktop, tmp_path):
+    eventually(lambda: has_owner(bus), "the game owns its bus name")
+    events = tmp_path / "events"
+    with open(events, "wb") as file:
+        process = subprocess.Popen(["stdbuf", "-oL", "xev", "-root", "-event", "property"],
+                                   env=desktop.environment, stdout=file)
+
+    def parts(kind):
+        return len(re.findall(rf"ClientMessage event.*\n.*\({kind}\), format 8", events.read_text()))
+
+    try:
+        # Until xev listens, nothing arrives.
+        eventually(lambda: choose_action(bus, "new-game") or parts("_NET_STARTUP_INFO_BEGIN"),
+                   "the message begins")
+        # 'remove: ID="launcher_TIME0"' has two parts of at most 20 bytes.
+        eventually(lambda: parts("_NET_STARTUP_INFO") == parts("_NET_STARTUP_INFO_BEGIN"),
+                   "the message is complete")
+    finally:
+        process.terminate()
+        process.wait()
+
+
 def choose_action(bus, action):
     call(bus, (BUS_NAME, "/org/fernwick/fernwick"), "org.freedesktop.Application", "ActivateAction",
          "(sava{sv})", action, [], {"desktop-startup-id": GLib.Variant("s", "launcher_TIME0")})

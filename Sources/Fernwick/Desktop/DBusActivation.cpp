@@ -4,6 +4,8 @@
 #include <QStringList>
 #include <utility>
 
+#include "Desktop/X11StartupNotification.hpp"
+
 namespace Desktop {
 
 namespace {
@@ -37,7 +39,9 @@ DBusActivation::DBusActivation(QDBusConnection bus, const QString& applicationID
 }
 
 void DBusActivation::Activate(const QVariantMap& platformData) {
-    activated_(tokenIn(platformData));
+    const QByteArray token = tokenIn(platformData);
+    activated_(token);
+    endX11StartupNotification(token);
 }
 
 void DBusActivation::Open(const QStringList&, const QVariantMap& platformData) {
@@ -47,7 +51,9 @@ void DBusActivation::Open(const QStringList&, const QVariantMap& platformData) {
 void DBusActivation::ActivateAction(const QString& action, const QVariantList&,
                                     const QVariantMap& platformData) {
     if (const Activated& run = actions_.value(action)) {
-        run(tokenIn(platformData));
+        const QByteArray token = tokenIn(platformData);
+        run(token);
+        endX11StartupNotification(token);
     }
 }
 
