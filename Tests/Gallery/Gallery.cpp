@@ -4,12 +4,14 @@
 #include <cstdio>
 
 #include "App/ApplicationStyle.hpp"
+#include "App/CommandLine.hpp"
 #include "App/Language.hpp"
 #include "Gallery/Scenes.hpp"
 #include "Session/Session.hpp"
 #include "Session/SoundEffects.hpp"
 #include "Storage/PreferencesFile.hpp"
 #include "Support/OffscreenScreens.hpp"
+#include "Support/StillStyle.hpp"
 #include "Window/GameWindow.hpp"
 
 // Renders every scene at one size into a folder, and a contact sheet of all scenes.
@@ -72,6 +74,8 @@ int main(int argc, char* argv[]) {
     const Language language(Language::bestFor({wanted}));
     applyGardenStyle();
     applyGardenFonts();
+    const StillStyle still;
+    QApplication::setApplicationVersion(QString::fromLatin1(programVersion()));
     if (!QDir().mkpath(folder.path())) {
         std::fputs("cannot create the folder\n", stderr);
         return 1;

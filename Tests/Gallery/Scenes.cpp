@@ -144,6 +144,11 @@ Scene sheet(const char* name, Pace pace) {
             }};
 }
 
+Scene help(const char* name, Session::Sheet sheet) {
+    return {QString::fromLatin1(name), storeBest, freshGame,
+            [sheet](Session& session) { session.openSheet(sheet); }};
+}
+
 Scene nameEntry(const char* name, const char* playerName) {
     return {QString::fromLatin1(name), storeBestAndTable, endedGame,
             [playerName](Session& session) {
@@ -181,6 +186,8 @@ std::vector<Scene> galleryScenes() {
         sheet("sheet-gentle-empty", Pace::gentle),
         sheet("sheet-classic-full", Pace::classic),
         sheet("sheet-swift", Pace::swift),
+        help("sheet-keys", Session::Sheet::keys),
+        help("sheet-about", Session::Sheet::about),
         {"sound-off", storeBest, [] { return playedGreedilyTo(40); },
          [](Session& session) {
              session.setSound(false);

@@ -25,6 +25,10 @@ const QString catalogueStem = QStringLiteral("fernwick_");
     QT_TRANSLATE_NOOP("QShortcut", "Ctrl"),
     QT_TRANSLATE_NOOP("QShortcut", "Shift"),
     QT_TRANSLATE_NOOP("QShortcut", "Meta"),
+    QT_TRANSLATE_NOOP("QShortcut", "Space"),
+    QT_TRANSLATE_NOOP("QShortcut", "Esc"),
+    QT_TRANSLATE_NOOP("QShortcut", "Tab"),
+    QT_TRANSLATE_NOOP("QShortcut", "Return"),
     //: What can be done with a button, and what that means; read aloud.
     QT_TRANSLATE_NOOP("QAccessibleActionInterface", "Press"),
     QT_TRANSLATE_NOOP("QAccessibleActionInterface", "Triggers the action"),

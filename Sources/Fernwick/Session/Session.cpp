@@ -1,6 +1,7 @@
 #include "Session/Session.hpp"
 
 #include <QTimer>
+#include <algorithm>
 #include <exception>
 #include <string>
 #include <utility>
@@ -31,8 +32,14 @@ Session::Session(Preferences& preferences, SoundEffects& soundEffects, Step step
 
 Session::~Session() = default;
 
+bool Session::hasStoredScores() const {
+    return preferences_.contains(highScoresKey) || std::ranges::any_of(allPaces, [this](Pace pace) {
+               return preferences_.contains(bestKey(pace));
+           });
+}
+
 void Session::start() {
-    if (awaitingName() || showingScores_) {
+    if (awaitingName() || sheet_ != Sheet::none) {
         return;
     }
     runID_ = SnakeCore::UUID::random();
@@ -44,7 +51,7 @@ void Session::start() {
 }
 
 void Session::pause() {
-    if (inRun() && !showingScores_) {
+    if (inRun() && sheet_ == Sheet::none) {
         togglePause();
         Q_EMIT changed();
     }
@@ -101,19 +108,25 @@ void Session::skipSaving() {
     }
 }
 
-void Session::openScores() {
+void Session::openSheet(Sheet sheet) {
     if (running()) {
         togglePause();
     }
     scorePace_ = pace_;
-    showingScores_ = true;
+    sheet_ = sheet;
     Q_EMIT changed();
 }
 
-void Session::closeScores() {
-    if (showingScores_) {
-        showingScores_ = false;
+void Session::closeSheet() {
+    if (sheet_ != Sheet::none) {
+        sheet_ = Sheet::none;
         Q_EMIT changed();
+    }
+}
+
+void Session::closeScores() {
+    if (showingScores()) {
+        closeSheet();
     }
 }
 
@@ -191,7 +204,7 @@ void Session::play(SoundEffect effect) {
 }
 
 bool Session::key(GameKey key) {
-    if (awaitingName() || showingScores_) {
+    if (awaitingName() || sheet_ != Sheet::none) {
         return false;
     }
     switch (key) {

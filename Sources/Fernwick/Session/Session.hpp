@@ -36,6 +36,14 @@ public:
         skipped,       ///< the run has ended and its score was not saved
     };
 
+    /// What lies over the screen. No run starts or resumes below it.
+    enum class Sheet {
+        none,
+        scores,  ///< the high scores
+        keys,    ///< the keys of the game
+        about,   ///< the version, and what the game is built with
+    };
+
     /// Moves a game on by one step.
     using Step = std::function<void(SnakeCore::Game&)>;
 
@@ -64,11 +72,14 @@ public:
     /// Whether sound effects are on.
     [[nodiscard]] bool sound() const { return sound_; }
     [[nodiscard]] const SnakeCore::HighScores& scores() const { return scores_; }
+    /// Whether a best or a table of scores is stored.
+    [[nodiscard]] bool hasStoredScores() const;
     /// The text of the name field.
     [[nodiscard]] const QString& playerName() const { return playerName_; }
-    /// Whether the high-scores sheet is up. No run starts or resumes meanwhile.
-    [[nodiscard]] bool showingScores() const { return showingScores_; }
-    /// The pace whose table the sheet shows.
+    [[nodiscard]] Sheet sheet() const { return sheet_; }
+    /// Whether the high-scores sheet is up.
+    [[nodiscard]] bool showingScores() const { return sheet_ == Sheet::scores; }
+    /// The pace whose table the high-scores sheet shows.
     [[nodiscard]] Pace scorePace() const { return scorePace_; }
     /// The identity of the current run and of its entry in the table.
     [[nodiscard]] const SnakeCore::UUID& runID() const { return runID_; }
@@ -80,9 +91,9 @@ public:
     [[nodiscard]] bool held() const { return held_; }
 
     /// Begins a new run, even during another one. Does nothing while waiting for a name or while
-    /// the sheet is open.
+    /// a sheet is open.
     void start();
-    /// Toggles between running and paused. Does nothing outside of a run or while the sheet is
+    /// Toggles between running and paused. Does nothing outside of a run or while a sheet is
     /// open.
     void pause();
     /// Sets `pace()` and loads its best. A running timer keeps its interval until the next resume.
@@ -94,8 +105,12 @@ public:
     void saveScore();
     /// Ends the name entry without recording the run. Does nothing unless waiting for a name.
     void skipSaving();
-    /// Pauses a running run and shows the sheet on the table of `pace()`.
-    void openScores();
+    /// Pauses a running run and shows `sheet`, in place of one that is open. The high scores begin
+    /// with the table of `pace()`.
+    void openSheet(Sheet sheet);
+    void closeSheet();
+    void openScores() { openSheet(Sheet::scores); }
+    /// Closes the sheet if it is that of the high scores.
     void closeScores();
     void chooseScorePace(Pace pace);
     /// Turns the sound on or off and stores the setting.
@@ -128,7 +143,7 @@ private:
     SnakeCore::HighScores scores_;
     bool storedScoresAreDamaged_;
     QString playerName_;
-    bool showingScores_ = false;
+    Sheet sheet_ = Sheet::none;
     Pace scorePace_ = Pace::classic;
     SnakeCore::UUID runID_;
     Pace runPace_ = Pace::classic;

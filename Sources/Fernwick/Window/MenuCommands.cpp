@@ -16,6 +16,7 @@ MenuCommands::MenuCommands(Session& session, QMenuBar& bar, QWidget& window)
     //: Titles of menus; they and their items are worded as the desktops of the language do.
     QMenu& file = *bar.addMenu(tr("File"));
     QMenu& game = *bar.addMenu(tr("Game"));
+    QMenu& help = *bar.addMenu(tr("Help"));
     newGame_ = add(file, tr("New Game"), {QKeySequence(Qt::CTRL | Qt::Key_N)},
                    [this] { session_.start(); });
     file.addSeparator();
@@ -32,6 +33,10 @@ MenuCommands::MenuCommands(Session& session, QMenuBar& bar, QWidget& window)
     soundEffects_ = add(game, tr("Sound Effects"), {},
                         [this] { session_.setSound(soundEffects_->isChecked()); });
     soundEffects_->setCheckable(true);
+
+    add(help, tr("Keys"), {QKeySequence(Qt::Key_F1)},
+        [this] { session_.openSheet(Session::Sheet::keys); });
+    add(help, tr("About Fernwick"), {}, [this] { session_.openSheet(Session::Sheet::about); });
 
     connect(&session_, &Session::changed, this, &MenuCommands::refresh);
     refresh();
@@ -53,7 +58,7 @@ QAction* MenuCommands::add(QMenu& menu, const QString& title, const QList<QKeySe
 }
 
 void MenuCommands::refresh() {
-    newGame_->setEnabled(!session_.awaitingName() && !session_.showingScores());
+    newGame_->setEnabled(!session_.awaitingName() && session_.sheet() == Session::Sheet::none);
     pause_->setText(session_.running() ? tr("Pause") : tr("Resume"));
     soundEffects_->setChecked(session_.sound());
 }

@@ -11,7 +11,7 @@ class QMenuBar;
 class QWidget;
 class Session;
 
-/// The actions of the File and Game menus: titles, shortcuts and when each is enabled.
+/// The actions of the File, Game and Help menus: titles, shortcuts and when each is enabled.
 class MenuCommands : public QObject {
     Q_OBJECT
 

@@ -26,7 +26,8 @@ protected:
     }
 
     [[nodiscard]] QAction* item(const QString& title) const {
-        for (const QString& name : {QStringLiteral("File"), QStringLiteral("Game")}) {
+        for (const QString& name :
+             {QStringLiteral("File"), QStringLiteral("Game"), QStringLiteral("Help")}) {
             for (QAction* action : menu(name)->actions()) {
                 if (action->text() == title) {
                     return action;
@@ -52,6 +53,8 @@ protected:
         EXPECT_TRUE(canChoose("High Scores"));
         EXPECT_TRUE(canChoose("Sound Effects"));
         EXPECT_TRUE(canChoose("Quit"));
+        EXPECT_TRUE(canChoose("Keys"));
+        EXPECT_TRUE(canChoose("About Fernwick"));
     }
 };
 
@@ -61,6 +64,7 @@ TEST_F(Menus, listTheirItemsInOrder) {
     EXPECT_EQ(titles("File"), QStringList({"New Game", "—", "Quit"}));
     EXPECT_EQ(titles("Game"),
               QStringList({"Toggle Full Screen", "—", "High Scores", "Resume", "Sound Effects"}));
+    EXPECT_EQ(titles("Help"), QStringList({"Keys", "About Fernwick"}));
 }
 
 TEST_F(Menus, showShortcuts) {
@@ -72,10 +76,13 @@ TEST_F(Menus, showShortcuts) {
     EXPECT_EQ(item("High Scores")->shortcut(), QKeySequence("Ctrl+L"));
     EXPECT_EQ(item("Resume")->shortcut(), QKeySequence("Ctrl+P"));
     EXPECT_TRUE(item("Sound Effects")->shortcuts().isEmpty());
+    EXPECT_EQ(item("Keys")->shortcut(), QKeySequence("F1"));
+    EXPECT_TRUE(item("About Fernwick")->shortcuts().isEmpty());
 }
 
 TEST_F(Menus, doNotRepeatACommandWhileItsKeysAreHeld) {
-    for (const QString& title : {QStringLiteral("File"), QStringLiteral("Game")}) {
+    for (const QString& title :
+         {QStringLiteral("File"), QStringLiteral("Game"), QStringLiteral("Help")}) {
         for (const QAction* action : menu(title)->actions()) {
             EXPECT_TRUE(action->isSeparator() || !action->autoRepeat())
                 << action->text().toStdString();
@@ -93,14 +100,16 @@ TEST_F(Menus, enableTheirItemsInEveryPhase) {
     });
 }
 
-TEST_F(Menus, disableNewGameWhileTheScoreSheetIsOpen) {
-    openScores();
-    EXPECT_FALSE(canChoose("New Game"));
-    expectUnconditionalItemsEnabled();
+TEST_F(Menus, disableNewGameWhileASheetIsOpen) {
+    for (const char* sheet : {"High Scores", "Keys", "About Fernwick"}) {
+        choose(QString::fromLatin1(sheet));
+        EXPECT_FALSE(canChoose("New Game")) << sheet;
+        expectUnconditionalItemsEnabled();
 
-    session.closeScores();
-    processEvents();
-    EXPECT_TRUE(canChoose("New Game"));
+        session.closeSheet();
+        processEvents();
+        EXPECT_TRUE(canChoose("New Game")) << sheet;
+    }
 }
 
 TEST_F(Menus, startANewGame) {
@@ -133,6 +142,14 @@ TEST_F(Menus, openTheScoreSheet) {
     choose("High Scores");
 
     EXPECT_TRUE(session.showingScores());
+}
+
+TEST_F(Menus, openTheSheetsOfHelp) {
+    choose("Keys");
+    EXPECT_EQ(session.sheet(), Session::Sheet::keys);
+
+    choose("About Fernwick");
+    EXPECT_EQ(session.sheet(), Session::Sheet::about);
 }
 
 TEST_F(Menus, openTheScoreSheetWhileANameIsAwaited) {

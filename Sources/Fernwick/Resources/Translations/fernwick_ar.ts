@@ -2,6 +2,24 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ar" sourcelanguage="en">
 <context>
+    <name>AboutView</name>
+    <message>
+        <source>Fernwick</source>
+        <extracomment>The name of the game. Stays as it is in every language.</extracomment>
+        <translation>Fernwick</translation>
+    </message>
+    <message>
+        <source>Version %@</source>
+        <extracomment>%@ is a number such as 1.0.0; it has to stay.</extracomment>
+        <translation>الإصدار %@</translation>
+    </message>
+    <message>
+        <source>Grown from what others share. Thank you.</source>
+        <extracomment>Of the fonts and libraries above, whose makers share them.</extracomment>
+        <translation>نما ممّا يشاركه الآخرون. شكرًا لهم.</translation>
+    </message>
+</context>
+<context>
     <name>Board</name>
     <message>
         <source>Snake board. Score %lld. Use arrow keys or W A S D to move.</source>
@@ -36,6 +54,13 @@
     </message>
 </context>
 <context>
+    <name>FullScreenHint</name>
+    <message>
+        <source>Press F11 to leave full screen</source>
+        <translation>اضغط F11 للخروج من ملء الشاشة</translation>
+    </message>
+</context>
+<context>
     <name>GameOverView</name>
     <message>
         <source>Fully grown.</source>
@@ -58,6 +83,13 @@
         <source>Fernwick</source>
         <extracomment>The name of the game. Stays as it is in every language.</extracomment>
         <translation>Fernwick</translation>
+    </message>
+</context>
+<context>
+    <name>Garden::Sheet</name>
+    <message>
+        <source>Done</source>
+        <translation>تم</translation>
     </message>
 </context>
 <context>
@@ -94,10 +126,6 @@
         <translation>أعلى النتائج.</translation>
     </message>
     <message>
-        <source>Done</source>
-        <translation>تم</translation>
-    </message>
-    <message>
         <source>Top 10 for each speed · saved on this Mac</source>
         <translation>أفضل 10 لكل سرعة · محفوظة على جهاز Mac هذا</translation>
     </message>
@@ -122,13 +150,65 @@
     </message>
     <message>
         <source>or WASD to move</source>
-        <extracomment>Follows the four arrows. W A S D are places on the keyboard: name the letters that the keyboards of the language show there.</extracomment>
+        <extracomment>Follows the four arrows. WASD stays as it is: the game shows ZQSD instead where keyboards have these letters there.</extracomment>
         <translation>أو WASD للحركة</translation>
     </message>
     <message>
         <source>·   SPACE to pause   ·   R to restart</source>
         <extracomment>Three spaces on each side of a dot, as here. R stays a Latin letter.</extracomment>
         <translation>·   المسافة للإيقاف المؤقت   ·   R للبدء من جديد</translation>
+    </message>
+</context>
+<context>
+    <name>KeysView</name>
+    <message>
+        <source>The keys.</source>
+        <translation>المفاتيح.</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <extracomment>What the keys of the game do: short phrases, in the words of the menus.</extracomment>
+        <translation>الحركة</translation>
+    </message>
+    <message>
+        <source>Start, pause or resume</source>
+        <translation>بدء أو إيقاف مؤقت أو استئناف</translation>
+    </message>
+    <message>
+        <source>Pause, or go back</source>
+        <translation>إيقاف مؤقت أو رجوع</translation>
+    </message>
+    <message>
+        <source>Start again</source>
+        <translation>بدء من جديد</translation>
+    </message>
+    <message>
+        <source>Pause or resume</source>
+        <translation>إيقاف مؤقت أو استئناف</translation>
+    </message>
+    <message>
+        <source>High scores</source>
+        <translation>أعلى النتائج</translation>
+    </message>
+    <message>
+        <source>Enter or leave full screen</source>
+        <translation>دخول ملء الشاشة أو الخروج منه</translation>
+    </message>
+    <message>
+        <source>Menus</source>
+        <translation>القوائم</translation>
+    </message>
+    <message>
+        <source>Reach a button, press it</source>
+        <translation>الانتقال إلى زر والضغط عليه</translation>
+    </message>
+    <message>
+        <source>These keys</source>
+        <translation>هذه المفاتيح</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>خروج</translation>
     </message>
 </context>
 <context>
@@ -169,6 +249,18 @@
     <message>
         <source>Pause</source>
         <translation>إيقاف مؤقت</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>مساعدة</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>المفاتيح</translation>
+    </message>
+    <message>
+        <source>About Fernwick</source>
+        <translation>حول Fernwick</translation>
     </message>
 </context>
 <context>
@@ -227,7 +319,7 @@
     <message>
         <source>Grow again</source>
         <extracomment>A button; so are &quot;Keep growing&quot; and &quot;Let&apos;s grow&quot;. An arrow follows the words.</extracomment>
-        <translation>نموّ من جديد</translation>
+        <translation>انمُ من جديد</translation>
     </message>
     <message>
         <source>No rush.</source>
@@ -330,6 +422,22 @@
     <message>
         <source>Meta</source>
         <translation>Super</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>المسافة</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Tab</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Enter</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,24 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>AboutView</name>
+    <message>
+        <source>Fernwick</source>
+        <extracomment>The name of the game. Stays as it is in every language.</extracomment>
+        <translation>Fernwick</translation>
+    </message>
+    <message>
+        <source>Version %@</source>
+        <extracomment>%@ is a number such as 1.0.0; it has to stay.</extracomment>
+        <translation>Versión %@</translation>
+    </message>
+    <message>
+        <source>Grown from what others share. Thank you.</source>
+        <extracomment>Of the fonts and libraries above, whose makers share them.</extracomment>
+        <translation>Ha crecido de lo que otros comparten. Gracias.</translation>
+    </message>
+</context>
+<context>
     <name>Board</name>
     <message>
         <source>Snake board. Score %lld. Use arrow keys or W A S D to move.</source>
@@ -36,6 +54,13 @@
     </message>
 </context>
 <context>
+    <name>FullScreenHint</name>
+    <message>
+        <source>Press F11 to leave full screen</source>
+        <translation>Pulsa F11 para salir de la pantalla completa</translation>
+    </message>
+</context>
+<context>
     <name>GameOverView</name>
     <message>
         <source>Fully grown.</source>
@@ -58,6 +83,13 @@
         <source>Fernwick</source>
         <extracomment>The name of the game. Stays as it is in every language.</extracomment>
         <translation>Fernwick</translation>
+    </message>
+</context>
+<context>
+    <name>Garden::Sheet</name>
+    <message>
+        <source>Done</source>
+        <translation>Hecho</translation>
     </message>
 </context>
 <context>
@@ -94,16 +126,12 @@
         <translation>Las mejores puntuaciones.</translation>
     </message>
     <message>
-        <source>Done</source>
-        <translation>Hecho</translation>
-    </message>
-    <message>
         <source>Top 10 for each speed · saved on this Mac</source>
-        <translation>Los 10 mejores de cada velocidad · guardados en este Mac</translation>
+        <translation>Las 10 mejores de cada velocidad · guardadas en este Mac</translation>
     </message>
     <message>
         <source>Top 10 for each speed · saved on this computer</source>
-        <translation>Los 10 mejores de cada velocidad · guardados en este equipo</translation>
+        <translation>Las 10 mejores de cada velocidad · guardadas en este equipo</translation>
     </message>
 </context>
 <context>
@@ -122,13 +150,65 @@
     </message>
     <message>
         <source>or WASD to move</source>
-        <extracomment>Follows the four arrows. W A S D are places on the keyboard: name the letters that the keyboards of the language show there.</extracomment>
+        <extracomment>Follows the four arrows. WASD stays as it is: the game shows ZQSD instead where keyboards have these letters there.</extracomment>
         <translation>o WASD para moverte</translation>
     </message>
     <message>
         <source>·   SPACE to pause   ·   R to restart</source>
         <extracomment>Three spaces on each side of a dot, as here. R stays a Latin letter.</extracomment>
         <translation>·   ESPACIO para pausar   ·   R para reiniciar</translation>
+    </message>
+</context>
+<context>
+    <name>KeysView</name>
+    <message>
+        <source>The keys.</source>
+        <translation>Las teclas.</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <extracomment>What the keys of the game do: short phrases, in the words of the menus.</extracomment>
+        <translation>Moverse</translation>
+    </message>
+    <message>
+        <source>Start, pause or resume</source>
+        <translation>Empezar, pausar o reanudar</translation>
+    </message>
+    <message>
+        <source>Pause, or go back</source>
+        <translation>Pausar o volver</translation>
+    </message>
+    <message>
+        <source>Start again</source>
+        <translation>Empezar de nuevo</translation>
+    </message>
+    <message>
+        <source>Pause or resume</source>
+        <translation>Pausar o reanudar</translation>
+    </message>
+    <message>
+        <source>High scores</source>
+        <translation>Mejores puntuaciones</translation>
+    </message>
+    <message>
+        <source>Enter or leave full screen</source>
+        <translation>Activar o dejar la pantalla completa</translation>
+    </message>
+    <message>
+        <source>Menus</source>
+        <translation>Menús</translation>
+    </message>
+    <message>
+        <source>Reach a button, press it</source>
+        <translation>Ir a un botón y pulsarlo</translation>
+    </message>
+    <message>
+        <source>These keys</source>
+        <translation>Estas teclas</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Salir</translation>
     </message>
 </context>
 <context>
@@ -169,6 +249,18 @@
     <message>
         <source>Pause</source>
         <translation>Pausar</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Teclas</translation>
+    </message>
+    <message>
+        <source>About Fernwick</source>
+        <translation>Acerca de Fernwick</translation>
     </message>
 </context>
 <context>
@@ -330,6 +422,22 @@
     <message>
         <source>Meta</source>
         <translation>Super</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Espacio</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Tab</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Intro</translation>
     </message>
 </context>
 <context>

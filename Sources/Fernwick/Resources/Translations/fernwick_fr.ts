@@ -2,11 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>AboutView</name>
+    <message>
+        <source>Fernwick</source>
+        <extracomment>The name of the game. Stays as it is in every language.</extracomment>
+        <translation>Fernwick</translation>
+    </message>
+    <message>
+        <source>Version %@</source>
+        <extracomment>%@ is a number such as 1.0.0; it has to stay.</extracomment>
+        <translation>Version %@</translation>
+    </message>
+    <message>
+        <source>Grown from what others share. Thank you.</source>
+        <extracomment>Of the fonts and libraries above, whose makers share them.</extracomment>
+        <translation>Né de ce que d’autres partagent. Merci.</translation>
+    </message>
+</context>
+<context>
     <name>Board</name>
     <message>
         <source>Snake board. Score %lld. Use arrow keys or W A S D to move.</source>
         <extracomment>Read aloud for the picture of the board. %lld is the score; it has to stay.</extracomment>
-        <translation>Plateau du serpent. Score&#xa0;: %lld. Déplacements avec les flèches ou Z Q S D.</translation>
+        <translation>Plateau du serpent. Score&#xa0;: %lld. Déplacements avec les flèches ou W A S D.</translation>
     </message>
 </context>
 <context>
@@ -36,6 +54,13 @@
     </message>
 </context>
 <context>
+    <name>FullScreenHint</name>
+    <message>
+        <source>Press F11 to leave full screen</source>
+        <translation>Appuie sur F11 pour quitter le plein écran</translation>
+    </message>
+</context>
+<context>
     <name>GameOverView</name>
     <message>
         <source>Fully grown.</source>
@@ -58,6 +83,13 @@
         <source>Fernwick</source>
         <extracomment>The name of the game. Stays as it is in every language.</extracomment>
         <translation>Fernwick</translation>
+    </message>
+</context>
+<context>
+    <name>Garden::Sheet</name>
+    <message>
+        <source>Done</source>
+        <translation>Terminé</translation>
     </message>
 </context>
 <context>
@@ -94,10 +126,6 @@
         <translation>Les meilleurs scores.</translation>
     </message>
     <message>
-        <source>Done</source>
-        <translation>Terminé</translation>
-    </message>
-    <message>
         <source>Top 10 for each speed · saved on this Mac</source>
         <translation>Top 10 de chaque vitesse · enregistré sur ce Mac</translation>
     </message>
@@ -122,13 +150,65 @@
     </message>
     <message>
         <source>or WASD to move</source>
-        <extracomment>Follows the four arrows. W A S D are places on the keyboard: name the letters that the keyboards of the language show there.</extracomment>
-        <translation>ou ZQSD pour se déplacer</translation>
+        <extracomment>Follows the four arrows. WASD stays as it is: the game shows ZQSD instead where keyboards have these letters there.</extracomment>
+        <translation>ou WASD pour se déplacer</translation>
     </message>
     <message>
         <source>·   SPACE to pause   ·   R to restart</source>
         <extracomment>Three spaces on each side of a dot, as here. R stays a Latin letter.</extracomment>
         <translation>·   ESPACE pour la pause   ·   R pour recommencer</translation>
+    </message>
+</context>
+<context>
+    <name>KeysView</name>
+    <message>
+        <source>The keys.</source>
+        <translation>Les touches.</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <extracomment>What the keys of the game do: short phrases, in the words of the menus.</extracomment>
+        <translation>Se déplacer</translation>
+    </message>
+    <message>
+        <source>Start, pause or resume</source>
+        <translation>Commencer, mettre en pause ou reprendre</translation>
+    </message>
+    <message>
+        <source>Pause, or go back</source>
+        <translation>Mettre en pause ou revenir</translation>
+    </message>
+    <message>
+        <source>Start again</source>
+        <translation>Recommencer</translation>
+    </message>
+    <message>
+        <source>Pause or resume</source>
+        <translation>Mettre en pause ou reprendre</translation>
+    </message>
+    <message>
+        <source>High scores</source>
+        <translation>Meilleurs scores</translation>
+    </message>
+    <message>
+        <source>Enter or leave full screen</source>
+        <translation>Activer ou quitter le plein écran</translation>
+    </message>
+    <message>
+        <source>Menus</source>
+        <translation>Menus</translation>
+    </message>
+    <message>
+        <source>Reach a button, press it</source>
+        <translation>Aller à un bouton, l’activer</translation>
+    </message>
+    <message>
+        <source>These keys</source>
+        <translation>Ces touches</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quitter</translation>
     </message>
 </context>
 <context>
@@ -169,6 +249,18 @@
     <message>
         <source>Pause</source>
         <translation>Mettre en pause</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Touches</translation>
+    </message>
+    <message>
+        <source>About Fernwick</source>
+        <translation>À propos de Fernwick</translation>
     </message>
 </context>
 <context>
@@ -330,6 +422,22 @@
     <message>
         <source>Meta</source>
         <translation>Super</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Espace</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Échap</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Tab</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Entrée</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,24 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>AboutView</name>
+    <message>
+        <source>Fernwick</source>
+        <extracomment>The name of the game. Stays as it is in every language.</extracomment>
+        <translation>Fernwick</translation>
+    </message>
+    <message>
+        <source>Version %@</source>
+        <extracomment>%@ is a number such as 1.0.0; it has to stay.</extracomment>
+        <translation>バージョン %@</translation>
+    </message>
+    <message>
+        <source>Grown from what others share. Thank you.</source>
+        <extracomment>Of the fonts and libraries above, whose makers share them.</extracomment>
+        <translation>みんなが分かち合うものから育ちました。ありがとう。</translation>
+    </message>
+</context>
+<context>
     <name>Board</name>
     <message>
         <source>Snake board. Score %lld. Use arrow keys or W A S D to move.</source>
@@ -36,6 +54,13 @@
     </message>
 </context>
 <context>
+    <name>FullScreenHint</name>
+    <message>
+        <source>Press F11 to leave full screen</source>
+        <translation>F11 キーで全画面表示を終了</translation>
+    </message>
+</context>
+<context>
     <name>GameOverView</name>
     <message>
         <source>Fully grown.</source>
@@ -58,6 +83,13 @@
         <source>Fernwick</source>
         <extracomment>The name of the game. Stays as it is in every language.</extracomment>
         <translation>Fernwick</translation>
+    </message>
+</context>
+<context>
+    <name>Garden::Sheet</name>
+    <message>
+        <source>Done</source>
+        <translation>完了</translation>
     </message>
 </context>
 <context>
@@ -94,10 +126,6 @@
         <translation>これまでのハイスコア</translation>
     </message>
     <message>
-        <source>Done</source>
-        <translation>完了</translation>
-    </message>
-    <message>
         <source>Top 10 for each speed · saved on this Mac</source>
         <translation>スピードごとのトップ 10 · この Mac に保存</translation>
     </message>
@@ -122,13 +150,65 @@
     </message>
     <message>
         <source>or WASD to move</source>
-        <extracomment>Follows the four arrows. W A S D are places on the keyboard: name the letters that the keyboards of the language show there.</extracomment>
+        <extracomment>Follows the four arrows. WASD stays as it is: the game shows ZQSD instead where keyboards have these letters there.</extracomment>
         <translation>または WASD で移動</translation>
     </message>
     <message>
         <source>·   SPACE to pause   ·   R to restart</source>
         <extracomment>Three spaces on each side of a dot, as here. R stays a Latin letter.</extracomment>
         <translation>·   スペースキーで一時停止   ·   R でやりなおし</translation>
+    </message>
+</context>
+<context>
+    <name>KeysView</name>
+    <message>
+        <source>The keys.</source>
+        <translation>キー一覧</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <extracomment>What the keys of the game do: short phrases, in the words of the menus.</extracomment>
+        <translation>移動</translation>
+    </message>
+    <message>
+        <source>Start, pause or resume</source>
+        <translation>開始/一時停止/再開</translation>
+    </message>
+    <message>
+        <source>Pause, or go back</source>
+        <translation>一時停止/戻る</translation>
+    </message>
+    <message>
+        <source>Start again</source>
+        <translation>やりなおし</translation>
+    </message>
+    <message>
+        <source>Pause or resume</source>
+        <translation>一時停止/再開</translation>
+    </message>
+    <message>
+        <source>High scores</source>
+        <translation>ハイスコア</translation>
+    </message>
+    <message>
+        <source>Enter or leave full screen</source>
+        <translation>全画面表示の切り替え</translation>
+    </message>
+    <message>
+        <source>Menus</source>
+        <translation>メニュー</translation>
+    </message>
+    <message>
+        <source>Reach a button, press it</source>
+        <translation>ボタンへ移動/ボタンを押す</translation>
+    </message>
+    <message>
+        <source>These keys</source>
+        <translation>このキー一覧</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>終了</translation>
     </message>
 </context>
 <context>
@@ -169,6 +249,18 @@
     <message>
         <source>Pause</source>
         <translation>一時停止</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>キー一覧</translation>
+    </message>
+    <message>
+        <source>About Fernwick</source>
+        <translation>Fernwick について</translation>
     </message>
 </context>
 <context>
@@ -330,6 +422,22 @@
     <message>
         <source>Meta</source>
         <translation>Super</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>スペース</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Tab</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Enter</translation>
     </message>
 </context>
 <context>

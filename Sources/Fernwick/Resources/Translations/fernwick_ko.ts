@@ -2,6 +2,24 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko" sourcelanguage="en">
 <context>
+    <name>AboutView</name>
+    <message>
+        <source>Fernwick</source>
+        <extracomment>The name of the game. Stays as it is in every language.</extracomment>
+        <translation>Fernwick</translation>
+    </message>
+    <message>
+        <source>Version %@</source>
+        <extracomment>%@ is a number such as 1.0.0; it has to stay.</extracomment>
+        <translation>버전 %@</translation>
+    </message>
+    <message>
+        <source>Grown from what others share. Thank you.</source>
+        <extracomment>Of the fonts and libraries above, whose makers share them.</extracomment>
+        <translation>모두가 나눠 준 것에서 자랐어요. 고마워요.</translation>
+    </message>
+</context>
+<context>
     <name>Board</name>
     <message>
         <source>Snake board. Score %lld. Use arrow keys or W A S D to move.</source>
@@ -36,6 +54,13 @@
     </message>
 </context>
 <context>
+    <name>FullScreenHint</name>
+    <message>
+        <source>Press F11 to leave full screen</source>
+        <translation>F11 키를 누르면 전체 화면에서 나가요</translation>
+    </message>
+</context>
+<context>
     <name>GameOverView</name>
     <message>
         <source>Fully grown.</source>
@@ -58,6 +83,13 @@
         <source>Fernwick</source>
         <extracomment>The name of the game. Stays as it is in every language.</extracomment>
         <translation>Fernwick</translation>
+    </message>
+</context>
+<context>
+    <name>Garden::Sheet</name>
+    <message>
+        <source>Done</source>
+        <translation>완료</translation>
     </message>
 </context>
 <context>
@@ -94,10 +126,6 @@
         <translation>최고 점수 기록</translation>
     </message>
     <message>
-        <source>Done</source>
-        <translation>완료</translation>
-    </message>
-    <message>
         <source>Top 10 for each speed · saved on this Mac</source>
         <translation>속도별 상위 10위 · 이 Mac에 저장됨</translation>
     </message>
@@ -122,13 +150,65 @@
     </message>
     <message>
         <source>or WASD to move</source>
-        <extracomment>Follows the four arrows. W A S D are places on the keyboard: name the letters that the keyboards of the language show there.</extracomment>
+        <extracomment>Follows the four arrows. WASD stays as it is: the game shows ZQSD instead where keyboards have these letters there.</extracomment>
         <translation>또는 WASD로 이동</translation>
     </message>
     <message>
         <source>·   SPACE to pause   ·   R to restart</source>
         <extracomment>Three spaces on each side of a dot, as here. R stays a Latin letter.</extracomment>
         <translation>·   스페이스 바로 일시 정지   ·   R로 다시 시작</translation>
+    </message>
+</context>
+<context>
+    <name>KeysView</name>
+    <message>
+        <source>The keys.</source>
+        <translation>키 안내</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <extracomment>What the keys of the game do: short phrases, in the words of the menus.</extracomment>
+        <translation>이동</translation>
+    </message>
+    <message>
+        <source>Start, pause or resume</source>
+        <translation>시작/일시 정지/계속</translation>
+    </message>
+    <message>
+        <source>Pause, or go back</source>
+        <translation>일시 정지/뒤로</translation>
+    </message>
+    <message>
+        <source>Start again</source>
+        <translation>다시 시작</translation>
+    </message>
+    <message>
+        <source>Pause or resume</source>
+        <translation>일시 정지/계속</translation>
+    </message>
+    <message>
+        <source>High scores</source>
+        <translation>최고 점수</translation>
+    </message>
+    <message>
+        <source>Enter or leave full screen</source>
+        <translation>전체 화면 켜기/끄기</translation>
+    </message>
+    <message>
+        <source>Menus</source>
+        <translation>메뉴</translation>
+    </message>
+    <message>
+        <source>Reach a button, press it</source>
+        <translation>버튼으로 이동/누르기</translation>
+    </message>
+    <message>
+        <source>These keys</source>
+        <translation>이 키 안내</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>끝내기</translation>
     </message>
 </context>
 <context>
@@ -169,6 +249,18 @@
     <message>
         <source>Pause</source>
         <translation>일시 정지</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>도움말</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>키 안내</translation>
+    </message>
+    <message>
+        <source>About Fernwick</source>
+        <translation>Fernwick 정보</translation>
     </message>
 </context>
 <context>
@@ -330,6 +422,22 @@
     <message>
         <source>Meta</source>
         <translation>Super</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>스페이스 바</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Tab</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Enter</translation>
     </message>
 </context>
 <context>

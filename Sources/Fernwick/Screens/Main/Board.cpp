@@ -7,6 +7,7 @@
 #include "Garden/Look/Palette.hpp"
 #include "Garden/Widgets/Accessibility.hpp"
 #include "Screens/Main/WidgetPixels.hpp"
+#include "Session/MovementLetters.hpp"
 
 Board::Board(Painting::Backdrop& backdrop, const SnakeCore::Game& game, QWidget* parent)
     : QWidget(parent), backdrop_(backdrop), game_(game) {
@@ -165,6 +166,7 @@ void Board::preparePicture() {
 
 void Board::announceScore() {
     //: Read aloud for the picture of the board. %lld is the score; it has to stay.
-    const QString label = tr("Snake board. Score %lld. Use arrow keys or W A S D to move.");
+    const QString label =
+        withMovementLetters(tr("Snake board. Score %lld. Use arrow keys or W A S D to move."));
     setAccessibleName(Garden::withNumber(label, game_.score()));
 }

@@ -10,8 +10,8 @@
 #include "Screens/Main/ControlRow.hpp"
 #include "Screens/Main/HeaderRow.hpp"
 #include "Screens/Main/HintRow.hpp"
+#include "Screens/Main/SheetLayer.hpp"
 #include "Screens/Main/WidgetPixels.hpp"
-#include "Screens/Scores/SheetLayer.hpp"
 #include "Session/Session.hpp"
 
 namespace {

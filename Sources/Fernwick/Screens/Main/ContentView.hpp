@@ -13,7 +13,7 @@ class Session;
 class SheetLayer;
 
 /// The only screen of the application, as large as the window: header, controls, board and hints
-/// on the backdrop, and the sheet of high scores over them. It owns the backdrop and decides where
+/// on the backdrop, and the sheets over them. It owns the backdrop and decides where
 /// the board lies.
 class ContentView : public QWidget {
     Q_OBJECT
@@ -32,7 +32,7 @@ public:
 Q_SIGNALS:
     /// The first frame has been painted.
     void appeared();
-    /// The sheet of high scores dims what is behind it by black of this opacity. What lies on top
+    /// A sheet dims what is behind it by black of this opacity. What lies on top
     /// of this widget has to follow.
     void dimmed(double opacity);
 

@@ -5,6 +5,7 @@
 #include "Garden/Widgets/IconButton.hpp"
 #include "Garden/Widgets/Layout.hpp"
 #include "Garden/Widgets/TrackedLabel.hpp"
+#include "Session/MovementLetters.hpp"
 #include "Session/Session.hpp"
 
 namespace {
@@ -42,9 +43,9 @@ HintRow::HintRow(Session& session, QWidget* parent)
       sound_(new Garden::IconButton(Garden::Icon::speakerWaves, tr("Toggle sound effects"))),
       pause_(new Garden::IconButton(Garden::Icon::play, tr("Pause or resume"))),
       arrows_(hint(QStringLiteral("↑ ↓ ← →"), arrowsSize)),
-      //: Follows the four arrows. W A S D are places on the keyboard: name the letters that the
-      //: keyboards of the language show there.
-      letters_(hint(tr("or WASD to move"), hintSize)),
+      //: Follows the four arrows. WASD stays as it is: the game shows ZQSD instead where
+      //: keyboards have these letters there.
+      letters_(hint(withMovementLetters(tr("or WASD to move")), hintSize)),
       commands_(hint({}, hintSize)),
       moves_(new QHBoxLayout),
       lines_(new QHBoxLayout),

@@ -1,8 +1,6 @@
 #pragma once
 
-#include <QWidget>
-
-#include "Garden/Widgets/ContentDensity.hpp"
+#include "Garden/Widgets/Sheet.hpp"
 
 class ScoreRows;
 class Session;
@@ -11,19 +9,12 @@ namespace Garden {
 class ChoiceGroup;
 }
 
-/// The high-scores sheet: the top ten of each pace. `SheetLayer` shows and hides it.
-class HighScoresView : public QWidget {
+/// The high-scores sheet: the top ten of each pace.
+class HighScoresView : public Garden::Sheet {
     Q_OBJECT
 
 public:
     explicit HighScoresView(Session& session, QWidget* parent = nullptr);
-
-    /// Makes it fit the height `available`, and returns the size that it needs, in points.
-    QSize fittedTo(int available);
-
-protected:
-    void keyPressEvent(QKeyEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
 
 private:
     void refresh();
@@ -31,6 +22,4 @@ private:
     Session& session_;
     Garden::ChoiceGroup* speed_;
     ScoreRows* rows_;
-    double scale_ = 1;
-    Garden::ContentDensity* density_ = nullptr;
 };

@@ -5,6 +5,7 @@
 
 #include "Fernwick/Window/Geometry/SceneWindow.hpp"
 #include "Fernwick/Window/Layout.hpp"
+#include "Garden/Widgets/Sheet.hpp"
 #include "Screens/Scores/ScoreRow.hpp"
 
 // GoogleTest prints the parameter of a failed test with this.
@@ -71,7 +72,7 @@ QList<QRect> bandRects(const GameWindow& window) {
 }
 
 void expectComposed(const GameWindow& window) {
-    const auto* sheet = window.findChild<HighScoresView*>();
+    const auto* sheet = window.findChild<Garden::Sheet*>();
     const bool sheetOpen = sheet != nullptr && sheet->isVisible();
     const QWidget& front = sheetOpen ? static_cast<const QWidget&>(*sheet) : window;
     QList<std::pair<QRect, QString>> taken;

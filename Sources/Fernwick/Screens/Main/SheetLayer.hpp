@@ -4,19 +4,19 @@
 #include <QPointer>
 #include <QVariantAnimation>
 #include <QWidget>
+#include <map>
 
-class HighScoresView;
-class Session;
+#include "Session/Session.hpp"
 
 namespace Garden {
 class RiseEffect;
-}
+class Sheet;
+}  // namespace Garden
 
-/// Shows the high-scores sheet as a modal layer while `Session::showingScores()`: dims what is
-/// behind, keeps the pointer and the keyboard focus inside, and restores the focus on closing.
-/// Input does not wait for the animation: a sheet that appears is usable at once, and one that
-/// disappears is hidden at once while a snapshot of it fades. There is no animation under reduced
-/// motion.
+/// Shows `Session::sheet()` as a modal layer: dims what is behind, keeps the pointer and the
+/// keyboard focus inside, and restores the focus on closing. Input does not wait for the animation:
+/// a sheet that appears is usable at once, and one that disappears is hidden at once while a
+/// snapshot of it fades. There is no animation under reduced motion.
 class SheetLayer : public QWidget {
     Q_OBJECT
 
@@ -39,6 +39,7 @@ protected:
 
 private:
     void refresh();
+    [[nodiscard]] Garden::Sheet* makeSheet();
     void present();
     void dismiss();
     void placeSheet();
@@ -48,7 +49,10 @@ private:
     [[nodiscard]] double scrim() const;
 
     Session& session_;
-    HighScoresView* sheet_ = nullptr;
+    Session::Sheet shown_ = Session::Sheet::none;
+    std::map<Session::Sheet, Garden::Sheet*> sheets_;
+    // The one that is open or was open last.
+    Garden::Sheet* sheet_ = nullptr;
     QPointer<QWidget> focusBefore_;
     // From 0 (invisible) to 1.
     QVariantAnimation presence_;

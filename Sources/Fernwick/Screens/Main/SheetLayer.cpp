@@ -1,4 +1,4 @@
-#include "Screens/Scores/SheetLayer.hpp"
+#include "Screens/Main/SheetLayer.hpp"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -8,6 +8,8 @@
 #include "Garden/Look/Palette.hpp"
 #include "Garden/Widgets/FocusRing.hpp"
 #include "Garden/Widgets/RiseEffect.hpp"
+#include "Screens/Help/AboutView.hpp"
+#include "Screens/Help/KeysView.hpp"
 #include "Screens/Scores/HighScoresView.hpp"
 #include "Session/Session.hpp"
 
@@ -15,9 +17,8 @@ namespace {
 
 // The least distance of the sheet from the edges of the window, in points.
 constexpr int margin = 8;
-// A sheet that reaches into the title band leaves this much for the menus and for the buttons.
+// The title band above it.
 constexpr int titleBand = 46;
-constexpr int besideMenus = 148;
 
 // Without the window's background, which would show in the rounded corners.
 QPixmap pictureOf(QWidget& sheet) {
@@ -49,19 +50,40 @@ SheetLayer::SheetLayer(Session& session, QWidget* parent)
 }
 
 void SheetLayer::refresh() {
-    const bool presented = sheet_ != nullptr && !sheet_->isHidden();
-    if (session_.showingScores() != presented) {
-        presented ? dismiss() : present();
+    if (session_.sheet() == shown_) {
+        return;
     }
+    if (shown_ != Session::Sheet::none) {
+        dismiss();
+    }
+    shown_ = session_.sheet();
+    if (shown_ != Session::Sheet::none) {
+        present();
+    }
+}
+
+Garden::Sheet* SheetLayer::makeSheet() {
+    switch (shown_) {
+        case Session::Sheet::scores:
+            return new HighScoresView(session_, this);
+        case Session::Sheet::keys:
+            return new KeysView(this);
+        case Session::Sheet::about:
+            return new AboutView(this);
+        case Session::Sheet::none:
+            break;
+    }
+    return nullptr;
 }
 
 void SheetLayer::present() {
     // Created on first use, so that it does not delay the first frame.
-    if (sheet_ == nullptr) {
-        sheet_ = new HighScoresView(session_, this);
-        // Keeps the focus inside the sheet after a click between its controls.
-        sheet_->setFocusPolicy(Qt::ClickFocus);
+    Garden::Sheet*& sheet = sheets_[shown_];
+    if (sheet == nullptr) {
+        sheet = makeSheet();
+        connect(sheet, &Garden::Sheet::closed, &session_, &Session::closeSheet);
     }
+    sheet_ = sheet;
     focusBefore_ = window()->focusWidget();
     picture_ = {};
     placeSheet();
@@ -89,11 +111,9 @@ void SheetLayer::placeSheet() {
     if (sheet_ == nullptr) {
         return;
     }
-    QRect sheetRect(QPoint(), sheet_->fittedTo(height() - 2 * margin));
-    if (sheetRect.height() > height() - 2 * titleBand) {
-        sheetRect.setWidth(std::min(sheetRect.width(), width() - 2 * besideMenus));
-    }
+    QRect sheetRect(QPoint(), sheet_->fittedTo(std::max(0, height() - titleBand - margin)));
     sheetRect.moveCenter(rect().center());
+    sheetRect.moveTop(std::max(titleBand, sheetRect.top()));
     sheet_->setGeometry(sheetRect);
 }
 

@@ -1,0 +1,84 @@
+#include "Garden/Widgets/Sheet.hpp"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <algorithm>
+
+#include "Garden/Look/Fonts.hpp"
+#include "Garden/Look/Palette.hpp"
+#include "Garden/Look/RoundedShape.hpp"
+#include "Garden/Widgets/Accessibility.hpp"
+#include "Garden/Widgets/GardenButton.hpp"
+#include "Garden/Widgets/IconView.hpp"
+#include "Garden/Widgets/Layout.hpp"
+#include "Garden/Widgets/TrackedLabel.hpp"
+
+namespace Garden {
+
+namespace {
+
+constexpr int padding = 32;
+constexpr int spacing = 20;
+constexpr double emblemSize = 28;
+constexpr double titleSize = 30;
+constexpr double lineSize = 12;
+constexpr double cornerRadius = 22;
+constexpr double edgeOpacity = 0.16;
+
+}  // namespace
+
+Sheet::Sheet(Icon emblem, const QString& title, int width, const ContentHeight& contents,
+             QWidget* parent)
+    : QWidget(parent),
+      fullWidth_(width),
+      contents_(contents),
+      column_(layOut<QVBoxLayout>(this, spacing, padding)) {
+    setAccessibleRole(*this, QAccessible::Dialog);
+    setAccessibleName(title);
+    // Keeps the focus inside the sheet after a click between its controls.
+    setFocusPolicy(Qt::ClickFocus);
+    add(new IconView(emblem, emblemSize, mint), Qt::AlignHCenter);
+    add(new TrackedLabel(title, serif(titleSize, QFont::Normal), primaryText), Qt::AlignHCenter);
+}
+
+void Sheet::addLine(const QString& text) {
+    add(new TrackedLabel(text, sans(lineSize, QFont::Normal), muted), Qt::AlignHCenter);
+}
+
+void Sheet::add(QWidget* widget, Qt::Alignment alignment) {
+    column_->addWidget(widget, 0, alignment);
+}
+
+void Sheet::complete() {
+    auto* done = new GardenButton(tr("Done"));
+    connect(done, &QAbstractButton::clicked, this, &Sheet::closed);
+    add(done, Qt::AlignHCenter);
+    density_ = new ContentDensity(*this);
+}
+
+QSize Sheet::fittedTo(int available) {
+    const Density density = densityFor(available, contents_);
+    scale_ = density.scale;
+    density_->set(density);
+    return {scaled(fullWidth_, scale_), std::min(layout()->totalSizeHint().height(), available)};
+}
+
+void Sheet::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Cancel)) {
+        Q_EMIT closed();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void Sheet::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const double radius = cornerRadius * scale_;
+    painter.fillPath(continuousRoundedRect(rect(), radius), night);
+    painter.strokePath(continuousRoundedRect(inset(rect(), 0.5), radius),
+                       QPen(withOpacity(mint, edgeOpacity), 1));
+}
+
+}  // namespace Garden

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QWidget>
+
+#include "Garden/Look/Icons.hpp"
+#include "Garden/Widgets/ContentDensity.hpp"
+
+class QVBoxLayout;
+
+namespace Garden {
+
+/// Base class of the dialogs that lie over the screen, inside the window: an emblem, a title,
+/// contents and a button that closes it, from top to bottom.
+class Sheet : public QWidget {
+    Q_OBJECT
+
+public:
+    /// Makes it fit the height `available`, and returns the size that it needs, in points.
+    QSize fittedTo(int available);
+
+Q_SIGNALS:
+    /// The player has pressed the button or Escape.
+    void closed();
+
+protected:
+    /// A sheet of `width` points at full size that needs the room of `contents`. `title` is its
+    /// accessible name, too.
+    Sheet(Icon emblem, const QString& title, int width, const ContentHeight& contents,
+          QWidget* parent);
+
+    /// Adds a line of secondary text.
+    void addLine(const QString& text);
+    void add(QWidget* widget, Qt::Alignment alignment = {});
+    /// Adds the button. Nothing can be added after it.
+    void complete();
+
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    int fullWidth_;
+    ContentHeight contents_;
+    double scale_ = 1;
+    QVBoxLayout* column_;
+    ContentDensity* density_ = nullptr;
+};
+
+}  // namespace Garden
