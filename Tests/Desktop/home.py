@@ -24,6 +24,11 @@ class Home:
         except FileNotFoundError:
             return {}
 
+    def store(self, preferences):
+        """Writes the settings file, as an earlier run of the game has."""
+        (self._settings / "fernwick").mkdir(parents=True, exist_ok=True)
+        (self._settings / "fernwick/preferences.cbor").write_bytes(cbor2.dumps(preferences))
+
     def saved(self):
         """All stored settings, once a score has been saved. Its name is stored last."""
         eventually(lambda: "player-name" in self.preferences(), "the score is on disk")

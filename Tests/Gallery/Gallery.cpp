@@ -12,6 +12,7 @@
 #include "Storage/PreferencesFile.hpp"
 #include "Support/OffscreenScreens.hpp"
 #include "Support/StillStyle.hpp"
+#include "Window/FullScreenHint.hpp"
 #include "Window/GameWindow.hpp"
 
 // Renders every scene at one size into a folder, and a contact sheet of all scenes.
@@ -42,6 +43,7 @@ QImage render(const Scene& scene, const QSize& size, Qt::WindowState state) {
         window.resize(size);
     }
     QCoreApplication::processEvents();
+    FullScreenHint::showIfNew(session, window);
     return window.grab().toImage();
 }
 

@@ -7,6 +7,7 @@
 
 #include "Desktop/ActivationToken.hpp"
 #include "Session/MainThread.hpp"
+#include "Window/FullScreenHint.hpp"
 
 namespace {
 
@@ -23,6 +24,8 @@ FernwickApp::FernwickApp(Preferences& preferences, SoundEffects& soundEffects)
             session_.pause();
         }
     });
+    connect(&window_, &GameWindow::appeared, this,
+            [this] { FullScreenHint::showIfNew(session_, window_); });
 }
 
 void FernwickApp::show() {

@@ -20,6 +20,9 @@ inline constexpr int menuDuration = 120;
 /// How long the card over an ended run takes to appear, in milliseconds.
 inline constexpr int cardDuration = 150;
 
+/// How long the hint about full screen takes to appear or disappear, in milliseconds.
+inline constexpr int hintDuration = 240;
+
 /// Whether the desktop or its style turns animations off. Follows changes while the program runs.
 [[nodiscard]] bool reducedMotion();
 
