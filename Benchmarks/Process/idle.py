@@ -7,6 +7,8 @@ from xtest import SPACE
 
 # By then every animation has ended.
 ANIMATION_SECONDS = 3
+# By then the hint about full screen has gone, too.
+HINT_SECONDS = 6
 # From the start of a run until the snake hits the wall ahead.
 RUN_SECONDS = 4
 SECONDS = 10
@@ -26,7 +28,7 @@ def measure(testbed):
         time.sleep(STARTUP_SECONDS + ANIMATION_SECONDS)
         measured["wakeups_hello"] = wakeups_per_second(program)
     with Program(testbed.desktop, testbed.game) as program:
-        time.sleep(STARTUP_SECONDS + ANIMATION_SECONDS)
+        time.sleep(STARTUP_SECONDS + HINT_SECONDS)
         measured["wakeups_unstarted"] = wakeups_per_second(program)
         testbed.input.press(SPACE)
         time.sleep(1)
