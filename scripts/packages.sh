@@ -58,7 +58,9 @@ bare_root_packages() {
     root_packages
     cat <<'LIST'
 autopkgtest          runs the tests of the package in a minimal Debian
+lintian              checks the Debian package
 piuparts             installs, purges and looks for what is left behind
+python3-pytest       test runner for Python
 LIST
 }
 
@@ -129,7 +131,6 @@ python3-cbor2        reads the preferences file
 python3-pytest       test runner for Python
 pulseaudio           sound server for the sound tests
 pulseaudio-utils     parec, which records what that server plays
-lintian              checks the Debian package
 desktop-file-utils   checks the desktop entry
 appstream            checks the metainfo file
 man-db               checks the manual page

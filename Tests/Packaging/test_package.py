@@ -35,7 +35,8 @@ def test_contains_exactly_the_expected_files(unpacked):
 
 def test_lintian_reports_no_error_and_no_warning(package):
     as_root = ["--allow-root"] if os.getuid() == 0 else []
-    done = subprocess.run(["lintian", *as_root, "--fail-on", "error,warning", package], text=True,
+    changes, = package.parent.glob("*.changes")
+    done = subprocess.run(["lintian", *as_root, "--fail-on", "error,warning", changes], text=True,
                           stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
     assert (done.returncode, done.stdout) == (0, "")
 
