@@ -41,8 +41,8 @@ constexpr bool isLowSurrogate(char32_t unit) {
 /// The double nearest to a valid number, or nothing if that is infinite.
 std::optional<double> toDouble(std::string_view number) {
     double value = 0;
-    const char* const end = number.data() + number.size();
-    if (std::from_chars(number.data(), end, value).ec == std::errc()) {
+    const char* const begin = number.data();
+    if (std::from_chars(begin, begin + number.size(), value).ec == std::errc()) {
         return value;
     }
     // from_chars() does not tell a number that is too large from one that is too small. strtod()
