@@ -101,6 +101,33 @@ fonts-dejavu-core    a font for the desktops
 LIST
 }
 
+# Installed only in the minimal Debian of scripts/test-arm64.
+arm64_packages() {
+    cat <<'LIST'
+crossbuild-essential-arm64  cross compilers
+qemu-user-static     runs programs for arm64
+cmake                build system
+ninja-build          build tool that CMake generates files for
+pkg-config           finds libraries for CMake
+qt6-base-dev         moc and rcc, which run on the host
+qt6-tools-dev        CMake files of Qt Linguist
+qt6-l10n-tools       lrelease, which CMake looks for
+wayland-protocols    the description of a Wayland protocol
+locales              sources of the locales that the tests of the score table run in
+qt6-base-dev:arm64   libraries of the game and of the tests
+qt6-svg-dev:arm64    .
+libicu-dev:arm64     .
+uuid-dev:arm64       .
+libwayland-dev:arm64 .
+libxcb1-dev:arm64    .
+libxcb-shape0-dev:arm64  .
+libpulse-dev:arm64   .
+libfontconfig-dev:arm64  .
+libgtest-dev:arm64   .
+librapidcheck-dev:arm64  .
+LIST
+}
+
 check_packages() {
     package_packages
     cat <<'LIST'
