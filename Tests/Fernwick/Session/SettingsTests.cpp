@@ -23,6 +23,7 @@ TEST_F(StoredSettings, haveDefaultsOnTheFirstLaunch) {
     EXPECT_EQ(session.best(), 0);
     EXPECT_TRUE(session.sound());
     EXPECT_TRUE(session.scores().entries().empty());
+    EXPECT_FALSE(session.hasStoredScores());
     EXPECT_TRUE(session.playerName().isEmpty());
     EXPECT_FALSE(session.running());
     EXPECT_FALSE(session.started());
@@ -33,6 +34,23 @@ TEST_F(StoredSettings, haveDefaultsOnTheFirstLaunch) {
     EXPECT_EQ(session.runPace(), Pace::classic);
     EXPECT_EQ(session.game(), SnakeCore::Game(28, 22));
     EXPECT_EQ(timer(), nullptr);
+}
+
+TEST_F(StoredSettings, tellWhetherAScoreIsStored) {
+    session.setSound(false);
+    session.editName("Ada");
+    EXPECT_FALSE(session.hasStoredScores());
+
+    session.start();
+    eatFirstFruit();
+    EXPECT_TRUE(session.hasStoredScores());
+    EXPECT_TRUE(launchAgain().session.hasStoredScores());
+}
+
+TEST_F(StoredSettings, tellWhetherATableIsStored) {
+    preferences.store("high-scores-v1", QByteArray("not a table"));
+
+    EXPECT_TRUE(session.hasStoredScores());
 }
 
 TEST_F(StoredSettings, areNotWrittenOnTheFirstLaunch) {

@@ -33,12 +33,13 @@ Sheet::Sheet(Icon emblem, const QString& title, int width, const ContentHeight& 
     : QWidget(parent),
       fullWidth_(width),
       contents_(contents),
-      column_(layOut<QVBoxLayout>(this, spacing, padding)) {
+      column_(layOut<QVBoxLayout>(this, spacing, padding)),
+      emblem_(new IconView(emblem, emblemSize, mint)) {
     setAccessibleRole(*this, QAccessible::Dialog);
     setAccessibleName(title);
     // Keeps the focus inside the sheet after a click between its controls.
     setFocusPolicy(Qt::ClickFocus);
-    add(new IconView(emblem, emblemSize, mint), Qt::AlignHCenter);
+    add(emblem_, Qt::AlignHCenter);
     add(new TrackedLabel(title, serif(titleSize, QFont::Normal), primaryText), Qt::AlignHCenter);
 }
 
@@ -60,6 +61,7 @@ void Sheet::complete() {
 QSize Sheet::fittedTo(int available) {
     const Density density = densityFor(available, contents_);
     scale_ = density.scale;
+    emblem_->setVisible(scale_ == 1);
     density_->set(density);
     return {scaled(fullWidth_, scale_), std::min(layout()->totalSizeHint().height(), available)};
 }

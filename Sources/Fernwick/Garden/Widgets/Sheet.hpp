@@ -9,13 +9,16 @@ class QVBoxLayout;
 
 namespace Garden {
 
+class IconView;
+
 /// Base class of the dialogs that lie over the screen, inside the window: an emblem, a title,
 /// contents and a button that closes it, from top to bottom.
 class Sheet : public QWidget {
     Q_OBJECT
 
 public:
-    /// Makes it fit the height `available`, and returns the size that it needs, in points.
+    /// Makes it fit the height `available`, without the emblem where everything has to shrink, and
+    /// returns the size that it needs, in points.
     QSize fittedTo(int available);
 
 Q_SIGNALS:
@@ -42,6 +45,7 @@ private:
     ContentHeight contents_;
     double scale_ = 1;
     QVBoxLayout* column_;
+    IconView* emblem_;
     ContentDensity* density_ = nullptr;
 };
 

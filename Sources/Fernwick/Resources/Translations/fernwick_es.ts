@@ -16,7 +16,7 @@
     <message>
         <source>Grown from what others share. Thank you.</source>
         <extracomment>Of the fonts and libraries above, whose makers share them.</extracomment>
-        <translation>Ha crecido de lo que otros comparten. Gracias.</translation>
+        <translation>Ha crecido con lo que otros comparten. Gracias.</translation>
     </message>
 </context>
 <context>
@@ -192,7 +192,7 @@
     </message>
     <message>
         <source>Enter or leave full screen</source>
-        <translation>Activar o dejar la pantalla completa</translation>
+        <translation>Activar o quitar la pantalla completa</translation>
     </message>
     <message>
         <source>Menus</source>

@@ -16,7 +16,7 @@
     <message>
         <source>Grown from what others share. Thank you.</source>
         <extracomment>Of the fonts and libraries above, whose makers share them.</extracomment>
-        <translation>औरों के बाँटे हुए से उपजा। धन्यवाद।</translation>
+        <translation>औरों ने जो बाँटा, उसी से उपजा। धन्यवाद।</translation>
     </message>
 </context>
 <context>

@@ -192,7 +192,7 @@
     </message>
     <message>
         <source>Enter or leave full screen</source>
-        <translation>Attiva o lascia lo schermo intero</translation>
+        <translation>Attiva o disattiva lo schermo intero</translation>
     </message>
     <message>
         <source>Menus</source>

@@ -16,7 +16,7 @@
     <message>
         <source>Grown from what others share. Thank you.</source>
         <extracomment>Of the fonts and libraries above, whose makers share them.</extracomment>
-        <translation>Cresceu do que outras pessoas compartilham. Obrigado.</translation>
+        <translation>Cresceu a partir do que outras pessoas compartilham. Obrigado.</translation>
     </message>
 </context>
 <context>
@@ -192,7 +192,7 @@
     </message>
     <message>
         <source>Enter or leave full screen</source>
-        <translation>Ativar ou sair da tela cheia</translation>
+        <translation>Ativar ou desativar a tela cheia</translation>
     </message>
     <message>
         <source>Menus</source>

@@ -200,7 +200,7 @@
     </message>
     <message>
         <source>Reach a button, press it</source>
-        <translation>移到按钮、按下按钮</translation>
+        <translation>移到按钮并按下</translation>
     </message>
     <message>
         <source>These keys</source>

@@ -13,7 +13,7 @@
 namespace {
 
 constexpr int sheetWidth = 480;
-constexpr Garden::ContentHeight tallest{560, 245, 470};
+constexpr Garden::ContentHeight tallest{560, 245, 480};
 constexpr double purposeSize = 13;
 constexpr int rowSpacing = 6;
 constexpr int capSpacing = 4;

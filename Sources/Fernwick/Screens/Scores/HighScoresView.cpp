@@ -20,16 +20,20 @@ QString subtitle() {
 #endif
 }
 
+QString title() {
+    // For the names of players, before any label looks up its font.
+    Garden::provideSystemFonts();
+    return HighScoresView::tr("The high scores.");
+}
+
 }  // namespace
 
 HighScoresView::HighScoresView(Session& session, QWidget* parent)
-    : Sheet(Garden::Icon::trophy, tr("The high scores."), sheetWidth, tallest, parent),
+    : Sheet(Garden::Icon::trophy, title(), sheetWidth, tallest, parent),
       session_(session),
       //: Read aloud for the choice between the speeds.
       speed_(new Garden::ChoiceGroup(paceNames(), tr("Speed"))),
       rows_(new ScoreRows) {
-    // For the names of players.
-    Garden::provideSystemFonts();
     rows_->setHeights(listHeight, leastListHeight);
     addLine(subtitle());
     add(speed_, Qt::AlignHCenter);
