@@ -75,7 +75,7 @@ void pauseBlur(benchmark::State& state) {
     const Painting::PixelGrid grid = Screens::grid(scaleOf(state));
     const Game game = Games::ofLength(60);
     for (auto _ : state) {
-        benchmark::DoNotOptimize(Painting::idlePicture(game, grid).image());
+        benchmark::DoNotOptimize(Painting::IdlePicture(game, grid).image());
     }
 }
 

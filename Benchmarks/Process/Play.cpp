@@ -107,7 +107,6 @@ int main(int argc, char* argv[]) {
     Desktop::prepareEnvironment();
     QApplication application(argc, argv);
     applyGardenStyle();
-    applyGardenFonts();
     Storage::PreferencesFile preferences(Storage::PreferencesFile::defaultPath());
     Sound::PulseSoundEffects soundEffects("org.fernwick.fernwick");
     FernwickApp fernwick(preferences, soundEffects);

@@ -75,7 +75,6 @@ int main(int argc, char* argv[]) {
     const QString wanted = argc == 6 ? QString::fromLocal8Bit(argv[5]) : QString();
     const Language language(Language::bestFor({wanted}));
     applyGardenStyle();
-    applyGardenFonts();
     const StillStyle still;
     QApplication::setApplicationVersion(QString::fromLatin1(programVersion()));
     if (!QDir().mkpath(folder.path())) {

@@ -47,11 +47,8 @@ void applyGardenStyle() {
     // The same style on every desktop: a native one could bring light controls.
     QApplication::setStyle(new GardenStyle);
     QApplication::setPalette(gardenPalette());
-    // No blinking caret: it would wake the CPU as long as the name field is shown.
-    QApplication::setCursorFlashTime(0);
-}
-
-void applyGardenFonts() {
     QApplication::setFont(Garden::sans(fontSize, QFont::Normal));
     QApplication::setFont(Garden::sans(menuBarFontSize, QFont::Normal), "QMenuBar");
+    // No blinking caret: it would wake the CPU as long as the name field is shown.
+    QApplication::setCursorFlashTime(0);
 }

@@ -15,7 +15,6 @@
 #include "Desktop/QuitOnSignals.hpp"
 #include "Desktop/SessionRestart.hpp"
 #include "Desktop/SingleInstance.hpp"
-#include "Garden/Look/Fonts.hpp"
 #include "Sound/PulseSoundEffects.hpp"
 #include "Storage/PreferencesFile.hpp"
 
@@ -65,7 +64,6 @@ int main(int argc, char* argv[]) {
     Desktop::restartWithoutArguments();
 
     const Language language(Language::bestFor(QLocale::system().uiLanguages()));
-    Garden::loadFontsAhead();
     applyGardenStyle();
 
     const Desktop::QuitOnSignals quitOnSignals;
@@ -91,7 +89,5 @@ int main(int argc, char* argv[]) {
                      &Desktop::SingleInstance::stopListening);
     singleInstance.listen();
     fernwick.show();
-    // Not needed earlier: the window is still empty, and the fonts are being loaded meanwhile.
-    applyGardenFonts();
     return QApplication::exec();
 }

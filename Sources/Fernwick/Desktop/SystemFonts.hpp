@@ -4,7 +4,7 @@
 
 /// Whether fontconfig finds the fonts that are installed. The user's fontconfig rules, as for
 /// antialiasing and sub-pixel rendering, apply in either case. Fonts that the program has added to
-/// fontconfig itself are lost at each change. Either function may be called in any thread.
+/// fontconfig itself are lost at each change.
 namespace Desktop {
 
 /// Leaves them out, so that fontconfig does not compare every one with each font that Qt opens.

@@ -55,7 +55,6 @@ void GameWindow::makeContent(const QSize& size) {
     connect(content_, &ContentView::appeared, this, &GameWindow::appeared, Qt::QueuedConnection);
     placeContent(isFullScreen() ? QRect(QPoint(), size) : frame_->visibleArea());
     content_->show();
-    content_->paintAhead();
     new MenuCommands(session_, band_->menuBar(), *this);
     band_->watchWindow();
     connect(band_, &TitleBand::menuInUseChanged, &session_, &Session::setHeld);

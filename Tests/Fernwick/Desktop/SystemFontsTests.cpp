@@ -12,13 +12,16 @@ namespace {
 
 using Pattern = std::unique_ptr<FcPattern, decltype(&FcPatternDestroy)>;
 
+QByteArray ruleForSubPixelRendering(const char* order) {
+    return "<fontconfig><match target='pattern'><edit name='rgba'><const>" + QByteArray(order) +
+           "</const></edit></match></fontconfig>";
+}
+
 /// With a fontconfig file of the user that asks for vertical sub-pixel rendering.
 class SystemFonts : public ::testing::Test {
 protected:
     SystemFonts() {
-        writeFile(file_,
-                  "<fontconfig><include>/etc/fonts/fonts.conf</include><match target='pattern'>"
-                  "<edit name='rgba'><const>vrgb</const></edit></match></fontconfig>");
+        writeFile(folder_.path() / "fontconfig/fonts.conf", ruleForSubPixelRendering("vrgb"));
     }
     ~SystemFonts() override { FcFini(); }
 
@@ -40,10 +43,11 @@ protected:
         return rgba;
     }
 
-private:
     TemporaryFolder folder_;
-    std::filesystem::path file_ = folder_.path() / "fonts.conf";
-    EnvironmentVariable variable_{"FONTCONFIG_FILE", file_.c_str()};
+
+private:
+    EnvironmentVariable configuration_{"XDG_CONFIG_HOME", folder_.path().c_str()};
+};
 };
 
 }  // namespace
@@ -62,6 +66,16 @@ TEST_F(SystemFonts, followTheRulesOfTheUser) {
 
     Desktop::takeInSystemFonts({});
     EXPECT_EQ(subPixelRendering(), FC_RGBA_VRGB);
+}
+
+TEST_F(SystemFonts, followTheRulesOfAFileNamedByTheEnvironment) {
+    const std::filesystem::path file = folder_.path() / "another.conf";
+    writeFile(file, ruleForSubPixelRendering("bgr"));
+    const EnvironmentVariable variable("FONTCONFIG_FILE", file.c_str());
+
+    Desktop::leaveOutSystemFonts();
+
+    EXPECT_EQ(subPixelRendering(), FC_RGBA_BGR);
 }
 
 TEST_F(SystemFonts, areAllFoundAgain) {

@@ -2,7 +2,6 @@
 
 #include <QPaintEngine>
 #include <cmath>
-#include <future>
 #include <vector>
 
 #include "Fernwick/Painting/Games.hpp"
@@ -77,7 +76,7 @@ TEST(BoardPicture, isBlurredAndDimmedLikeTheReferencePainterWhileIdle) {
         const Game game = Games::ofLength(60);
         const Painting::PixelGrid grid = Grids::usual(cell, scale);
 
-        const QImage idle = Painting::idlePicture(game, grid).image();
+        const QImage idle = Painting::IdlePicture(game, grid).image();
 
         expectLikeReference(idle, ReferencePainter::paintIdle(game, grid));
     }
@@ -127,7 +126,7 @@ TEST(IdlePicture, isWithinOneStepOfTheFullSizePictureBlurred) {
             const Painting::PixelGrid grid = Grids::usual(edge, scale);
             const QImage sharp = paintedAnew(game, grid);
 
-            const QImage idle = Painting::idlePicture(game, grid).image();
+            const QImage idle = Painting::IdlePicture(game, grid).image();
 
             for (const int shift : {16, 8, 0}) {
                 // Rounding with dither may add one step.
@@ -164,16 +163,6 @@ TEST(IdlePicture, isTheSameWhenThePaintEventIsClipped) {
     painter.end();
 
     EXPECT_EQ(clipped.copy(clip), idle.image().copy(clip));
-}
-
-TEST(IdlePicture, isTheSameFromAnyThread) {
-    const Game game = Games::ofLength(60);
-    const Painting::PixelGrid grid = Grids::usual(cell, 1);
-
-    auto other =
-        std::async(std::launch::async, [&] { return Painting::idlePicture(game, grid).image(); });
-
-    EXPECT_EQ(Painting::idlePicture(game, grid).image(), other.get());
 }
 
 QRegion differingPixels(const QImage& left, const QImage& right) {

@@ -30,7 +30,7 @@ void writeBoards(double scale) {
         Painting::BoardPicture board(grid);
         board.show(game);
         write(QStringLiteral("board") + suffix, board.image());
-        write(QStringLiteral("idle") + suffix, Painting::idlePicture(game, grid).image());
+        write(QStringLiteral("idle") + suffix, Painting::IdlePicture(game, grid).image());
     }
 }
 

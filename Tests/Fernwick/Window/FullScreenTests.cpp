@@ -9,7 +9,6 @@
 #include <vector>
 
 #include "Fernwick/Window/WindowTest.hpp"
-#include "Screens/Main/Board.hpp"
 #include "Screens/Main/ContentView.hpp"
 #include "Support/LogCapture.hpp"
 #include "Window/FullScreen.hpp"
@@ -245,26 +244,12 @@ TEST_F(NewWindow, isShownBeforeItsContentIsMadeForFullScreen) {
     EXPECT_TRUE(window.hasFocus() || window.focusWidget() == &window);
 }
 
-TEST_F(NewWindow, paintsTheBoardAheadWhereItIsInTheFirstFrame) {
-    GameWindow window(session);
-    window.show();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
-    auto& board = *window.findChild<Board*>();
-    const auto place = [&] { return QRect(board.mapTo(&window, QPoint()), board.size()); };
-    const QRect paintedAhead = place();
-    EXPECT_TRUE(board.isPaintingAhead());
-
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !board.isPaintingAhead(); }));
-
-    EXPECT_EQ(place(), paintedAhead);
-}
-
-TEST_F(NewWindow, canBeClosedWhileTheBoardIsPaintedAhead) {
+TEST_F(NewWindow, canBeClosedBeforeItsFirstFrame) {
     for (int run = 0; run < 10; ++run) {
         GameWindow window(session);
         window.show();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
-        EXPECT_TRUE(window.findChild<Board*>()->isPaintingAhead());
+        EXPECT_NE(window.findChild<ContentView*>(), nullptr);
     }
 }
 

@@ -5,7 +5,6 @@
 #include <QLocale>
 #include <QResource>
 #include <algorithm>
-#include <future>
 #include <iterator>
 #include <string_view>
 #include <vector>
@@ -80,10 +79,8 @@ QStringList fallbacks(QFont::StyleHint design) {
 enum class Supply { none, embedded, all };
 
 Supply supply = Supply::none;
-// What another thread is loading.
-std::future<Supply> ahead;
 
-Supply load(Supply wanted) {
+void load(Supply wanted) {
     if (wanted == Supply::all) {
         // Of two fonts with the same names, Qt may prefer the one of the system, which may look
         // different in another version.
@@ -93,24 +90,18 @@ Supply load(Supply wanted) {
     } else {
         Desktop::leaveOutSystemFonts();
     }
-    return wanted;
 }
 
 void provide(Supply wanted) {
     if (wanted <= supply) {
         return;
     }
-    const bool replaces = supply != Supply::none;
-    if (ahead.valid()) {
-        supply = ahead.get();
-    }
-    if (wanted > supply) {
-        supply = load(wanted);
-    }
-    if (replaces) {
+    load(wanted);
+    if (supply != Supply::none) {
         // Makes Qt look up all fonts anew.
         QFontDatabase::removeAllApplicationFonts();
     }
+    supply = wanted;
     addEmbeddedFonts();
 }
 
@@ -144,11 +135,6 @@ bool isComplex(QChar::Script script) {
 constexpr int minimumComplexSize = 11;
 
 }  // namespace
-
-void loadFontsAhead() {
-    // Deferred to the first use of a font if there can be no further thread.
-    ahead = std::async(std::launch::async | std::launch::deferred, load, neededSupply());
-}
 
 void provideSystemFonts() {
     provide(Supply::all);

@@ -7,11 +7,6 @@
 /// points, rounded to integers. For the main thread.
 namespace Garden {
 
-/// Starts to read fontconfig's rules in another thread, so that the first font need not wait for
-/// them. Optional, once, before any font is used. Fontconfig reads environment variables, so no
-/// thread may change one until then: the constructor of QApplication does.
-void loadFontsAhead();
-
 /// Inter, in Normal, Medium or DemiBold; other weights use the nearest of these. `tracking` is the
 /// letter spacing in points.
 [[nodiscard]] QFont sans(double size, QFont::Weight weight, double tracking = 0);

@@ -16,7 +16,7 @@ namespace Painting {
 /// at a fraction of its size and enlarged when it is painted.
 class IdlePicture {
 public:
-    /// `game` is as large as the grid. Needs no QGuiApplication and may be called in any thread.
+    /// `game` is as large as the grid.
     IdlePicture(const SnakeCore::Game& game, const PixelGrid& grid);
 
     /// Paints the pixels of `area` at the same coordinates of the painter.
@@ -36,10 +36,5 @@ private:
     SampleAxis columns_;
     SampleAxis rows_;
 };
-
-/// The same as a function, which may be called in any thread.
-[[nodiscard]] inline IdlePicture idlePicture(const SnakeCore::Game& game, const PixelGrid& grid) {
-    return {game, grid};
-}
 
 }  // namespace Painting

@@ -30,31 +30,6 @@ void Board::place(const Painting::BoardGeometry& inWindow, const QRect& widget,
     }
 }
 
-Painting::PixelGrid Board::gridOf(const Painting::BoardGeometry& inWindow, const QRect& widget,
-                                  qreal devicePixelRatio, const SnakeCore::Game& game) {
-    const QRect pixels = WidgetPixels::inWindow(widget, devicePixelRatio);
-    return {pixels.size(),
-            inWindow.frame.topLeft() * devicePixelRatio - pixels.topLeft(),
-            inWindow.cell * devicePixelRatio,
-            devicePixelRatio,
-            static_cast<int>(game.width()),
-            static_cast<int>(game.height())};
-}
-
-void Board::offerIdlePicture(const SnakeCore::Game& game, const Painting::PixelGrid& grid,
-                             std::future<Painting::IdlePicture> picture) {
-    offered_ = {game, grid, std::move(picture)};
-}
-
-void Board::paintAhead() {
-    if (idle_) {
-        // Deferred to the paint event if there can be no further thread.
-        offerIdlePicture(game_, grid(),
-                         std::async(std::launch::async | std::launch::deferred,
-                                    Painting::idlePicture, game_, grid()));
-    }
-}
-
 void Board::setGame(const SnakeCore::Game& game) {
     if (game_ == game) {
         return;
@@ -92,7 +67,7 @@ void Board::paintEvent(QPaintEvent* event) {
     if (!idle_) {
         preparePicture();
     } else if (!idlePicture_) {
-        prepareIdlePicture();
+        idlePicture_.emplace(game_, grid());
     } else if (enlarged_.isNull() && event->rect() == rect()) {
         enlarged_ = idlePicture_->image();
     }
@@ -118,7 +93,13 @@ void Board::paintEvent(QPaintEvent* event) {
 }
 
 Painting::PixelGrid Board::grid() const {
-    return gridOf(inWindow_, widget_, scale_, game_);
+    const QRect pixels = WidgetPixels::inWindow(widget_, scale_);
+    return {pixels.size(),
+            inWindow_.frame.topLeft() * scale_ - pixels.topLeft(),
+            inWindow_.cell * scale_,
+            scale_,
+            static_cast<int>(game_.width()),
+            static_cast<int>(game_.height())};
 }
 
 QRegion Board::toPoints(const QRegion& pixels) const {
@@ -141,22 +122,12 @@ void Board::prepareEdge() {
     edgeRevision_ = backdrop_.revision();
 }
 
-void Board::prepareIdlePicture() {
-    if (offered_ && offered_->game == game_ && offered_->grid == grid()) {
-        idlePicture_ = offered_->picture.get();
-    } else {
-        idlePicture_ = Painting::idlePicture(game_, grid());
-    }
-    offered_.reset();
-}
-
 void Board::resetIdlePicture() {
     idlePicture_.reset();
     enlarged_ = {};
 }
 
 void Board::preparePicture() {
-    offered_.reset();
     if (!picture_ || picture_->grid() != grid()) {
         picture_.emplace(grid());
     }

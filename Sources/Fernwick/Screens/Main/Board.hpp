@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QWidget>
-#include <future>
 #include <optional>
 
 #include "Painting/Board/BoardGeometry.hpp"
@@ -26,22 +25,6 @@ public:
     void place(const Painting::BoardGeometry& inWindow, const QRect& widget,
                qreal devicePixelRatio);
 
-    /// The grid of the picture of a board that is placed like this; see place().
-    [[nodiscard]] static Painting::PixelGrid gridOf(const Painting::BoardGeometry& inWindow,
-                                                    const QRect& widget, qreal devicePixelRatio,
-                                                    const SnakeCore::Game& game);
-    /// Gives the board the result of Painting::idlePicture(), which may still be under way in
-    /// another thread. The board uses it if it has to show that game on that grid while idle.
-    /// Otherwise it paints its own.
-    void offerIdlePicture(const SnakeCore::Game& game, const Painting::PixelGrid& grid,
-                          std::future<Painting::IdlePicture> picture);
-
-    /// Starts painting the idle picture in another thread, for the first paint event. Does nothing
-    /// while the snake moves.
-    void paintAhead();
-    /// Whether paintAhead() has started and no paint event has come since.
-    [[nodiscard]] bool isPaintingAhead() const { return offered_.has_value(); }
-
     /// Shows `game`. Repaints only the differences from the game shown before.
     void setGame(const SnakeCore::Game& game);
     /// Blurs and dims the picture, for the time when the snake does not move.
@@ -56,16 +39,9 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    struct OfferedPicture {
-        SnakeCore::Game game;
-        Painting::PixelGrid grid;
-        std::future<Painting::IdlePicture> picture;
-    };
-
     [[nodiscard]] Painting::PixelGrid grid() const;
     [[nodiscard]] QRegion toPoints(const QRegion& pixels) const;
     void prepareEdge();
-    void prepareIdlePicture();
     void resetIdlePicture();
     void preparePicture();
     void announceScore();
@@ -83,7 +59,6 @@ private:
     // Null until the whole board is painted for a second time, as in the animation of a card or of
     // the sheet. At the start it would be the largest allocation next to the window.
     QImage enlarged_;
-    std::optional<OfferedPicture> offered_;
     Painting::FrameEdge edge_;
     // The backdrop's revision that the edge was made from.
     int edgeRevision_ = 0;

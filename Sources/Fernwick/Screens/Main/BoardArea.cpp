@@ -62,10 +62,6 @@ void BoardArea::placeBoard(const Painting::BoardGeometry& inArea, const QPoint& 
     }
 }
 
-void BoardArea::paintAhead() {
-    board_->paintAhead();
-}
-
 void BoardArea::refresh() {
     const bool ended = session_.game().ended();
     const bool idle = !session_.running();

@@ -25,8 +25,6 @@ public:
     /// in the window, in points; `devicePixelRatio` is device pixels per point.
     void placeBoard(const Painting::BoardGeometry& inArea, const QPoint& origin,
                     qreal devicePixelRatio);
-    /// Starts painting the board in another thread; see Board::paintAhead().
-    void paintAhead();
     /// The board's frame in points of the window.
     [[nodiscard]] const QRectF& frame() const { return frame_; }
 

@@ -61,10 +61,6 @@ void ContentView::paintEvent(QPaintEvent* event) {
     }
 }
 
-void ContentView::paintAhead() {
-    boardArea_->paintAhead();
-}
-
 QRect ContentView::contentArea() const {
     return arrangement_.content;
 }

@@ -23,9 +23,6 @@ public:
 
     /// The uppermost `height` points are covered; 0 if none are.
     void setBand(int height);
-    /// Starts painting the board in another thread, at the place that it has now. Call it when this
-    /// widget is visible and laid out.
-    void paintAhead();
     /// The part that the rows and the board fill, in points.
     [[nodiscard]] QRect contentArea() const;
 

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
-#include <future>
 
 #include "Fernwick/Painting/Games.hpp"
 #include "Fernwick/Painting/PictureDifference.hpp"
@@ -168,90 +167,6 @@ TEST(Board, showsTheSameIdlePictureHoweverOftenItIsPainted) {
     window.settle();
 
     EXPECT_NE(window.onScreen(), first);
-}
-
-std::future<Painting::IdlePicture> ready(const Game& game, const Painting::PixelGrid& grid) {
-    return std::async(std::launch::deferred, Painting::idlePicture, game, grid);
-}
-
-TEST(Board, showsAnOfferedIdlePictureOfItsGameAndGrid) {
-    BoardWindow window;
-    const Game game = Games::ofLength(30);
-    const Game other = Games::ofLength(9);
-    BoardWindow expected;
-    expected.board().setGame(other);
-    expected.board().setIdle(true);
-    window.board().setGame(game);
-
-    // A picture of another game, so that it can be told from the board's own.
-    window.board().offerIdlePicture(game, window.grid(game), ready(other, window.grid(game)));
-    window.board().setIdle(true);
-
-    EXPECT_EQ(window.picture(), expected.picture());
-}
-
-TEST(Board, ignoresAnOfferedIdlePictureOfAnotherGameOrGrid) {
-    const Game game = Games::ofLength(30);
-    BoardWindow plain;
-    plain.board().setGame(game);
-    plain.board().setIdle(true);
-    for (const bool anotherGame : {true, false}) {
-        BoardWindow window;
-        window.board().setGame(game);
-        Painting::PixelGrid grid = window.grid(game);
-        grid.scale *= anotherGame ? 1 : 2;
-
-        window.board().offerIdlePicture(anotherGame ? Game(28, 22) : game, grid,
-                                        ready(Games::ofLength(9), window.grid(game)));
-        window.board().setIdle(true);
-
-        EXPECT_EQ(window.picture(), plain.picture());
-    }
-}
-
-TEST(Board, showsTheSameWhetherItIsPaintedAheadOrNot) {
-    BoardWindow ahead({700, 560}, true);
-    BoardWindow notAhead({700, 560}, true);
-    const Game game = Games::ofLength(9);
-    ahead.board().setGame(game);
-    notAhead.board().setGame(game);
-
-    ahead.board().paintAhead();
-    EXPECT_TRUE(ahead.board().isPaintingAhead());
-
-    EXPECT_EQ(ahead.picture(), notAhead.picture());
-    EXPECT_FALSE(ahead.board().isPaintingAhead());
-}
-
-TEST(Board, isRightIfItChangesWhileItIsPaintedAhead) {
-    BoardWindow window({700, 560}, true);
-    window.board().setGame(Games::ofLength(9));
-    window.board().paintAhead();
-
-    window.resize(640, 500);
-    window.board().setGame(Games::ofLength(3));
-
-    BoardWindow other({640, 500}, true);
-    other.board().setGame(Games::ofLength(3));
-    EXPECT_EQ(window.picture(), other.picture());
-    EXPECT_FALSE(window.board().isPaintingAhead());
-}
-
-TEST(Board, isNotPaintedAheadWhileTheSnakeMoves) {
-    BoardWindow window;
-
-    window.board().paintAhead();
-
-    EXPECT_FALSE(window.board().isPaintingAhead());
-}
-
-TEST(Board, canBeDestroyedWhileItIsPaintedAhead) {
-    for (int run = 0; run < 5; ++run) {
-        BoardWindow window({700, 560}, true);
-        window.board().setGame(Games::ofLength(9));
-        window.board().paintAhead();
-        EXPECT_TRUE(window.board().isPaintingAhead());
-    }
 }
 
 TEST(Board, showsANewGameWhileIdle) {

@@ -26,10 +26,6 @@ public:
     /// The frame in points of the window. Odd margins make its edges fractions.
     [[nodiscard]] QRectF frame() const { return fitted().frame; }
 
-    [[nodiscard]] Painting::PixelGrid grid(const SnakeCore::Game& game) const {
-        return Board::gridOf(fitted(), frame().toAlignedRect(), devicePixelRatioF(), game);
-    }
-
     [[nodiscard]] QPoint middleOf(const SnakeCore::Cell& cell) const {
         const QPointF offset(static_cast<double>(cell.x) + 0.5, static_cast<double>(cell.y) + 0.5);
         return (frame().topLeft() + offset * fitted().cell).toPoint();

@@ -11,7 +11,6 @@ int main(int argc, char* argv[]) {
     const OffscreenScreens screens(windowSizes());
     const QApplication application(argc, argv);
     applyGardenStyle();
-    applyGardenFonts();
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }
