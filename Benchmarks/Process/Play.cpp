@@ -56,6 +56,8 @@ private:
             turn();
             QMetaObject::invokeMethod(timer, "timeout");
         }
+        // For the first step that the timer makes.
+        turn();
     }
 
     void turn() { session_.key(static_cast<GameKey>(alongCycle(session_.game()))); }
