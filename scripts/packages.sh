@@ -154,6 +154,8 @@ imagemagick          takes screenshots
 dbus                 D-Bus session bus for the desktop tests
 at-spi2-core         AT-SPI accessibility bus
 python3-gi           AT-SPI client library for Python
+orca                 screen reader
+speech-dispatcher    speech server of that screen reader
 python3-cbor2        reads the preferences file
 python3-pytest       test runner for Python
 pulseaudio           sound server for the sound tests

@@ -14,7 +14,6 @@ IN_WINDOW = 1
 TIMEOUT_MS = 10_000
 
 # AtspiStateType.
-ACTIVE = 1
 CHECKED = 4
 EDITABLE = 7
 FOCUSABLE = 11
@@ -116,10 +115,6 @@ class Element:
         """Whether it is enabled."""
         return self._has(SENSITIVE)
 
-    def is_active(self):
-        """Whether it is the active window."""
-        return self._has(ACTIVE)
-
     def is_checked(self):
         return self._has(CHECKED)
 
@@ -153,33 +148,3 @@ class Element:
 
     def _ask(self, interface, method, signature="()", *arguments):
         return call(self._bus, self.address, interface, method, signature, *arguments)
-
-
-class Listener:
-    """Records the names that changed, in order, as a screen reader is notified of them."""
-
-    def __init__(self, bus):
-        self._bus = bus
-        self._names = []
-        registry = REGISTRY[0], "/org/a11y/atspi/registry"
-        call(bus, registry, "org.a11y.atspi.Registry", "RegisterEvent", "(sass)",
-             "Object:PropertyChange", [], "")
-        self._subscription = bus.signal_subscribe(
-            None, "org.a11y.atspi.Event.Object", "PropertyChange", None, "accessible-name",
-            Gio.DBusSignalFlags.NONE, self._name_changed)
-
-    def names(self):
-        """The names recorded so far."""
-        while GLib.MainContext.default().iteration(False):
-            pass
-        return self._names
-
-    def close(self):
-        self._bus.signal_unsubscribe(self._subscription)
-
-    def _name_changed(self, bus, sender, path, interface, signal, parameters):
-        # The event does not carry the name; screen readers query it, too.
-        try:
-            self._names.append(Element(self._bus, (sender, path)).name)
-        except GLib.Error:
-            pass

@@ -7,29 +7,29 @@
 
 namespace {
 
-/// Records the accessible name changes that Qt sends during the lifetime of the object.
+/// Records the names of the notifications that are shown during the lifetime of the object.
 class Announcements {
 public:
     Announcements() {
-        names_.clear();
+        texts_.clear();
         previous_ = QAccessible::installUpdateHandler(&record);
     }
     ~Announcements() { QAccessible::installUpdateHandler(previous_); }
     Announcements(const Announcements&) = delete;
     Announcements& operator=(const Announcements&) = delete;
 
-    /// How many times a visible widget changed its name to `name`.
-    [[nodiscard]] qsizetype count(const QString& name) const { return names_.count(name); }
+    /// Those since the last call.
+    [[nodiscard]] static QStringList taken() { return std::exchange(texts_, {}); }
 
 private:
     static void record(QAccessibleEvent* event) {
-        auto* widget = qobject_cast<QWidget*>(event->object());
-        if (event->type() == QAccessible::NameChanged && widget != nullptr && widget->isVisible()) {
-            names_.append(event->accessibleInterface()->text(QAccessible::Name));
+        if (event->type() == QAccessible::ObjectShow &&
+            event->accessibleInterface()->role() == QAccessible::Notification) {
+            texts_.append(event->accessibleInterface()->text(QAccessible::Name));
         }
     }
 
-    static inline QStringList names_;
+    static inline QStringList texts_;
     QAccessible::UpdateHandler previous_ = nullptr;
 };
 
@@ -37,69 +37,105 @@ class WindowAnnouncements : public WindowTest {
 protected:
     WindowAnnouncements() {
         EXPECT_TRUE(QTest::qWaitFor([] { return QAccessible::isActive(); }));
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     }
 
-    void pauseOrResume() {
-        session.pause();
-        processEvents();
+    [[nodiscard]] QString ended(const QString& pace) const {
+        return QStringLiteral("Game over. %1 POINTS, %2. Leave your name in the garden.")
+            .arg(session.game().score())
+            .arg(pace);
     }
+
+    Announcements announcements;
 };
-
-const QString moving = QStringLiteral("IN THE FLOW");
-const QString paused = QStringLiteral("TAKE A BREATH");
-const QString ended = QStringLiteral("ANOTHER CHANCE TO GROW");
-const QString saved = QStringLiteral("Score saved · Top 10");
 
 }  // namespace
 
-TEST_F(WindowAnnouncements, includeEachStartPauseAndResumeOnce) {
-    const Announcements announcements;
+TEST_F(WindowAnnouncements, includeEachStartAndResumeAndTheScoreAtEachPause) {
     startRun();
-    EXPECT_EQ(announcements.count(moving), 1);
-    pauseOrResume();
-    EXPECT_EQ(announcements.count(paused), 1);
-    pauseOrResume();
-    EXPECT_EQ(announcements.count(moving), 2);
-    EXPECT_EQ(announcements.count(paused), 1);
+    processEvents();
+    EXPECT_EQ(announcements.taken(), QStringList("IN THE FLOW."));
+
+    session.pause();
+    processEvents();
+    EXPECT_EQ(announcements.taken(),
+              QStringList(QStringLiteral("TAKE A BREATH. SCORE: %1.").arg(session.game().score())));
+
+    session.pause();
+    processEvents();
+    EXPECT_EQ(announcements.taken(), QStringList("IN THE FLOW."));
 }
 
-TEST_F(WindowAnnouncements, includeTheEndOnce) {
-    const Announcements announcements;
-    playToNameEntry();
-
-    EXPECT_EQ(announcements.count(ended), 1);
-}
-
-TEST_F(WindowAnnouncements, includeEverySaveOnce) {
-    const Announcements announcements;
+TEST_F(WindowAnnouncements, includeTheResultAndWhereItWasSavedOnce) {
     for (int saves = 1; saves <= 3; ++saves) {
         startRun();
+        static_cast<void>(announcements.taken());
         playToNameEntry();
-        EXPECT_EQ(announcements.count(saved), saves - 1);
+        processEvents();
+        EXPECT_EQ(announcements.taken(), QStringList(ended(QStringLiteral("Classic"))));
+
         saveScoreAs("Ada");
         processEvents();
-        EXPECT_EQ(announcements.count(saved), saves);
-        EXPECT_EQ(announcements.count(ended), saves);
+        const QStringList afterwards = announcements.taken();
+        ASSERT_EQ(afterwards.size(), 1);
+        EXPECT_TRUE(afterwards.first().startsWith("Score saved, Top 10. 0"));
+        EXPECT_TRUE(afterwards.first().endsWith(
+            QStringLiteral(" Ada %1. SPACE TO PLAY AGAIN.").arg(session.game().score())));
     }
 }
 
 TEST_F(WindowAnnouncements, doNotReportASkipAsASave) {
-    playAndSaveAs("Ada");
     startRun();
     playToNameEntry();
-    const Announcements announcements;
-    playAndSkip();
+    processEvents();
+    static_cast<void>(announcements.taken());
+    session.skipSaving();
+    processEvents();
 
-    EXPECT_EQ(announcements.count(saved), 0);
-    EXPECT_EQ(announcements.count("Top 10"), 1);
+    EXPECT_EQ(announcements.taken(), QStringList("Top 10. SPACE TO PLAY AGAIN."));
 }
 
-TEST_F(WindowAnnouncements, omitTheClosingCardWhenANewRunStarts) {
-    playAndSaveAs("Ada");
-    const Announcements announcements;
-    startRun();
+TEST_F(WindowAnnouncements, includeTheChosenSpeed) {
+    session.choosePace(Pace::swift);
+    session.choosePace(Pace::swift);
+    processEvents();
 
-    EXPECT_EQ(announcements.count("Top 10"), 0);
-    EXPECT_EQ(announcements.count(saved), 0);
-    EXPECT_EQ(announcements.count(moving), 1);
+    EXPECT_EQ(announcements.taken(), QStringList("Swift."));
+}
+
+TEST_F(WindowAnnouncements, includeTheScoresOfEachSpeedInTheSheet) {
+    playAndSaveAs("Ada");
+    static_cast<void>(announcements.taken());
+    session.openScores();
+    processEvents();
+    EXPECT_EQ(announcements.taken(),
+              QStringList(QStringLiteral("Classic. 01 Ada %1.").arg(session.game().score())));
+
+    session.chooseScorePace(Pace::swift);
+    processEvents();
+    EXPECT_EQ(announcements.taken(),
+              QStringList("Swift. A fresh start. Be the first on the board."));
+
+    session.closeScores();
+    session.openScores();
+    processEvents();
+    EXPECT_EQ(announcements.taken().size(), 1);
+}
+
+TEST_F(WindowAnnouncements, waitUntilTheWindowIsActive) {
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    static_cast<void>(announcements.taken());
+    session.choosePace(Pace::gentle);
+    processEvents();
+    session.choosePace(Pace::swift);
+    processEvents();
+    EXPECT_EQ(announcements.taken(), QStringList());
+
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    processEvents();
+    EXPECT_EQ(announcements.taken(), QStringList("Swift."));
 }

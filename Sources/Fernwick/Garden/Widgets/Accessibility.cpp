@@ -12,6 +12,28 @@ namespace {
 
 constexpr const char* roleProperty = "accessibleRole";
 
+bool isLeftOut(const QWidget& widget) {
+    const QVariant role = widget.property(roleProperty);
+    return role.isValid() && role.toInt() == QAccessible::NoRole;
+}
+
+// What is accessible as a child of `parent`.
+QList<QWidget*> elementsOf(const QWidget& parent) {
+    QList<QWidget*> elements;
+    for (QObject* object : parent.children()) {
+        auto* child = qobject_cast<QWidget*>(object);
+        if (child == nullptr || child->isWindow()) {
+            continue;
+        }
+        if (isLeftOut(*child)) {
+            elements += elementsOf(*child);
+        } else {
+            elements += child;
+        }
+    }
+    return elements;
+}
+
 class AccessibleWidget : public QAccessibleWidget {
 public:
     explicit AccessibleWidget(QWidget* widget) : QAccessibleWidget(widget) {}
@@ -24,6 +46,35 @@ public:
         QAccessible::State state = QAccessibleWidget::state();
         state.modal = role() == QAccessible::Dialog;
         return state;
+    }
+
+    [[nodiscard]] QString text(QAccessible::Text kind) const override {
+        const QString given = QAccessibleWidget::text(kind);
+        // Qt takes the tool tip as the description, which is often the name.
+        return kind == QAccessible::Description && given == text(QAccessible::Name) ? QString()
+                                                                                    : given;
+    }
+
+    [[nodiscard]] QAccessibleInterface* parent() const override {
+        QWidget* around = widget()->parentWidget();
+        while (around != nullptr && isLeftOut(*around)) {
+            around = around->parentWidget();
+        }
+        return around == nullptr ? QAccessibleWidget::parent()
+                                 : QAccessible::queryAccessibleInterface(around);
+    }
+
+    [[nodiscard]] int childCount() const override {
+        return static_cast<int>(elementsOf(*widget()).size());
+    }
+
+    [[nodiscard]] QAccessibleInterface* child(int index) const override {
+        return QAccessible::queryAccessibleInterface(elementsOf(*widget()).value(index));
+    }
+
+    [[nodiscard]] int indexOfChild(const QAccessibleInterface* child) const override {
+        return static_cast<int>(
+            elementsOf(*widget()).indexOf(qobject_cast<QWidget*>(child->object())));
     }
 };
 
@@ -41,7 +92,7 @@ public:
     }
 
     [[nodiscard]] QString text(QAccessible::Text kind) const override {
-        const QString given = QAccessibleWidget::text(kind);
+        const QString given = AccessibleWidget::text(kind);
         return kind == QAccessible::Name && given.isEmpty() ? button_->text() : given;
     }
 
@@ -77,7 +128,7 @@ public:
             case QAccessible::Value:
                 return number;
             default:
-                return QAccessibleWidget::text(kind);
+                return AccessibleWidget::text(kind);
         }
     }
 
@@ -99,6 +150,15 @@ QAccessibleInterface* create(const QString&, QObject* object) {
 }
 
 }  // namespace
+
+QString spoken(const QString& text) {
+    QStringList parts = text.split(u'·');
+    for (QString& part : parts) {
+        part = part.simplified();
+    }
+    parts.removeAll(QString());
+    return parts.join(QStringLiteral(", "));
+}
 
 void setAccessibleRole(QWidget& widget, QAccessible::Role role) {
     // Qt ignores a factory that is already installed.

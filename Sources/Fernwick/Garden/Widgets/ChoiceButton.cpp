@@ -25,6 +25,8 @@ ChoiceButton::ChoiceButton(const QString& text, QWidget* parent)
     : QuietButton(text, sans(fontSize, QFont::Medium), fullPadding, parent) {
     setAccessibleRole(*this, QAccessible::RadioButton);
     setCheckable(true);
+    //: Read aloud after the name of a speed.
+    setAccessibleDescription(tr("Press Return to choose."));
 }
 
 void ChoiceButton::keyPressEvent(QKeyEvent* event) {

@@ -65,20 +65,14 @@ void RollingDigits::setValue(qint64 value) {
         roll_.start();
     }
     update();
-    announce();
+    QAccessibleEvent renamed(this, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&renamed);
 }
 
 void RollingDigits::setDensity(const Density& density) {
     setFont(scaled(mono(fontSize, fontWeight), density.scale));
     updateGeometry();
     update();
-}
-
-void RollingDigits::announce() {
-    QAccessibleEvent name(this, QAccessible::NameChanged);
-    QAccessible::updateAccessibility(&name);
-    QAccessibleValueChangeEvent changed(this, QVariant(value_));
-    QAccessible::updateAccessibility(&changed);
 }
 
 QSize RollingDigits::sizeHint() const {

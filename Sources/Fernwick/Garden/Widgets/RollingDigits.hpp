@@ -40,7 +40,6 @@ private:
     /// Mint that becomes transparent above and below the digits at rest, so that the edges of the
     /// widget do not cut off digits that roll.
     [[nodiscard]] QBrush fadedAtEdges(double opacity) const;
-    void announce();
 
     Qt::Alignment alignment_;
     qint64 value_ = 0;

@@ -86,6 +86,14 @@
     </message>
 </context>
 <context>
+    <name>Garden::ChoiceButton</name>
+    <message>
+        <source>Press Return to choose.</source>
+        <extracomment>Read aloud after the name of a speed.</extracomment>
+        <translation>Pressione Enter para escolher.</translation>
+    </message>
+</context>
+<context>
     <name>Garden::Sheet</name>
     <message>
         <source>Done</source>

@@ -1,12 +1,15 @@
 #include "Screens/Main/ControlRow.hpp"
 
+#include <utility>
+
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/Palette.hpp"
+#include "Garden/Widgets/Announcer.hpp"
 #include "Garden/Widgets/ChoiceGroup.hpp"
 #include "Garden/Widgets/Layout.hpp"
 #include "Garden/Widgets/StatusDot.hpp"
 #include "Garden/Widgets/TrackedLabel.hpp"
-#include "Session/Session.hpp"
+#include "Screens/Main/HeaderRow.hpp"
 
 namespace {
 
@@ -17,12 +20,17 @@ constexpr int statusSpacing = 7;
 constexpr int columnSpacing = 12;
 // Of the speeds in a column, so that the longest names fit.
 constexpr double columnAir = 0.6;
+// Less often would be too seldom, and more often would talk over the game. The sound tells of each
+// fruit.
+constexpr std::int64_t announcedPoints = 100;
 
 }  // namespace
 
 ControlRow::ControlRow(Session& session, QWidget* parent)
     : QWidget(parent),
       session_(session),
+      phase_(session.phase()),
+      pace_(session.pace()),
       speeds_(new Garden::ChoiceGroup(paceNames(), tr("Speed"))),
       dot_(new Garden::StatusDot),
       status_(new Garden::TrackedLabel({}, Garden::sans(statusSize, QFont::Medium, statusTracking),
@@ -72,4 +80,25 @@ void ControlRow::refresh() {
     speeds_->setChoicesEnabled(!session_.inRun() && !session_.awaitingName());
     dot_->setColour(session_.running() ? Garden::mint : Garden::muted);
     status_->setText(statusWord());
+    announce();
+}
+
+// The end of a run is announced by its card.
+void ControlRow::announce() {
+    const bool changesPhase = session_.phase() != std::exchange(phase_, session_.phase());
+    const std::int64_t score = session_.game().score();
+    const std::int64_t before = std::exchange(score_, score);
+    if (session_.pace() != std::exchange(pace_, session_.pace())) {
+        Garden::announce(*this, displayName(pace_));
+    }
+    if (!session_.inRun()) {
+        return;
+    }
+    if (changesPhase) {
+        Garden::announce(*this, statusWord());
+    }
+    const bool pauses = changesPhase && !session_.running();
+    if (pauses || score / announcedPoints > before / announcedPoints) {
+        Garden::announce(*this, QStringLiteral("%1: %2").arg(HeaderRow::tr("SCORE")).arg(score));
+    }
 }

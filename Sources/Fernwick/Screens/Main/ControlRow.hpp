@@ -3,9 +3,9 @@
 #include <QWidget>
 
 #include "Garden/Widgets/ContentDensity.hpp"
+#include "Session/Session.hpp"
 
 class QBoxLayout;
-class Session;
 
 namespace Garden {
 class ChoiceGroup;
@@ -27,8 +27,13 @@ public:
 private:
     void refresh();
     [[nodiscard]] QString statusWord() const;
+    void announce();
 
     Session& session_;
+    // What has been announced.
+    Session::Phase phase_;
+    Pace pace_;
+    std::int64_t score_ = 0;
     Garden::ChoiceGroup* speeds_;
     Garden::StatusDot* dot_;
     Garden::TrackedLabel* status_;

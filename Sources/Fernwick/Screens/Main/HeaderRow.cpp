@@ -2,6 +2,7 @@
 
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/Palette.hpp"
+#include "Garden/Widgets/Accessibility.hpp"
 #include "Garden/Widgets/IconView.hpp"
 #include "Garden/Widgets/Layout.hpp"
 #include "Garden/Widgets/RollingDigits.hpp"
@@ -36,13 +37,14 @@ constexpr double columnTaglineScale = 0.68;
 HeaderRow::HeaderRow(Session& session, QWidget* parent)
     : QWidget(parent),
       session_(session),
-      score_(new Garden::RollingDigits(Qt::AlignLeft, this)),
-      best_(new Garden::RollingDigits(Qt::AlignRight, this)),
+      score_(new Garden::RollingDigits(Qt::AlignLeft)),
+      best_(new Garden::RollingDigits(Qt::AlignRight)),
       //: The line under the wordmark: of the garden, and of whoever plays in it.
       tagline_(new Garden::TrackedLabel(tr("A little room to grow."),
                                         Garden::serif(taglineSize, QFont::ExtraLight),
                                         Garden::withOpacity(Qt::white, taglineOpacity))),
       row_(Garden::layOut<QHBoxLayout>(this, 0)) {
+    Garden::setAccessibleRole(*this, QAccessible::Client);
     row_->addLayout(titleBlock());
     row_->addStretch();
     row_->addLayout(scoreTiles());
@@ -101,12 +103,13 @@ QBoxLayout* HeaderRow::titleBlock() {
 QBoxLayout* HeaderRow::scoreTile(const QString& label, Garden::RollingDigits* value,
                                  Qt::Alignment alignment) {
     value->setAccessibleName(label);
+    auto* caption = new Garden::TrackedLabel(
+        label, Garden::sans(labelSize, QFont::Medium, labelTracking), Garden::muted);
+    // The number has it in its name.
+    Garden::setAccessibleRole(*caption, QAccessible::NoRole);
     auto* tile = new QVBoxLayout;
     tile->setSpacing(tileSpacing);
-    tile->addWidget(
-        new Garden::TrackedLabel(label, Garden::sans(labelSize, QFont::Medium, labelTracking),
-                                 Garden::muted),
-        0, alignment);
+    tile->addWidget(caption, 0, alignment);
     tile->addWidget(value, 0, alignment);
     return tile;
 }

@@ -2,6 +2,7 @@
 
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/Palette.hpp"
+#include "Garden/Widgets/Accessibility.hpp"
 #include "Garden/Widgets/IconButton.hpp"
 #include "Garden/Widgets/Layout.hpp"
 #include "Garden/Widgets/TrackedLabel.hpp"
@@ -72,6 +73,7 @@ HintRow::HintRow(Session& session, QWidget* parent)
     arrange(Form::oneLine, {});
     // The icon shows whether sounds are on; screen readers need the checked state.
     sound_->setCheckable(true);
+    Garden::setAccessibleRole(*sound_, QAccessible::CheckBox);
 
     connect(scores_, &QAbstractButton::clicked, &session_, &Session::openScores);
     connect(sound_, &QAbstractButton::clicked, &session_,

@@ -5,6 +5,7 @@
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/NumberText.hpp"
 #include "Garden/Look/Palette.hpp"
+#include "Garden/Widgets/Announcer.hpp"
 #include "Garden/Widgets/GardenButton.hpp"
 #include "Garden/Widgets/IconView.hpp"
 #include "Garden/Widgets/Layout.hpp"
@@ -41,7 +42,10 @@ Overlay::Overlay(Session& session, QWidget* parent)
                                       Garden::primaryText)),
       line_(new Garden::TrackedLabel({}, Garden::sans(lineSize, QFont::Normal),
                                      Garden::withOpacity(Qt::white, lineOpacity))),
-      button_(new Garden::GardenButton({}, this, Garden::GardenButton::Style::arrow)) {
+      button_(new Garden::GardenButton({}, this, Garden::GardenButton::Style::arrow)),
+      hint_(new Garden::TrackedLabel(
+          //: The space bar.
+          tr("PRESS SPACE"), Garden::sans(hintSize, QFont::Medium, hintTracking), Garden::muted)) {
     auto* column = Garden::layOut<QVBoxLayout>(this, 0, padding);
     column->addStretch();
     column->addWidget(symbol_, 0, Qt::AlignHCenter);
@@ -52,11 +56,7 @@ Overlay::Overlay(Session& session, QWidget* parent)
     column->addSpacing(spacing + spaceAboveButton);
     column->addWidget(button_, 0, Qt::AlignHCenter);
     column->addSpacing(spacing + spaceAboveHint);
-    column->addWidget(
-        new Garden::TrackedLabel(
-            //: The space bar.
-            tr("PRESS SPACE"), Garden::sans(hintSize, QFont::Medium, hintTracking), Garden::muted),
-        0, Qt::AlignHCenter);
+    column->addWidget(hint_, 0, Qt::AlignHCenter);
     column->addStretch();
     connect(button_, &QAbstractButton::clicked, this,
             [this] { session_.inRun() ? session_.pause() : session_.start(); });
@@ -71,6 +71,14 @@ void Overlay::resizeEvent(QResizeEvent*) {
     density_->set(density);
     line_->wrapAt(contentsRect().marginsRemoved(layout()->contentsMargins()).width(),
                   Qt::AlignHCenter);
+}
+
+void Overlay::showEvent(QShowEvent*) {
+    if (!session_.started()) {
+        for (const QString& text : {title_->text(), button_->text(), hint_->text()}) {
+            Garden::announce(*this, text);
+        }
+    }
 }
 
 void Overlay::refresh() {

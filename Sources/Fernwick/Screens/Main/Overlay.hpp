@@ -25,6 +25,7 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     void refresh();
@@ -34,5 +35,6 @@ private:
     Garden::TrackedLabel* title_;
     Garden::TrackedLabel* line_;
     Garden::GardenButton* button_;
+    Garden::TrackedLabel* hint_;
     Garden::ContentDensity* density_ = nullptr;
 };

@@ -7,6 +7,7 @@
 #include "Garden/Look/Motion.hpp"
 #include "Garden/Look/NumberText.hpp"
 #include "Garden/Look/Palette.hpp"
+#include "Garden/Widgets/Announcer.hpp"
 #include "Garden/Widgets/FocusRing.hpp"
 #include "Garden/Widgets/Layout.hpp"
 #include "Garden/Widgets/TrackedLabel.hpp"
@@ -120,11 +121,16 @@ void GameOverView::refresh() {
         // Space starts the next run now, so no button may have the focus.
         Garden::releaseFocus(*nameEntry_);
         nameEntry_->hide();
-        // Shown before it changes: screen readers announce changes of visible widgets only.
-        savedBoard_->show();
         savedBoard_->refresh();
+        if (savedBoard_->isHidden()) {
+            savedBoard_->show();
+            savedBoard_->announce();
+        }
     }
     if (endsNow) {
+        Garden::announce(*this, headline_->text());
+        Garden::announce(*this, result_->text());
+        Garden::announce(*this, NameEntry::tr("Leave your name in the garden."));
         fadeIn();
     }
 }

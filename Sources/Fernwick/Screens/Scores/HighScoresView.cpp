@@ -1,6 +1,9 @@
 #include "Screens/Scores/HighScoresView.hpp"
 
+#include <utility>
+
 #include "Garden/Look/Fonts.hpp"
+#include "Garden/Widgets/Announcer.hpp"
 #include "Garden/Widgets/ChoiceGroup.hpp"
 #include "Screens/Scores/ScoreRows.hpp"
 #include "Session/Session.hpp"
@@ -49,8 +52,15 @@ HighScoresView::HighScoresView(Session& session, QWidget* parent)
 
 void HighScoresView::refresh() {
     if (!session_.showingScores()) {
+        announced_.reset();
         return;
     }
     speed_->setCurrent(static_cast<int>(session_.scorePace()));
     rows_->setEntries(session_.scores().leaders(rawValue(session_.scorePace())));
+    if (std::exchange(announced_, session_.scorePace()) != session_.scorePace()) {
+        Garden::announce(*this, displayName(session_.scorePace()));
+        for (const QString& text : rows_->texts()) {
+            Garden::announce(*this, text);
+        }
+    }
 }

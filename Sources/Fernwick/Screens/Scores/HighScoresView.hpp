@@ -1,6 +1,9 @@
 #pragma once
 
+#include <optional>
+
 #include "Garden/Widgets/Sheet.hpp"
+#include "Session/Pace.hpp"
 
 class ScoreRows;
 class Session;
@@ -22,4 +25,5 @@ private:
     Session& session_;
     Garden::ChoiceGroup* speed_;
     ScoreRows* rows_;
+    std::optional<Pace> announced_;
 };

@@ -4,6 +4,7 @@
 
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/Palette.hpp"
+#include "Garden/Widgets/Accessibility.hpp"
 #include "Garden/Widgets/GardenButton.hpp"
 #include "Garden/Widgets/Layout.hpp"
 #include "Garden/Widgets/QuietButton.hpp"
@@ -39,6 +40,8 @@ NameEntry::NameEntry(Session& session, QWidget* parent)
     //: Shown in the empty field.
     field_->setPlaceholderText(tr("Your name"));
     field_->setAccessibleName(tr("Player name"));
+    // Otherwise the placeholder would be, which is the name in other words.
+    field_->setAccessibleDescription(Garden::spoken(hint()));
     auto* skip = new Garden::QuietButton(tr("Skip saving"), Garden::sans(skipSize, QFont::Normal),
                                          skipPadding);
 

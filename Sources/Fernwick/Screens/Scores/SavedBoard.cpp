@@ -4,6 +4,7 @@
 
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/Palette.hpp"
+#include "Garden/Widgets/Announcer.hpp"
 #include "Garden/Widgets/GardenButton.hpp"
 #include "Garden/Widgets/Layout.hpp"
 #include "Garden/Widgets/TrackedLabel.hpp"
@@ -26,7 +27,11 @@ SavedBoard::SavedBoard(Session& session, QWidget* parent)
       session_(session),
       title_(new Garden::TrackedLabel({}, Garden::sans(titleSize, QFont::Normal), Garden::muted,
                                       this)),
-      rows_(new ScoreRows(this)) {
+      rows_(new ScoreRows(this)),
+      hint_(new Garden::TrackedLabel(
+          //: The space bar.
+          tr("SPACE TO PLAY AGAIN"), Garden::sans(hintSize, QFont::Normal, hintTracking),
+          Garden::muted)) {
     rows_->setHeights(listHeight, leastListHeight);
     auto* replay = new Garden::GardenButton(tr("Play again"), this);
     connect(replay, &QAbstractButton::clicked, &session_, &Session::start);
@@ -35,16 +40,19 @@ SavedBoard::SavedBoard(Session& session, QWidget* parent)
     column->addWidget(title_, 0, Qt::AlignHCenter);
     column->addWidget(rows_);
     column->addWidget(replay, 0, Qt::AlignHCenter);
-    //: The space bar.
-    column->addWidget(new Garden::TrackedLabel(tr("SPACE TO PLAY AGAIN"),
-                                               Garden::sans(hintSize, QFont::Normal, hintTracking),
-                                               Garden::muted),
-                      0, Qt::AlignHCenter);
+    column->addWidget(hint_, 0, Qt::AlignHCenter);
 }
 
 void SavedBoard::clear() {
-    title_->setText({});
     rows_->setEntries({}, std::nullopt);
+}
+
+void SavedBoard::announce() {
+    Garden::announce(*this, title_->text());
+    if (const QString entry = rows_->highlightedText(); !entry.isEmpty()) {
+        Garden::announce(*this, entry);
+    }
+    Garden::announce(*this, hint_->text());
 }
 
 void SavedBoard::refresh() {

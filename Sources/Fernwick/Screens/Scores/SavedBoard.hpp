@@ -19,12 +19,14 @@ public:
 
     void refresh();
 
-    /// Clears the title, so that the next one is announced to screen readers as a change, and the
-    /// list, which is scrolled anew then.
+    /// Clears the list, so that the next one is scrolled anew.
     void clear();
+    /// Has a screen reader say the title, the new entry if it is in the list, and how to go on.
+    void announce();
 
 private:
     Session& session_;
     Garden::TrackedLabel* title_;
     ScoreRows* rows_;
+    Garden::TrackedLabel* hint_;
 };

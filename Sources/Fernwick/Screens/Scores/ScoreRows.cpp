@@ -48,17 +48,16 @@ QString scrollBarStyle() {
 ScoreRows::ScoreRows(QWidget* parent)
     : QWidget(parent),
       empty_(new QWidget),
+      emptyText_(new Garden::TrackedLabel(tr("A fresh start. Be the first on the board."),
+                                          Garden::sans(emptyTextSize, QFont::Normal),
+                                          Garden::muted)),
       scrollArea_(new QScrollArea),
       fade_(new Garden::EdgeFade),
       indicator_(new QScrollBar(Qt::Vertical, scrollArea_)),
       column_(nullptr) {
-    Garden::setAccessibleRole(*this, QAccessible::List);
     auto* padding = Garden::layOut<QVBoxLayout>(empty_, 0);
     padding->setContentsMargins(0, emptyTextPadding, 0, emptyTextPadding);
-    padding->addWidget(
-        new Garden::TrackedLabel(tr("A fresh start. Be the first on the board."),
-                                 Garden::sans(emptyTextSize, QFont::Normal), Garden::muted),
-        0, Qt::AlignCenter);
+    padding->addWidget(emptyText_, 0, Qt::AlignCenter);
     scrollArea_->hide();
     auto* list = new QWidget;
     column_ = Garden::layOut<QVBoxLayout>(list, rowSpacing);
@@ -68,8 +67,12 @@ ScoreRows::ScoreRows(QWidget* parent)
     scrollArea_->setFrameShape(QFrame::NoFrame);
     scrollArea_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scrollArea_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    Garden::setAccessibleRole(*scrollArea_, QAccessible::List);
     //: Read aloud for the list of scores.
     scrollArea_->setAccessibleName(tr("Scores"));
+    for (QWidget* part : scrollArea_->findChildren<QWidget*>()) {
+        Garden::setAccessibleRole(*part, QAccessible::NoRole);
+    }
     scrollArea_->installEventFilter(this);
     scrollArea_->viewport()->setAutoFillBackground(false);
     scrollArea_->viewport()->setGraphicsEffect(fade_);
@@ -216,6 +219,18 @@ void ScoreRows::setEntries(const std::vector<SnakeCore::HighScore>& entries,
         }
     }
     placeList();
+}
+
+QStringList ScoreRows::texts() const {
+    QStringList texts;
+    for (const ScoreRow* row : rows_) {
+        texts.append(row->accessibleName());
+    }
+    return texts.isEmpty() ? QStringList(emptyText_->text()) : texts;
+}
+
+QString ScoreRows::highlightedText() const {
+    return highlightedRow_ == nullptr ? QString() : highlightedRow_->accessibleName();
 }
 
 void ScoreRows::showHighlighted() {

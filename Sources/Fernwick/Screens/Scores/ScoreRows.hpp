@@ -16,7 +16,8 @@ class ScoreRow;
 
 namespace Garden {
 class EdgeFade;
-}
+class TrackedLabel;
+}  // namespace Garden
 
 /// A scrolling list of ranked scores, or a line of text when there are none. The layout sets its
 /// height.
@@ -35,6 +36,11 @@ public:
     /// The list fades out towards an edge beyond which it continues.
     void setEntries(const std::vector<SnakeCore::HighScore>& entries,
                     const std::optional<SnakeCore::UUID>& highlighted = std::nullopt);
+
+    /// Each row as a screen reader says it, or the line when there are none.
+    [[nodiscard]] QStringList texts() const;
+    /// The same of the highlighted row; empty without one.
+    [[nodiscard]] QString highlightedText() const;
 
     void setDensity(const Garden::Density& density) override;
 
@@ -63,6 +69,7 @@ private:
     int leastHeight_ = 0;
     Garden::Density density_;
     QWidget* empty_;
+    Garden::TrackedLabel* emptyText_;
     QScrollArea* scrollArea_;
     Garden::EdgeFade* fade_;
     // An overlay over the rows' padding, so that the rows keep the whole width.
