@@ -55,7 +55,7 @@ class Game:
         self.wait_for("Game over.")
         self.type(name)
         self.press("Return")
-        self.wait_for("Score saved, Top 10")
+        self.wait_for("Score saved · Top 10")
 
     def click(self, element):
         """Clicks in the middle of a control."""

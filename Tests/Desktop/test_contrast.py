@@ -28,7 +28,7 @@ LOW_BY_DESIGN = {"Your name"}
 
 
 SHEET = "The high scores.", "Done"
-ON_SHEET = {*SHEET, "Top 10 for each speed, saved on this computer", "Gentle", "Classic", "Swift",
+ON_SHEET = {*SHEET, "Top 10 for each speed · saved on this computer", "Gentle", "Classic", "Swift",
             "01 Pip 0"}
 
 
@@ -111,7 +111,7 @@ def measured_on_every_screen(game):
     measure()
     game.type("Pip")
     game.press("Return")
-    game.wait_for("Score saved, Top 10")
+    game.wait_for("Score saved · Top 10")
     measure()
     game.press("ctrl+l")
     game.wait_for(*SHEET)

@@ -51,7 +51,7 @@ def test_return_held_over_the_end_of_a_run_saves_nothing(game, home, release):
     assert len(home.high_scores()) == 1
     release("Return")
     game.press("Return")
-    game.wait_for("Score saved, Top 10")
+    game.wait_for("Score saved · Top 10")
 
 
 @pytest.mark.parametrize("key", [SPACE, R])

@@ -133,7 +133,7 @@ def test_r_restarts_during_a_run(game):
 def test_running_into_a_wall_ends_the_run(game):
     game.start_run()
     game.press("Up")
-    game.wait_for(OVER, "Game over.", "0 POINTS, Classic", "Leave your name in the garden.")
+    game.wait_for(OVER, "Game over.", "0 POINTS  ·  Classic", "Leave your name in the garden.")
 
 
 def test_a_fruit_gives_ten_points_and_stores_the_best_at_once(game, home):

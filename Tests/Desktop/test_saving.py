@@ -10,14 +10,14 @@ def end_run(game):
     """Steers into the nearest wall. The first fruit is in another row."""
     game.start_run()
     game.press("Up")
-    game.wait_for("Game over.", "0 POINTS, Classic")
+    game.wait_for("Game over.", "0 POINTS  ·  Classic")
 
 
 def end_run_over_fruit(game):
     """Plays over the first fruit into the wall. Returns the score, as there may be more fruit."""
     game.start_run()
     game.wait_for("Game over.")
-    line, = (text for text in game.texts() if text.endswith(" POINTS, Classic"))
+    line, = (text for text in game.texts() if text.endswith(" POINTS  ·  Classic"))
     score = int(line.split()[0])
     assert score >= 10 and score % 10 == 0
     return score
@@ -26,7 +26,7 @@ def end_run_over_fruit(game):
 def save(game, name):
     game.type(name)
     game.press("Return")
-    game.wait_for("Score saved, Top 10")
+    game.wait_for("Score saved · Top 10")
 
 
 def test_return_saves_the_table_the_name_and_the_best(game, home):

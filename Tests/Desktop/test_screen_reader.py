@@ -5,7 +5,7 @@ from game import MOVING, PAUSED
 from test_sheet import SHEET, wait_until_closed
 from waiting import eventually
 
-SAVED = "Score saved, Top 10"
+SAVED = "Score saved · Top 10"
 
 # The action that each role must have.
 ACTIONS = {"push button": "Press", "toggle button": "Press", "radio button": "Press",
@@ -119,7 +119,7 @@ def test_a_whole_run_can_be_played_with_actions_and_keys(game, home):
     game.find("Let's grow").do("Press")
     game.wait_for(MOVING)
     game.press("Up")
-    game.wait_for("Game over.", "0 POINTS, Swift")
+    game.wait_for("Game over.", "0 POINTS  ·  Swift")
     name = game.find("Player name")
     assert name.is_focused()
     name.write("Pip")

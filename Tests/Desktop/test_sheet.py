@@ -4,7 +4,7 @@ import pytest
 from game import MOVING, PAUSED
 from waiting import eventually
 
-SHEET = "The high scores.", "Top 10 for each speed, saved on this computer", "Done"
+SHEET = "The high scores.", "Top 10 for each speed · saved on this computer", "Done"
 
 
 def wait_until_closed(game):

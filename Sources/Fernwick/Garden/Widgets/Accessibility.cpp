@@ -1,6 +1,7 @@
 #include "Garden/Widgets/Accessibility.hpp"
 
 #include <QAccessibleWidget>
+#include <QFocusFrame>
 #include <QVariant>
 
 #include "Garden/Widgets/QuietButton.hpp"
@@ -22,7 +23,8 @@ QList<QWidget*> elementsOf(const QWidget& parent) {
     QList<QWidget*> elements;
     for (QObject* object : parent.children()) {
         auto* child = qobject_cast<QWidget*>(object);
-        if (child == nullptr || child->isWindow()) {
+        // Qt leaves frames of the focus out, too.
+        if (child == nullptr || child->isWindow() || qobject_cast<QFocusFrame*>(child) != nullptr) {
             continue;
         }
         if (isLeftOut(*child)) {

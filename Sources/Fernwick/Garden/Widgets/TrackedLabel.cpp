@@ -112,7 +112,7 @@ void TrackedLabel::fitToText() {
     const QFont sized = scaled(font_, scale_);
     overhang_ = overhang(sized);
     setFont(fittedTo(text_, sized));
-    setAccessibleName(spoken(text_));
+    setAccessibleName(text_);
     measureExcess();
     breakLines();
 }

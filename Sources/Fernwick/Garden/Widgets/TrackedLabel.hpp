@@ -14,7 +14,7 @@ namespace Garden {
 /// `fittedTo`.
 /// Its width excludes the letter spacing that Qt adds after the last letter, which would shift
 /// centred and right-aligned text. Text that does not fit is elided. The text is also its
-/// accessible name, as it is spoken.
+/// accessible name.
 class TrackedLabel : public QWidget, public Scalable {
     Q_OBJECT
 
