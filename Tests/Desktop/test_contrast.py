@@ -58,6 +58,7 @@ def contrast(picture, area):
 def is_text(element):
     children = element.children()
     return (element.name != "" and not children and element.can_be_used()
+            and element.role != "notification"  # is only spoken
             and not element.name.startswith("Snake board."))
 
 
