@@ -14,6 +14,7 @@ IN_WINDOW = 1
 TIMEOUT_MS = 10_000
 
 # AtspiStateType.
+ACTIVE = 1
 CHECKED = 4
 EDITABLE = 7
 FOCUSABLE = 11
@@ -114,6 +115,10 @@ class Element:
     def can_be_used(self):
         """Whether it is enabled."""
         return self._has(SENSITIVE)
+
+    def is_active(self):
+        """Whether it is the active window."""
+        return self._has(ACTIVE)
 
     def is_checked(self):
         return self._has(CHECKED)
