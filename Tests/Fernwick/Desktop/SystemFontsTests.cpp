@@ -48,7 +48,6 @@ protected:
 private:
     EnvironmentVariable configuration_{"XDG_CONFIG_HOME", folder_.path().c_str()};
 };
-};
 
 }  // namespace
 
