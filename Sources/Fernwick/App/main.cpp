@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QLocale>
+#include <QPixmapCache>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -61,6 +62,8 @@ int main(int argc, char* argv[]) {
     QApplication::setApplicationDisplayName(QStringLiteral("Fernwick"));
     QApplication::setApplicationVersion(QString::fromLatin1(programVersion()));
     QGuiApplication::setDesktopFileName(applicationID);
+    // Its timer wakes an idle program, and the icons have a cache of their own.
+    QPixmapCache::setCacheLimit(0);
     Desktop::restartWithoutArguments();
 
     const Language language(Language::bestFor(QLocale::system().uiLanguages()));
