@@ -9,7 +9,10 @@
 #include <vector>
 
 #include "Fernwick/Window/WindowTest.hpp"
+#include "Garden/Widgets/Sheet.hpp"
+#include "Screens/Main/Board.hpp"
 #include "Screens/Main/ContentView.hpp"
+#include "Screens/Scores/GameOverView.hpp"
 #include "Support/LogCapture.hpp"
 #include "Window/FullScreen.hpp"
 #include "Window/LaunchView.hpp"
@@ -242,6 +245,33 @@ TEST_F(NewWindow, isShownBeforeItsContentIsMadeForFullScreen) {
     EXPECT_TRUE(content->isVisible());
     EXPECT_EQ(content->geometry(), QRect(QPoint(), window.screen()->size()));
     EXPECT_TRUE(window.hasFocus() || window.focusWidget() == &window);
+}
+
+TEST_F(NewWindow, hasItsIconAfterTheFirstFrame) {
+    GameWindow window(session);
+    bool hasAppeared = false;
+    QObject::connect(&window, &GameWindow::appeared, [&] { hasAppeared = true; });
+
+    window.show();
+    while (!hasAppeared) {
+        ASSERT_TRUE(window.windowIcon().isNull());
+        QCoreApplication::processEvents();
+    }
+
+    EXPECT_FALSE(window.windowIcon().isNull());
+}
+
+TEST_F(NewWindow, makesTheCardOfAnEndedRunAndTheSheetsWhenTheyAreFirstShown) {
+    GameWindow window(session);
+    window.show();
+    EXPECT_TRUE(QTest::qWaitFor([&window] { return window.findChild<Board*>() != nullptr; }));
+
+    EXPECT_EQ(window.findChild<GameOverView*>(), nullptr);
+    EXPECT_TRUE(window.findChildren<Garden::Sheet*>().isEmpty());
+    EXPECT_FALSE(window.findChild<Board*>()->hasSharpPicture());
+
+    session.openScores();
+    EXPECT_EQ(window.findChildren<Garden::Sheet*>().size(), 1);
 }
 
 TEST_F(NewWindow, canBeClosedBeforeItsFirstFrame) {
