@@ -16,7 +16,7 @@
     <message>
         <source>Grown from what others share. Thank you.</source>
         <extracomment>Of the fonts and libraries above, whose makers share them.</extracomment>
-        <translation>みんなが分かち合うものから育ちました。ありがとう。</translation>
+        <translation>みなさんが分かち合うものから育ちました。ありがとうございます。</translation>
     </message>
 </context>
 <context>
@@ -317,7 +317,7 @@
     </message>
     <message>
         <source>A good place to begin again.</source>
-        <translation>また、ここからはじめよう。</translation>
+        <translation>また、ここから。</translation>
     </message>
     <message>
         <source>You gathered %lld points. Let&apos;s grow a little further.</source>
@@ -332,7 +332,7 @@
     <message>
         <source>No rush.</source>
         <extracomment>The headline of the pause.</extracomment>
-        <translation>急がなくていい。</translation>
+        <translation>ゆっくりどうぞ。</translation>
     </message>
     <message>
         <source>Your garden will be here when you&apos;re ready.</source>
