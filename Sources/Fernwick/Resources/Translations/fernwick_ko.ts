@@ -16,7 +16,7 @@
     <message>
         <source>Grown from what others share. Thank you.</source>
         <extracomment>Of the fonts and libraries above, whose makers share them.</extracomment>
-        <translation>모두가 나눠 준 것에서 자랐어요. 고마워요.</translation>
+        <translation>많은 이들의 나눔으로 자랐어요. 고마워요.</translation>
     </message>
 </context>
 <context>
