@@ -16,7 +16,7 @@
     <message>
         <source>Grown from what others share. Thank you.</source>
         <extracomment>Of the fonts and libraries above, whose makers share them.</extracomment>
-        <translation>从众人的分享中长成。谢谢。</translation>
+        <translation>在众人的分享中长成。谢谢大家。</translation>
     </message>
 </context>
 <context>
