@@ -90,7 +90,7 @@
     <message>
         <source>Press Return to choose.</source>
         <extracomment>Read aloud after the name of a speed.</extracomment>
-        <translation>Naciśnij Enter, aby wybrać.</translation>
+        <translation>Naciśnij Enter, by wybrać.</translation>
     </message>
 </context>
 <context>
@@ -135,11 +135,11 @@
     </message>
     <message>
         <source>Top 10 for each speed · saved on this Mac</source>
-        <translation>10 najlepszych w każdym tempie · zapisane na tym Macu</translation>
+        <translation>Top 10 w każdym tempie · zapisane na tym Macu</translation>
     </message>
     <message>
         <source>Top 10 for each speed · saved on this computer</source>
-        <translation>10 najlepszych w każdym tempie · zapisane na tym komputerze</translation>
+        <translation>Top 10 w każdym tempie · zapisane na tym komputerze</translation>
     </message>
 </context>
 <context>
