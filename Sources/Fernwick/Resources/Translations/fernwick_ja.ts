@@ -322,7 +322,7 @@
     <message>
         <source>You gathered %lld points. Let&apos;s grow a little further.</source>
         <extracomment>%lld is the score; it has to stay.</extracomment>
-        <translation>%lld ポイントを集めました。もう少し育ちましょう。</translation>
+        <translation>%lld ポイントを集めました。もう少し育てましょう。</translation>
     </message>
     <message>
         <source>Grow again</source>
