@@ -208,7 +208,7 @@
     </message>
     <message>
         <source>Reach a button, press it</source>
-        <translation>Schaltfläche wählen und drücken</translation>
+        <translation>Schaltfläche ansteuern, drücken</translation>
     </message>
     <message>
         <source>These keys</source>
@@ -477,7 +477,7 @@
     <message>
         <source>Scores</source>
         <extracomment>Read aloud for the list of scores.</extracomment>
-        <translation>Punktestände</translation>
+        <translation>Ergebnisse</translation>
     </message>
 </context>
 <context>
