@@ -74,7 +74,7 @@
     <message>
         <source>%lld POINTS  ·  %@</source>
         <extracomment>%lld is the score, %@ the name of the speed; both have to stay. Two spaces round the dot.</extracomment>
-        <translation>%lld POINTS  ·  %@</translation>
+        <translation>SCORE&#xa0;: %lld  ·  %@</translation>
     </message>
 </context>
 <context>
@@ -322,7 +322,7 @@
     <message>
         <source>You gathered %lld points. Let&apos;s grow a little further.</source>
         <extracomment>%lld is the score; it has to stay.</extracomment>
-        <translation>Tu as récolté %lld points. Grandissons encore un peu.</translation>
+        <translation>Points récoltés&#xa0;: %lld. Grandissons encore un peu.</translation>
     </message>
     <message>
         <source>Grow again</source>
