@@ -16,7 +16,7 @@
     <message>
         <source>Grown from what others share. Thank you.</source>
         <extracomment>Of the fonts and libraries above, whose makers share them.</extracomment>
-        <translation>Cresceu a partir do que outras pessoas compartilham. Obrigado.</translation>
+        <translation>Cresceu com o que outras pessoas compartilham. Agradecemos.</translation>
     </message>
 </context>
 <context>
