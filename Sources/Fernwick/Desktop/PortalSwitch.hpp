@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QDBusConnection>
-#include <QDBusVariant>
 #include <QObject>
 #include <QVariant>
 #include <bitset>
@@ -9,9 +8,8 @@
 
 namespace Desktop {
 
-/// A yes-or-no setting from the XDG settings portal (org.freedesktop.portal.Settings) that desktops
-/// store under different keys: on if any of the keys is on. Reads are asynchronous and never
-/// start the portal; it is off until a reply arrives, and without a portal.
+/// A yes-or-no setting from the settings portal that desktops store under different keys: on if any
+/// of the keys is on. It is off until the portal has replied, and without a portal.
 class PortalSwitch : public QObject {
     Q_OBJECT
 
@@ -22,7 +20,7 @@ public:
         bool (*isOn)(const QVariant& value);
     };
 
-    /// `settings`, at most eight, must outlive this object.
+    /// At most eight `settings`.
     PortalSwitch(const QDBusConnection& bus, std::span<const Setting> settings,
                  QObject* parent = nullptr);
 
@@ -33,17 +31,11 @@ Q_SIGNALS:
     void changed();
 
 private:
-    Q_SLOT void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
-    void read(std::size_t setting);
-    void set(std::size_t setting, const QDBusVariant& value);
-
     static constexpr std::size_t maximumSettings = 8;
 
-    QDBusConnection bus_;
-    std::span<const Setting> settings_;
+    void set(std::size_t setting, bool on);
+
     std::bitset<maximumSettings> on_;
-    // A change signal may overtake the reply to an earlier read, which is then out of date.
-    std::bitset<maximumSettings> signalled_;
 };
 
 }  // namespace Desktop
