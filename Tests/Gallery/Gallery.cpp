@@ -7,6 +7,7 @@
 #include "App/CommandLine.hpp"
 #include "App/Language.hpp"
 #include "Gallery/Scenes.hpp"
+#include "Garden/Look/TextScale.hpp"
 #include "Session/Session.hpp"
 #include "Session/SoundEffects.hpp"
 #include "Storage/PreferencesFile.hpp"
@@ -57,9 +58,10 @@ void addToSheet(QPainter& sheet, const QImage& picture, int index, const QSize& 
 }  // namespace
 
 int main(int argc, char* argv[]) {
-    if (argc != 5 && argc != 6) {
+    if (argc < 5 || argc > 7) {
         std::fputs(
-            "usage: fernwick-gallery FOLDER WIDTH HEIGHT window|tile|full-screen [LANGUAGE]\n",
+            "usage: fernwick-gallery FOLDER WIDTH HEIGHT window|tile|full-screen"
+            " [LANGUAGE [TEXT_SCALE]]\n",
             stderr);
         return 2;
     }
@@ -72,9 +74,12 @@ int main(int argc, char* argv[]) {
     const OffscreenScreens screen({state == Qt::WindowNoState ? largeScreen : size});
     const QApplication application(argc, argv);
     // A locale name such as "de" or "pt_BR"; English by default.
-    const QString wanted = argc == 6 ? QString::fromLocal8Bit(argv[5]) : QString();
+    const QString wanted = argc >= 6 ? QString::fromLocal8Bit(argv[5]) : QString();
     const Language language(Language::bestFor({wanted}));
     applyGardenStyle();
+    if (argc == 7) {
+        Garden::TextScale::shared().setFactor(QByteArray(argv[6]).toDouble());
+    }
     const StillStyle still;
     QApplication::setApplicationVersion(QString::fromLatin1(programVersion()));
     if (!QDir().mkpath(folder.path())) {

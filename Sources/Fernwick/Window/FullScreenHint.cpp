@@ -7,10 +7,12 @@
 #include <chrono>
 
 #include "Garden/Look/Contrast.hpp"
+#include "Garden/Look/Density.hpp"
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/Motion.hpp"
 #include "Garden/Look/Palette.hpp"
 #include "Garden/Look/Panel.hpp"
+#include "Garden/Look/TextScale.hpp"
 #include "Garden/Widgets/Accessibility.hpp"
 #include "Session/Session.hpp"
 
@@ -35,9 +37,10 @@ FullScreenHint::FullScreenHint(Session& session, QWidget& window)
     // Screen readers speak a notification when it is shown.
     Garden::setAccessibleRole(*this, QAccessible::Notification);
     setAccessibleName(tr("Press F11 to leave full screen"));
-    setFont(Garden::fittedTo(accessibleName(), Garden::sans(textSize, QFont::Normal)));
     setAttribute(Qt::WA_TransparentForMouseEvents);
     window.installEventFilter(this);
+    connect(&Garden::TextScale::shared(), &Garden::TextScale::changed, this,
+            &FullScreenHint::place);
     connect(&session, &Session::changed, this, [this, &session] {
         if (session.started() || session.sheet() != Session::Sheet::none) {
             leave();
@@ -82,6 +85,9 @@ void FullScreenHint::leave() {
 }
 
 void FullScreenHint::place() {
+    const QFont font =
+        Garden::scaled(Garden::sans(textSize, QFont::Normal), Garden::TextScale::shared().factor());
+    setFont(Garden::fittedTo(accessibleName(), font));
     QRect area({}, sizeHint());
     area.moveCenter(parentWidget()->rect().center());
     area.moveTop(distance);

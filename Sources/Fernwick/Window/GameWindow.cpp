@@ -6,6 +6,7 @@
 #include <QResizeEvent>
 
 #include "Garden/Look/Icons.hpp"
+#include "Garden/Look/TextScale.hpp"
 #include "Garden/Widgets/Accessibility.hpp"
 #include "Screens/Main/ContentView.hpp"
 #include "Session/Session.hpp"
@@ -54,6 +55,9 @@ void GameWindow::makeContent(const QSize& size) {
     connect(content_, &ContentView::dimmed, band_, &TitleBand::setDimming);
     connect(content_, &ContentView::appeared, this, &GameWindow::appeared, Qt::QueuedConnection);
     placeContent(isFullScreen() ? QRect(QPoint(), size) : frame_->visibleArea());
+    // The content has followed it before.
+    connect(&Garden::TextScale::shared(), &Garden::TextScale::changed, this,
+            [this] { placeContent(); });
     content_->show();
     new MenuCommands(session_, band_->menuBar(), *this);
     band_->watchWindow();

@@ -1,14 +1,17 @@
 #include "Window/MenuStyle.hpp"
 
+#include <QApplication>
 #include <QMenu>
 #include <QPainter>
 #include <QStyleOptionMenuItem>
 
 #include "Desktop/X11Compositor.hpp"
 #include "Garden/Look/Contrast.hpp"
+#include "Garden/Look/Density.hpp"
 #include "Garden/Look/Palette.hpp"
 #include "Garden/Look/Panel.hpp"
 #include "Garden/Look/RoundedShape.hpp"
+#include "Garden/Look/TextScale.hpp"
 #include "Window/MenuFade.hpp"
 
 namespace {
@@ -118,6 +121,10 @@ QSize itemSize(const QStyleOptionMenuItem& option, const QSize& title) {
     return title + QSize(2 * itemPaddingX + gutter(option) + gap, 2 * itemPaddingY);
 }
 
+void fitText(QMenu& menu) {
+    menu.setFont(Garden::scaled(QApplication::font("QMenu"), Garden::TextScale::shared().factor()));
+}
+
 }  // namespace
 
 MenuStyle::MenuStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -128,6 +135,9 @@ void MenuStyle::polish(QWidget* widget) {
         menu->setAttribute(Qt::WA_TranslucentBackground);
         if (menu->findChild<MenuFade*>() == nullptr) {
             new MenuFade(*menu);
+            connect(&Garden::TextScale::shared(), &Garden::TextScale::changed, menu,
+                    [menu] { fitText(*menu); });
+            fitText(*menu);
         }
     }
 }

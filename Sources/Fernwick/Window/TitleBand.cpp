@@ -12,7 +12,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "Garden/Look/Density.hpp"
 #include "Garden/Look/Palette.hpp"
+#include "Garden/Look/TextScale.hpp"
 #include "Garden/Widgets/IconButton.hpp"
 #include "Window/AltTap.hpp"
 #include "Window/MenuStyle.hpp"
@@ -22,6 +24,8 @@ namespace {
 
 constexpr int widestMargin = 38;
 constexpr int buttonSpacing = 8;
+// In points: with the space around it, a larger title would reach into the rows of low windows.
+constexpr int largestTitle = 18;
 
 }  // namespace
 
@@ -46,6 +50,8 @@ TitleBand::TitleBand(QWidget* window)
     addButton(maximize_,
               [window] { window->setWindowState(window->windowState() ^ Qt::WindowMaximized); });
     addButton(new Garden::IconButton(Garden::Icon::windowClose, tr("Close")), &QWidget::close);
+    connect(&Garden::TextScale::shared(), &Garden::TextScale::changed, this,
+            &TitleBand::fitMenuBar);
 }
 
 void TitleBand::setContent(const QRect& content) {
@@ -55,6 +61,23 @@ void TitleBand::setContent(const QRect& content) {
     const int menuMargin = margin - menuItemPadding - menuItemSpacing;
     layout()->setContentsMargins(isRightToLeft() ? QMargins(margin, 0, menuMargin, 0)
                                                  : QMargins(menuMargin, 0, margin, 0));
+}
+
+void TitleBand::fitMenuBar() {
+    const QFont full = QApplication::font("QMenuBar");
+    const int wanted = Garden::scaled(full.pixelSize(), Garden::TextScale::shared().factor());
+    QFont font = menuBar_->font();
+    for (int size = std::min(wanted, largestTitle); size >= full.pixelSize(); --size) {
+        font.setPixelSize(size);
+        menuBar_->setFont(font);
+        if (layout()->minimumSize().width() <= width()) {
+            return;
+        }
+    }
+}
+
+void TitleBand::resizeEvent(QResizeEvent*) {
+    fitMenuBar();
 }
 
 void TitleBand::paintEvent(QPaintEvent*) {
@@ -92,6 +115,7 @@ void TitleBand::watchWindow() {
                 Qt::QueuedConnection);
     }
     followWindowState();
+    fitMenuBar();
 }
 
 bool TitleBand::eventFilter(QObject* watched, QEvent* event) {

@@ -46,8 +46,11 @@ Q_SIGNALS:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
+    /// Enlarges the titles of the menus by the desktop's factor, as far as there is room.
+    void fitMenuBar();
     void dim();
     void followWindowState();
     void followPointer(int y);

@@ -11,10 +11,16 @@ constexpr int smallestText = 8;
 
 }  // namespace
 
-Density densityFor(double available, const ContentHeight& contents) {
-    const double missing = std::max(0.0, contents.full - available);
+double scaleForWidth(double available, const ContentSize& contents, double textScale) {
+    return std::clamp(available / contents.width, 1.0, textScale);
+}
+
+Density densityFor(const QSize& available, const ContentSize& contents, double textScale) {
+    const double wanted = scaleForWidth(available.width(), contents, textScale);
+    const double missing = std::max(0.0, contents.full - available.height() / wanted);
     return {std::max(leastAir, 1 - missing / contents.air),
-            std::min(1.0, available / contents.least)};
+            std::min(
+                {wanted, available.width() / contents.width, available.height() / contents.least})};
 }
 
 QFont scaled(const QFont& font, double scale) {

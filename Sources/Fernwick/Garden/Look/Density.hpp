@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFont>
+#include <QSize>
 
 namespace Garden {
 
@@ -11,12 +12,16 @@ struct Density {
     /// Factor of all fonts and lengths.
     double scale = 1;
 
+    /// Whether contents of at least their full size have all their air.
+    [[nodiscard]] bool isFull() const { return air == 1 && scale >= 1; }
+
     friend bool operator==(const Density&, const Density&) = default;
 };
 
 /// How much room contents need, in points; in the language whose texts need the most.
-struct ContentHeight {
-    /// At full size.
+struct ContentSize {
+    double width;
+    /// The height at full size.
     double full;
     /// The part of it that is spacing and padding.
     double air;
@@ -24,9 +29,14 @@ struct ContentHeight {
     double least;
 };
 
-/// The density at which contents fit the height `available`. First the air goes, then it is up to
-/// the layout to shorten a list, then everything shrinks by one factor.
-[[nodiscard]] Density densityFor(double available, const ContentHeight& contents);
+/// The scale that contents should have in the width `available`: `textScale`, or less where that
+/// would be too wide, but not less than 1.
+[[nodiscard]] double scaleForWidth(double available, const ContentSize& contents, double textScale);
+
+/// The density at which contents fit into `available`, at best enlarged by `textScale`. First the
+/// air goes, then it is up to the layout to shorten a list, then everything shrinks by one factor.
+[[nodiscard]] Density densityFor(const QSize& available, const ContentSize& contents,
+                                 double textScale);
 
 /// The part of the air that stays.
 inline constexpr double leastAir = 0.6;

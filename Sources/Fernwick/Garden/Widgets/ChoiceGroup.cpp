@@ -20,7 +20,7 @@ constexpr double groupOpacity = 0.035;
 }  // namespace
 
 ChoiceGroup::ChoiceGroup(const QStringList& choices, const QString& accessibleName, QWidget* parent)
-    : QWidget(parent) {
+    : QWidget(parent), radius_(groupRadius) {
     setAccessibleRole(*this, QAccessible::Grouping);
     setAccessibleName(accessibleName);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -52,10 +52,15 @@ void ChoiceGroup::setChoicesEnabled(bool enabled) {
     }
 }
 
+void ChoiceGroup::setDensity(const Density& density) {
+    radius_ = groupRadius * std::max(1.0, density.scale);
+    update();
+}
+
 void ChoiceGroup::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const double radius = std::min(groupRadius, height() / 2.0);
+    const double radius = std::min(radius_, height() / 2.0);
     painter.fillPath(continuousRoundedRect(rect(), radius), withOpacity(Qt::white, groupOpacity));
 }
 

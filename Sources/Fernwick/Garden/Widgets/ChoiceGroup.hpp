@@ -4,6 +4,8 @@
 #include <QStringList>
 #include <QWidget>
 
+#include "Garden/Widgets/ContentDensity.hpp"
+
 namespace Garden {
 
 class ChoiceButton;
@@ -12,7 +14,7 @@ class ChoiceButton;
 /// arrow keys focus and click its neighbour. The owner answers by calling `setCurrent`. Not a
 /// `QButtonGroup`, which keeps only one of its buttons in the tab order and ignores arrow keys on a
 /// button that is not checked.
-class ChoiceGroup : public QWidget {
+class ChoiceGroup : public QWidget, public Scalable {
     Q_OBJECT
 
 public:
@@ -25,6 +27,8 @@ public:
 
     void setChoicesEnabled(bool enabled);
 
+    void setDensity(const Density& density) override;
+
 Q_SIGNALS:
     /// The player selected this choice, which may be the current one.
     void chosen(int index);
@@ -35,6 +39,7 @@ protected:
 private:
     QList<ChoiceButton*> buttons_;
     int current_ = -1;
+    double radius_;
 };
 
 }  // namespace Garden

@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QPainter>
+#include <algorithm>
 
 #include "Garden/Look/Palette.hpp"
 #include "Garden/Look/RoundedShape.hpp"
@@ -20,7 +21,7 @@ constexpr double plateOpacity = 0.05;
 
 IconButton::IconButton(Icon icon, const QString& helpText, QWidget* parent)
     : QuietButton({}, {}, {}, parent), icon_(icon) {
-    setFixedSize(side, side);
+    IconButton::setDensity({});
     setToolTip(helpText);
     setAccessibleName(helpText);
 }
@@ -32,8 +33,14 @@ void IconButton::setIcon(Icon icon) {
     }
 }
 
+void IconButton::setDensity(const Density& density) {
+    scale_ = std::max(1.0, density.scale);
+    setFixedSize(IconButton::sizeHint());
+    QuietButton::setDensity(density);
+}
+
 QSize IconButton::sizeHint() const {
-    return {side, side};
+    return {scaled(side, scale_), scaled(side, scale_)};
 }
 
 bool IconButton::event(QEvent* event) {
@@ -49,13 +56,14 @@ void IconButton::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF whole = rect();
     if (hovered()) {
-        painter.fillPath(continuousRoundedRect(whole, plateRadius),
+        painter.fillPath(continuousRoundedRect(whole, plateRadius * scale_),
                          withOpacity(Qt::white, plateOpacity));
     }
-    constexpr double margin = (side - symbolSize) / 2;
+    const double margin = (whole.width() - symbolSize * scale_) / 2;
     paintIcon(painter, icon_, inset(whole, margin), quietColour());
-    focusRing().paint(painter,
-                      continuousRoundedRect(inset(whole, FocusRing::width / 2), plateRadius), mint);
+    focusRing().paint(
+        painter, continuousRoundedRect(inset(whole, FocusRing::width / 2), plateRadius * scale_),
+        mint);
 }
 
 }  // namespace Garden

@@ -5,8 +5,8 @@
 
 namespace Garden {
 
-/// A button that shows an icon in `muted`, 26 × 26 points. Its help text is both its tooltip and
-/// its accessible name.
+/// A button that shows an icon in `muted`, 26 × 26 points or larger: it does not shrink, so that it
+/// stays easy to click. Its help text is both its tooltip and its accessible name.
 class IconButton : public QuietButton {
     Q_OBJECT
 
@@ -16,6 +16,8 @@ public:
     [[nodiscard]] Icon icon() const { return icon_; }
     void setIcon(Icon icon);
 
+    void setDensity(const Density& density) override;
+
     [[nodiscard]] QSize sizeHint() const override;
 
 protected:
@@ -24,6 +26,8 @@ protected:
 
 private:
     Icon icon_;
+    // At least 1.
+    double scale_ = 1;
 };
 
 }  // namespace Garden

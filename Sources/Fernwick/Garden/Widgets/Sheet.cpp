@@ -8,6 +8,7 @@
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/Palette.hpp"
 #include "Garden/Look/RoundedShape.hpp"
+#include "Garden/Look/TextScale.hpp"
 #include "Garden/Widgets/Accessibility.hpp"
 #include "Garden/Widgets/GardenButton.hpp"
 #include "Garden/Widgets/IconView.hpp"
@@ -28,10 +29,8 @@ constexpr double edgeOpacity = 0.16;
 
 }  // namespace
 
-Sheet::Sheet(Icon emblem, const QString& title, int width, const ContentHeight& contents,
-             QWidget* parent)
+Sheet::Sheet(Icon emblem, const QString& title, const ContentSize& contents, QWidget* parent)
     : QWidget(parent),
-      fullWidth_(width),
       contents_(contents),
       column_(layOut<QVBoxLayout>(this, spacing, padding)),
       emblem_(new IconView(emblem, emblemSize, mint)) {
@@ -58,12 +57,14 @@ void Sheet::complete() {
     density_ = new ContentDensity(*this);
 }
 
-QSize Sheet::fittedTo(int available) {
-    const Density density = densityFor(available, contents_);
+QSize Sheet::fittedTo(const QSize& available) {
+    const double textScale = TextScale::shared().factor();
+    const Density density = densityFor(available, contents_, textScale);
     scale_ = density.scale;
-    emblem_->setVisible(scale_ == 1);
+    emblem_->setVisible(scale_ >= scaleForWidth(available.width(), contents_, textScale));
     density_->set(density);
-    return {scaled(fullWidth_, scale_), std::min(layout()->totalSizeHint().height(), available)};
+    return {qRound(contents_.width * scale_),
+            std::min(layout()->totalSizeHint().height(), available.height())};
 }
 
 void Sheet::keyPressEvent(QKeyEvent* event) {

@@ -17,19 +17,18 @@ class Sheet : public QWidget {
     Q_OBJECT
 
 public:
-    /// Makes it fit the height `available`, without the emblem where everything has to shrink, and
+    /// Makes it fit into `available`, without the emblem where everything has to shrink, and
     /// returns the size that it needs, in points.
-    QSize fittedTo(int available);
+    QSize fittedTo(const QSize& available);
 
 Q_SIGNALS:
     /// The player has pressed the button or Escape.
     void closed();
 
 protected:
-    /// A sheet of `width` points at full size that needs the room of `contents`. `title` is its
-    /// accessible name, too.
-    Sheet(Icon emblem, const QString& title, int width, const ContentHeight& contents,
-          QWidget* parent);
+    /// A sheet that needs the room of `contents` and has its width. `title` is its accessible name,
+    /// too.
+    Sheet(Icon emblem, const QString& title, const ContentSize& contents, QWidget* parent);
 
     /// Adds a line of secondary text.
     void addLine(const QString& text);
@@ -41,8 +40,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    int fullWidth_;
-    ContentHeight contents_;
+    ContentSize contents_;
     double scale_ = 1;
     QVBoxLayout* column_;
     IconView* emblem_;

@@ -1,6 +1,7 @@
 #include "Garden/Widgets/StatusDot.hpp"
 
 #include <QPainter>
+#include <algorithm>
 
 namespace Garden {
 
@@ -15,7 +16,13 @@ static_assert(side == diameter + 2 * margin);
 }  // namespace
 
 StatusDot::StatusDot(QWidget* parent) : QWidget(parent) {
-    setFixedSize(side, side);
+    StatusDot::setDensity({});
+}
+
+void StatusDot::setDensity(const Density& density) {
+    scale_ = std::max(1.0, density.scale);
+    const int scaledSide = scaled(side, scale_);
+    setFixedSize(scaledSide, scaledSide);
 }
 
 void StatusDot::setColour(const QColor& colour) {
@@ -30,7 +37,8 @@ void StatusDot::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(colour_);
-    painter.drawEllipse(QRectF(rect()).center(), diameter / 2, diameter / 2);
+    const double radius = scale_ * diameter / 2;
+    painter.drawEllipse(QRectF(rect()).center(), radius, radius);
 }
 
 }  // namespace Garden

@@ -7,9 +7,11 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "Garden/Look/Density.hpp"
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/Palette.hpp"
 #include "Garden/Look/Panel.hpp"
+#include "Garden/Look/TextScale.hpp"
 #include "Garden/Widgets/Accessibility.hpp"
 #include "Garden/Widgets/RollingDigits.hpp"
 #include "Garden/Widgets/TrackedLabel.hpp"
@@ -113,7 +115,7 @@ ToolTip::ToolTip(QWidget& control) : QWidget(control.window()), control_(&contro
     setAccessibleRole(*this, QAccessible::ToolTip);
     setAccessibleName(control.toolTip());
     setAttribute(Qt::WA_TransparentForMouseEvents);
-    setFont(sans(fontSize, QFont::Normal));
+    setFont(scaled(sans(fontSize, QFont::Normal), TextScale::shared().factor()));
     const QSize text = fontMetrics().size(Qt::TextSingleLine, control.toolTip());
     setGeometry(placeFor(control, text + 2 * padding));
     qApp->installEventFilter(this);

@@ -10,8 +10,7 @@
 
 namespace {
 
-constexpr int sheetWidth = 440;
-constexpr Garden::ContentHeight tallest{490, 224, 400};
+constexpr Garden::ContentSize contents{440, 490, 224, 400};
 constexpr double workSize = 13;
 constexpr double licenceSize = 12;
 constexpr int rowSpacing = 10;
@@ -56,7 +55,7 @@ QWidget* row(const Work& work) {
 
 AboutView::AboutView(QWidget* parent)
     //: The name of the game. Stays as it is in every language.
-    : Sheet(Garden::Icon::leafFilled, tr("Fernwick"), sheetWidth, tallest, parent) {
+    : Sheet(Garden::Icon::leafFilled, tr("Fernwick"), contents, parent) {
     //: %@ is a number such as 1.0.0; it has to stay.
     addLine(tr("Version %@").replace(QStringLiteral("%@"), QCoreApplication::applicationVersion()));
     auto* rows = new QWidget;

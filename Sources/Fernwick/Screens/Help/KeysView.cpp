@@ -12,8 +12,7 @@
 
 namespace {
 
-constexpr int sheetWidth = 480;
-constexpr Garden::ContentHeight tallest{560, 245, 480};
+constexpr Garden::ContentSize contents{480, 560, 245, 480};
 constexpr double purposeSize = 13;
 constexpr int rowSpacing = 6;
 constexpr int capSpacing = 4;
@@ -61,7 +60,7 @@ QWidget* row(const QString& purpose, const QList<Keys>& alternatives) {
 }  // namespace
 
 KeysView::KeysView(QWidget* parent)
-    : Sheet(Garden::Icon::leafFilled, tr("The keys."), sheetWidth, tallest, parent) {
+    : Sheet(Garden::Icon::leafFilled, tr("The keys."), contents, parent) {
     auto* rows = new QWidget;
     auto* column = Garden::layOut<QVBoxLayout>(rows, rowSpacing);
     const auto list = [column](const QString& purpose, const QList<Keys>& alternatives) {

@@ -26,6 +26,10 @@ constexpr double boardRatio = 28.0 / 22;
 
 // The width that the hints and the buttons need on one line, in the language with the longest.
 constexpr int oneLineHints = 740;
+// The width that the header and the controls need, in the language with the longest.
+constexpr double widestRow = 575;
+// The part of the height that the board keeps where texts are enlarged.
+constexpr double leastBoardPart = 0.5;
 
 constexpr int widestColumn = 264;
 // Of full-sized contents.
@@ -54,9 +58,17 @@ QRect bounded(const QSize& size) {
             bound};
 }
 
+// How far the rows above and below the board can be enlarged.
+double scaleOfRows(const Arrangement& arrangement, double textScale) {
+    const QSize content = arrangement.content.size();
+    const double rows = content.height() * (1 - leastBoardPart) - 3 * arrangement.spacing;
+    const double widest = std::min(content.width() / widestRow, rows / rowsHeight);
+    return std::clamp(widest, 1.0, textScale);
+}
+
 }  // namespace
 
-Arrangement arrangementFor(const QSize& size, int band) {
+Arrangement arrangementFor(const QSize& size, int band, double textScale) {
     Arrangement result;
     const bool full = size.width() >= fullSize.width() && size.height() >= fullSize.height();
     const int leastTopHere = band > 0 ? band - leastBelowBand : leastTop;
@@ -75,31 +87,36 @@ Arrangement arrangementFor(const QSize& size, int band) {
                      shrunk(leastBottom, fullPadding.bottom(), high));
     result.spacing = shrunk(leastSpacing, fullSpacing, high);
     result.content = bounded(size).marginsRemoved(padding);
-    result.foldedHints = result.content.width() < oneLineHints;
+    const double rowsScale = scaleOfRows(result, textScale);
+    result.foldedHints = result.content.width() < oneLineHints * rowsScale;
+    result.rows.scale = rowsScale;
+    result.hints.scale = rowsScale;
     if (full || high >= 0) {
         return result;
     }
 
     const int edge = std::clamp(size.height() / 30, 12, 24);
     const int top = band > 0 ? leastTopHere : edge;
-    const double scale =
-        std::clamp(std::min(size.height() / 450.0, size.width() / 800.0), leastColumnScale, 1.0);
+    const double scale = std::clamp(std::min(size.height() / 450.0, size.width() / 800.0),
+                                    leastColumnScale, textScale);
     const double leastColumnHere = fullColumn * scale;
     const double besideHeight =
         boardHeight(size.width() - 3 * edge - leastColumnHere, size.height() - top - edge);
-    const double stackedHeight = boardHeight(
-        result.content.width(), result.content.height() - rowsHeight - 3 * result.spacing);
+    const double stackedHeight =
+        boardHeight(result.content.width(),
+                    result.content.height() - rowsHeight * rowsScale - 3 * result.spacing);
     if (besideHeight <= stackedHeight) {
         return result;
     }
     result.beside = true;
     result.spacing = edge;
     const int boardWidth = static_cast<int>(besideHeight * boardRatio);
-    result.columnWidth = std::min(widestColumn, size.width() - 3 * edge - boardWidth);
+    result.columnWidth = std::min(Garden::scaled(widestColumn, std::max(1.0, scale)),
+                                  size.width() - 3 * edge - boardWidth);
     const int width = result.columnWidth + edge + boardWidth;
     result.content = {(size.width() - width) / 2, top, width, size.height() - top - edge};
     result.rows = {1, scale};
     // They are narrower than the rest, and in the smallest type.
-    result.hints = {1, (1 + scale) / 2};
+    result.hints = {1, std::max(scale, (1 + scale) / 2)};
     return result;
 }

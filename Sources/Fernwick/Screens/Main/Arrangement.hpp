@@ -28,4 +28,5 @@ struct Arrangement {
 };
 
 /// The arrangement in a window of `size` whose uppermost `band` points are covered: 0 if none are.
-[[nodiscard]] Arrangement arrangementFor(const QSize& size, int band);
+/// `textScale`, at least 1, enlarges the rows as far as there is room.
+[[nodiscard]] Arrangement arrangementFor(const QSize& size, int band, double textScale = 1);

@@ -6,6 +6,7 @@
 #include <QStyle>
 
 #include "Garden/Look/Contrast.hpp"
+#include "Garden/Look/TextScale.hpp"
 #include "Screens/Main/BoardArea.hpp"
 #include "Screens/Main/ControlRow.hpp"
 #include "Screens/Main/HeaderRow.hpp"
@@ -34,6 +35,7 @@ ContentView::ContentView(Session& session, QWidget* parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
     connect(boardArea_, &BoardArea::placed, this, &ContentView::placeBoard);
     connect(sheetLayer_, &SheetLayer::dimmed, this, &ContentView::dimmed);
+    connect(&Garden::TextScale::shared(), &Garden::TextScale::changed, this, &ContentView::arrange);
 }
 
 void ContentView::setBand(int height) {
@@ -79,7 +81,7 @@ void ContentView::resizeEvent(QResizeEvent*) {
 }
 
 void ContentView::arrange() {
-    arrangement_ = arrangementFor(size(), band_);
+    arrangement_ = arrangementFor(size(), band_, Garden::TextScale::shared().factor());
     const Arrangement& wanted = arrangement_;
     header_->arrange(wanted.beside, wanted.rows);
     controls_->arrange(wanted.columnWidth, wanted.rows);

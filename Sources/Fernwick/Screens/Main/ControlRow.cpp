@@ -1,5 +1,6 @@
 #include "Screens/Main/ControlRow.hpp"
 
+#include <algorithm>
 #include <utility>
 
 #include "Garden/Look/Fonts.hpp"
@@ -59,7 +60,9 @@ void ControlRow::arrange(int columnWidth, const Garden::Density& density) {
     row_->setDirection(asColumn ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     row_->setSpacing(
         Garden::scaled(asColumn ? columnSpacing : statusSpacing, density.air * density.scale));
-    status_->wrapAt(asColumn ? columnWidth - dot_->width() - statusSpacing : 0);
+    const int beforeStatus =
+        dot_->width() + Garden::scaled(statusSpacing, std::max(1.0, density.scale));
+    status_->wrapAt(asColumn ? columnWidth - beforeStatus : 0);
 }
 
 QString ControlRow::statusWord() const {

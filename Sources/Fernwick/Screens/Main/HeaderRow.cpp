@@ -1,5 +1,7 @@
 #include "Screens/Main/HeaderRow.hpp"
 
+#include <algorithm>
+
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/Palette.hpp"
 #include "Garden/Widgets/Accessibility.hpp"
@@ -39,6 +41,7 @@ HeaderRow::HeaderRow(Session& session, QWidget* parent)
       session_(session),
       score_(new Garden::RollingDigits(Qt::AlignLeft)),
       best_(new Garden::RollingDigits(Qt::AlignRight)),
+      rule_(new QWidget),
       //: The line under the wordmark: of the garden, and of whoever plays in it.
       tagline_(new Garden::TrackedLabel(tr("A little room to grow."),
                                         Garden::serif(taglineSize, QFont::ExtraLight),
@@ -55,6 +58,7 @@ HeaderRow::HeaderRow(Session& session, QWidget* parent)
 
 void HeaderRow::arrange(bool asColumn, const Garden::Density& density) {
     density_->set(density);
+    rule_->setFixedHeight(Garden::scaled(ruleSize.height(), std::max(1.0, density.scale)));
     const double taglineScale = asColumn ? columnTaglineScale : 1;
     tagline_->setDensity({density.air, density.scale * taglineScale});
     row_->setDirection(asColumn ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
@@ -62,14 +66,13 @@ void HeaderRow::arrange(bool asColumn, const Garden::Density& density) {
 }
 
 QBoxLayout* HeaderRow::scoreTiles() {
-    auto* rule = new QWidget;
-    rule->setObjectName(QStringLiteral("rule"));
-    rule->setFixedSize(ruleSize);
-    rule->setPalette(Garden::withOpacity(Garden::muted, ruleOpacity));
-    rule->setAutoFillBackground(true);
+    rule_->setObjectName(QStringLiteral("rule"));
+    rule_->setFixedSize(ruleSize);
+    rule_->setPalette(Garden::withOpacity(Garden::muted, ruleOpacity));
+    rule_->setAutoFillBackground(true);
     auto* ruleColumn = new QVBoxLayout;
     ruleColumn->addStretch();
-    ruleColumn->addWidget(rule);
+    ruleColumn->addWidget(rule_);
     ruleColumn->addStretch();
     ruleColumn->addSpacing(spaceBelowRule);
     auto* tiles = new QHBoxLayout;

@@ -33,6 +33,7 @@ private:
     Session& session_;
     Garden::RollingDigits* score_;
     Garden::RollingDigits* best_;
+    QWidget* rule_;
     Garden::TrackedLabel* tagline_;
     QBoxLayout* row_;
     Garden::ContentDensity* density_ = nullptr;

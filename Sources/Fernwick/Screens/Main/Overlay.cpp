@@ -1,10 +1,9 @@
 #include "Screens/Main/Overlay.hpp"
 
-#include <algorithm>
-
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/NumberText.hpp"
 #include "Garden/Look/Palette.hpp"
+#include "Garden/Look/TextScale.hpp"
 #include "Garden/Widgets/Announcer.hpp"
 #include "Garden/Widgets/GardenButton.hpp"
 #include "Garden/Widgets/IconView.hpp"
@@ -28,9 +27,8 @@ constexpr int spaceAboveButton = 13;
 constexpr double hintSize = 8;
 constexpr double hintTracking = 2.5;
 constexpr int spaceAboveHint = 2;
-constexpr Garden::ContentHeight tallest{295, 118, 248};
 // With the line below the title on two lines.
-constexpr double leastWidth = 416;
+constexpr Garden::ContentSize contents{416, 295, 118, 248};
 
 }  // namespace
 
@@ -61,14 +59,17 @@ Overlay::Overlay(Session& session, QWidget* parent)
     connect(button_, &QAbstractButton::clicked, this,
             [this] { session_.inRun() ? session_.pause() : session_.start(); });
     density_ = new Garden::ContentDensity(*this);
+    connect(&Garden::TextScale::shared(), &Garden::TextScale::changed, this, &Overlay::fit);
     connect(&session_, &Session::changed, this, &Overlay::refresh);
     refresh();
 }
 
 void Overlay::resizeEvent(QResizeEvent*) {
-    Garden::Density density = Garden::densityFor(height(), tallest);
-    density.scale = std::min(density.scale, width() / leastWidth);
-    density_->set(density);
+    fit();
+}
+
+void Overlay::fit() {
+    density_->set(Garden::densityFor(size(), contents, Garden::TextScale::shared().factor()));
     line_->wrapAt(contentsRect().marginsRemoved(layout()->contentsMargins()).width(),
                   Qt::AlignHCenter);
 }

@@ -28,6 +28,7 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    void fit();
     void refresh();
 
     Session& session_;

@@ -6,6 +6,7 @@
 
 #include "Garden/Look/Motion.hpp"
 #include "Garden/Look/Palette.hpp"
+#include "Garden/Look/TextScale.hpp"
 #include "Garden/Widgets/FocusRing.hpp"
 #include "Garden/Widgets/RiseEffect.hpp"
 #include "Screens/Help/AboutView.hpp"
@@ -45,6 +46,8 @@ SheetLayer::SheetLayer(Session& session, QWidget* parent)
         update();
     });
     connect(&presence_, &QVariantAnimation::finished, this, &SheetLayer::finish);
+    connect(&Garden::TextScale::shared(), &Garden::TextScale::changed, this,
+            &SheetLayer::placeSheet);
     connect(&session_, &Session::changed, this, &SheetLayer::refresh);
     refresh();
 }
@@ -111,7 +114,8 @@ void SheetLayer::placeSheet() {
     if (sheet_ == nullptr) {
         return;
     }
-    QRect sheetRect(QPoint(), sheet_->fittedTo(std::max(0, height() - titleBand - margin)));
+    const QSize room = size() - QSize(2 * margin, titleBand + margin);
+    QRect sheetRect(QPoint(), sheet_->fittedTo(room.expandedTo({0, 0})));
     sheetRect.moveCenter(rect().center());
     sheetRect.moveTop(std::max(titleBand, sheetRect.top()));
     sheet_->setGeometry(sheetRect);

@@ -7,6 +7,7 @@
 #include "Garden/Look/Motion.hpp"
 #include "Garden/Look/NumberText.hpp"
 #include "Garden/Look/Palette.hpp"
+#include "Garden/Look/TextScale.hpp"
 #include "Garden/Widgets/Announcer.hpp"
 #include "Garden/Widgets/FocusRing.hpp"
 #include "Garden/Widgets/Layout.hpp"
@@ -23,9 +24,8 @@ constexpr double resultTracking = 2;
 constexpr int widestCard = 400;
 constexpr int cardPadding = 24;
 constexpr int spacing = 14;
-constexpr Garden::ContentHeight entry{343, 157, 280};
-constexpr Garden::ContentHeight saved{404, 132, 279};
-constexpr double leastWidth = 376;
+constexpr Garden::ContentSize entry{396, 343, 157, 280};
+constexpr Garden::ContentSize saved{396, 404, 132, 279};
 
 }  // namespace
 
@@ -41,7 +41,6 @@ GameOverView::GameOverView(Session& session, const QRect& area, QWidget* parent)
       nameEntry_(new NameEntry(session)),
       savedBoard_(new SavedBoard(session)) {
     setGeometry(area);
-    card_->setMaximumWidth(widestCard);
     auto* column = Garden::layOut<QVBoxLayout>(card_, spacing);
     column->addWidget(headline_, 0, Qt::AlignHCenter);
     column->addWidget(result_, 0, Qt::AlignHCenter);
@@ -66,6 +65,7 @@ GameOverView::GameOverView(Session& session, const QRect& area, QWidget* parent)
         Q_EMIT scrimChanged();
     });
     connect(&presence_, &QVariantAnimation::finished, this, &GameOverView::endFade);
+    connect(&Garden::TextScale::shared(), &Garden::TextScale::changed, this, &GameOverView::fit);
     connect(&session_, &Session::changed, this, &GameOverView::refresh);
     refresh();
 }
@@ -75,8 +75,9 @@ void GameOverView::resizeEvent(QResizeEvent*) {
 }
 
 void GameOverView::fit() {
-    Garden::Density density = Garden::densityFor(height(), session_.awaitingName() ? entry : saved);
-    density.scale = std::min(density.scale, width() / leastWidth);
+    const Garden::Density density = Garden::densityFor(
+        size(), session_.awaitingName() ? entry : saved, Garden::TextScale::shared().factor());
+    card_->setMaximumWidth(Garden::scaled(widestCard, std::max(1.0, density.scale)));
     density_->set(density);
 }
 

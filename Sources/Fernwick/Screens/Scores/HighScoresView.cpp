@@ -10,10 +10,9 @@
 
 namespace {
 
-constexpr int sheetWidth = 440;
 constexpr int listHeight = 330;
 constexpr int leastListHeight = 160;
-constexpr Garden::ContentHeight tallest{660, 164, 425};
+constexpr Garden::ContentSize contents{440, 660, 164, 425};
 
 QString subtitle() {
 #ifdef Q_OS_MACOS
@@ -32,7 +31,7 @@ QString title() {
 }  // namespace
 
 HighScoresView::HighScoresView(Session& session, QWidget* parent)
-    : Sheet(Garden::Icon::trophy, title(), sheetWidth, tallest, parent),
+    : Sheet(Garden::Icon::trophy, title(), contents, parent),
       session_(session),
       //: Read aloud for the choice between the speeds.
       speed_(new Garden::ChoiceGroup(paceNames(), tr("Speed"))),

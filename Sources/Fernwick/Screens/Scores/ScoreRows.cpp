@@ -94,12 +94,16 @@ void ScoreRows::setDensity(const Garden::Density& density) {
     density_ = density;
     if (fullHeight_ > 0) {
         // With all the air there is, the list has its full height too.
-        const int least = density == Garden::Density() ? fullHeight_ : leastHeight_;
+        const int least = density.isFull() ? fullHeight_ : leastHeight_;
         setMinimumHeight(Garden::scaled(least, density.scale));
         setMaximumHeight(Garden::scaled(fullHeight_, density.scale));
     }
     for (ScoreRow* row : rows_) {
         row->setDensity(density);
+    }
+    if (!rows_.isEmpty()) {
+        // The rows have got another height, which this widget may have had before.
+        placeList();
     }
     updateGeometry();
 }
@@ -144,8 +148,7 @@ bool ScoreRows::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool ScoreRows::showsWholeRows() const {
-    const bool full =
-        fullHeight_ == 0 || (density_ == Garden::Density() && height() >= maximumHeight());
+    const bool full = fullHeight_ == 0 || (density_.isFull() && height() >= maximumHeight());
     return !full && !rows_.isEmpty() && height() >= pitch();
 }
 

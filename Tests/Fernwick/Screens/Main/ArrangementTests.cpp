@@ -81,3 +81,41 @@ TEST(Arrangement, keepsRowsAndBoardTogetherInVeryWideAndVeryHighWindows) {
     EXPECT_EQ(high.height(), 1350 - 46 - 26);
     EXPECT_EQ(high.top() - 46, 1920 - 1 - high.bottom() - 26);
 }
+
+TEST(Arrangement, enlargesTheRowsWithTheTexts) {
+    for (const QSize size : {QSize(820, 760), QSize(940, 860), QSize(1920, 1080)}) {
+        const Arrangement usual = arrangementFor(size, band);
+        const Arrangement larger = arrangementFor(size, band, 1.25);
+
+        EXPECT_EQ(larger.content, usual.content);
+        EXPECT_EQ(larger.rows, (Garden::Density{1, 1.25}));
+        EXPECT_EQ(larger.hints, (Garden::Density{1, 1.25}));
+    }
+}
+
+TEST(Arrangement, foldsHintsThatBecomeTooWide) {
+    EXPECT_FALSE(arrangementFor({940, 860}, band).foldedHints);
+    EXPECT_TRUE(arrangementFor({940, 860}, band, 1.25).foldedHints);
+    EXPECT_FALSE(arrangementFor({1920, 1080}, band, 1.5).foldedHints);
+}
+
+TEST(Arrangement, enlargesTheRowsOnlyAsFarAsThereIsRoom) {
+    const double narrow = arrangementFor({820, 760}, band, 3).rows.scale;
+    const double low = arrangementFor({1920, 760}, band, 3).rows.scale;
+
+    EXPECT_GT(narrow, 1.25);
+    EXPECT_LT(narrow, 1.4);
+    EXPECT_GT(low, 2);
+    EXPECT_LT(low, 2.5);
+    EXPECT_GE(arrangementFor({640, 1048}, band, 3).rows.scale, 1);
+}
+
+TEST(Arrangement, enlargesTheColumnBesideTheBoard) {
+    const Arrangement usual = arrangementFor({1280, 600}, 0);
+    const Arrangement larger = arrangementFor({1280, 600}, 0, 1.25);
+
+    EXPECT_TRUE(larger.beside);
+    EXPECT_EQ(larger.rows.scale, 1.25);
+    EXPECT_GT(larger.columnWidth, usual.columnWidth);
+    EXPECT_TRUE(QRect(0, 0, 1280, 600).contains(larger.content));
+}

@@ -4,7 +4,9 @@
 #include <QScreen>
 
 #include "Fernwick/Window/Geometry/SceneWindow.hpp"
+#include "Fernwick/Window/Geometry/WindowSizes.hpp"
 #include "Fernwick/Window/Layout.hpp"
+#include "Garden/Look/TextScale.hpp"
 #include "Garden/Widgets/Sheet.hpp"
 #include "Screens/Scores/ScoreRow.hpp"
 
@@ -42,9 +44,10 @@ void expectWhole(const QWidget& element) {
 /// Expects a list of less than its full size to show only whole rows, and at least two.
 void expectWholeRows(const ScoreRows& rows) {
     const QList<ScoreRow*> all = rows.findChildren<ScoreRow*>();
-    const bool full = rows.height() == 150 || rows.height() == 330;
-    if (all.isEmpty() || (full && all.front()->font().pixelSize() == 14 &&
-                          all.front()->parentWidget()->layout()->spacing() == 4)) {
+    const double scale = all.isEmpty() ? 1 : all.front()->font().pixelSize() / 14.0;
+    const bool full = rows.height() == rows.maximumHeight() && scale >= 1;
+    if (all.isEmpty() ||
+        (full && all.front()->parentWidget()->layout()->spacing() == qRound(4 * scale))) {
         return;
     }
     int visible = 0;
@@ -131,6 +134,34 @@ const std::vector<State>& states() {
     return all;
 }
 
+void expectComposedAt(const QString& language, const State& state, const QList<QSize>& sizes,
+                      const QList<Qt::WindowState>& kinds) {
+    SceneWindow scene(language, state.scene, state.pace);
+    scene.dontPaint();
+    for (QScreen* screen : QGuiApplication::screens()) {
+        const QSize size = screen->size();
+        for (const Qt::WindowState kind : kinds) {
+            if (!sizes.contains(size)) {
+                continue;
+            }
+            scene.cover(screen, kind);
+            SCOPED_TRACE(state.scene.name.toStdString() + " " + std::to_string(size.width()) + "x" +
+                         std::to_string(size.height()) +
+                         (kind == Qt::WindowFullScreen ? " full screen" : " tile"));
+            ASSERT_EQ(scene.window().size(), size);
+            expectComposed(scene.window());
+        }
+    }
+}
+
+/// The desktop's factor for texts is `factor` while this exists.
+class LargerTexts {
+public:
+    explicit LargerTexts(double factor) { Garden::TextScale::shared().setFactor(factor); }
+    ~LargerTexts() { Garden::TextScale::shared().setFactor(1); }
+    Q_DISABLE_COPY_MOVE(LargerTexts)
+};
+
 class Geometry : public ::testing::TestWithParam<QString> {};
 
 QStringList languages() {
@@ -144,18 +175,19 @@ INSTANTIATE_TEST_SUITE_P(Languages, Geometry, ::testing::ValuesIn(languages()),
 
 TEST_P(Geometry, everythingIsWholeAndApartAtEverySizeInEveryState) {
     for (const State& state : states()) {
-        SceneWindow scene(GetParam(), state.scene, state.pace);
-        scene.dontPaint();
-        for (QScreen* screen : QGuiApplication::screens()) {
-            for (const Qt::WindowState kind : {Qt::WindowFullScreen, Qt::WindowMaximized}) {
-                scene.cover(screen, kind);
-                const QSize size = screen->size();
-                SCOPED_TRACE(state.scene.name.toStdString() + " " + std::to_string(size.width()) +
-                             "x" + std::to_string(size.height()) +
-                             (kind == Qt::WindowFullScreen ? " full screen" : " tile"));
-                ASSERT_EQ(scene.window().size(), size);
-                expectComposed(scene.window());
-            }
+        expectComposedAt(GetParam(), state, windowSizes(),
+                         {Qt::WindowFullScreen, Qt::WindowMaximized});
+    }
+}
+
+TEST_P(Geometry, everythingIsWholeAndApartWithLargerTexts) {
+    // One for each arrangement of the screen. In a tile, the title band takes room, too.
+    const QList<QSize> sizes{{820, 760}, {1280, 720}, {1024, 600}, {700, 480}, {640, 1048}};
+    for (const double factor : {1.25, 1.5}) {
+        SCOPED_TRACE(factor);
+        const LargerTexts larger(factor);
+        for (const State& state : states()) {
+            expectComposedAt(GetParam(), state, sizes, {Qt::WindowMaximized});
         }
     }
 }
