@@ -84,6 +84,9 @@ TEST_F(LargerText, enlargesTheMenus) {
     menu.ensurePolished();
     const QSize size = menu.sizeHint();
 
+    EXPECT_EQ(bar.font().pixelSize(), 12);
+    enlarge(1.25);
+    EXPECT_EQ(bar.font().pixelSize(), 15);
     enlarge(1.5);
 
     EXPECT_EQ(bar.font().pixelSize(), 18);

@@ -29,7 +29,7 @@ constexpr int oneLineHints = 740;
 // The width that the header and the controls need, in the language with the longest.
 constexpr double widestRow = 575;
 // The part of the height that the board keeps where texts are enlarged.
-constexpr double leastBoardPart = 0.5;
+constexpr double leastBoardPart = 0.6;
 
 constexpr int widestColumn = 264;
 // Of full-sized contents.

@@ -105,8 +105,8 @@ TEST(Arrangement, enlargesTheRowsOnlyAsFarAsThereIsRoom) {
 
     EXPECT_GT(narrow, 1.25);
     EXPECT_LT(narrow, 1.4);
-    EXPECT_GT(low, 2);
-    EXPECT_LT(low, 2.5);
+    EXPECT_GT(low, 1.5);
+    EXPECT_LT(low, 1.7);
     EXPECT_GE(arrangementFor({640, 1048}, band, 3).rows.scale, 1);
 }
 
