@@ -30,6 +30,7 @@ constexpr std::int64_t announcedPoints = 100;
 ControlRow::ControlRow(Session& session, QWidget* parent)
     : QWidget(parent),
       session_(session),
+      run_(session.runID()),
       phase_(session.phase()),
       pace_(session.pace()),
       speeds_(new Garden::ChoiceGroup(paceNames(), tr("Speed"))),
@@ -88,6 +89,7 @@ void ControlRow::refresh() {
 
 // The end of a run is announced by its card.
 void ControlRow::announce() {
+    const bool restarts = session_.runID() != std::exchange(run_, session_.runID());
     const bool changesPhase = session_.phase() != std::exchange(phase_, session_.phase());
     const std::int64_t score = session_.game().score();
     const std::int64_t before = std::exchange(score_, score);
@@ -97,7 +99,7 @@ void ControlRow::announce() {
     if (!session_.inRun()) {
         return;
     }
-    if (changesPhase) {
+    if (changesPhase || restarts) {
         Garden::announce(*this, statusWord());
     }
     const bool pauses = changesPhase && !session_.running();

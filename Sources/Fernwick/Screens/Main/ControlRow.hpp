@@ -31,6 +31,7 @@ private:
 
     Session& session_;
     // What has been announced.
+    SnakeCore::UUID run_;
     Session::Phase phase_;
     Pace pace_;
     std::int64_t score_ = 0;

@@ -1,5 +1,6 @@
 #include "Screens/Scores/NameField.hpp"
 
+#include <QAccessible>
 #include <QInputMethodEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -76,8 +77,12 @@ QList<QInputMethodEvent::Attribute> withoutCaret(const QInputMethodEvent& event)
 NameField::NameField(QWidget* parent) : QLineEdit(parent) {
     setValidator(new LongestName(this));
     // For text of an input method, which QLineEdit lays out before it asks the validator. It may
-    // cut that text within a surrogate pair, but never in the part that the validator keeps.
+    // cut that text within a surrogate pair, but never in the part that the validator keeps. It
+    // also reports that the caret has moved: Orca, which gets to that once the field has the focus,
+    // would say "blank" instead of the name of the field.
+    const auto handler = QAccessible::installUpdateHandler([](QAccessibleEvent*) {});
     setMaxLength(2 * longestNameText);
+    QAccessible::installUpdateHandler(handler);
     setFrame(false);
     NameField::setDensity({});
 
