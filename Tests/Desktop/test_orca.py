@@ -31,12 +31,15 @@ def score(game):
 
 def play(game, orca):
     """Plays and saves a run at the speed Gentle; returns the scores at the pause and at the end."""
-    orca.hear("Fernwick", "Find your flow. Let's grow. PRESS SPACE.")
+    orca.hear("Press F11 to leave full screen.", "Find your flow. Let's grow. PRESS SPACE.")
     game.press("Tab")
     orca.hear("Gentle", "radio button", "Press Return to choose.")
     game.press("Return")
     orca.hear("Gentle.")
     game.press("space")
+    orca.hear("IN THE FLOW.")
+    # A run that is started anew.
+    game.press("r")
     orca.hear("IN THE FLOW.")
     game.press("space")
     orca.hear("TAKE A BREATH. SCORE: ")
@@ -44,7 +47,7 @@ def play(game, orca):
     game.press("space")
     orca.hear("IN THE FLOW.")
     game.press("Up")
-    orca.hear("Game over. ")
+    orca.hear("Player name text.", "Game over. ")
     at_end = score(game)
     game.type("Pip")
     game.press("Return")
@@ -81,7 +84,9 @@ def test_every_change_in_a_game_is_said_once(game, orca):
     said = orca.texts()
     print(*said, sep="\n")
     announcements = [
+        "notification Press F11 to leave full screen.",
         "Find your flow. Let's grow. PRESS SPACE.",
+        "IN THE FLOW.",
         "IN THE FLOW.",
         f"TAKE A BREATH. SCORE: {at_pause}.",
         "IN THE FLOW.",
