@@ -4,7 +4,7 @@ from game import FRESH, MOVING, PAUSED
 from waiting import eventually
 
 HINT = "Press F11 to leave full screen"
-KEYS = "The keys.", "Enter or leave full screen", "F11", "Quit", "Ctrl+Q"
+KEYS = "The keys.", "Menus: F10, Alt", "F11", "Quit: Ctrl + Q", "Ctrl+Q"
 
 
 def leave_sheet(game):

@@ -70,6 +70,13 @@ def browse_the_sheet(game, orca):
     eventually(lambda: not game.shows("The high scores."), "the sheet is closed")
 
 
+def read_the_keys(game, orca):
+    game.press("F1")
+    orca.hear("The keys. dialog Move: ↑ ↓", "W A S D Start, pause or resume: Space", "Quit: Ctrl + Q")
+    game.press("Escape")
+    eventually(lambda: not game.shows("The keys."), "the sheet is closed")
+
+
 def turn_the_sound_off(game, orca):
     game.find("Toggle sound effects").do("SetFocus")
     orca.hear("Toggle sound effects check box checked")
@@ -80,6 +87,7 @@ def turn_the_sound_off(game, orca):
 def test_every_change_in_a_game_is_said_once(game, orca):
     at_pause, at_end = play(game, orca)
     browse_the_sheet(game, orca)
+    read_the_keys(game, orca)
     turn_the_sound_off(game, orca)
     said = orca.texts()
     print(*said, sep="\n")

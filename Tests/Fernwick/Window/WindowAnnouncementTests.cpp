@@ -2,6 +2,7 @@
 #include <QStringList>
 
 #include "Fernwick/Window/WindowTest.hpp"
+#include "Support/ClosedWalk.hpp"
 
 // Qt sends accessibility events only on an AT-SPI bus, which CMakeLists.txt provides.
 
@@ -64,6 +65,36 @@ TEST_F(WindowAnnouncements, includeEachStartAndResumeAndTheScoreAtEachPause) {
     session.pause();
     processEvents();
     EXPECT_EQ(announcements.taken(), QStringList("IN THE FLOW."));
+}
+
+TEST_F(WindowAnnouncements, includeARunThatIsStartedAnewOnce) {
+    startRun();
+    processEvents();
+    static_cast<void>(announcements.taken());
+    session.start();
+    processEvents();
+    EXPECT_EQ(announcements.taken(), QStringList("IN THE FLOW."));
+
+    session.pause();
+    processEvents();
+    static_cast<void>(announcements.taken());
+    session.start();
+    processEvents();
+    EXPECT_EQ(announcements.taken(), QStringList("IN THE FLOW."));
+}
+
+TEST_F(WindowAnnouncements, includeTheScoreOnlyAtEachHundredPoints) {
+    session.start();
+    processEvents();
+    static_cast<void>(announcements.taken());
+    while (session.running() && session.game().score() < 200) {
+        session.key(static_cast<GameKey>(alongCycle(session.game())));
+        fireTimer();
+        if (session.game().score() % 100 < 20) {
+            processEvents();
+        }
+    }
+    EXPECT_EQ(announcements.taken(), QStringList({"SCORE: 100.", "SCORE: 200."}));
 }
 
 TEST_F(WindowAnnouncements, includeTheResultAndWhereItWasSavedOnce) {

@@ -81,6 +81,7 @@ TrackedLabel::TrackedLabel(const QString& text, const QFont& font, const QColor&
                            QWidget* parent)
     : QWidget(parent), text_(text), font_(font), colour_(colour) {
     setAccessibleRole(*this, QAccessible::StaticText);
+    setAccessibleName(text_);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     fitToText();
 }
@@ -90,6 +91,7 @@ void TrackedLabel::setText(const QString& text) {
         return;
     }
     text_ = text;
+    setAccessibleName(text_);
     fitToText();
 }
 
@@ -112,7 +114,6 @@ void TrackedLabel::fitToText() {
     const QFont sized = scaled(font_, scale_);
     overhang_ = overhang(sized);
     setFont(fittedTo(text_, sized));
-    setAccessibleName(text_);
     measureExcess();
     breakLines();
 }

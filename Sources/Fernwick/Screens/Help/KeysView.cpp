@@ -47,11 +47,23 @@ QWidget* caps(const QList<Keys>& alternatives) {
     return caps;
 }
 
+/// A row as screen readers say it. When a dialog opens, Orca says its texts of three words or more;
+/// the spaces around "+" make words of the keys of a shortcut.
+QString inWords(const QString& purpose, const QList<Keys>& alternatives) {
+    QStringList keys;
+    for (const Keys& alternative : alternatives) {
+        keys.append(alternative.join(u' ').replace(u'+', QStringLiteral(" + ")));
+    }
+    return QStringLiteral("%1: %2").arg(purpose, keys.join(QStringLiteral(", ")));
+}
+
 QWidget* row(const QString& purpose, const QList<Keys>& alternatives) {
     auto* row = new QWidget;
     auto* line = Garden::layOut<QHBoxLayout>(row, leastGap);
-    line->addWidget(new Garden::TrackedLabel(purpose, Garden::sans(purposeSize, QFont::Normal),
-                                             Garden::primaryText));
+    auto* label = new Garden::TrackedLabel(purpose, Garden::sans(purposeSize, QFont::Normal),
+                                           Garden::primaryText);
+    label->setAccessibleName(inWords(purpose, alternatives));
+    line->addWidget(label);
     line->addStretch();
     line->addWidget(caps(alternatives));
     return row;
