@@ -90,6 +90,14 @@ def test_the_copyright_file_names_the_embedded_fonts(unpacked):
         assert family.encode() in program or family.encode("utf-16-be") in program
 
 
+def test_is_reproducible_in_another_folder_time_zone_and_locale(package, tmp_path):
+    folder = tmp_path / "another and längere folder"
+    subprocess.run([ROOT / "scripts/package", folder], check=True, stdout=subprocess.DEVNULL,
+                   stderr=subprocess.DEVNULL,
+                   env=os.environ | {"TZ": "Asia/Kathmandu", "LC_ALL": "C"}, umask=0o077)
+    assert (folder / package.name).read_bytes() == package.read_bytes()
+
+
 def test_placeholders_of_the_owner_are_only_in_the_control_file_and_the_changelog():
     named = subprocess.check_output(
         ["grep", "-rlF", "--exclude-dir=.git", "--exclude-dir=build", "fernwick" + ".example", ROOT],

@@ -15,6 +15,9 @@
 
 namespace {
 
+// The accessible name of the first row.
+constexpr const char* moving = "Move: ↑ ↓ ← →, W A S D";
+
 class HelpSheets : public WindowTest {
 protected:
     void press(Qt::Key key) {
@@ -86,8 +89,9 @@ TEST_F(HelpSheets, listEveryShortcutOfTheMenusAndHowToLeave) {
             EXPECT_TRUE(Screen::shows(sheet, name)) << name.toStdString();
         }
     }
-    for (const char* text : {"Enter or leave full screen", "Quit", "Move", "↑", "→", "W", "D", "R",
-                             "Space", "Esc", "F10", "Alt", "Tab", "Return"}) {
+    for (const char* text :
+         {moving, "Menus: F10, Alt", "Quit: Ctrl + Q", "Start again: R, Ctrl + N", "↑", "→", "W",
+          "D", "R", "Space", "Esc", "F10", "F11", "Alt", "Tab", "Return"}) {
         EXPECT_TRUE(Screen::shows(sheet, QString::fromUtf8(text))) << text;
     }
 }
@@ -96,7 +100,7 @@ TEST_F(HelpSheets, keepTheArrowsInOrderFromRightToLeft) {
     window.setLayoutDirection(Qt::RightToLeft);
     press(Qt::Key_F1);
     const QList<Garden::KeyCap*> caps = child<KeysView>().findChildren<Garden::KeyCap*>();
-    const auto* purpose = Screen::find<Garden::TrackedLabel>(window, QStringLiteral("Move"));
+    const auto* purpose = Screen::find<Garden::TrackedLabel>(window, QString::fromUtf8(moving));
 
     for (int index = 1; index < 8; ++index) {
         EXPECT_LT(rectOf(*caps[index - 1]).right(), rectOf(*caps[index]).left()) << index;

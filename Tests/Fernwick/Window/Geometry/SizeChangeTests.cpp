@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 #include <QMenuBar>
+#include <QTest>
 #include <algorithm>
 
 #include "Fernwick/Window/Geometry/SceneWindow.hpp"
@@ -79,6 +80,9 @@ TEST(SizeChanges, wakeTheEventLoopNoMoreOnceTheLayoutIsDone) {
     for (const char* name : {"fresh", "ended", "saved"}) {
         SceneWindow scene(QStringLiteral("en"), sceneNamed(name), Pace::classic);
         scene.cover(screenOf({640, 360}), Qt::WindowFullScreen);
+
+        // Each level of nested layouts takes a turn of the event loop.
+        QTest::qWait(100);
 
         constexpr int fewWakeups = 4;
         EXPECT_LE(wakeups(100), fewWakeups) << name;
