@@ -42,7 +42,7 @@ def test_a_run_in_arabic_can_be_played_and_saved(launch, home):
     left, _, width, _ = game.find("FERNWICK").extents_on_screen()
     assert left + width // 2 > game.geometry()[2] // 2
     game.press("space")
-    game.wait_for("في انسياب")
+    game.wait_for("على إيقاعك")
     game.press("Up")
     game.wait_for("انتهت اللعبة.")
     game.type("Ada")

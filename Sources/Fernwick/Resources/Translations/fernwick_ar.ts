@@ -16,7 +16,7 @@
     <message>
         <source>Grown from what others share. Thank you.</source>
         <extracomment>Of the fonts and libraries above, whose makers share them.</extracomment>
-        <translation>نما ممّا يشاركه الآخرون. شكرًا لهم.</translation>
+        <translation>ثمرة ما يشاركه الآخرون. شكرًا لهم.</translation>
     </message>
 </context>
 <context>
@@ -36,7 +36,7 @@
     <message>
         <source>IN THE FLOW</source>
         <extracomment>What the game is doing, in tiny capitals: a run is going on.</extracomment>
-        <translation>في انسياب</translation>
+        <translation>على إيقاعك</translation>
     </message>
     <message>
         <source>ANOTHER CHANCE TO GROW</source>
@@ -46,7 +46,7 @@
     <message>
         <source>TAKE A BREATH</source>
         <extracomment>The run is paused; and: no run has been started yet, of a classic game in a new garden.</extracomment>
-        <translation>لحظة تنفُّس</translation>
+        <translation>التقط أنفاسك</translation>
     </message>
     <message>
         <source>THE CLASSIC, REPLANTED</source>
@@ -90,7 +90,7 @@
     <message>
         <source>Press Return to choose.</source>
         <extracomment>Read aloud after the name of a speed.</extracomment>
-        <translation>اضغط مفتاح الإدخال للاختيار.</translation>
+        <translation>اضغط Enter للاختيار.</translation>
     </message>
 </context>
 <context>
