@@ -24,7 +24,7 @@
     <message>
         <source>Snake board. Score %lld. Use arrow keys or W A S D to move.</source>
         <extracomment>Read aloud for the picture of the board. %lld is the score; it has to stay.</extracomment>
-        <translation>Yılan tahtası. Puan: %lld. Ok tuşları veya W A S D ile hareket et.</translation>
+        <translation>Yılanın oyun alanı. Puan: %lld. Ok tuşları veya W A S D ile hareket et.</translation>
     </message>
 </context>
 <context>
@@ -36,7 +36,7 @@
     <message>
         <source>IN THE FLOW</source>
         <extracomment>What the game is doing, in tiny capitals: a run is going on.</extracomment>
-        <translation>AKIŞIN İÇİNDE</translation>
+        <translation>KENDİ RİTMİNDE</translation>
     </message>
     <message>
         <source>ANOTHER CHANCE TO GROW</source>
@@ -208,7 +208,7 @@
     </message>
     <message>
         <source>Reach a button, press it</source>
-        <translation>Düğmeye git, düğmeye bas</translation>
+        <translation>Düğmeye git ve bas</translation>
     </message>
     <message>
         <source>These keys</source>
