@@ -296,11 +296,11 @@
     </message>
     <message>
         <source>Up to 24 characters · saved on this Mac</source>
-        <translation>До 24 символів · збережено на цьому Mac</translation>
+        <translation>До 24 символів · збережеться на цьому Mac</translation>
     </message>
     <message>
         <source>Up to 24 characters · saved on this computer</source>
-        <translation>До 24 символів · збережено на цьому комп’ютері</translation>
+        <translation>До 24 символів · збережеться на цьому комп’ютері</translation>
     </message>
 </context>
 <context>
