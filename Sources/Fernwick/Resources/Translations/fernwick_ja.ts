@@ -16,7 +16,7 @@
     <message>
         <source>Grown from what others share. Thank you.</source>
         <extracomment>Of the fonts and libraries above, whose makers share them.</extracomment>
-        <translation>みなさんの分かち合いで育ちました。ありがとうございます。</translation>
+        <translation>皆さんの分かち合いで育ちました。ありがとうございます。</translation>
     </message>
 </context>
 <context>
