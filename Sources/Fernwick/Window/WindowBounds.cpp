@@ -70,8 +70,9 @@ void WindowBounds::followScreen() {
 }
 
 void WindowBounds::setMinimum() {
-    // Qt 6.4's Wayland plugin never makes a window smaller than its minimum size. A tile of a tiling
-    // compositor would be cut off, and a smaller output in full screen would be a protocol error.
+    // Qt 6.4's Wayland plugin never makes a window smaller than its minimum size. A tile of a
+    // tiling compositor would be cut off, and a smaller output in full screen would be a protocol
+    // error.
     const QSize minimum = Desktop::isOnWayland() ? minimumTile : minimumSize;
     // Never larger than the window is in full screen: Qt would resize it before it has left that.
     window_.setMinimumSize(
