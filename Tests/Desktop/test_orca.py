@@ -5,7 +5,7 @@ from game import Game
 from screen_reader import ScreenReader
 from waiting import eventually
 
-EMPTY = "A fresh start. Be the first on the board."
+EMPTY = "A fresh start. Be the first on the board"
 
 
 @pytest.fixture
@@ -31,7 +31,7 @@ def score(game):
 
 def play(game, orca):
     """Plays and saves a run at the speed Gentle; returns the scores at the pause and at the end."""
-    orca.hear("Press F11 to leave full screen.", "Find your flow. Let's grow. PRESS SPACE.")
+    orca.hear("Press F11 to leave full screen", "Find your flow. Let's grow. PRESS SPACE.")
     game.press("Tab")
     orca.hear("Gentle", "radio button", "Press Return to choose.")
     game.press("Return")
@@ -84,23 +84,29 @@ def turn_the_sound_off(game, orca):
     orca.hear("not checked")
 
 
+def content(text):
+    # Orca 43 says "notification" in the same text, Orca 48 in one of its own, and without the full
+    # stop after "full screen".
+    return text.removeprefix("notification ").removesuffix(".")
+
+
 def test_every_change_in_a_game_is_said_once(game, orca):
     at_pause, at_end = play(game, orca)
     browse_the_sheet(game, orca)
     read_the_keys(game, orca)
     turn_the_sound_off(game, orca)
-    said = orca.texts()
+    said = [content(text) for text in orca.texts()]
     print(*said, sep="\n")
     announcements = [
-        "notification Press F11 to leave full screen.",
-        "Find your flow. Let's grow. PRESS SPACE.",
-        "IN THE FLOW.",
-        "IN THE FLOW.",
-        f"TAKE A BREATH. SCORE: {at_pause}.",
-        "IN THE FLOW.",
-        f"Game over. {at_end} POINTS, Gentle. Leave your name in the garden.",
-        f"Score saved, Top 10. 01 Pip {at_end}. SPACE TO PLAY AGAIN.",
-        f"Gentle. 01 Pip {at_end}.",
+        "Press F11 to leave full screen",
+        "Find your flow. Let's grow. PRESS SPACE",
+        "IN THE FLOW",
+        "IN THE FLOW",
+        f"TAKE A BREATH. SCORE: {at_pause}",
+        "IN THE FLOW",
+        f"Game over. {at_end} POINTS, Gentle. Leave your name in the garden",
+        f"Score saved, Top 10. 01 Pip {at_end}. SPACE TO PLAY AGAIN",
+        f"Gentle. 01 Pip {at_end}",
         f"Classic. {EMPTY}",
         f"Swift. {EMPTY}",
     ]

@@ -86,7 +86,10 @@ def test_the_metainfo_file_passes_pedantic_validation(installed):
          installed / f"share/metainfo/{ID}.metainfo.xml"], text=True,
         stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
     assert done.returncode == 0
-    assert done.stdout.split() == ["✔", "Validation", "was", "successful."]
+    # AppStream knows the tag <developer> since 1.0 and has a note on the other one since then.
+    assert re.findall("^[A-Z]: .*: (.*)", done.stdout, re.MULTILINE) in (
+        ["unknown-tag developer"], ["developer-name-tag-deprecated"])
+    assert "Validation was successful" in done.stdout
 
 
 def test_the_metainfo_file_has_everything_that_software_centres_show(metainfo, entry):
