@@ -77,6 +77,19 @@ def read_the_keys(game, orca):
     eventually(lambda: not game.shows("The keys."), "the sheet is closed")
 
 
+def read_what_the_game_is_made_of(game, orca):
+    for key, item in ("F10", "File"), ("Right", "Toggle Full Screen"), ("Right", "Keys"), \
+            ("Down", "About Fernwick"):
+        game.press(key)
+        orca.hear(item)
+    game.press("Return")
+    orca.hear("Fernwick dialog Inter, Elstob, JetBrains Mono: SIL Open Font License", "Qt: GNU LGPL",
+              "Version ")
+    game.press("Escape")
+    eventually(lambda: not game.shows("Grown from what others share. Thank you."),
+               "the sheet is closed")
+
+
 def turn_the_sound_off(game, orca):
     game.find("Toggle sound effects").do("SetFocus")
     orca.hear("Toggle sound effects check box checked")
@@ -94,6 +107,7 @@ def test_every_change_in_a_game_is_said_once(game, orca):
     at_pause, at_end = play(game, orca)
     browse_the_sheet(game, orca)
     read_the_keys(game, orca)
+    read_what_the_game_is_made_of(game, orca)
     turn_the_sound_off(game, orca)
     said = [content(text) for text in orca.texts()]
     print(*said, sep="\n")

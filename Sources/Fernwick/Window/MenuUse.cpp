@@ -1,5 +1,6 @@
 #include "Window/MenuUse.hpp"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QMenu>
 #include <QMenuBar>
@@ -10,7 +11,7 @@ MenuUse::MenuUse(QMenuBar& bar) : QObject(&bar), bar_(bar) {
     bar_.window()->windowHandle()->installEventFilter(this);
     connect(qApp, &QApplication::focusChanged, this, &MenuUse::followFocus);
     for (const QAction* title : bar_.actions()) {
-        const QMenu* menu = title->menu();
+        QMenu* menu = title->menu();
         connect(menu, &QMenu::aboutToShow, this, [this, menu] { setOpenMenu(menu); });
         // Queued, so that the run stays held between two menus, and between a menu and the bar.
         connect(
@@ -18,6 +19,8 @@ MenuUse::MenuUse(QMenuBar& bar) : QObject(&bar), bar_(bar) {
             [this, menu] {
                 if (openMenu_ == menu && !menu->isVisible()) {
                     setOpenMenu(nullptr);
+                } else if (openMenu_ != nullptr) {
+                    reportActiveItem();
                 }
             },
             Qt::QueuedConnection);
@@ -62,9 +65,19 @@ void MenuUse::followFocus(QWidget* before, QWidget* now) {
     update();
 }
 
-void MenuUse::setOpenMenu(const QMenu* menu) {
+void MenuUse::setOpenMenu(QMenu* menu) {
     openMenu_ = menu;
     update();
+}
+
+// A menu that closes because the next one has opened makes Qt report the focus on the window, after
+// it has reported it on the first item of the next one.
+void MenuUse::reportActiveItem() const {
+    if (openMenu_->activeAction() != nullptr) {
+        QAccessibleEvent event(openMenu_, QAccessible::Focus);
+        event.setChild(static_cast<int>(openMenu_->actions().indexOf(openMenu_->activeAction())));
+        QAccessible::updateAccessibility(&event);
+    }
 }
 
 void MenuUse::update() {

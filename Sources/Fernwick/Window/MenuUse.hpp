@@ -27,12 +27,13 @@ Q_SIGNALS:
 
 private:
     void followFocus(QWidget* before, QWidget* now);
-    void setOpenMenu(const QMenu* menu);
+    void setOpenMenu(QMenu* menu);
+    void reportActiveItem() const;
     void update();
     [[nodiscard]] bool isOnTitle(const QMouseEvent& event) const;
 
     QMenuBar& bar_;
-    const QMenu* openMenu_ = nullptr;
+    QMenu* openMenu_ = nullptr;
     QPointer<QWidget> focusBefore_;
     bool inUse_ = false;
 };

@@ -5,6 +5,7 @@
 
 #include "Garden/Look/Fonts.hpp"
 #include "Garden/Look/Palette.hpp"
+#include "Garden/Widgets/Accessibility.hpp"
 #include "Garden/Widgets/Layout.hpp"
 #include "Garden/Widgets/TrackedLabel.hpp"
 
@@ -34,7 +35,7 @@ constexpr std::array works{
     Work{"Fontconfig", "HPND"},
 };
 
-QWidget* label(const char* text, double size, const QColor& colour) {
+Garden::TrackedLabel* label(const char* text, double size, const QColor& colour) {
     auto* label = new Garden::TrackedLabel(QString::fromUtf8(text),
                                            Garden::sans(size, QFont::Normal), colour);
     // Names in Latin letters keep their punctuation in place.
@@ -45,9 +46,15 @@ QWidget* label(const char* text, double size, const QColor& colour) {
 QWidget* row(const Work& work) {
     auto* row = new QWidget;
     auto* line = Garden::layOut<QHBoxLayout>(row, leastGap);
-    line->addWidget(label(work.name, workSize, Garden::primaryText));
+    auto* name = label(work.name, workSize, Garden::primaryText);
+    auto* licence = label(work.licence, licenceSize, Garden::muted);
+    // When a dialog opens, Orca says its texts of three words or more.
+    name->setAccessibleName(
+        QStringLiteral("%1: %2").arg(Garden::spoken(name->text()), licence->text()));
+    Garden::setAccessibleRole(*licence, QAccessible::NoRole);
+    line->addWidget(name);
     line->addStretch();
-    line->addWidget(label(work.licence, licenceSize, Garden::muted));
+    line->addWidget(licence);
     return row;
 }
 
@@ -57,7 +64,10 @@ AboutView::AboutView(QWidget* parent)
     //: The name of the game. Stays as it is in every language.
     : Sheet(Garden::Icon::leafFilled, tr("Fernwick"), contents, parent) {
     //: %@ is a number such as 1.0.0; it has to stay.
-    addLine(tr("Version %@").replace(QStringLiteral("%@"), QCoreApplication::applicationVersion()));
+    const QString version =
+        tr("Version %@").replace(QStringLiteral("%@"), QCoreApplication::applicationVersion());
+    setAccessibleDescription(version);
+    addLine(version);
     auto* rows = new QWidget;
     auto* column = Garden::layOut<QVBoxLayout>(rows, rowSpacing);
     for (const Work& work : works) {
