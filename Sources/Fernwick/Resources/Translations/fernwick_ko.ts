@@ -164,7 +164,7 @@
     <message>
         <source>·   SPACE to pause   ·   R to restart</source>
         <extracomment>Three spaces on each side of a dot, as here. R stays a Latin letter.</extracomment>
-        <translation>·   스페이스 바로 일시 정지   ·   R로 다시 시작</translation>
+        <translation>·   스페이스바로 일시 정지   ·   R로 다시 시작</translation>
     </message>
 </context>
 <context>
@@ -308,7 +308,7 @@
     <message>
         <source>PRESS SPACE</source>
         <extracomment>The space bar.</extracomment>
-        <translation>스페이스 바를 누르세요</translation>
+        <translation>스페이스바를 누르세요</translation>
     </message>
     <message>
         <source>Fully grown.</source>
@@ -433,7 +433,7 @@
     </message>
     <message>
         <source>Space</source>
-        <translation>스페이스 바</translation>
+        <translation>스페이스바</translation>
     </message>
     <message>
         <source>Esc</source>
@@ -457,7 +457,7 @@
     <message>
         <source>SPACE TO PLAY AGAIN</source>
         <extracomment>The space bar.</extracomment>
-        <translation>스페이스 바로 다시 하기</translation>
+        <translation>스페이스바로 다시 하기</translation>
     </message>
     <message>
         <source>Score saved · Top 10</source>

@@ -24,7 +24,7 @@
     <message>
         <source>Snake board. Score %lld. Use arrow keys or W A S D to move.</source>
         <extracomment>Read aloud for the picture of the board. %lld is the score; it has to stay.</extracomment>
-        <translation>贪吃蛇棋盘。得分 %lld。用方向键或 W A S D 移动。</translation>
+        <translation>贪吃蛇游戏区。得分 %lld。用方向键或 W A S D 移动。</translation>
     </message>
 </context>
 <context>
@@ -212,7 +212,7 @@
     </message>
     <message>
         <source>These keys</source>
-        <translation>此按键一览</translation>
+        <translation>按键一览</translation>
     </message>
     <message>
         <source>Quit</source>
