@@ -8,6 +8,7 @@ import pytest
 from compositor import BACKGROUND, Compositor
 from game import FRESH, MOVING, PAUSED, PROGRAM, Game
 from screen import Screen
+from test_help import HINT
 from test_playing import KEYPAD_ARROWS, LETTERS, press_with_alt_gr, steer_in_a_square
 from test_window import GRIP, MINIMUM_SIZE, STEPS
 from waiting import TIMEOUT, eventually
@@ -88,6 +89,13 @@ def drag_slowly(game, start, by):
 def bounds_of_game(game):
     """Left, top, width and height of everything but the compositor's background."""
     return game.desktop.screen.picture().bounds_without(BACKGROUND)
+
+
+def test_a_first_start_tells_how_to_leave_full_screen_until_it_is_left(game):
+    game.wait_for(HINT)
+    game.press("F11")
+    game.wait_for("Minimise")
+    assert not game.shows(HINT)
 
 
 def test_starts_in_full_screen(game):
