@@ -44,7 +44,7 @@ def test_the_keys_name_the_way_out(game):
 
 def test_about_tells_the_version(game):
     game.press("F10", "Right", "Right", "Up", "Return")
-    game.wait_for("Fernwick", "Version 1.0.0", "Qt: GNU LGPL 3")
+    game.wait_for("Fernwick: Version 1.0.0", "Qt: GNU LGPL 3")
 
 
 def test_f1_in_a_menu_opens_nothing(game):

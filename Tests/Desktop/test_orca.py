@@ -83,8 +83,7 @@ def read_what_the_game_is_made_of(game, orca):
         game.press(key)
         orca.hear(item)
     game.press("Return")
-    orca.hear("Fernwick dialog Inter, Elstob, JetBrains Mono: SIL Open Font License", "Qt: GNU LGPL",
-              "Version ")
+    orca.hear("Fernwick dialog Fernwick: Version ", "Qt: GNU LGPL 3")
     game.press("Escape")
     eventually(lambda: not game.shows("Grown from what others share. Thank you."),
                "the sheet is closed")

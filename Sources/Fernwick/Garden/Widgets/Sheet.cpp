@@ -42,8 +42,10 @@ Sheet::Sheet(Icon emblem, const QString& title, const ContentSize& contents, QWi
     add(new TrackedLabel(title, serif(titleSize, QFont::Normal), primaryText), Qt::AlignHCenter);
 }
 
-void Sheet::addLine(const QString& text) {
-    add(new TrackedLabel(text, sans(lineSize, QFont::Normal), muted), Qt::AlignHCenter);
+TrackedLabel* Sheet::addLine(const QString& text) {
+    auto* line = new TrackedLabel(text, sans(lineSize, QFont::Normal), muted);
+    add(line, Qt::AlignHCenter);
+    return line;
 }
 
 void Sheet::add(QWidget* widget, Qt::Alignment alignment) {

@@ -10,6 +10,7 @@ class QVBoxLayout;
 namespace Garden {
 
 class IconView;
+class TrackedLabel;
 
 /// Base class of the dialogs that lie over the screen, inside the window: an emblem, a title,
 /// contents and a button that closes it, from top to bottom.
@@ -31,7 +32,7 @@ protected:
     Sheet(Icon emblem, const QString& title, const ContentSize& contents, QWidget* parent);
 
     /// Adds a line of secondary text.
-    void addLine(const QString& text);
+    TrackedLabel* addLine(const QString& text);
     void add(QWidget* widget, Qt::Alignment alignment = {});
     /// Adds the button. Nothing can be added after it.
     void complete();

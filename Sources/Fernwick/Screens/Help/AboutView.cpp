@@ -43,14 +43,17 @@ Garden::TrackedLabel* label(const char* text, double size, const QColor& colour)
     return label;
 }
 
+/// One text for screen readers. When a dialog opens, Orca says its texts of three words or more.
+QString inWords(const QString& work, const QString& about) {
+    return QStringLiteral("%1: %2").arg(work, about);
+}
+
 QWidget* row(const Work& work) {
     auto* row = new QWidget;
     auto* line = Garden::layOut<QHBoxLayout>(row, leastGap);
     auto* name = label(work.name, workSize, Garden::primaryText);
     auto* licence = label(work.licence, licenceSize, Garden::muted);
-    // When a dialog opens, Orca says its texts of three words or more.
-    name->setAccessibleName(
-        QStringLiteral("%1: %2").arg(Garden::spoken(name->text()), licence->text()));
+    name->setAccessibleName(inWords(Garden::spoken(name->text()), licence->text()));
     Garden::setAccessibleRole(*licence, QAccessible::NoRole);
     line->addWidget(name);
     line->addStretch();
@@ -64,10 +67,9 @@ AboutView::AboutView(QWidget* parent)
     //: The name of the game. Stays as it is in every language.
     : Sheet(Garden::Icon::leafFilled, tr("Fernwick"), contents, parent) {
     //: %@ is a number such as 1.0.0; it has to stay.
-    const QString version =
-        tr("Version %@").replace(QStringLiteral("%@"), QCoreApplication::applicationVersion());
-    setAccessibleDescription(version);
-    addLine(version);
+    auto* version = addLine(
+        tr("Version %@").replace(QStringLiteral("%@"), QCoreApplication::applicationVersion()));
+    version->setAccessibleName(inWords(accessibleName(), version->text()));
     auto* rows = new QWidget;
     auto* column = Garden::layOut<QVBoxLayout>(rows, rowSpacing);
     for (const Work& work : works) {
