@@ -6,7 +6,7 @@ build_packages() {
 g++                  compiler
 cmake                build system
 ninja-build          build tool that CMake generates files for
-pkg-config           finds libuuid and libpulse for CMake
+pkgconf              finds libuuid and libpulse for CMake
 qt6-base-dev         Qt: windows, events, drawing, D-Bus
 qt6-svg-dev          Qt SVG, which draws the icons
 qt6-tools-dev        CMake files of Qt Linguist
@@ -108,7 +108,7 @@ crossbuild-essential-arm64  cross compilers
 qemu-user-static     runs programs for arm64
 cmake                build system
 ninja-build          build tool that CMake generates files for
-pkg-config           finds libraries for CMake
+pkgconf              finds libraries for CMake
 qt6-base-dev         moc and rcc, which run on the host
 qt6-tools-dev        CMake files of Qt Linguist
 qt6-l10n-tools       lrelease, which CMake looks for

@@ -100,7 +100,7 @@ def test_is_reproducible_in_another_folder_time_zone_and_locale(package, tmp_pat
 
 def test_placeholders_of_the_owner_are_only_in_the_control_file_and_the_changelog():
     named = subprocess.check_output(
-        ["grep", "-rlF", "--exclude-dir=.git", "--exclude-dir=build", "fernwick" + ".example", ROOT],
+        ["grep", "-rIlF", "--exclude-dir=.git", "--exclude-dir=build", "fernwick" + ".example", ROOT],
         text=True).split()
     assert {os.path.relpath(path, ROOT) for path in named} == {"debian/changelog", "debian/control"}
     assert "For the owner of Fernwick to set" in (ROOT / "debian/control").read_text()
