@@ -200,7 +200,7 @@
     </message>
     <message>
         <source>Enter or leave full screen</source>
-        <translation>Activer ou quitter le plein écran</translation>
+        <translation>Activer ou désactiver le plein écran</translation>
     </message>
     <message>
         <source>Menus</source>
