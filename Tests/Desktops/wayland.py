@@ -43,6 +43,11 @@ class Weston(WaylandDesktop):
         self.processes.append(self._compositor.process)
         self.environment |= self._compositor.environment
 
+    def press(self, *keys):
+        # Each key is held for 100 ms, as by a player. Qt opens a menu with the serial number of the
+        # last key event that it has read; weston closes the menu at once if that is a release.
+        self.run("xdotool", "key", "--delay", "200", *keys)
+
 
 class KwinWayland(WaylandDesktop):
     NAME = "kwin-wayland"
