@@ -50,7 +50,7 @@
     </message>
     <message>
         <source>THE CLASSIC, REPLANTED</source>
-        <translation>الكلاسيكية، بغرس جديد</translation>
+        <translation>لعبة كلاسيكية، بغرس جديد</translation>
     </message>
 </context>
 <context>

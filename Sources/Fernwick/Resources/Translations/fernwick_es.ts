@@ -296,11 +296,11 @@
     </message>
     <message>
         <source>Up to 24 characters · saved on this Mac</source>
-        <translation>Hasta 24 caracteres · guardado en este Mac</translation>
+        <translation>Hasta 24 caracteres · se guarda en este Mac</translation>
     </message>
     <message>
         <source>Up to 24 characters · saved on this computer</source>
-        <translation>Hasta 24 caracteres · guardado en este equipo</translation>
+        <translation>Hasta 24 caracteres · se guarda en este equipo</translation>
     </message>
 </context>
 <context>

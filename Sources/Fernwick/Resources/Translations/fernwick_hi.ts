@@ -159,7 +159,7 @@
     <message>
         <source>or WASD to move</source>
         <extracomment>Follows the four arrows. WASD stays as it is: the game shows ZQSD instead where keyboards have these letters there.</extracomment>
-        <translation>या चलने के लिए WASD</translation>
+        <translation>या WASD से चलें</translation>
     </message>
     <message>
         <source>·   SPACE to pause   ·   R to restart</source>

@@ -296,11 +296,11 @@
     </message>
     <message>
         <source>Up to 24 characters · saved on this Mac</source>
-        <translation>Até 24 caracteres · salvo neste Mac</translation>
+        <translation>Até 24 caracteres · fica salvo neste Mac</translation>
     </message>
     <message>
         <source>Up to 24 characters · saved on this computer</source>
-        <translation>Até 24 caracteres · salvo neste computador</translation>
+        <translation>Até 24 caracteres · fica salvo neste computador</translation>
     </message>
 </context>
 <context>
