@@ -5,7 +5,7 @@ from game import FRESH
 from waiting import eventually
 
 IN_GERMAN = "DER KLASSIKER, NEU GEPFLANZT"
-IN_ARABIC = "الكلاسيكية، بغرس جديد"
+IN_ARABIC = "لعبة كلاسيكية، بغرس جديد"
 
 
 def launched(launch, **environment):
