@@ -1,10 +1,12 @@
 #include "Window/GameWindow.hpp"
 
+#include <QBackingStore>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QPainter>
 #include <QResizeEvent>
 
+#include "Desktop/BufferScale.hpp"
 #include "Garden/Look/Icons.hpp"
 #include "Garden/Look/TextScale.hpp"
 #include "Garden/Widgets/Accessibility.hpp"
@@ -41,6 +43,7 @@ GameWindow::GameWindow(Session& session)
     connect(chrome, &WindowChrome::resizeBegins, bounds, &WindowBounds::beginResize);
     connect(launch_, &LaunchView::waiting, this, &GameWindow::makeContent);
     connect(launch_, &LaunchView::sizeKept, this, [this] { placeContent(); });
+    connect(this, &GameWindow::appeared, this, [this] { hasAppeared_ = true; });
     connect(this, &GameWindow::appeared, frame_, &WindowFrame::begin);
     // Rendering its eight sizes takes longer than a frame.
     connect(this, &GameWindow::appeared, this,
@@ -66,6 +69,26 @@ void GameWindow::makeContent(const QSize& size) {
     // Qt posts one for each widget that is shown. Handled after the first frame, they would paint
     // the whole window a second time.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateLater);
+}
+
+bool GameWindow::event(QEvent* event) {
+    const bool isHandled = QWidget::event(event);
+    switch (event->type()) {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 6, 0)
+        case QEvent::DevicePixelRatioChange:
+            // Qt may paint without sending an UpdateRequest; this makes it send one.
+            update();
+            break;
+#endif
+        case QEvent::UpdateRequest:
+            if (hasAppeared_ && Desktop::correctBufferScale(*backingStore())) {
+                update();
+            }
+            break;
+        default:
+            break;
+    }
+    return isHandled;
 }
 
 void GameWindow::changeEvent(QEvent* event) {

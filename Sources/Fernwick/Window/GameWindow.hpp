@@ -22,6 +22,7 @@ Q_SIGNALS:
     void appeared();
 
 protected:
+    bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -39,4 +40,5 @@ private:
     // Null until they are made.
     TitleBand* band_ = nullptr;
     ContentView* content_ = nullptr;
+    bool hasAppeared_ = false;
 };
