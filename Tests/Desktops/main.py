@@ -62,10 +62,10 @@ def try_desktop(kind, steps, results):
             desktop = stack.enter_context(accessible_desktop(kind))
         except Exception as error:  # Whatever prevents it from starting.
             return f"{type(error).__name__}: {error}"
-        return run_steps(Trial(desktop, folder), steps, results)
+        return run_steps(Trial(desktop, folder, results), steps)
 
 
-def run_steps(trial, steps, results):
+def run_steps(trial, steps):
     outcomes = {}
     try:
         for name, step in steps.items():
@@ -75,7 +75,7 @@ def run_steps(trial, steps, results):
             except Exception as error:  # A step can fail in any way.
                 outcomes[name] = f"{type(error).__name__}: {error}"
                 traceback.print_exc()
-                trial.desktop.save_screenshot(results / f"{trial.desktop.NAME} {name}.png")
+                trial.save_screenshot(name)
                 trial.end()
     finally:
         trial.end()

@@ -99,7 +99,7 @@ CHANGES = {
 }
 
 
-def change_screen(before, after, change, undo):
+def change_screen(title, before, after, change, undo):
     """A step that changes the screen and undoes that, in each state."""
 
     def step(trial):
@@ -118,6 +118,7 @@ def change_screen(before, after, change, undo):
                 expect_unchanged(trial, texts, f"{name}, undone")
             except AssertionError as error:
                 problems.append(str(error))
+                trial.save_screenshot(f"{title}, {name}")
                 undo(trial)
         trial.end()
         before(trial)
@@ -153,4 +154,4 @@ def wait_until_drawn(trial):
     eventually(fits, "the game fills the screen")
 
 
-SCREENS = {name: change_screen(*change) for name, change in CHANGES.items()}
+SCREENS = {name: change_screen(name, *change) for name, change in CHANGES.items()}

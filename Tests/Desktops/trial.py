@@ -22,8 +22,9 @@ END_SECONDS = 3
 class Trial:
     """Starts the game when a step first needs it, and anew after `end`."""
 
-    def __init__(self, desktop, folder):
+    def __init__(self, desktop, folder, results):
         self.desktop = desktop
+        self._results = results
         self._home = Home(folder)
         self._folder = folder
         self._game = None
@@ -130,6 +131,9 @@ class Trial:
         self.game.wait_for(PAUSED)
 
     # The picture.
+
+    def save_screenshot(self, name):
+        self.desktop.save_screenshot(self._results / f"{self.desktop.NAME} {name}.png")
 
     def board(self):
         named = next(each for each in self.game.top().everything_showing()
